@@ -57,5 +57,15 @@ BENCHMARK_CAPTURE(BM_Screen, Market, "frmOtherWres")->Apply(Ages)->UseManualTime
 BENCHMARK_CAPTURE(BM_Screen, Roster, "frmRoster")->Apply(Ages)->UseManualTime()->Iterations(50);
 BENCHMARK_CAPTURE(BM_ReadFileBaseline, workers, "wrestler.dat")->Apply(Ages)->UseRealTime();
 
+// What has been added up of the past, when it is young and when it is old.
+void YoungAndOld(benchmark::internal::Benchmark* figure) {
+  figure->Arg(bench::kNew)->Arg(bench::kFiftyYears)->Unit(benchmark::kMicrosecond);
+  figure->UseManualTime()->Iterations(50);
+}
+BENCHMARK_CAPTURE(BM_Screen, Records, "frmRecords")->Apply(YoungAndOld);
+BENCHMARK_CAPTURE(BM_Screen, Hall, "frmHall")->Apply(YoungAndOld);
+BENCHMARK_CAPTURE(BM_Screen, Yearbook, "frmYearbook")->Apply(YoungAndOld);
+BENCHMARK_CAPTURE(BM_Screen, FamilyTree, "frmFamilyTree")->Apply(YoungAndOld);
+
 }  // namespace
 }  // namespace grapplemont

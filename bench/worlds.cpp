@@ -21,8 +21,11 @@ struct Life {
   int Days;
 };
 // Each of the default world's goes on from the one before.
-constexpr Life kLives[] = {
-    {"new", kMonth}, {"after 10 years", kDecade}, {"after 20 years", kDecade}, {"largest", kMonth}};
+constexpr Life kLives[] = {{"new", kMonth},
+                           {"after 10 years", kDecade},
+                           {"after 20 years", kDecade},
+                           {"largest", kMonth},
+                           {"after 50 years", 3 * kDecade}};
 
 /// The largest world that the files may hold.
 World LargestWorld() {
@@ -94,7 +97,8 @@ World Played(int age) {
   static std::map<int, World> played;
   if (!played.contains(age)) {
     const bool isFirst = age == kNew || age == kLargest;
-    World before = isFirst ? StartedWorld(age == kLargest, kSomeDay) : Played(age - 1);
+    const int younger = age == kFiftyYears ? int(kTwentyYears) : age - 1;
+    World before = isFirst ? StartedWorld(age == kLargest, kSomeDay) : Played(younger);
     played.emplace(age, Live(std::move(before), kLives[age].Days));
   }
   return test::CopyOf(played.at(age));

@@ -20,7 +20,7 @@ void Begin(World& data, Day start, const std::function<void(std::string_view)>& 
 World StartedWorld(bool large, Day start);
 
 /// The worlds that are played: the default one after some years, and the largest.
-enum Age { kNew, kTenYears, kTwentyYears, kLargest };
+enum Age { kNew, kTenYears, kTwentyYears, kLargest, kFiftyYears };
 /// The world at that age, its shows auto-booked from a fixed seed, and a month older: by then
 /// rivals have brought what a new game gave them to the size they want. Each is played once.
 World Played(int age);

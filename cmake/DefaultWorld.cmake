@@ -1,18 +1,27 @@
-# The default world: data/ at the root of the checkout, from the tables of world/. All presets share
-# it, and all make the same of it. The tool writes it beside its place and only then puts it there, so
-# that a mistake in a table leaves the last good world alone.
+# What comes with the programs lies beside them as it will be installed: the default world, made from
+# the tables of world/, the pictures, and what the window tells about itself. The tool writes the world beside its place and only then
+# puts it there, so that a mistake in a table leaves the last good world alone.
+
+set(share ${CMAKE_BINARY_DIR}/share/grapplemont)
+set(default_world ${share}/data)
+file(MAKE_DIRECTORY ${share})
+file(RELATIVE_PATH pictures ${share} ${PROJECT_SOURCE_DIR}/gfx)
+file(CREATE_LINK ${pictures} ${share}/gfx SYMBOLIC)
+foreach(text CHANGELOG.md LICENSE)
+  configure_file(${PROJECT_SOURCE_DIR}/${text} ${share}/${text} COPYONLY)
+endforeach()
 
 file(GLOB world_tables CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/world/*.csv)
 set(world_stamp ${CMAKE_BINARY_DIR}/world.stamp)
 set(world_files "")
 foreach(file belt event network promos sponsor stables staff teams tv wrestler)
-  list(APPEND world_files ${PROJECT_SOURCE_DIR}/data/${file}.dat)
+  list(APPEND world_files ${default_world}/${file}.dat)
 endforeach()
 
 add_custom_command(
   OUTPUT ${world_stamp}
   BYPRODUCTS ${world_files}
-  COMMAND grapplemont-world build ${PROJECT_SOURCE_DIR}/world ${PROJECT_SOURCE_DIR}/data
+  COMMAND grapplemont-world build ${PROJECT_SOURCE_DIR}/world ${default_world}
   COMMAND ${CMAKE_COMMAND} -E touch ${world_stamp}
   DEPENDS grapplemont-world ${world_tables}
   COMMENT "Building the default world"

@@ -4,12 +4,14 @@
 # not name a folder cannot include it: the build keeps the arrows of the house.
 
 add_library(house_rules INTERFACE)
-option(GRAPPLEMONT_WERROR "Stop at warnings" ON)
+# Another compiler, or the next one, knows warnings that nobody here has seen: who just builds the game
+# is not stopped by them. The presets that the project is worked on with are.
+option(GRAPPLEMONT_WERROR "Stop at warnings" OFF)
 target_compile_options(house_rules INTERFACE -Wall -Wextra -Wpedantic -Wconversion
                                              $<$<BOOL:${GRAPPLEMONT_WERROR}>:-Werror>)
 # GCC 12 sees faults inside std::string that are not there once it optimises.
-target_compile_options(house_rules INTERFACE -Wno-restrict -Wno-maybe-uninitialized
-                       -Wno-stringop-overflow)
+set(gcc_only -Wno-restrict -Wno-maybe-uninitialized -Wno-stringop-overflow)
+target_compile_options(house_rules INTERFACE "$<$<CXX_COMPILER_ID:GNU>:${gcc_only}>")
 
 # What nearly every file reads is read by the compiler once: one header for rules, one that adds the
 # screen model, one that adds GoogleTest. `precompile(TARGET HEADER)` makes such a target, and
@@ -26,13 +28,13 @@ function(precompile name header)
   # shared compiler cache serves both.
   if(GRAPPLEMONT_PCH)
     target_precompile_headers(${name} PRIVATE "<${header}>")
-    target_compile_options(${name} PRIVATE -fpch-preprocess)
+    target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
   endif()
 endfunction()
 function(precompiled name from)
   if(GRAPPLEMONT_PCH)
     target_precompile_headers(${name} REUSE_FROM ${from})
-    target_compile_options(${name} PRIVATE -fpch-preprocess)
+    target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
   endif()
 endfunction()
 

@@ -11,6 +11,8 @@ namespace {
 
 /// So far ahead every show and Event has had its day.
 constexpr int kDaysAhead = 370;
+/// As long as the reports recall what was done on a card.
+constexpr std::chrono::days kRecalled{35};
 
 bool Belongs(const KeptRow& row, const CardOwner& owner) {
   return row.Show == std::string_view(owner.Show) && bool(row.IsEvent) == owner.IsEvent &&
@@ -38,20 +40,24 @@ ComingShow Coming(const World& world, CardOwner owner, Day on) {
 
 KeptCard FindCard(const World& world, const CardOwner& owner) {
   KeptCard kept;
+  for (const KeptRow& row : world.KeptRows())
+    if (Belongs(row, owner)) kept.On = std::max(kept.On, Day(row.On));
   for (const KeptRow& row : world.KeptRows()) {
-    if (!Belongs(row, owner)) continue;
+    if (!Belongs(row, owner) || Day(row.On) != kept.On) continue;
     if (kept.Rows.empty())
       kept.Rows.assign(static_cast<std::size_t>(RowsOf(owner.IsEvent)), EmptySegment());
     if (row.Row >= 1 && row.Row <= static_cast<int>(kept.Rows.size()))
       kept.Rows[static_cast<std::size_t>(row.Row - 1)] = row.Booked;
-    kept.On = row.On;
   }
   return kept;
 }
 
 void KeepCard(World& world, const CardOwner& owner, const Card& card, Day on) {
   auto& rows = world.KeptRows();
-  rows.Keep([&](const KeptRow& row) { return !Belongs(row, owner); });
+  const auto isRecalled = [&](const KeptRow& row) {
+    return !owner.IsDraft && Day(row.On) < on && Day(row.On) >= on - kRecalled;
+  };
+  rows.Keep([&](const KeptRow& row) { return !Belongs(row, owner) || isRecalled(row); });
   for (std::size_t at = 0; at < card.size() && !rows.Full(); ++at) {
     if (card[at].Kind == kEmptySegment) continue;
     KeptRow row{};

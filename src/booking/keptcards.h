@@ -5,7 +5,7 @@
 
 #include "booking/cardsteps.h"
 
-// Cards that are kept beside the sheet: the last one of each show, and drafts for shows to come.
+// Cards that are kept beside the sheet: the last ones of each show, and drafts for shows to come.
 
 namespace grapplemont {
 
@@ -22,9 +22,10 @@ struct KeptCard {
   Card Rows;
   Day On = {};
 };
-/// No rows where nothing is kept.
+/// The latest; no rows where nothing is kept.
 KeptCard FindCard(const World& world, const CardOwner& owner);
-/// Keeps the card in place of the one before; an empty card takes that away.
+/// Keeps the card. A draft takes the place of the one before, and an empty one takes that away;
+/// held cards stay for five weeks, since the reports recall what was done on them.
 void KeepCard(World& world, const CardOwner& owner, const Card& card, Day on);
 
 /// What match.dat holds is a card that has been held, which lies there until the next sheet.

@@ -1,5 +1,6 @@
 #include "booking/showstart.h"
 
+#include "booking/keptcards.h"
 #include "booking/sheet.h"
 #include "records/modWresCheck.h"
 #include "show/nightbook.h"
@@ -95,6 +96,7 @@ CommentaryTeam BestTeam(const World& world) {
 }
 
 bool BookAutoShow(World& world, bool isEvent) {
+  KeepLastCard(world);
   EmptySheet(world, isEvent);
   TakeCard(world, AutoBook(world, isEvent, TermsOf(world, isEvent).OpenRows));
   return MayStart(world, isEvent);

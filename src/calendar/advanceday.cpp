@@ -11,6 +11,7 @@
 #include "calendar/fanmail.h"
 #include "calendar/incidents.h"
 #include "calendar/wishes.h"
+#include "halls/ledger.h"
 #include "records/fields/fields.h"
 #include "records/severing.h"
 #include "rivals/rivals.h"
@@ -37,16 +38,27 @@ constexpr Step kMonday[] = {
     STEP(RivalAdvertising), STEP(RosterSizeReview),  STEP(RivalStories),
 };
 
+// What the last month brought is counted before anybody retires.
 constexpr Step kFirstOfMonth[] = {
-    STEP(PoorFormMorale),        STEP(DiscoverFreeAgents),
-    STEP(DevelopmentMonth),      STEP(TrainingCampMonth),
-    STEP(StatusCountdown),       STEP(AgeAndRetire),
-    STEP(RivalNewTvShows),       STEP(PayWagesAndContracts),
-    STEP(RivalContractRenewals), STEP(SponsorContractCountdown),
-    STEP(LoanRepayments),        STEP(MerchandiseIncome),
-    STEP(MonthlyCosts),          STEP(MonthlyReview),
-    STEP(CloseMonthBooks),       STEP(BankruptcyCheck),
-    STEP(NewPromotionCheck),     STEP(WorkersCareers),
+    STEP(CountThePast),
+    STEP(PoorFormMorale),
+    STEP(DiscoverFreeAgents),
+    STEP(DevelopmentMonth),
+    STEP(TrainingCampMonth),
+    STEP(StatusCountdown),
+    STEP(AgeAndRetire),
+    STEP(RivalNewTvShows),
+    STEP(PayWagesAndContracts),
+    STEP(RivalContractRenewals),
+    STEP(SponsorContractCountdown),
+    STEP(LoanRepayments),
+    STEP(MerchandiseIncome),
+    STEP(MonthlyCosts),
+    STEP(MonthlyReview),
+    STEP(CloseMonthBooks),
+    STEP(BankruptcyCheck),
+    STEP(NewPromotionCheck),
+    STEP(WorkersCareers),
 };
 
 // The year is judged before its end is noted as what the next one is compared with.

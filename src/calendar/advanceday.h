@@ -37,6 +37,23 @@ void AdvanceToNextShow(World& world, const StepWatcher& watcher = {});
 void PlayerShowConsequences(World& world, bool cancelled);
 void RivalShows(World& world);
 
+// How much the days and months move people, as the glossary tells it.
+inline constexpr int kRest = 2, kRestWithMedics = 5;  // condition a day, the most of a draw
+inline constexpr int kWalksOutBelow = 10;             // morale, without a written contract
+inline constexpr int kPoorFormLoss = 10;              // morale, after two bad months
+inline constexpr int kCampBasics = 2;                 // selling and attitude, whoever teaches
+inline constexpr int kCharismatic = 90;               // from here on charisma cannot be taught
+inline constexpr int kTooSoft = 25;                   // under it one learns to hit harder,
+inline constexpr int kTooStiff = 76;                  // from here on to take care
+inline constexpr int kOutgrownBehaviour = 2;          // a month in the territory, a draw
+/// The most that a month in the camp or the territory can teach of a skill.
+int MostOfCamp();
+int MostOfLesson();
+/// The age from which on workers may retire.
+int RetiringAge();
+/// Where the economy drifts calmly: a step a day on so many days of so many.
+inline constexpr int kCalmFrom = 20, kCalmTo = 80, kDriftDays = 8, kDriftOf = 15;
+
 // Daily.
 void DailyWorkerUpkeep(World& world);
 void IncidentRoll(World& world);

@@ -9,6 +9,7 @@
 #include "business/finance.h"
 #include "business/past.h"
 #include "calendar/advanceday.h"
+#include "halls/yearbook.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
@@ -392,6 +393,7 @@ void GiveAwards(World& world) {
   const std::vector<YearAward> awards = AwardsOfTheYear(world);
   for (const YearAward& award : awards) Keep(world, award);
   Tell(world, awards);
+  CloseTheYear(world);
   NoteYearEnd(world);
 }
 

@@ -12,8 +12,8 @@ namespace grapplemont {
 /// All awards that the world has earned, as they would be given today, in the order of their kinds.
 /// An award that nobody has earned is left out.
 std::vector<YearAward> AwardsOfTheYear(const World& world);
-/// On 31 December: gives them, tells of them by mail, and notes how everybody stands for the next
-/// year. On other days nothing.
+/// On 31 December: gives them, tells of them by mail, closes the year's book, and notes how
+/// everybody stands for the next year. On other days nothing.
 void GiveAwards(World& world);
 /// How everybody stands now is what the next awards compare with.
 void NoteYearEnd(World& world);

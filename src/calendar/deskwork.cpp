@@ -78,11 +78,6 @@ std::vector<const Title*> HeldTitles(const World& world) {
   return titles;
 }
 
-int DaysHeld(const World& world, const Title& title) {
-  const Day won = title.Reigns[0].Won;
-  return won == kNoTitleDate ? -1 : static_cast<int>((world.Today() - won).count());
-}
-
 std::vector<const Feud*> HottestFeuds(const World& world) {
   std::vector<const Feud*> feuds;
   for (const Feud& feud : world.Feuds())

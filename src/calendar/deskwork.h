@@ -18,8 +18,6 @@ std::string TonightText(const World& world);
 
 /// The player's Titles that somebody holds, the finest first.
 std::vector<const Title*> HeldTitles(const World& world);
-/// Days of the present reign; -1 for one from before the game.
-int DaysHeld(const World& world, const Title& title);
 /// The player's feuds, the hottest first.
 std::vector<const Feud*> HottestFeuds(const World& world);
 

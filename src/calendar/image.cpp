@@ -17,11 +17,6 @@ namespace grapplemont {
 
 namespace {
 
-constexpr int kAfterAFall = 90;
-constexpr int kAfterARise = 10;
-constexpr int kPotentialAboveFloor = 20;
-constexpr int kLeastPotential = 30;
-
 void TellOfClass(World& world, const Promotion& promotion, const std::string& moved) {
   const std::string level = moved + std::string(SizeText(promotion.Size)) + " level.";
   if (IsPlayers(world, promotion))
@@ -44,7 +39,7 @@ void OwnersQuit(World& world, const Promotion& promotion) {
 /// The floor holds up whoever stands above it; it lifts nobody.
 void FallWithIt(World& world, Worker& worker) {
   const int floor = std::min<int>(worker.Over, worker.OverFloor);
-  worker.Over = std::max(worker.Over - world.RandomDraw(5), floor);
+  worker.Over = std::max(worker.Over - world.RandomDraw(kOverOfFall), floor);
 }
 
 void FallInClass(World& world, Promotion& promotion) {
@@ -67,7 +62,8 @@ bool SharesTheRise(const Worker& worker, const Promotion& promotion) {
 }
 
 void RiseWithIt(World& world, Worker& worker) {
-  worker.Over += world.RandomDraw(5) + (worker.Position == kMainEvent ? 5 : 0);
+  worker.Over +=
+      world.RandomDraw(kOverOfRise) + (worker.Position == kMainEvent ? kMainEventersRise : 0);
   worker.OverFloor = std::max<int>(worker.OverFloor, OverFloorFor(worker.Over));
   worker.Potential = std::max(worker.OverFloor + kPotentialAboveFloor, kLeastPotential);
 }
@@ -139,7 +135,6 @@ constexpr std::array<Bands, 6> kSteps[] = {
       {{{90, 6}, {80, 5}, {60, 4}, {45, 3}, {35, 2}, {30, 1}, {20, -3}, {0, -5}}},
       {{{90, 4}, {60, 3}, {30, 2}, {10, 1}, {0, -5}}}}}};
 
-constexpr int kPoorReputation = 25;
 // By difficulty from 1 to 4.
 constexpr std::array<int, 4> kEventsBefore = {1, 0, -2, -3};
 constexpr std::array<int, 4> kTvShowsBefore = {1, 0, -1, -2};

@@ -7,6 +7,17 @@
 
 namespace grapplemont {
 
+// What a rise or fall in class is to the promotion and its people.
+inline constexpr int kAfterAFall = 90, kAfterARise = 10;  // image
+inline constexpr int kOverOfRise = 5, kOverOfFall = 5;    // the most of a draw
+inline constexpr int kMainEventersRise = 5;               // on top of it
+inline constexpr int kPotentialAboveFloor = 20, kLeastPotential = 30;
+
+// What costs image beside the shows.
+inline constexpr int kNoEventImage = 10, kCancelledImage = 15;
+/// Under this reputation every show costs image.
+inline constexpr int kPoorReputation = 25;
+
 /// The one way in which a promotion's image changes, by `amount` percent up (`gain`) or down. At
 /// 100 it rises a size class, at 0 it falls one, with all that follows for its people, and its
 /// Events, a rival's spending and its tickets follow its standing in any case. Draws where a class

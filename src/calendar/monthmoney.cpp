@@ -210,8 +210,6 @@ void PayStaff(World& world) {
   }
 }
 
-constexpr int kPoorFormLoss = 10;
-
 /// What is said of a trend of 2, 3 and 4 counts, up and down. The months in the words do not match
 /// the counts one to one; they stand so.
 struct TrendWords {

@@ -134,4 +134,8 @@ void AgeAndRetire(World& world) {
   }
 }
 
+int RetiringAge() {
+  return kWorkersStop.back().From;
+}
+
 }  // namespace grapplemont

@@ -19,8 +19,6 @@ namespace grapplemont {
 
 namespace {
 
-constexpr int kNoEventImage = 10;
-constexpr int kCancelledImage = 15;
 constexpr int kEnoughPeople = 6;
 
 // By Event type from 1 to 4, in dollars.

@@ -55,10 +55,6 @@ const Lesson* LessonOf(int talent) {
   return found == kLessons.end() ? nullptr : &*found;
 }
 
-constexpr int kCharismatic = 90;  // from here on charisma cannot be taught
-constexpr int kTooSoft = 25;      // under it one learns to hit harder,
-constexpr int kTooStiff = 76;     // from here on to take care
-
 /// `gain`, or nothing at all where it would lead past the limit.
 int UpTo(int limit, int value, int gain) {
   return value + gain > limit ? 0 : gain;
@@ -94,14 +90,13 @@ std::string Complaint(const Worker& worker, const std::string& territory, int dr
 }
 
 void Outgrow(World& world, Worker& worker, const std::string& territory) {
-  worker.Behaviour -= world.RandomDraw(2);
+  worker.Behaviour -= world.RandomDraw(kOutgrownBehaviour);
   MoveMorale(world, worker, -world.RandomDraw(5), kMoodStuck);
   AddNews(world, "Development", Complaint(worker, territory, world.RandomDraw(5)));
 }
 
 /// By facilities, none to superb: the most that a trainee may learn of a skill.
 constexpr std::array<int, 5> kCaps = {0, 1, 2, 3, 5};
-constexpr int kCampBasics = 2;  // selling and attitude, whoever teaches
 
 /// What a head trainer of at least this talent makes of the draws: a draw of none still is a point.
 /// From 60 to 70 they teach no more than the untalented, having outgrown the drill and not found a
@@ -141,6 +136,14 @@ std::string Drill(World& world, Worker& worker, int range) {
 }
 
 }  // namespace
+
+int MostOfCamp() {
+  return std::min(kTrainers.front().Range, kCaps.back());
+}
+
+int MostOfLesson() {
+  return kLessons.front().Skill.Of - kLessons.front().Skill.Less;
+}
 
 void DevelopmentMonth(World& world) {
   const Promotion& player = world.Player();

@@ -42,7 +42,7 @@ bool MayRebel(const Worker& worker) {
 /// True when they have left.
 bool WalksOut(World& world, Worker& worker) {
   if (worker.ContractType != "Non" || !MayRebel(worker) || worker.Behaviour >= 80 ||
-      worker.Morale >= 10)
+      worker.Morale >= kWalksOutBelow)
     return false;
   Say(world, worker, kWalksOut);
   ReleaseWorker(world, worker);
@@ -74,7 +74,7 @@ void FeelAway(World& world, Worker& worker) {
 /// Whoever leaves has been in the promotion's care this morning and still recovers by it.
 void UpkeepOfPlayers(World& world, Worker& worker, bool adequateMedics) {
   if (!WalksOut(world, worker)) HaveHadEnough(world, worker);
-  worker.Condition += world.RandomDraw(adequateMedics ? 5 : 2);
+  worker.Condition += world.RandomDraw(adequateMedics ? kRestWithMedics : kRest);
   FeelAway(world, worker);
 }
 
@@ -161,9 +161,9 @@ void EconomyDrift(World& world) {
   if (Holds(world, HouseRule::EconomyCycles)) return FollowTheCycle(world);
   GameInfo& game = world.Game();
   int economy = game.Economy;
-  const bool calm = economy >= 20 && economy <= 80;
-  if (calm && world.RandomDraw(15) >= 9) return;
-  const int step = economy < 20 ? 7 : 1;
+  const bool calm = economy >= kCalmFrom && economy <= kCalmTo;
+  if (calm && world.RandomDraw(kDriftOf) > kDriftDays) return;
+  const int step = economy < kCalmFrom ? 7 : 1;
   economy += game.EconomyRising ? step : -step;
   // Steps of 7 can pass over 0, and then nothing but the field's own end stops the fall.
   game.Economy = economy;

@@ -1,5 +1,7 @@
 #include "console/console.h"
 
+#include <algorithm>
+
 #include "console/command.h"
 #include "records/fields/charset.h"
 #include "ui/acts.h"
@@ -95,12 +97,70 @@ void Console::GiveAnswer() {
   answer_ = {};
 }
 
+std::optional<Line> Console::NextLine() {
+  constexpr const char* kPrompt = "> ";
+  const bool asks = settings_.Prompt && settings_.Ask;
+  if (settings_.Prompt && !asks) out_ << kPrompt;
+  out_.flush();
+  if (!out_) return std::nullopt;
+  if (!asks) return ReadLine(in_);
+  return settings_.Ask(kPrompt, [this](std::string_view before) { return CompletionsOf(before); });
+}
+
+namespace {
+
+bool IsWorked(const ui::Control& control, Verb by) {
+  if (!control.Visible || (by != Verb::Show && !control.Enabled)) return false;
+  const ui::Kind kind = control.Is();
+  const bool hasRows = kind == ui::Kind::ListBox || kind == ui::Kind::ComboBox;
+  const bool isBox = kind == ui::Kind::CheckBox || kind == ui::Kind::OptionButton;
+  switch (by) {
+    case Verb::Show:
+      return true;
+    case Verb::Click:
+      return kind == ui::Kind::Button || kind == ui::Kind::Picture || isBox;
+    case Verb::Type:
+      return kind == ui::Kind::TextBox;
+    case Verb::Pick:
+      return hasRows;
+    case Verb::Also:
+    case Verb::Open:
+      return kind == ui::Kind::ListBox;
+    case Verb::Check:
+      return isBox;
+    case Verb::Slide:
+      return kind == ui::Kind::ScrollBar;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+std::vector<std::string> Console::CompletionsOf(std::string_view before) const {
+  const std::size_t blank = before.find_last_of(' ');
+  const std::string_view last = before.substr(blank == before.npos ? 0 : blank + 1);
+  std::vector<std::string> words;
+  const auto add = [&](std::string_view word) {
+    if (word.starts_with(last)) words.emplace_back(word);
+  };
+  if (blank == before.npos) {
+    for (const VerbRow& row : Verbs()) add(row.Word);
+  } else {
+    const std::string_view first = before.substr(0, before.find(' '));
+    const auto verb = std::ranges::find(Verbs(), first, &VerbRow::Word);
+    if (verb != Verbs().end() && first.size() == blank && Top() && !box_)
+      for (const ui::Control* control : Top()->Controls())
+        if (IsWorked(*control, verb->Is)) add(control->Name());
+  }
+  std::ranges::sort(words);
+  return words;
+}
+
 std::optional<Command> Console::NextCommand() {
   for (;;) {
     GiveAnswer();
-    if (settings_.Prompt) out_ << "> ";
-    out_.flush();
-    const auto line = out_ ? ReadLine(in_) : std::nullopt;
+    const auto line = NextLine();
     if (!line) {
       if (settings_.Prompt) out_ << "\n";
       break;

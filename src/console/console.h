@@ -1,9 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <istream>
 #include <optional>
 #include <ostream>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "console/answer.h"
 #include "console/command.h"
@@ -11,10 +14,17 @@
 
 namespace grapplemont::console {
 
+/// What may stand in the place of the word that is being typed behind `before`.
+using Completions = std::function<std::vector<std::string>(std::string_view before)>;
+/// Asks a person for a line; nothing at the end of input.
+using Typist =
+    std::function<std::optional<Line>(const std::string& prompt, const Completions& completions)>;
+
 struct Settings {
   bool Json = false;
   bool Prompt = false;  // somebody sits at a terminal: greet, and ask for each command
   int Width = 100;      // letters a line
+  Typist Ask = {};      // with a prompt; without one lines are read from the stream
 };
 
 /// A desk served as lines: a command comes in, an answer goes out. A box asks for its answer in the
@@ -26,6 +36,9 @@ class Console : public ui::Desk {
   /// Serves the screens that lie on the desk until "quit", the end of input, or nothing lies there
   /// any more.
   void Run();
+  /// The commands that may come next, or the names of controls that the command could mean, which
+  /// begin like the last word; sorted.
+  std::vector<std::string> CompletionsOf(std::string_view before) const;
 
   void Say(const std::string& title, const std::string& text) override;
   bool Ask(const std::string& title, const std::string& text, ui::Default answer) override;
@@ -36,6 +49,7 @@ class Console : public ui::Desk {
   /// Answers the last command and reads on until there is one that is not done at once; nothing at
   /// the end.
   std::optional<Command> NextCommand();
+  std::optional<Line> NextLine();
   /// Does a command that only looks; false for any other.
   bool Look(const Command& command);
   /// The command that answers the box; nothing at the end.

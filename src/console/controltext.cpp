@@ -11,8 +11,22 @@ namespace grapplemont::console {
 
 namespace {
 
+/// What a control is called that does not say so itself.
+std::string LabelOf(const ui::Control& control, const std::string& above) {
+  using ui::Kind;
+  const Kind kind = control.Is();
+  if (kind == Kind::Label || kind == Kind::Button || kind == Kind::CheckBox ||
+      kind == Kind::OptionButton)
+    return {};
+  const auto* box = dynamic_cast<const ui::TextBox*>(&control);
+  return box && !box->Hint.empty() ? box->Hint : above;
+}
+
 class Arrangement {
  public:
+  /// `title` is what stands above all.
+  explicit Arrangement(std::string title) : heading_(std::move(title)) {}
+
   void Begin(const std::string& heading) { sections_.push_back({heading, {}}); }
 
   void Add(const ui::Control* control, const std::string& label = {}) {
@@ -21,11 +35,15 @@ class Arrangement {
     sections_.back().Parts.push_back({control, label});
   }
 
+  /// What has no label of its own is called by the heading above it.
   void Add(const ui::Box& box) {
     const bool isGroup = box.Is == ui::Box::Kind::Group;
+    const std::string above = heading_;
+    if (isGroup && !box.Title.empty()) heading_ = box.Title;
     if (isGroup) Begin(box.Title);
-    Add(box.Shown, box.Title);
+    if (box.Shown) Add(box.Shown, box.Title.empty() ? LabelOf(*box.Shown, heading_) : box.Title);
     for (const ui::Box& part : box.Parts) Add(part);
+    heading_ = above;
     if (isGroup) Begin({});
   }
 
@@ -35,6 +53,7 @@ class Arrangement {
   }
 
  private:
+  std::string heading_;
   std::vector<Section> sections_;
   std::set<const ui::Control*> placed_;
 };
@@ -206,7 +225,7 @@ std::string Remark(const ui::Control& control, bool whole) {
 
 std::vector<Section> Sections(ui::Screen& screen) {
   const ui::Page page = screen.Layout();
-  Arrangement all;
+  Arrangement all(screen.Title);
   for (const ui::Label* label : page.Top) all.Add(label);
   all.Add(page.Face);
   all.Add(page.Facts);
@@ -231,7 +250,9 @@ std::string ControlText(const Section::Part& part, bool whole, int width) {
   const ui::Control& control = *part.Shown;
   const std::string head = "  " + Padded(control.Name(), kNameWidth) + " " +
                            Padded(std::string(ui::KindName(control.Is())), kKindWidth) + " ";
-  std::string says = (part.Label.empty() ? "" : part.Label + ": ") + Says(control);
+  const std::string own = Says(control);
+  std::string says = part.Label;
+  if (!own.empty()) says += (says.empty() ? "" : ": ") + own;
   if (const std::string remark = Remark(control, whole); !remark.empty())
     says += (says.empty() ? "(" : " (") + remark + ")";
   std::string text, before = head;
@@ -245,7 +266,22 @@ std::string ControlText(const Section::Part& part, bool whole, int width) {
   return text;
 }
 
+namespace {
+
+/// Where its line stands now.
+std::string ThinText(const ui::Chart& chart) {
+  std::string text;
+  for (const auto& series : chart.Lines.Get())
+    if (!series.Values.empty())
+      text += (text.empty() ? "" : "\n") + series.Name + (series.Name.empty() ? "" : ": ") +
+              Number(series.Values.back()) + " of 100";
+  return text;
+}
+
+}  // namespace
+
 std::string ChartText(const ui::Chart& chart) {
+  if (chart.Thin) return ThinText(chart);
   const std::vector<std::string>& captions = chart.Captions;
   std::size_t count = captions.size();
   for (const auto& series : chart.Lines.Get()) count = std::max(count, series.Values.size());

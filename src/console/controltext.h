@@ -11,7 +11,7 @@ namespace grapplemont::console {
 struct Section {
   struct Part {
     const ui::Control* Shown;
-    std::string Label;  // of a Field
+    std::string Label;  // what it is called, where it does not say so itself
   };
   std::string Heading;
   std::vector<Part> Parts;

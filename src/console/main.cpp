@@ -7,12 +7,14 @@
 #include <vector>
 
 #include "console/run.h"
+#include "console/typing.h"
 
 namespace {
 
 grapplemont::console::Settings Terminal() {
   grapplemont::console::Settings settings;
   settings.Prompt = isatty(STDIN_FILENO) && isatty(STDOUT_FILENO);
+  if (settings.Prompt) settings.Ask = grapplemont::console::TerminalTypist();
   winsize size{};
   if (settings.Prompt && ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0)
     settings.Width = std::clamp<int>(size.ws_col, 60, 160);

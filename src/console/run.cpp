@@ -5,41 +5,53 @@
 
 #include "program/screens.h"
 #include "records/fields/charset.h"
-#include "records/fields/fields.h"
-#include "session/home.h"
-#include "ui/asnumber.h"
+#include "session/arguments.h"
+#include "session/build.h"
+#include "session/faultlog.h"
 
 namespace grapplemont::console {
 
 namespace {
 
-/// Takes one option's value; empty, or what is wrong with it.
-std::string Take(Options& options, const std::string& name, const std::string& value) {
-  if (name == "--home") {
-    options.Home = value;
-    if (value.empty()) return "--home needs a folder.";
-  } else if (name == "--today") {
-    options.Today = ParseIsoDate(value);
-    if (!options.Today) return "--today needs a date such as 2026-03-01, not \"" + value + "\".";
-  } else {
-    options.Seed = ui::AsNumber<std::uint64_t>(value);
-    if (!options.Seed) return "--seed needs a whole number from 0 up, not \"" + value + "\".";
-  }
-  return {};
+constexpr std::string_view kProgram = "grapplemont-console";
+constexpr std::string_view kToday = "--today", kSeed = "--seed", kJson = "--json";
+constexpr OptionKind kOptions[] = {
+    kHomeOption,
+    {kToday, "YYYY-MM-DD", false, "the present date, in place of the machine's"},
+    {kSeed, "N", false, "chance from this number, 0 and up, in place of the machine's"},
+    {kJson, "", false, "each answer is one JSON object on one line"}};
+
+std::string Usage() {
+  return "usage: " + UsageOf(kProgram, "", kOptions) + "\n";
 }
 
-constexpr const char* kProgram = "grapplemont-console: ";
+std::string Help() {
+  return Usage() +
+         "\nServes the screens of Grapplemont to a terminal or a script: a command a line on\n"
+         "standard input, an answer on standard output. The command \"help\" lists them.\n\n" +
+         OptionLines(kOptions);
+}
+
 constexpr const char* kGreeting =
     "Grapplemont on a terminal. Name a control to work it, or what a button says: click Begin.\n"
     "The command \"help\" lists all there are.\n\n";
 
-void Play(const Options& options, Console& console) {
-  const std::unique_ptr<Disk> disk = RealDisk();
+Game::Options ChoiceOf(const grapplemont::Arguments& arguments, Disk& disk,
+                       const Surroundings& around) {
   Game::Options choice;
-  choice.Home = options.Home ? HomeAt(*disk, *options.Home) : FindHome(*disk);
-  if (options.Today) choice.Today = [day = *options.Today] { return day; };
-  choice.Seed = options.Seed;
-  Game game(console, *disk, choice);
+  if (const auto today = arguments.Date(kToday)) choice.Today = [day = *today] { return day; };
+  choice.Seed = arguments.Number(kSeed, 0, ~std::uint64_t{0});
+  const auto named = arguments.Text(kHomeOption.Name);
+  const Home home = named ? HomeAt(disk, *named, around) : FindHome(disk, around);
+  choice.Home = home.Folder;
+  choice.Share = home.Share;
+  choice.Faults = around.FaultFile();
+  return choice;
+}
+
+void Play(Console& console, Disk& disk, const Game::Options& choice, FaultLog& log) {
+  Game game(console, disk, choice);
+  console.NoteFault = [&log](const std::string& fault) { log.Note(ToUtf8(fault)); };
   RegisterScreens(game);
   console.Open("frmTitleScreen");
   if (console.Empty()) throw std::runtime_error("The game could not start.");
@@ -50,49 +62,35 @@ void Play(const Options& options, Console& console) {
 
 }  // namespace
 
-std::optional<Options> ReadOptions(std::span<const std::string> arguments, std::string& why) {
-  Options options;
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string& name = arguments[i];
-    if (name == "--json") {
-      options.Json = true;
-    } else if (name == "--help") {
-      options.Help = true;
-    } else if (name != "--home" && name != "--today" && name != "--seed") {
-      why = "There is no option \"" + name + "\".";
-      return std::nullopt;
-    } else if (++i == arguments.size()) {
-      why = name + " needs a value.";
-      return std::nullopt;
-    } else if (why = Take(options, name, arguments[i]); !why.empty()) {
-      return std::nullopt;
-    }
-  }
-  return options;
-}
-
-int RunConsole(std::span<const std::string> arguments, Streams streams, Settings settings) {
-  std::string why;
-  const auto options = ReadOptions(arguments, why);
-  if (!options) {
-    streams.Errors << kProgram << why << "\n" << kUsage;
-    return 2;
-  }
-  if (options->Help) {
-    streams.Out << kUsage;
+int RunConsole(std::span<const std::string> words, Streams streams, Settings settings,
+               const Surroundings& around) {
+  if (const Asked asked = AskedIn(words); asked != Asked::Nothing) {
+    streams.Out << (asked == Asked::Help ? Help() : VersionLine(kProgram));
     return 0;
   }
-  settings.Json = options->Json;
-  settings.Prompt = settings.Prompt && !settings.Json;
-  if (settings.Prompt) streams.Out << kGreeting;
-  try {
-    Console console(streams.In, streams.Out, settings);
-    Play(*options, console);
-    return 0;
-  } catch (const std::exception& fault) {
-    why = ToUtf8(fault.what());
+  FaultLog log(around.FaultFile(), std::string(kProgram) + " " + kProgramVersion);
+  const auto tell = [&](const std::exception& fault) {
+    std::string why = ValidUtf8(fault.what());
     std::replace(why.begin(), why.end(), '\n', ' ');
-    streams.Errors << kProgram << why << "\n";
+    streams.Errors << kProgram << ": " << why << "\n";
+    return why;
+  };
+  try {
+    const grapplemont::Arguments arguments(words, kOptions, 0);
+    settings.Json = arguments.Has(kJson);
+    settings.Prompt = settings.Prompt && !settings.Json;
+    const std::unique_ptr<Disk> disk = RealDisk();
+    const Game::Options choice = ChoiceOf(arguments, *disk, around);
+    if (settings.Prompt) streams.Out << kGreeting;
+    Console console(streams.In, streams.Out, settings);
+    Play(console, *disk, choice, log);
+    return 0;
+  } catch (const UsageError& fault) {
+    tell(fault);
+    streams.Errors << Usage();
+    return 2;
+  } catch (const std::exception& fault) {
+    log.Note(tell(fault));
     return 1;
   }
 }

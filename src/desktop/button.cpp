@@ -144,9 +144,24 @@ void PushButton::focusInEvent(QFocusEvent* event) {
   QAbstractButton::focusInEvent(event);
 }
 
+std::string WhyNotPress(const ui::Button& button) {
+  if (button.Enabled) return {};
+  return button.Tip->empty() ? button.Text.Get() + " cannot be pressed now." : button.Tip.Get();
+}
+
 ButtonView::ButtonView(ui::Button& button, Stage& stage, QWidget* parent)
     : ViewOf(button, stage, parent) {
   connect(this, &QAbstractButton::clicked, this, [this] { Pressed ? Pressed() : Do(ui::Click); });
+  connect(&clock_, &QTimer::timeout, this, [this] {
+    if (isVisible() && isEnabled()) click();
+  });
+}
+
+/// What it waits for is not moved away by being looked at again.
+void ButtonView::KeepTime() {
+  const int wait = control_.Every;
+  if (wait == 0) return clock_.stop();
+  if (!clock_.isActive() || clock_.interval() != wait) clock_.start(wait);
 }
 
 void ButtonView::Show() {
@@ -155,6 +170,7 @@ void ButtonView::Show() {
   SetBadge(Shown(control_.Badge.Get()));
   const ui::Tone tone = control_.Colour.Get();
   textColour_ = tone == ui::Tone::Plain ? QColor() : TextColour(ColoursOf(this), tone);
+  KeepTime();
   updateGeometry();
   update();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QTimer>
 
 #include "desktop/controlview.h"
 
@@ -77,6 +78,9 @@ class PushButton : public BareButton {
   QSize least_;
 };
 
+/// Why a button cannot be pressed, in its tip's words if it has one; empty when it can.
+std::string WhyNotPress(const ui::Button& button);
+
 class ButtonView : public ViewOf<PushButton, ui::Button> {
  public:
   ButtonView(ui::Button& button, Stage& stage, QWidget* parent);
@@ -85,6 +89,12 @@ class ButtonView : public ViewOf<PushButton, ui::Button> {
 
  protected:
   void Show() override;
+  QString KeyNow() const override { return OnStage().Kept().KeyOn(control_); }
+
+ private:
+  void KeepTime();
+
+  QTimer clock_;  // runs while the button is to be pressed by itself
 };
 
 }  // namespace grapplemont::desktop

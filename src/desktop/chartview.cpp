@@ -379,6 +379,7 @@ void ChartView::mouseMoveEvent(QMouseEvent* event) {
 }  // namespace
 
 ControlView* NewView(ui::Chart& chart, Stage& stage, QWidget* parent) {
+  if (chart.Thin) return NewThinLine(chart, stage, parent);
   return new ChartView(chart, stage, parent);
 }
 

@@ -9,9 +9,12 @@ namespace grapplemont::desktop {
 
 namespace {
 
-/// A tool-tip in lines that can be read.
-QString TipText(const std::string& tip) {
-  return tip.empty() ? QString() : "<p>" + Shown(tip).toHtmlEscaped() + "</p>";
+/// A tool-tip in lines that can be read, and the key.
+QString TipText(const std::string& tip, const QString& key) {
+  QStringList lines;
+  if (!tip.empty()) lines << Shown(tip).toHtmlEscaped();
+  if (!key.isEmpty()) lines << "Key: " + key.toHtmlEscaped();
+  return lines.isEmpty() ? QString() : "<p>" + lines.join("<br>") + "</p>";
 }
 
 template <class C>
@@ -45,7 +48,7 @@ void ControlView::Hold(const std::string& why) {
 
 void ControlView::ShowUse() {
   Widget()->setEnabled(shows_.Enabled && held_.empty());
-  Widget()->setToolTip(TipText(held_.empty() ? shows_.Tip.Get() : held_));
+  Widget()->setToolTip(TipText(held_.empty() ? shows_.Tip.Get() : held_, KeyNow()));
 }
 
 ControlView* MakeView(ui::Control& control, Stage& stage, QWidget* parent) {

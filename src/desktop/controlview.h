@@ -51,6 +51,8 @@ class ControlView {
   virtual void Show() = 0;
   /// Whether there is anything to see while the control is to be seen.
   virtual bool HasWords() const { return true; }
+  /// The key that works it from anywhere on its screen; empty for none.
+  virtual QString KeyNow() const { return {}; }
   Stage& OnStage() const { return stage_; }
   /// Runs one of the acts that take a control's name.
   template <class... Value>

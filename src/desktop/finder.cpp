@@ -66,7 +66,7 @@ class EntryCells : public QStyledItemDelegate {
     painter.setFont(TextFont());
     const QFontMetrics metrics = painter.fontMetrics();
     const QString words = metrics.elidedText(entry.Words, Qt::ElideRight, room.width());
-    painter.setPen(c.Text);
+    painter.setPen(entry.IsOff ? c.Muted : c.Text);
     painter.drawText(room, Qt::AlignVCenter, words);
     room.setLeft(room.left() + metrics.horizontalAdvance(words) + Px(16));
     if (room.width() < Px(30)) return;
@@ -159,6 +159,7 @@ void Finder::FindNames(const QString& letters) {
                       std::move(found.Open),
                       found.Picture,
                       {},
+                      false,
                       found.Fit});
 }
 

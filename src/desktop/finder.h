@@ -19,8 +19,9 @@ class Finder : public Veil {
     std::function<void()> Run;
     ui::Handler Open = {};  // of what was found by its name, in place of Run
     ui::Drawing Picture = {};
-    QString Also = {};  // other words that people say for it
-    int Fit = 0;        // how far it is from what is typed; 0 is best
+    QString Also = {};   // other words that people say for it
+    bool IsOff = false;  // it cannot be done now, and Where says why
+    int Fit = 0;         // how far it is from what is typed; 0 is best
     friend bool Same(const Entry& a, const Entry& b) {
       return a.Heading == b.Heading && a.Words == b.Words;
     }

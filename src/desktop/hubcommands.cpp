@@ -1,4 +1,3 @@
-#include <QKeySequence>
 #include <algorithm>
 #include <ranges>
 
@@ -16,6 +15,11 @@ constexpr int kMostPages = 64;
 
 bool CanPress(const ui::Button* button) {
   return button && button->Enabled && button->Visible;
+}
+
+/// What stands beside a command that is found.
+QString NotNow(const QString& where, const std::string& why) {
+  return why.empty() ? where : "Not now: " + Shown(why);
 }
 
 /// What stands in the top bar moves time, or is about who one is.
@@ -108,48 +112,37 @@ bool Window::HubInReach() const {
   return HubView() && top && (top->Is() == ui::Role::Hub || top->Is() == ui::Role::Page);
 }
 
-bool Window::PressSideKey(const QKeyEvent& event) {
-  // Letters are typed; only with Ctrl or Alt do they mean anything else.
-  const bool bare = !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-  if (!HubInReach() || event.isAutoRepeat() || (bare && event.key() < Qt::Key_F1)) return false;
-  const QKeyCombination pressed(event.modifiers() & ~Qt::KeypadModifier,
-                                static_cast<Qt::Key>(event.key()));
-  for (const auto& group : HubView()->Page().Side)
-    for (const auto& command : group.Commands) {
-      const QKeySequence keys(settings_.Key(command.Press->Name(), command.Key));
-      if (keys.isEmpty() || keys[0] != pressed) continue;
-      if (CanPress(command.Press))
-        PressHub(*command.Press);
-      else if (!command.Press->Tip->empty())
-        Hint(*this, Shown(command.Press->Tip.Get()));
-      return true;
-    }
-  return false;
-}
-
+/// What cannot be done now is listed all the same, with the reason, which is said again when it is
+/// chosen.
 void Window::AddPageActs(std::vector<Finder::Entry>& entries) {
   const ScreenView* const view = TopView();
   if (!view || !desk_.Top()) return;
   const QString title = Shown(desk_.Top()->Title.Get());
-  for (ui::Button* action : view->Page().Actions)
-    if (CanPress(action))
-      entries.push_back({"On this page", Shown(action->Text.Get()), title, {}, [this, action] {
-                           Act([&] { return ui::Click(desk_, action->Parent(), action->Name()); });
-                         }});
+  for (ui::Button* action : view->ActionsInOrder()) {
+    if (!action->Visible) continue;
+    const std::string why = WhyNotPress(*action);
+    entries.push_back({"On this page", Shown(action->Text.Get()), NotNow(title, why),
+                       settings_.KeyOn(*action), [this, action, why] {
+                         if (!why.empty()) return HintAt(*action, Shown(why));
+                         Act([&] { return ui::Click(desk_, action->Parent(), action->Name()); });
+                       }});
+    entries.back().IsOff = !why.empty();
+  }
 }
 
-/// One that waits says what for, and does so again when it is chosen.
+/// So are rooms, and one that waits says what for.
 void Window::AddRooms(std::vector<Finder::Entry>& entries) {
   const auto add = [&](ui::Button& command, const std::string& where, const std::string& key,
                        const std::string& also) {
+    if (!command.Visible) return;
     std::string why = WhyWaits(command);
-    if (!command.Enabled && why.empty()) why = command.Tip.Get();
-    if (!command.Visible || (!command.Enabled && why.empty())) return;
-    entries.push_back(
-        {"Rooms", Shown(command.Text.Get()), Shown(why.empty() ? where : "Not now: " + why),
-         settings_.Key(command.Name(), key),
-         [this, &command, why] { why.empty() ? PressHub(command) : Hint(*this, Shown(why)); }});
+    if (why.empty()) why = WhyNotPress(command);
+    entries.push_back({"Rooms", Shown(command.Text.Get()), NotNow(Shown(where), why),
+                       settings_.Key(command.Name(), key), [this, &command, why] {
+                         why.empty() ? PressHub(command) : Hint(*this, Shown(why));
+                       }});
     entries.back().Also = Shown(also);
+    entries.back().IsOff = !why.empty();
   };
   const ui::Page& hub = HubView()->Page();
   for (ui::Button* action : hub.TopActions) add(*action, {}, {}, {});
@@ -162,8 +155,8 @@ std::vector<Finder::Entry> Window::FinderEntries() {
   std::vector<Finder::Entry> entries;
   const auto add = [&](const char* heading, const std::vector<OwnCommand>& commands) {
     for (const OwnCommand& own : commands)
-      if (!own.Words.isEmpty())
-        entries.push_back({heading, own.Words, {}, own.Key, own.Run, {}, {}, own.Also});
+      if (own.IsFound)
+        entries.push_back({heading, own.Words, {}, KeyOf(own), own.Run, {}, {}, own.Also});
   };
   AddPageActs(entries);
   if (HubInReach()) AddRooms(entries);

@@ -252,7 +252,7 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
     search->setSizePolicy(policy);
     head->addWidget(search, 4);
   }
-  cards_.push_back({card, views});
+  cards_.push_back({card, views, Px(box.Spare * kLetter)});
   into->addWidget(card, ShareOf(box));
 }
 

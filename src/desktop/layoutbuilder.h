@@ -29,10 +29,11 @@ class LayoutBuilder {
 
   /// In the order of the boxes.
   const std::vector<ControlView*>& Views() const { return views_; }
-  /// A card is shown while one of the controls on it is.
+  /// A card is shown while one of the controls on it is, and the page is as wide as it asks for.
   struct CardContents {
     QWidget* Sheet;
     std::vector<ControlView*> Views;
+    int From;  // in pixels
   };
   const std::vector<CardContents>& Cards() const { return cards_; }
 

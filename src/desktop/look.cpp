@@ -6,6 +6,7 @@
 #include <QStyleHints>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "desktop/housestyle.h"
 #include "records/fields/charset.h"
@@ -182,6 +183,10 @@ void ReadDesktop() {
   const auto scheme = QGuiApplication::styleHints()->colorScheme();
   if (scheme != Qt::ColorScheme::Unknown) desktop.Dark = scheme == Qt::ColorScheme::Dark;
 #endif
+}
+
+bool HearDesktop(bool dark) {
+  return std::exchange(desktop.Dark, dark) != dark;
 }
 
 int DesktopText() {

@@ -60,6 +60,8 @@ inline constexpr int kSmallestText = 11, kLargestText = 28;
 /// Remembers what the desktop says about colours and text. Requires the application, before the
 /// first ApplyLook.
 void ReadDesktop();
+/// What the desktop says about colours meanwhile; false where that is nothing new.
+bool HearDesktop(bool dark);
 /// The text height that the desktop asks for, at least the usual one.
 int DesktopText();
 /// System: as the desktop has it, and dark where it says nothing.

@@ -2,16 +2,22 @@
 #include <QCommandLineParser>
 #include <QIcon>
 #include <QMessageBox>
-#include <cstring>
+#include <cstdlib>
 #include <iostream>
 #include <optional>
 #include <stdexcept>
 
 #include "desktop/album.h"
+#include "desktop/bookpdf.h"
+#include "desktop/desktopcolours.h"
 #include "desktop/look.h"
+#include "desktop/nodisplay.h"
 #include "desktop/sound.h"
 #include "desktop/window.h"
 #include "program/screens.h"
+#include "records/fields/charset.h"
+#include "session/build.h"
+#include "session/faultlog.h"
 #include "session/home.h"
 #include "ui/game.h"
 
@@ -20,29 +26,43 @@ namespace {
 using namespace grapplemont;
 
 /// What the program is started with; without arguments it is played.
-struct Arguments {
-  std::optional<std::string> Home;  // the folder with data/, gfx/ and the slots
+struct Wanted {
+  std::optional<std::string> Home;  // the folder with the slots
   QString Pictures;                 // the folder for an album of all screens
 };
 
-Arguments Read(QCoreApplication& app) {
+/// Before there is a display: questions about the program and mistakes in its use need none.
+Wanted Read(int argc, char** argv) {
+  const QCoreApplication words(argc, argv);
   QCommandLineParser parser;
   parser.setApplicationDescription(
-      "A management simulation of professional wrestling. It plays in the folder it is started in "
-      "where that has a folder data, else in yours.");
+      "A management simulation of professional wrestling. Your games are kept in your data "
+      "folder.");
+  parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
   parser.addHelpOption();
+  parser.addVersionOption();
   const QCommandLineOption home(
-      "home", "The folder with data, gfx and the slots that is played in.", "folder");
+      "home", "Play in <folder>, with your games and with data and gfx of your own.", "folder");
   const QCommandLineOption pictures(
       "pictures",
-      "Takes a picture of every screen into <folder> instead of being played. It plays on in the "
+      "Take a picture of every screen into <folder> instead of being played. It plays on in the "
       "first slot that it finds; take a copy of your games for it.",
       "folder");
   parser.addOptions({home, pictures});
-  parser.process(app);
-  Arguments read{{}, parser.value(pictures)};
-  if (parser.isSet(home)) read.Home = parser.value(home).toStdString();
-  return read;
+  for (const char* ofQt : {"platform", "style", "display", "qwindowgeometry"}) {
+    QCommandLineOption option(ofQt, {}, "value");
+    option.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(option);
+  }
+  parser.process(words);
+  if (!parser.positionalArguments().isEmpty()) {
+    std::cerr << "grapplemont: \"" << parser.positionalArguments().front().toStdString()
+              << "\" is one word too many\n";
+    std::exit(2);
+  }
+  Wanted wanted{{}, parser.value(pictures)};
+  if (parser.isSet(home)) wanted.Home = parser.value(home).toStdString();
+  return wanted;
 }
 
 int FillAlbum(desktop::Window& window, desktop::WindowDesk& desk, Game& game,
@@ -60,83 +80,126 @@ int FillAlbum(desktop::Window& window, desktop::WindowDesk& desk, Game& game,
   return missing.empty() ? 0 : 1;
 }
 
-/// The scale that the player has set counts from the start on; what the environment says goes
-/// first.
-void ApplyScale() try {
-  const std::string home = FindHome(*RealDisk());
-  const int percent = desktop::Settings(QString::fromStdString(home + "/settings.ini")).Scale();
-  if (percent != 100 && !qEnvironmentVariableIsSet("QT_SCALE_FACTOR"))
-    qputenv("QT_SCALE_FACTOR", QByteArray::number(percent / 100.0));
-} catch (const std::exception&) {
-  // What is wrong with the home is said once there is a window.
+/// Where the player's settings are kept, whatever home is played in. Those that lay in a home
+/// before are taken along.
+QString SettingsFile(Disk& disk, const Surroundings& around) try {
+  if (around.UserConfig.empty()) return {};
+  const std::string file = around.UserConfig + "/settings.ini";
+  const std::string before = around.UserData + "/settings.ini";
+  MakeFolders(disk, around.UserConfig);
+  if (disk.Look(file) == Disk::Kind::Nothing && disk.Look(before) == Disk::Kind::File)
+    CopyFile(disk, before, file);
+  return QString::fromStdString(file);
+} catch (const DiskError&) {
+  return {};  // then nothing is kept; the game can be played all the same
 }
 
-int Play(QApplication& app) {
-  const Arguments arguments = Read(app);
-  const std::unique_ptr<Disk> disk = RealDisk();
-  const std::string home = arguments.Home ? HomeAt(*disk, *arguments.Home) : FindHome(*disk);
-  const QString folder = QString::fromStdString(home);
-  app.setWindowIcon(QIcon(folder + "/gfx/icon.png"));
+/// The scale that the player has set counts from the start on; what the environment says goes
+/// first.
+void ApplyScale(const QString& settings) {
+  const int percent = desktop::Settings(settings).Scale();
+  if (percent != 100 && !qEnvironmentVariableIsSet("QT_SCALE_FACTOR"))
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(percent / 100.0));
+}
 
-  desktop::WindowDesk desk;
-  Game game(desk, *disk, {.Home = home});
-  RegisterScreens(game);
+/// What the whole program knows once it has begun.
+struct Started {
+  Wanted Wants;
+  Surroundings Around;
+  QString Settings;
+  FaultLog& Log;
+  Disk& Files;
+};
+
+desktop::Window::Options OptionsFor(desktop::WindowDesk& desk, Game& game, const Started& started) {
   desktop::Window::Options options;
-  options.Pictures = folder + "/gfx";
-  if (arguments.Pictures.isEmpty()) options.Settings = folder + "/settings.ini";
-  options.Closing = [&] {
+  for (const std::string& folder : game.PictureFolders())
+    options.Pictures.append(QString::fromStdString(folder));
+  if (started.Wants.Pictures.isEmpty()) options.Settings = started.Settings;
+  options.Closing = [&desk, &game] {
     try {
       game.CloseSlot();
     } catch (const std::exception& fault) {
       desk.Say("Error!", game.Explain(fault));
     }
   };
-  options.Game = [&] {
+  options.Game = [&game] {
     const auto [slot, world] = game.Opened();
     return slot == 0 ? desktop::OpenGame()
                      : desktop::OpenGame{QString("s%1").arg(slot), QString::number(world, 16)};
   };
+  return options;
+}
+
+int Play(QApplication& app, const Started& started) {
+  const Wanted& wanted = started.Wants;
+  Disk& disk = started.Files;
+  const Home home =
+      wanted.Home ? HomeAt(disk, *wanted.Home, started.Around) : FindHome(disk, started.Around);
+  desktop::WindowDesk desk;
+  desk.NoteFault = [&](const std::string& fault) { started.Log.Note(ToUtf8(fault)); };
+  Game game(desk, disk, {.Home = home.Folder, .Share = home.Share, .Faults = started.Log.File()});
+  RegisterScreens(game);
+  desktop::Window::Options options = OptionsFor(desk, game, started);
   std::optional<desktop::Speaker> speaker;  // once something is heard
   options.Play = [&speaker](ui::Sound sound, int volume) {
     if (!speaker) speaker.emplace();
     speaker->Play(sound, volume);
   };
   desktop::Window window(desk, options);
+  app.setWindowIcon(QIcon(window.PictureFile("icon.png")));
   game.KeepPage = [&window](const std::string& file) {
     window.KeepPage(QString::fromStdString(file));
+  };
+  game.WritePdf = [&game](const std::string& file, int voice) {
+    return desktop::WriteBookPdf(game.World(), file, voice);
   };
   window.show();
   desk.Event([&] { desk.Open("frmTitleScreen"); });
   window.Sync();
   if (desk.Empty())
-    throw std::runtime_error("The game could not start from the folder \"" + home +
-                             "\": its pictures belong into \"" + home + "/gfx\".");
-  if (!arguments.Pictures.isEmpty()) return FillAlbum(window, desk, game, arguments.Pictures);
+    throw std::runtime_error("The game could not start from the folder \"" + home.Folder +
+                             "\": its pictures belong into \"" + home.Folder + "/gfx\".");
+  if (!wanted.Pictures.isEmpty()) return FillAlbum(window, desk, game, wanted.Pictures);
+  const desktop::DesktopColours colours([&window](bool dark) { window.FollowDesktop(dark); });
   const int result = QApplication::exec();
   desk.CloseAll();
   game.KeepPage = nullptr;
   return result;
 }
 
+/// The console that was installed with the window, for where no window can be opened.
+desktop::WithoutDisplay ConsoleFor(const Wanted& wanted, const Surroundings& around) {
+  const std::string folder = around.Program.substr(0, around.Program.rfind('/') + 1);
+  desktop::WithoutDisplay without{folder + "grapplemont-console", {}, wanted.Pictures.isEmpty()};
+  if (wanted.Home) without.Arguments = {"--home", *wanted.Home};
+  return without;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  // Help needs no display.
-  for (int at = 1; at < argc; ++at)
-    if (std::strcmp(argv[at], "--help") == 0 || std::strcmp(argv[at], "-h") == 0) {
-      QCoreApplication words(argc, argv);
-      Read(words);
-    }
-  ApplyScale();
+  QCoreApplication::setApplicationName("Grapplemont");
+  QCoreApplication::setApplicationVersion(kProgramVersion);
+  const Surroundings around = MachineSurroundings();
+  const Wanted wanted = Read(argc, argv);
+  static FaultLog log(around.FaultFile(),
+                      std::string("grapplemont ") + kProgramVersion + ", Qt " + qVersion());
+  desktop::WatchQt(log, ConsoleFor(wanted, around));
+  const std::unique_ptr<Disk> disk = RealDisk();
+  const QString settings = SettingsFile(*disk, around);
+  ApplyScale(settings);
   QApplication app(argc, argv);
-  QApplication::setApplicationName("Grapplemont");
+  desktop::DisplayIsThere();
   QApplication::setDesktopFileName("grapplemont");
-  grapplemont::desktop::ReadDesktop();
+  desktop::ReadDesktop();
   try {
-    return Play(app);
+    return Play(app, {wanted, around, settings, log, *disk});
   } catch (const std::exception& fault) {
-    std::cerr << "grapplemont: " << fault.what() << "\n";
-    QMessageBox::critical(nullptr, "Grapplemont", QString::fromStdString(fault.what()));
+    const std::string why = ValidUtf8(fault.what());
+    log.Note(why);
+    std::cerr << "grapplemont: " << why << "\n";
+    QMessageBox::critical(nullptr, "Grapplemont", QString::fromStdString(why));
     return 1;
   }
 }

@@ -19,6 +19,7 @@ namespace {
 
 /// Widest that a picture asks for by itself; it takes more where it is given more.
 constexpr QSize kAskedFor(480, 300);
+constexpr int kLarge = 90;          // high, of what is drawn
 constexpr double kWordsEnd = 0.89;  // of a backdrop's height
 
 /// Makes the outer tenth of a picture fade away.
@@ -41,6 +42,7 @@ void FadeEdges(QImage& image) {
 /// is none.
 QPixmap ReadPicture(const QString& file, const QSize& room, Qt::AspectRatioMode mode, double ratio,
                     bool fading = false) {
+  if (file.isEmpty()) return {};
   QImageReader reader(file);
   const QSize full = reader.size();
   if (!full.isValid() || room.isEmpty()) return {};
@@ -98,8 +100,14 @@ double PictureView::Drawn() const {
   return ShapeOf(control_.Drawn.Get());
 }
 
+/// A picture that stands for itself grows little with the text, which would leave no room for any.
+int PictureView::DrawnHeight() const {
+  const int height = control_.Height;
+  return height < kLarge ? Px(height) : std::min(Px(height), height * 5 / 4);
+}
+
 QSize PictureView::sizeHint() const {
-  if (Drawn() > 0) return {static_cast<int>(Px(control_.Height) * Drawn()), Px(control_.Height)};
+  if (Drawn() > 0) return {static_cast<int>(DrawnHeight() * Drawn()), DrawnHeight()};
   if (!full_.isValid() || seeThrough_) return {Px(120), Px(80)};
   const QSize most(Px(kAskedFor.width()), Px(kAskedFor.height()));
   return full_.width() > most.width() || full_.height() > most.height()

@@ -29,6 +29,7 @@ class PictureView : public ViewOf<QWidget, ui::Picture> {
   bool Clickable() const { return static_cast<bool>(control_.OnClick); }
   void DrawPicture(QPainter& painter);
   double Drawn() const;  // width of what is drawn for a height of 1; 0 for nothing
+  int DrawnHeight() const;
 
   QString file_;
   QSize full_;      // of the file

@@ -8,6 +8,7 @@
 #include <map>
 
 #include "desktop/pieces.h"
+#include "desktop/spoken.h"
 #include "desktop/views.h"
 
 namespace grapplemont::desktop {
@@ -62,12 +63,16 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
 
  private:
   void FitWords();
-  void Write(QTextCursor& cursor, const std::string& words, const QTextCharFormat& letters);
+  void ShowGrowth();
+  void Write(QTextCursor& cursor, const ui::Report::Paragraph& paragraph,
+             const QTextCharFormat& letters);
+  void WriteNames(QTextCursor& cursor, std::string_view text, const QTextCharFormat& letters);
   /// The link under the mouse; nullptr for none.
   const ui::Link* LinkAt(const QMouseEvent& event) const;
 
   std::vector<ui::Link> links_;  // of all paragraphs; an anchor's address is a place in here
   QPoint pressed_;
+  QString words_;  // of a report that grows, as they stood before
 };
 
 ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
@@ -101,18 +106,46 @@ void ReportView::Show() {
     } else {
       cursor.insertBlock(block, letters);
     }
-    Write(cursor, paragraph.Words, letters);
+    Write(cursor, paragraph, letters);
     first = false;
   }
   moveCursor(QTextCursor::Start);  // a size that changes later keeps the cursor in sight
   verticalScrollBar()->setValue(0);
   FitWords();
+  if (control_.Grows) ShowGrowth();
+}
+
+/// The last words stay in sight, and a screen reader hears those that are new.
+void ReportView::ShowGrowth() {
+  const QString words = Shown(control_.Text.Get());
+  const auto [before, now] = std::ranges::mismatch(words_, words);
+  const QString added = words.sliced(now - words.begin()).trimmed();
+  words_ = words;
+  verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+  setAccessibleDescription(added);
+  if (!added.isEmpty()) Announce(*this);
+}
+
+/// What leads somewhere can be clicked; it looks like all else.
+void ReportView::Write(QTextCursor& cursor, const ui::Report::Paragraph& paragraph,
+                       const QTextCharFormat& letters) {
+  const std::string_view words = paragraph.Words;
+  std::size_t written = 0;
+  for (const ui::Report::Lead& lead : paragraph.Leads) {
+    WriteNames(cursor, words.substr(written, lead.From - written), letters);
+    QTextCharFormat leads = letters;
+    leads.setAnchor(true);
+    leads.setAnchorHref(QString::number(links_.size()));
+    links_.push_back({lead.From, lead.Length, [this, key = lead.Key] { control_.OnLead(key); }});
+    WriteNames(cursor, words.substr(lead.From, lead.Length), leads);
+    written = lead.From + lead.Length;
+  }
+  WriteNames(cursor, words.substr(written), letters);
 }
 
 /// Names that lead to a page stand out and can be clicked.
-void ReportView::Write(QTextCursor& cursor, const std::string& words,
-                       const QTextCharFormat& letters) {
-  const std::string_view text = words;
+void ReportView::WriteNames(QTextCursor& cursor, std::string_view text,
+                            const QTextCharFormat& letters) {
   std::size_t written = 0;
   for (ui::Link& link : OnStage().Desk().LinksIn(text)) {
     QTextCharFormat linked = letters;

@@ -234,10 +234,19 @@ void ScreenView::Refresh() {
   }
   for (ControlView* view : views_) view->Refresh();
   for (ButtonView* main : mains_) main->SetGold(&main->Shows() == MainNow());
+  ShowCards();
+}
+
+void ScreenView::ShowCards() {
   for (const auto& card : cards_)
-    card.Sheet->setVisible(card.Views.empty() || std::ranges::any_of(card.Views, [](auto* view) {
-                             return view->Shows().Visible.Get();
-                           }));
+    card.Sheet->setVisible(width() >= card.From &&
+                           (card.Views.empty() || std::ranges::any_of(card.Views, [](auto* view) {
+                              return view->Shows().Visible.Get();
+                            })));
+}
+
+void ScreenView::resizeEvent(QResizeEvent*) {
+  ShowCards();
 }
 
 void ScreenView::Leave() {
@@ -259,41 +268,10 @@ void ScreenView::SetEnter(const ui::Button* pressed) {
   for (ButtonView* main : mains_) main->SetEnter(&main->Shows() == pressed);
 }
 
-void ScreenView::RememberKeyboard() {
-  QWidget* focus = window()->focusWidget();
-  if (focus && isAncestorOf(focus)) keyboard_ = focus;
-}
-
-const ui::Control* ScreenView::KeyboardOn() const {
-  QWidget* const focus = window()->focusWidget();
-  for (ControlView* view : views_)
-    if (focus && (view->Widget() == focus || view->Widget()->isAncestorOf(focus)))
-      return &view->Shows();
-  return nullptr;
-}
-
-void ScreenView::GiveKeyboard(const ui::Control& control) {
-  for (ControlView* view : views_)
-    if (&view->Shows() == &control) view->FocusTarget()->setFocus(Qt::ActiveWindowFocusReason);
-}
-
 QWidget* ScreenView::WidgetOf(const ui::Control& control) const {
   for (ControlView* view : views_)
     if (&view->Shows() == &control && view->Widget()->isVisible()) return view->Widget();
   return nullptr;
-}
-
-void ScreenView::TakeKeyboard() {
-  if (keyboard_ && keyboard_->isEnabled() && keyboard_->isVisibleTo(this))
-    return keyboard_->setFocus(Qt::ActiveWindowFocusReason);  // as it was, with ring and cursor
-  if (screen_->Is() != ui::Role::Hub)
-    for (ControlView* view : views_) {
-      const ui::Kind kind = view->Shows().Is();
-      const bool begins = kind == ui::Kind::TextBox || kind == ui::Kind::ListBox;
-      if (begins && view->Shows().Enabled && view->FocusTarget()->isVisibleTo(this))
-        return view->FocusTarget()->setFocus(Qt::OtherFocusReason);
-    }
-  setFocus(Qt::OtherFocusReason);
 }
 
 bool ScreenView::Press(ui::Button* button) {

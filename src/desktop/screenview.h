@@ -32,12 +32,17 @@ class ScreenView : public QWidget {
   void SetEnter(const ui::Button* pressed);
   /// False when the button cannot be pressed.
   bool Press(ui::Button* button);
-  /// Gives the keyboard to what had it last here, else to where one begins.
+  /// Gives the keyboard to what had it last while this was on top, in the bars beside it, too; else
+  /// to where one begins.
   void TakeKeyboard();
   void RememberKeyboard();
   /// The control here that has the keyboard; nullptr for none.
   const ui::Control* KeyboardOn() const;
+  /// The one that will be given it by TakeKeyboard; nullptr for none.
+  const ui::Control* KeyboardHeld() const;
   void GiveKeyboard(const ui::Control& control);
+  /// Gives it to the control by the next TakeKeyboard.
+  void HoldKeyboard(const ui::Control& control);
   /// Where the control is seen here; nullptr where it is not.
   QWidget* WidgetOf(const ui::Control& control) const;
   /// The space bar and Escape; true when the key meant something.
@@ -45,11 +50,14 @@ class ScreenView : public QWidget {
   bool FocusSearch();
   /// A list of the page as the player has arranged it; nullptr for none.
   const ui::Table* TableOf(const ui::ListBox& list) const;
+  /// What can be done on the page, the main action last.
+  std::vector<ui::Button*> ActionsInOrder() const;
   /// How large a dialog wants to be, in drawn pixels; invalid: as its contents are.
   QSize DialogSize() const;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
@@ -60,9 +68,9 @@ class ScreenView : public QWidget {
   QLayout* BuildHead();
   void BuildBody(QBoxLayout* into);
   QLayout* BuildActions();
-  std::vector<ui::Button*> ActionsInOrder() const;
   bool IsMain(const ui::Control& control) const;
   bool HasBackdrop() const;
+  void ShowCards();
   void FindBackdrop();
   void DressPictures();
   bool HasTitlePicture() const;
@@ -70,6 +78,7 @@ class ScreenView : public QWidget {
   int Floor() const;
   /// Makes a view of the control here and gives its widget.
   QWidget* Add(ui::Control& control);
+  const ui::Control* ControlWith(const QWidget* focus) const;
   bool PressCancel();
   bool ClearFilters();
 

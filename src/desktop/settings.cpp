@@ -13,8 +13,11 @@ constexpr auto kColours = "window/colours";
 const QString kSchemes[] = {"system", "dark", "light", "contrast"};  // in the order of Scheme
 constexpr int kLeastScale = 75, kMostScale = 300;
 
-QString KeyKey(const std::string& command) {
-  return "keys/" + Shown(command);
+// Where a command's key is kept, and what the command is called.
+constexpr auto kKeys = "keys", kKeyWords = "keywords";
+
+QString PlaceIn(const char* group, const std::string& id) {
+  return QString(group) + "/" + Shown(id);
 }
 
 }  // namespace
@@ -70,13 +73,48 @@ void Settings::SetDates(DateForm form) {
   Write(kDates, kDateForms[static_cast<std::size_t>(form)].Key);
 }
 
-QString Settings::Key(const std::string& command, const std::string& usual) const {
-  const QVariant kept = Read(KeyKey(command));
+QString Settings::Key(const std::string& id, const std::string& usual) const {
+  const QVariant kept = Read(PlaceIn(kKeys, id));
   return kept.isValid() ? kept.toString() : Shown(usual);
 }
 
-void Settings::SetKey(const std::string& command, const QString& key) {
-  Write(KeyKey(command), key);
+void Settings::SetKey(const KeyedCommand& command, const QString& key) {
+  Write(PlaceIn(kKeys, command.Id), key);
+  Write(PlaceIn(kKeyWords, command.Id), QStringList{Shown(command.Caption), Shown(command.Where)});
+}
+
+void Settings::ResetKey(const std::string& id) {
+  for (const char* group : {kKeys, kKeyWords}) {
+    if (file_) file_->remove(PlaceIn(group, id));
+    kept_.erase(PlaceIn(group, id));
+  }
+}
+
+std::vector<KeyedCommand> Settings::KeysSet() const {
+  std::vector<KeyedCommand> set;
+  for (const QString& id : NamesIn(kKeys)) {
+    const QStringList words = Read(PlaceIn(kKeyWords, Keep(id).Text)).toStringList();
+    set.push_back(
+        {Keep(id).Text, Keep(words.value(0, id)).Text, Keep(words.value(1)).Text, std::string()});
+  }
+  return set;
+}
+
+std::string Settings::KeyIdOf(const ui::Button& button) {
+  return (button.Key.empty() ? button.Parent().Name() : std::string("page")) + "." + button.Name();
+}
+
+QStringList Settings::NamesIn(const QString& group) const {
+  QStringList names;
+  const auto add = [&](const QString& place) {
+    if (place.startsWith(group + "/")) names << place.mid(group.size() + 1);
+  };
+  if (file_) {
+    for (const QString& place : file_->allKeys()) add(place);
+  } else {
+    for (const auto& entry : kept_) add(entry.first);
+  }
+  return names;
 }
 
 int Settings::Zoom() const {

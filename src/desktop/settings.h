@@ -2,10 +2,12 @@
 
 #include <QSettings>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "desktop/dates.h"
 #include "desktop/look.h"
@@ -18,6 +20,15 @@ namespace grapplemont::desktop {
 struct OpenGame {
   QString Slot, World;
 };
+
+/// Something that a key does: what the key is kept under, how it is called and where it stands, and
+/// the key that it has unless the player sets another; that may be none.
+struct KeyedCommand {
+  std::string Id, Caption, Where, Usual;
+};
+
+// The keys that are told where the window's commands are.
+inline constexpr const char *kSearchKeyId = "window.search", *kSearchKey = "Ctrl+K";
 
 /// What the player has set about the window, and what the tables keep; nothing of any world.
 class Settings {
@@ -43,9 +54,15 @@ class Settings {
   void SetVolume(int percent) { Write(kVolume, percent); }
   DateForm Dates() const;
   void SetDates(DateForm form);
-  /// The key of a command of the side bar, where the player has set none the usual one.
-  QString Key(const std::string& command, const std::string& usual) const;
-  void SetKey(const std::string& command, const QString& key);
+  /// The key of a command, where the player has set none the usual one; empty for none.
+  QString Key(const std::string& id, const std::string& usual) const;
+  QString KeyOn(const ui::Button& button) const { return Key(KeyIdOf(button), button.Key); }
+  void SetKey(const KeyedCommand& command, const QString& key);
+  void ResetKey(const std::string& id);
+  /// Those whose keys the player has set, with no usual ones.
+  std::vector<KeyedCommand> KeysSet() const;
+  /// Of a button of a page: one that comes with a key has the same on whatever page it stands.
+  static std::string KeyIdOf(const ui::Button& button);
   QByteArray Place() const { return Read(kPlace).toByteArray(); }  // of the window
   void SetPlace(const QByteArray& place) { Write(kPlace, place); }
 
@@ -63,6 +80,7 @@ class Settings {
  private:
   static QString PassingOf(const ui::Screen& screen);
   void Erase(const QString& group);
+  QStringList NamesIn(const QString& group) const;
   static constexpr auto kZoom = "window/zoom", kPlace = "window/place", kScale = "window/scale",
                         kStill = "window/still", kSounds = "sound/on", kVolume = "sound/volume",
                         kDates = "window/dates";

@@ -141,7 +141,7 @@ std::vector<Window::OwnCommand> Window::SharingCommands() {
   if (!TopView() || !top_) return commands;
   const Shareable page = PageToShare(*top_, *TopView()), words = WordsToShare(page.Text);
   const auto add = [&](const QString& caption, const QString& done, std::function<void()> share) {
-    commands.push_back({{}, caption, {}, [this, done, share = std::move(share)] {
+    commands.push_back({caption, [this, done, share = std::move(share)] {
                           share();
                           Hint(*this, done, ui::Tone::Plain);
                         }});
@@ -152,9 +152,8 @@ std::vector<Window::OwnCommand> Window::SharingCommands() {
   const QString done = "The picture is in the clipboard.";
   add("Copy this page as a picture", done, [page] { CopyPictureOf(page); });
   add("Copy all words of this page as a picture", done, [words] { CopyPictureOf(words); });
-  commands.push_back({{}, "Save this page to a file", {}, [this, page] { SavePage(page); }});
-  commands.push_back(
-      {{}, "Save all words of this page to a file", {}, [this, words] { SavePage(words); }});
+  commands.push_back({"Save this page to a file", [this, page] { SavePage(page); }});
+  commands.push_back({"Save all words of this page to a file", [this, words] { SavePage(words); }});
   return commands;
 }
 

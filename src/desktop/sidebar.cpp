@@ -147,7 +147,7 @@ SideBar::SideBar(const ui::Page& page, Stage& stage, QWidget* parent) : QWidget(
   rows->addWidget(scroller_, 1);
 
   auto* search = new SideLine(this, "Search everything");
-  search->SetKey("Ctrl K");
+  search->SetKey(stage.Kept().Key(kSearchKeyId, kSearchKey));
   search->SetQuiet();
   search->setObjectName("searcheverything");
   connect(search, &QAbstractButton::clicked, this, [this] { Search(); });

@@ -21,6 +21,7 @@ using ui::ColumnKind;
 
 constexpr int kBarWidth = 56, kBarHeight = 6;
 constexpr int kTagHeight = 19, kTagSide = 6, kTagGap = 4;
+constexpr int kSign = 14, kSignGap = 2;  // before its number
 constexpr int kRowButton = 76;
 constexpr int kTableRow = 33, kCardRow = 74;
 constexpr int kDrawn = 24, kDrawnOnCard = 46;  // high
@@ -47,14 +48,13 @@ QFont TagFont() {
   return TextFont(11);
 }
 
-void DrawTag(QPainter& painter, const QRect& room, const ui::Cell& cell, const Colours& c) {
+void DrawTag(QPainter& painter, const QRect& room, const QString& word, ui::Tone tone,
+             const Colours& c) {
   const QFontMetrics metrics(TagFont());
-  const QString words =
-      metrics.elidedText(Shown(cell.Text), Qt::ElideRight, room.width() - 2 * Px(kTagSide));
+  const QString words = metrics.elidedText(word, Qt::ElideRight, room.width() - 2 * Px(kTagSide));
   const int width = metrics.horizontalAdvance(words) + 2 * Px(kTagSide);
   const QRectF box(room.left(), room.center().y() - Px(kTagHeight) / 2.0 + 1, width,
                    Px(kTagHeight));
-  const ui::Tone tone = cell.Colour;
   DrawBox(painter, box, QColor(), EdgeColour(c, tone), Px(4));
   painter.setFont(TagFont());
   painter.setPen(tone == ui::Tone::Plain ? c.Soft : TextColour(c, tone));
@@ -65,14 +65,49 @@ int TagWidth(const QString& words) {
   return QFontMetrics(TagFont()).horizontalAdvance(words) + 2 * Px(kTagSide);
 }
 
+/// What a word is drawn as in this column, and the number behind it: "Feud 71".
+struct SignedWord {
+  ui::Sign As = ui::Sign::None;
+  QString Number;
+};
+
+SignedWord SignedBy(const ui::Column& column, const QString& word) {
+  SignedWord drawn;
+  if (column.SignOf) drawn.As = column.SignOf(word.toStdString());
+  const QString last = word.section(' ', -1);
+  if (drawn.As != ui::Sign::None && !last.isEmpty() && last[0].isDigit()) drawn.Number = last;
+  return drawn;
+}
+
+int WordWidth(const QString& word, const ui::Column& column) {
+  const SignedWord drawn = SignedBy(column, word);
+  if (drawn.As == ui::Sign::None) return TagWidth(word);
+  const int number = QFontMetrics(TagFont()).horizontalAdvance(drawn.Number);
+  return Px(kSign) + (number > 0 ? Px(kSignGap) + number : 0);
+}
+
+void DrawWord(QPainter& painter, const QRect& room, const QString& word, ui::Tone tone,
+              const ui::Column& column, const Colours& c) {
+  const SignedWord drawn = SignedBy(column, word);
+  if (drawn.As == ui::Sign::None) return DrawTag(painter, room, word, tone, c);
+  const QColor ink = tone == ui::Tone::Plain ? c.Soft : TextColour(c, tone);
+  const QRect sign(room.left(), room.center().y() + 1 - Px(kSign) / 2, Px(kSign), Px(kSign));
+  DrawSign(painter, sign, drawn.As, ink);
+  painter.setFont(TagFont());
+  painter.setPen(ink);
+  painter.drawText(room.adjusted(Px(kSign) + Px(kSignGap), 0, 0, 0),
+                   Qt::AlignVCenter | Qt::AlignLeft, drawn.Number);
+}
+
 /// One after the other; what has no room stands in the tip.
 void DrawTags(QPainter& painter, QRect room, const ui::Cell& cell, const ui::Column& column,
               const Colours& c) {
   for (const QString& word : Shown(cell.Text).split(", ", Qt::SkipEmptyParts)) {
-    if (room.width() < 3 * Px(kTagSide)) return;
-    const std::string says = word.toStdString();
-    DrawTag(painter, room, {says, column.ToneOf ? column.ToneOf(says) : cell.Colour}, c);
-    room.setLeft(room.left() + TagWidth(word) + Px(kTagGap));
+    const int width = WordWidth(word, column);
+    if (room.width() < std::min(width, 3 * Px(kTagSide))) return;
+    DrawWord(painter, room, word, column.ToneOf ? column.ToneOf(word.toStdString()) : cell.Colour,
+             column, c);
+    room.setLeft(room.left() + width + Px(kTagGap));
   }
 }
 
@@ -132,6 +167,17 @@ int DrawSmall(QPainter* painter, const QRect& room, const ui::Column& column, in
   return width + Px(8);
 }
 
+/// How many of the letters stand in a first line of this width: all, or whole words.
+qsizetype FirstLine(const QString& text, const QFontMetrics& metrics, int width) {
+  if (metrics.horizontalAdvance(text) <= width) return text.size();
+  qsizetype end = 0;
+  for (qsizetype blank = text.indexOf(' ');
+       blank >= 0 && metrics.horizontalAdvance(text.left(blank)) <= width;
+       blank = text.indexOf(' ', blank + 1))
+    end = blank + 1;
+  return end;
+}
+
 /// In two lines at the most; gives the room that is left above it.
 QRect DrawUnder(QPainter& painter, QRect room, const std::string& sentence, const Colours& c) {
   room.adjust(0, Px(6), 0, -Px(6));
@@ -139,9 +185,13 @@ QRect DrawUnder(QPainter& painter, QRect room, const std::string& sentence, cons
   below.setTop(room.bottom() + 1 - Px(kUnder));
   painter.setFont(TextFont(12));
   painter.setPen(c.Muted);
-  const int wide = std::max(0, 2 * below.width() - Px(60));  // a line may break early
-  painter.drawText(below, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
-                   painter.fontMetrics().elidedText(Shown(sentence), Qt::ElideRight, wide));
+  const QFontMetrics metrics = painter.fontMetrics();
+  const QString text = Shown(sentence);
+  const qsizetype first = FirstLine(text, metrics, below.width());
+  painter.drawText(below, Qt::AlignLeft | Qt::AlignTop, text.left(first));
+  painter.drawText(below.adjusted(0, first > 0 ? metrics.height() : 0, 0, 0),
+                   Qt::AlignLeft | Qt::AlignTop,
+                   metrics.elidedText(text.mid(first), Qt::ElideRight, below.width()));
   room.setBottom(below.top() - 1);
   return room;
 }
@@ -164,15 +214,16 @@ bool AlignsRight(ColumnKind kind) {
   return kind == ColumnKind::Number;
 }
 
-int CellWidth(const ui::Cell& cell, ColumnKind kind) {
+int CellWidth(const ui::Cell& cell, const ui::Column& column) {
+  const ColumnKind kind = column.Kind;
   const int sides = 2 * Px(kCellSide) + (cell.Best ? Px(kStar) : 0);
   const QString text = CellText(cell, kind);
   if (kind == ColumnKind::Button) return Px(kRowButton) + sides;
-  if (IsTag(cell, kind)) return TagWidth(text) + sides + 2;
+  if (IsTag(cell, kind)) return WordWidth(text, column) + sides + 2;
   if (kind == ColumnKind::Tags) {
     int width = sides + 2;
     for (const QString& word : text.split(", ", Qt::SkipEmptyParts))
-      width += TagWidth(word) + Px(kTagGap);
+      width += WordWidth(word, column) + Px(kTagGap);
     return width;
   }
   const QFontMetrics metrics(TextFont());
@@ -235,11 +286,11 @@ void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option
     room = DrawUnder(painter, room, column.Under(model_.Table().RowAt(index.row()).Key), c);
   painter.setFont(TextFont(kUsualText, column.Under ? QFont::DemiBold : QFont::Normal));
   if (cell.Best) {
-    const int width = CellWidth(cell, column.Kind) - 2 * Px(kCellSide);
+    const int width = CellWidth(cell, column) - 2 * Px(kCellSide);
     DrawStar(painter, QPointF(room.left() + width - Px(kStar) / 3.0, room.center().y() + 1), c);
   }
   if (IsTag(cell, column.Kind)) {
-    DrawTag(painter, room, cell, c);
+    DrawWord(painter, room, CellText(cell, column.Kind), cell.Colour, column, c);
   } else if (column.Kind == ColumnKind::Tags) {
     DrawTags(painter, room, cell, column, c);
   } else if (IsBar(cell, column.Kind) && !cut) {
@@ -255,16 +306,17 @@ void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option
 QSize TableCells::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {
   const ui::Column& column = model_.Column(index.column());
   const int drawn = DrawnWidth(column, model_.Table().RowAt(index.row()).Key);
-  return {CellWidth(model_.Table().At(index.row(), index.column()), column.Kind) + drawn,
+  return {CellWidth(model_.Table().At(index.row(), index.column()), column) + drawn,
           Px(RowHeight(model_.List()))};
 }
 
-/// The whole of a text that is cut; of a name also how its page is opened.
+/// The whole of a text that is cut or drawn as a sign; of a name also how its page is opened.
 bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                            const QStyleOptionViewItem& option, const QModelIndex& index) {
   if (!index.isValid() || event->type() != QEvent::ToolTip) return false;
   QStringList lines;
-  if (sizeHint(option, index).width() > option.rect.width() + 2)
+  const bool cut = sizeHint(option, index).width() > option.rect.width() + 2;
+  if (cut || model_.Column(index.column()).SignOf)
     lines.append(
         CellText(model_.Table().At(index.row(), index.column()), model_.Column(index.column()).Kind)
             .toHtmlEscaped());

@@ -80,7 +80,7 @@ class TableCells : public QStyledItemDelegate {
 };
 
 /// The width that a cell's contents ask for, with the room at its sides.
-int CellWidth(const ui::Cell& cell, ui::ColumnKind kind);
+int CellWidth(const ui::Cell& cell, const ui::Column& column);
 /// How wide the picture before a cell's text is, with its gap; 0 for none.
 int DrawnWidth(const ui::Column& column, int key);
 bool AlignsRight(ui::ColumnKind kind);

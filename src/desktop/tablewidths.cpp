@@ -49,18 +49,18 @@ std::vector<int> TableView::NaturalWidths() const {
   for (const int column : table_.Columns()) {
     const TableHeading& heading = grid_->Heading();
     int width = std::max(heading.HeadingWidth(column), heading.minimumSectionSize());
-    const auto kind = model_.Column(column).Kind;
+    const ui::Column& shown = model_.Column(column);
     const ui::Cell* longest = nullptr;
     const int rows = model_.rowCount();
     for (int row = 0; row < rows; ++row) {
       const ui::Cell& cell = table_.At(row, column);
       if (row < kMeasuredRows) {
-        width = std::max(width, CellWidth(cell, kind));
+        width = std::max(width, CellWidth(cell, shown));
       } else if (!longest || cell.Text.size() > longest->Text.size()) {
         longest = &cell;
       }
     }
-    if (longest) width = std::max(width, CellWidth(*longest, kind));
+    if (longest) width = std::max(width, CellWidth(*longest, shown));
     if (rows > 0) width += DrawnWidth(model_.Column(column), table_.RowAt(0).Key);
     widths.push_back(width);
   }

@@ -16,6 +16,7 @@ ControlView* NewView(ui::OptionButton& option, Stage& stage, QWidget* parent);
 ControlView* NewView(ui::ScrollBar& bar, Stage& stage, QWidget* parent);
 ControlView* NewView(ui::Picture& picture, Stage& stage, QWidget* parent);
 ControlView* NewView(ui::Chart& chart, Stage& stage, QWidget* parent);
+ControlView* NewThinLine(ui::Chart& chart, Stage& stage, QWidget* parent);
 ControlView* NewView(ui::Report& report, Stage& stage, QWidget* parent);
 
 }  // namespace grapplemont::desktop

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QTimer>
 #include <algorithm>
 
@@ -31,6 +32,7 @@ Window::Window(WindowDesk& desk, Options options)
       full_(new QStackedLayout(ground_)) {
   desk_.window_ = this;
   desk_.OpenShellOptions = [this] { ShowOptions(); };
+  desk_.Help.Keys = [this](ui::Screen& of) { return KeyLines(of); };
   settings_.Game = options_.Game;
   UseDateForm(settings_.Dates());
   ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
@@ -52,11 +54,15 @@ Window::~Window() {
   syncing_ = true;
   qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
   desk_.OpenShellOptions = {};
+  desk_.Help.Keys = {};
   desk_.window_ = nullptr;
 }
 
 QString Window::PictureFile(const std::string& name) const {
-  return QDir::cleanPath(options_.Pictures + "/" + Shown(name));
+  for (const QString& folder : options_.Pictures)
+    if (const QString file = folder + "/" + Shown(name); QFileInfo(file).isFile())
+      return QDir::cleanPath(file);
+  return {};
 }
 
 void Window::KeepPage(const QString& file) {
@@ -98,6 +104,7 @@ void Window::DropGone() {
     if (!desk_.Holds(*layer.Screen)) {
       Retire(layer);
       settings_.Forget(*layer.Screen);
+      hadKeyboard_.erase(layer.Screen);
     }
   std::erase_if(layers_, [](const Layer& layer) { return !layer.View; });
 }
@@ -107,6 +114,7 @@ void Window::DropGone() {
 void Window::Retire(Layer& layer) {
   if (!layer.View) return;
   if (top_ == layer.Screen) top_ = nullptr;
+  hadKeyboard_[layer.Screen] = layer.View->KeyboardHeld();
   layer.View->Leave();
   if (frame_ && layer.Screen == framed_) {
     // Names that were found belong to the game that is left.
@@ -117,6 +125,7 @@ void Window::Retire(Layer& layer) {
     framed_ = nullptr;
     for (Layer& other : layers_)
       if (other.View && other.View != layer.View && frame->isAncestorOf(other.View)) {
+        hadKeyboard_[other.Screen] = other.View->KeyboardHeld();
         other.View->Leave();
         other.View = nullptr;
       }
@@ -153,6 +162,7 @@ Window::Layer& Window::LayerOf(const Held& screen, const Scene& scene) {
     layer.View = new ScreenView(screen, *this, ground_);
     Place(*layer.View, scene);
   }
+  GiveBackKeyboard(*layer.View);
   layers_.push_back(layer);
   return layers_.back();
 }
@@ -224,6 +234,14 @@ void Window::ShowNow(const Scene& scene) {
   const bool isNew = top_ != &top->Shows();
   top_ = &top->Shows();
   if (isNew && !box_) top->TakeKeyboard();
+}
+
+/// Of a view that was made again, to the control that had the keyboard in the one before.
+void Window::GiveBackKeyboard(ScreenView& view) {
+  const auto had = hadKeyboard_.find(&view.Shows());
+  if (had == hadKeyboard_.end()) return;
+  if (had->second) view.HoldKeyboard(*had->second);
+  hadKeyboard_.erase(had);
 }
 
 ScreenView* Window::ViewFor(const ui::Screen* screen) const {

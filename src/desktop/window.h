@@ -41,8 +41,8 @@ class WindowDesk : public ui::Desk {
 class Window : public QMainWindow, public Stage {
  public:
   struct Options {
-    QString Pictures;  // the folder gfx/
-    QString Settings;  // the file settings.ini; empty: nothing is kept
+    QStringList Pictures;  // folders over each other, the uppermost first
+    QString Settings;      // the file settings.ini; empty: nothing is kept
     std::function<void()> Closing;
     std::function<OpenGame()> Game = {};  // what is being played; without it no game is
     /// Plays a sound at a volume in percent, without waiting for it; without it there is none.
@@ -67,6 +67,9 @@ class Window : public QMainWindow, public Stage {
   void SetVolume(int percent);
   void SetDates(DateForm form);
   void TurnFullScreen();
+  /// The desktop has turned dark or light; who has chosen its colours sees that, once what is under
+  /// way is done.
+  void FollowDesktop(bool dark);
   /// All views are made again: their sizes and colours were taken when they were built.
   void Relook();
 
@@ -86,6 +89,9 @@ class Window : public QMainWindow, public Stage {
   QString PictureFile(const std::string& name) const override;
   void Act(const std::function<std::string()>& act) override;
   void Hint(QWidget& beside, const QString& text, ui::Tone tone = ui::Tone::Red) override;
+
+  /// The key that leads to the window's options.
+  std::string KeyOfOptions();
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -115,6 +121,7 @@ class Window : public QMainWindow, public Stage {
   void Retire(Layer& layer);
   void RetireAll();
   void ShowNow(const Scene& scene);
+  void GiveBackKeyboard(ScreenView& view);
   /// What is shown of a screen; nullptr for nothing.
   ScreenView* ViewFor(const ui::Screen* screen) const;
   ScreenView* TopView() const { return ViewFor(top_); }
@@ -147,12 +154,23 @@ class Window : public QMainWindow, public Stage {
 
   // Keys and the window's own commands, in windowkeys.cpp and windowcommands.cpp.
   struct OwnCommand {
-    std::vector<int> Keys;  // with Ctrl
-    QString Words, Key;     // as they are found; without words it is not
+    QString Words;
     std::function<void()> Run;
-    QString Also = {};  // other words that people say for it
+    QString Also = {};       // other words that people say for it
+    std::string Id = {};     // what its key is kept under; none: no key can be set
+    std::string Usual = {};  // its key unless the player sets another
+    bool IsFound = true;     // by search
   };
   std::vector<OwnCommand> OwnCommands();
+  QString KeyOf(const OwnCommand& own) const {
+    return own.Id.empty() ? Shown(own.Usual) : settings_.Key(own.Id, own.Usual);
+  }
+  /// All that a key can be set for at present, and all that one has been set for.
+  std::vector<KeyedCommand> KeyCommands();
+  void AddPageKeys(std::vector<KeyedCommand>& commands);
+  /// What F1 says of them on a screen.
+  std::vector<std::string> KeyLines(ui::Screen& of);
+  bool PressOwnKey(const QKeyEvent& event);
   std::vector<OwnCommand> KeyedCommands();
   std::vector<OwnCommand> SettingCommands();
   bool HandleCommonKey(const QWidget& typedIn, const QKeyEvent& event);
@@ -184,6 +202,8 @@ class Window : public QMainWindow, public Stage {
   QPointer<Finder> finder_;
   std::vector<Finder::Entry> recent_;  // what was chosen in it, the last first
   QPointer<QLabel> hint_;
+  /// The controls that had the keyboard in views that were taken away, and will be made again.
+  std::map<const ui::Screen*, const ui::Control*> hadKeyboard_;
   std::map<std::string, std::string> commandOf_;  // screen to the command that opens it
   int acting_ = 0;
   std::set<ui::Sound> heard_;  // in the event that is under way

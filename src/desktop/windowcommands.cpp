@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QTimer>
 #include <algorithm>
 
 #include "desktop/window.h"
@@ -19,33 +20,35 @@ namespace {
 // What people look for who do not know how a setting is called here.
 constexpr const char* kTextWords = "text size font letters zoom bigger";
 constexpr const char* kThemeWords = "theme colours dark light mode";
+constexpr const char* kOptionsKeyId = "window.options";
+constexpr const char* kOptionsKey = "Ctrl+,";
 constexpr const char* kSoundWords = "sound volume music bell crowd mute louder quieter";
 
 }  // namespace
 
 /// Those with a key.
 std::vector<Window::OwnCommand> Window::KeyedCommands() {
-  return {{{Qt::Key_Comma},
-           "Window options",
-           "Ctrl ,",
-           [this] { OpenOptions(); },
-           "settings preferences theme text size sound volume language dates animation scale keys"},
-          {{}, "Full screen", "F11", [this] { TurnFullScreen(); }, "window maximise"},
-          {{Qt::Key_K}, {}, {}, [this] { OpenFinder(); }},
-          {{Qt::Key_L}, {}, {}, [this] { TurnColours(); }},
-          {{Qt::Key_Plus, Qt::Key_Equal},
-           "Larger text",
-           "Ctrl +",
-           [this] { SetZoom(settings_.Zoom() + 1); },
-           kTextWords},
-          {{Qt::Key_Minus},
-           "Smaller text",
-           "Ctrl -",
-           [this] { SetZoom(settings_.Zoom() - 1); },
-           kTextWords},
-          {{Qt::Key_0}, "Text as the desktop has it", "Ctrl 0", [this] { SetZoom(0); }, kTextWords},
-          {{}, "Help for this page", "F1", [this] { OpenHelp(); }, "keys manual how to"},
-          {{}, "Glossary", {}, [this] { OpenGlossary({}); }, "terms words meaning"}};
+  const auto zoomBy = [this](int step) {
+    return [this, step] { SetZoom(settings_.Zoom() + step); };
+  };
+  return {
+      {"Search everything", [this] { OpenFinder(); }, {}, kSearchKeyId, kSearchKey, false},
+      {"Filter the list",
+       [this] {
+         if (TopView()) TopView()->FocusSearch();
+       },
+       "search rows", "window.filter", "Ctrl+F"},
+      {"Window options", [this] { OpenOptions(); },
+       "settings preferences theme text size sound volume language dates animation scale keys",
+       kOptionsKeyId, kOptionsKey},
+      {"Full screen", [this] { TurnFullScreen(); }, "window maximise", "window.full", "F11"},
+      {"Dark or light colours", [this] { TurnColours(); }, {}, "window.colours", "Ctrl+L", false},
+      {"Larger text", zoomBy(1), kTextWords, "window.larger", "Ctrl++"},
+      {"Larger text", zoomBy(1), {}, {}, "Ctrl+=", false},  // the same key without Shift
+      {"Smaller text", zoomBy(-1), kTextWords, "window.smaller", "Ctrl+-"},
+      {"Text as the desktop has it", [this] { SetZoom(0); }, kTextWords, "window.usual", "Ctrl+0"},
+      {"Help for this page", [this] { OpenHelp(); }, "keys manual how to", "window.help", "F1"},
+      {"Glossary", [this] { OpenGlossary({}); }, "terms words meaning", "window.glossary"}};
 }
 
 /// What else the window options hold: every set of colours, and what is not as it is already.
@@ -53,15 +56,13 @@ std::vector<Window::OwnCommand> Window::SettingCommands() {
   constexpr int kLouder = 10;  // percent
   std::vector<OwnCommand> commands;
   const auto add = [&](const QString& words, const char* also, std::function<void()> run) {
-    commands.push_back({{}, words, {}, std::move(run), also});
+    commands.push_back({words, std::move(run), also});
   };
   const auto addColours = [&](const char* words, Scheme scheme) {
     add(words, kThemeWords, [this, scheme] { SetColours(scheme); });
   };
   addColours("Dark colours", Scheme::Dark);
   addColours("Light colours", Scheme::Light);
-  // The key turns to the one that is not shown.
-  (commands.end() - (IsDark(settings_.Colours()) ? 1 : 2))->Key = "Ctrl L";
   addColours("High contrast", Scheme::Contrast);
   addColours("Colours as the desktop has them", Scheme::System);
   add(settings_.Still() ? "Let the cursor blink" : "Nothing moves by itself",
@@ -99,12 +100,24 @@ void Window::OpenGlossary(const std::string& term) {
 }
 
 void Window::TurnColours() {
+  const bool followed = settings_.Colours() == Scheme::System;
   SetColours(IsDark(settings_.Colours()) ? Scheme::Light : Scheme::Dark);
+  if (followed)
+    Hint(*this, "Window Options (Ctrl ,) have the desktop's own colours again.", ui::Tone::Muted);
 }
 
 void Window::SetColours(Scheme scheme) {
   settings_.SetColours(scheme);
   Relook();
+}
+
+void Window::FollowDesktop(bool dark) {
+  constexpr int kLater = 250;  // milliseconds
+  if (acting_ > 0 || busy_ || box_) {
+    QTimer::singleShot(kLater, this, [this, dark] { FollowDesktop(dark); });
+    return;
+  }
+  if (HearDesktop(dark) && settings_.Colours() == Scheme::System) Relook();
 }
 
 void Window::TurnFullScreen() {
@@ -151,12 +164,78 @@ void Window::OpenOptions() {
 
 void Window::ShowOptions() {
   if (desk_.Top() && desk_.Top()->Name() == kWindowOptions) return;
+  desk_.Open(NewWindowOptions(desk_, *this, KeyCommands()));
+}
+
+std::string Window::KeyOfOptions() {
+  return settings_.Key(kOptionsKeyId, kOptionsKey).toStdString();
+}
+
+// What keys do, as Window Options and F1 list it.
+
+namespace {
+
+/// Steps have keys by their numbers, which are no one command's.
+bool IsNumbered(const ui::Button& button) {
+  return button.Key.starts_with("Alt+");
+}
+
+}  // namespace
+
+/// Of the pages that lie above the hub, each button once.
+void Window::AddPageKeys(std::vector<KeyedCommand>& commands) {
+  const auto add = [&](const ui::Button& button, const std::string& where) {
+    const std::string id = Settings::KeyIdOf(button);
+    if (IsNumbered(button) || std::ranges::find(commands, id, &KeyedCommand::Id) != commands.end())
+      return;
+    commands.push_back({id, button.Text.Get(), where, button.Key});
+  };
+  for (const auto& screen : desk_.Screens()) {
+    const ScreenView* const view = ViewFor(screen.get());
+    if (!view || screen->Is() == ui::Role::Hub) continue;
+    for (const ui::Button* action : view->ActionsInOrder()) add(*action, screen->Title.Get());
+    for (const ui::Control* control : screen->Controls())
+      if (const auto* button = dynamic_cast<const ui::Button*>(control);
+          button && !button->Key.empty())
+        add(*button, screen->Title.Get());
+  }
+}
+
+std::vector<KeyedCommand> Window::KeyCommands() {
   std::vector<KeyedCommand> commands;
   if (const ScreenView* hub = HubView())
     for (const auto& group : hub->Page().Side)
       for (const auto& command : group.Commands)
-        commands.push_back({command.Press->Name(), command.Press->Text.Get(), command.Key});
-  desk_.Open(NewWindowOptions(desk_, *this, std::move(commands)));
+        commands.push_back(
+            {command.Press->Name(), command.Press->Text.Get(), "Side bar", command.Key});
+  for (const OwnCommand& own : KeyedCommands())
+    if (!own.Id.empty()) commands.push_back({own.Id, own.Words.toStdString(), "Window", own.Usual});
+  AddPageKeys(commands);
+  for (KeyedCommand& set : settings_.KeysSet())
+    if (std::ranges::find(commands, set.Id, &KeyedCommand::Id) == commands.end())
+      commands.push_back(std::move(set));
+  return commands;
+}
+
+std::vector<std::string> Window::KeyLines(ui::Screen& of) {
+  std::vector<std::string> lines;
+  const auto add = [&](const QString& key, const std::string& words) {
+    if (!key.isEmpty()) lines.push_back(key.toStdString() + ": " + words);
+  };
+  bool steps = false;
+  for (const ui::Control* control : of.Controls()) {
+    const auto* button = dynamic_cast<const ui::Button*>(control);
+    if (!button || !button->Visible || of.Is() == ui::Role::Hub) continue;
+    if (!IsNumbered(*button)) add(settings_.KeyOn(*button), button->Text);
+    steps = steps || IsNumbered(*button);
+  }
+  if (steps) lines.emplace_back("Alt+1, Alt+2 and on: back to that step");
+  for (const auto& group : of.Layout().Side)
+    for (const auto& command : group.Commands)
+      add(settings_.Key(command.Press->Name(), command.Key), command.Press->Text);
+  for (const OwnCommand& own : KeyedCommands())
+    if (!own.Id.empty()) add(KeyOf(own), own.Words.toStdString());
+  return lines;
 }
 
 void Window::SetZoom(int zoom) {

@@ -42,8 +42,7 @@ void Window::PressEnter() {
     else
       PressHub(*button);
   } else if (const ui::Button* const main = top.MainNow(); main && !main->Enabled) {
-    HintAt(*main, main->Tip->empty() ? Shown(main->Text.Get()) + " cannot be pressed now."
-                                     : Shown(main->Tip.Get()));
+    HintAt(*main, Shown(WhyNotPress(*main)));
   }
 }
 
@@ -60,22 +59,72 @@ void Window::ShowEnter() {
   if (frame_) frame_->Top().SetEnter(pressed);
 }
 
+namespace {
+
+QKeyCombination PressedIn(const QKeyEvent& event) {
+  return QKeyCombination(event.modifiers() & ~Qt::KeypadModifier,
+                         static_cast<Qt::Key>(event.key()));
+}
+
+/// Signs such as + may need Shift to be typed.
+bool IsPressed(const QString& key, const QKeyEvent& event) {
+  const QKeySequence keys(key);
+  if (keys.isEmpty()) return false;
+  const QKeyCombination pressed = PressedIn(event);
+  const bool isSign = event.key() < Qt::Key_A && event.key() > Qt::Key_Space;
+  return keys[0] == pressed ||
+         (isSign && keys[0] == QKeyCombination(pressed.keyboardModifiers() & ~Qt::ShiftModifier,
+                                               pressed.key()));
+}
+
+/// Letters are typed; only with Ctrl or Alt do they mean anything else.
+bool IsLetter(const QKeyEvent& event) {
+  return !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) && event.key() < Qt::Key_F1;
+}
+
 /// A box that is typed in takes back its own letters by Ctrl+Z.
-bool Window::PressButtonKey(const QWidget& typedIn, const QKeyEvent& event) {
-  ScreenView* const top = TopView();
+bool TakesItself(const QWidget& typedIn, const QKeyEvent& event) {
   const bool types =
       qobject_cast<const QLineEdit*>(&typedIn) || qobject_cast<const QPlainTextEdit*>(&typedIn);
-  if (!top || event.isAutoRepeat()) return false;
-  if (types && event.modifiers().testFlag(Qt::ControlModifier)) return false;
-  const QKeyCombination pressed(event.modifiers() & ~Qt::KeypadModifier,
-                                static_cast<Qt::Key>(event.key()));
+  return types && event.modifiers().testFlag(Qt::ControlModifier) &&
+         (event.key() == Qt::Key_Z || event.key() == Qt::Key_Y);
+}
+
+}  // namespace
+
+bool Window::PressButtonKey(const QWidget& typedIn, const QKeyEvent& event) {
+  ScreenView* const top = TopView();
+  if (!top || event.isAutoRepeat() || TakesItself(typedIn, event)) return false;
+  if (top->Shows().Is() == ui::Role::Hub) return false;  // the side bar's keys are its own
   for (ui::Control* control : top->Shows().Controls()) {
     auto* const button = dynamic_cast<ui::Button*>(control);
-    if (!button || button->Key.empty() || !button->Visible) continue;
-    if (QKeySequence(Shown(button->Key))[0] != pressed) continue;
-    if (!top->Press(button)) HintAt(*button, Shown(button->Tip.Get()));
+    if (!button || !button->Visible || !IsPressed(settings_.KeyOn(*button), event)) continue;
+    if (!top->Press(button)) HintAt(*button, Shown(WhyNotPress(*button)));
     return true;
   }
+  return false;
+}
+
+bool Window::PressSideKey(const QKeyEvent& event) {
+  if (!HubInReach() || event.isAutoRepeat()) return false;
+  for (const auto& group : HubView()->Page().Side)
+    for (const auto& command : group.Commands) {
+      if (!IsPressed(settings_.Key(command.Press->Name(), command.Key), event)) continue;
+      if (const std::string why = WhyNotPress(*command.Press); !why.empty())
+        Hint(*this, Shown(why));
+      else if (command.Press->Visible)
+        PressHub(*command.Press);
+      return true;
+    }
+  return false;
+}
+
+bool Window::PressOwnKey(const QKeyEvent& event) {
+  for (const OwnCommand& own : KeyedCommands())
+    if (IsPressed(KeyOf(own), event)) {
+      if (!event.isAutoRepeat()) own.Run();
+      return true;
+    }
   return false;
 }
 
@@ -87,23 +136,8 @@ bool Window::HandleCommonKey(const QWidget& typedIn, const QKeyEvent& event) {
     if (!event.isAutoRepeat()) PressEnter();
     return true;
   }
-  if (modifiers == Qt::NoModifier && event.key() == Qt::Key_F1) {
-    OpenHelp();
-    return true;
-  }
-  if (modifiers == Qt::NoModifier && event.key() == Qt::Key_F11 && !event.isAutoRepeat()) {
-    TurnFullScreen();
-    return true;
-  }
-  if (PressButtonKey(typedIn, event) || PressSideKey(event)) return true;
-  if (!modifiers.testFlag(Qt::ControlModifier) || modifiers.testFlag(Qt::AltModifier)) return false;
-  if (event.key() == Qt::Key_F) return TopView() && TopView()->FocusSearch();
-  for (const OwnCommand& own : OwnCommands())
-    if (std::find(own.Keys.begin(), own.Keys.end(), event.key()) != own.Keys.end()) {
-      own.Run();
-      return true;
-    }
-  return false;
+  if (IsLetter(event)) return false;
+  return PressButtonKey(typedIn, event) || PressSideKey(event) || PressOwnKey(event);
 }
 
 namespace {

@@ -15,10 +15,9 @@ namespace {
 /// In the order of Scheme.
 constexpr const char* kThemes[] = {"As the desktop has it", "Dark", "Light", "High contrast"};
 constexpr int kTexts[] = {85, 100, 115, 130, 150, 175, 200};  // percent of the usual size
-/// Keys that the window itself knows, beside all letters without Ctrl or Alt.
-constexpr const char* kTaken[] = {"F1",     "F11",    "Ctrl+K", "Ctrl+L",      "Ctrl+F", "Ctrl++",
-                                  "Ctrl+-", "Ctrl+0", "Ctrl+,", "Ctrl+Return", "Ctrl+C", "Ctrl+V",
-                                  "Ctrl+X", "Ctrl+A", "Ctrl+Z", "Ctrl+Y",      "Ctrl+="};
+/// Keys that tables and lines of text know, beside all letters without Ctrl or Alt.
+constexpr const char* kTaken[] = {"Ctrl+Return", "Ctrl+C", "Ctrl+V", "Ctrl+X",
+                                  "Ctrl+A",      "Ctrl+Z", "Ctrl+Y", "Ctrl+="};
 
 /// The key that a text names, in Qt's own way of writing it; empty for none that can be pressed.
 QString KeyIn(const std::string& typed) {
@@ -40,12 +39,14 @@ class frmWindow : public ui::Screen {
     for (const int scale : kScales) cmbscale.Add(std::to_string(scale) + "%", scale);
     for (const DateFormName& form : kDateForms) cmbdates.Add(form.Words);
     cmbscale.Tip = "Counts from the next start of the game on.";
-    lstkeys.EmptyText = "The keys of the side bar are set while a game is open.";
+    lblkeys.Text = "For the actions of a page, come here from it by " + window_.KeyOfOptions() +
+                   ": they stand at the end.";
+    lblkeys.Colour = ui::Tone::Muted;
   }
 
   ui::Page Layout() override {
     ui::Page page;
-    page.Actions = {&cmdkey, &cmdusual, &cmdback};
+    page.Actions = {&cmdkey, &cmdreset, &cmdusual, &cmdback};
     page.Main = &cmdback;
     page.Cancel = &cmdback;
     page.Body = ui::Columns(
@@ -54,7 +55,7 @@ class frmWindow : public ui::Screen {
                    ui::Group("Dates", {ui::Field("Written", cmbdates), lblsample}),
                    ui::Group("Sound", {chksound, ui::Field("Volume", hsvolume)})})
              .Grow(2),
-         ui::Group("Keys", {ui::Grow(lstkeys)}).Grow(3)});
+         ui::Group("Keys", {ui::Grow(lstkeys), lblkeys}).Grow(3)});
     return page;
   }
 
@@ -76,19 +77,33 @@ class frmWindow : public ui::Screen {
 
  private:
   std::string KeyOf(const KeyedCommand& command) const {
-    return window_.Kept().Key(command.Name, command.Usual).toStdString();
+    return window_.Kept().Key(command.Id, command.Usual).toStdString();
   }
 
   void ShowKeys() {
     std::vector<ui::ListBox::Row> rows;
     for (std::size_t i = 0; i < commands_.size(); ++i)
-      rows.push_back({{commands_[i].Caption, KeyOf(commands_[i])}, static_cast<int>(i) + 1});
+      rows.push_back({{commands_[i].Caption, commands_[i].Where, KeyOf(commands_[i])},
+                      static_cast<int>(i) + 1});
     lstkeys.Fill(std::move(rows));
     if (lstkeys.Selected() == 0 && lstkeys.Count() > 0) lstkeys.Select(1);
-    for (ui::Button* act : {&cmdkey, &cmdusual}) {
-      act->Enabled = !commands_.empty();
-      act->Tip = commands_.empty() ? lstkeys.EmptyText : "";
-    }
+    ShowReset();
+  }
+
+  const KeyedCommand& Chosen() const {
+    return commands_[static_cast<std::size_t>(std::max(1, lstkeys.Key()) - 1)];
+  }
+
+  void ShowReset() {
+    const bool isUsual = KeyOf(Chosen()) == Chosen().Usual;
+    cmdreset.Enabled = !isUsual;
+    cmdreset.Tip = !isUsual                 ? "Gives it back " + UsualOf(Chosen()) + "."
+                   : Chosen().Usual.empty() ? "It has no key."
+                                            : "It has its usual key.";
+  }
+
+  static std::string UsualOf(const KeyedCommand& command) {
+    return command.Usual.empty() ? "no key" : command.Usual;
   }
 
   void cmbtheme_Click() { window_.SetColours(static_cast<Scheme>(cmbtheme.Selected() - 1)); }
@@ -113,29 +128,43 @@ class frmWindow : public ui::Screen {
   /// Why a command cannot have a key; empty when it can.
   std::string WhyNot(const QString& key, const KeyedCommand& command) const {
     if (key.isEmpty()) return "Write a key as \"F7\" or \"Ctrl+R\".";
-    if (std::ranges::any_of(kTaken, [&](const char* taken) { return key == taken; }))
-      return key.toStdString() + " is a key of the window.";
+    const std::string typed = key.toStdString();
     for (const KeyedCommand& other : commands_)
-      if (other.Name != command.Name && KeyOf(other) == key.toStdString())
-        return key.toStdString() + " is the key of " + other.Caption + ".";
+      if (other.Id != command.Id && KeyOf(other) == typed && MayMeet(other, command))
+        return typed + " is the key of " + other.Caption + ".";
+    if (typed != command.Usual &&
+        std::find(std::begin(kTaken), std::end(kTaken), typed) != std::end(kTaken))
+      return typed + " is a key of tables and lines of text.";
     return {};
   }
 
+  /// Pages that are never open together may have the same key.
+  static bool MayMeet(const KeyedCommand& one, const KeyedCommand& other) {
+    const auto isOfPage = [](const KeyedCommand& command) { return command.Id.starts_with("frm"); };
+    return !isOfPage(one) || !isOfPage(other) || one.Where == other.Where;
+  }
+
   void cmdkey_Click() {
-    if (lstkeys.Key() == 0) return;
-    const KeyedCommand& command = commands_[static_cast<std::size_t>(lstkeys.Key() - 1)];
+    const KeyedCommand command = Chosen();
     const std::string typed =
         desk().Prompt("Change Key", "The key for " + command.Caption + ":", KeyOf(command));
     if (typed.empty()) return;
     const QString key = KeyIn(typed);
     if (desk().Objects(WhyNot(key, command))) return;
-    window_.Kept().SetKey(command.Name, key);
+    window_.Kept().SetKey(command, key);
+    Changed();
+  }
+
+  /// Its usual key may be another's by now.
+  void cmdreset_Click() {
+    const KeyedCommand command = Chosen();
+    if (!command.Usual.empty() && desk().Objects(WhyNot(Shown(command.Usual), command))) return;
+    window_.Kept().ResetKey(command.Id);
     Changed();
   }
 
   void cmdusual_Click() {
-    for (const KeyedCommand& command : commands_)
-      window_.Kept().SetKey(command.Name, Shown(command.Usual));
+    for (const KeyedCommand& command : commands_) window_.Kept().ResetKey(command.Id);
     Changed();
   }
 
@@ -159,9 +188,16 @@ class frmWindow : public ui::Screen {
   ui::CheckBox chksound{*this, "chksound", "A bell and a crowd at your shows", false,
                         &frmWindow::chksound_Click};
   ui::ScrollBar hsvolume{*this, "hsvolume", 0, 100, &frmWindow::hsvolume_Change};
-  ui::ListBox lstkeys{
-      *this, "lstkeys", {{"Command", ui::ColumnKind::Text, 3}, {"Key", ui::ColumnKind::Text, 1}}};
+  ui::ListBox lstkeys{*this,
+                      "lstkeys",
+                      {{"Command", ui::ColumnKind::Text, 4},
+                       {"Of", ui::ColumnKind::Text, 2},
+                       {"Key", ui::ColumnKind::Text, 2}},
+                      &frmWindow::ShowReset,
+                      cmdkey};
+  ui::Label lblkeys{*this, "lblkeys"};
   ui::Button cmdkey{*this, "cmdkey", "Change Key", &frmWindow::cmdkey_Click};
+  ui::Button cmdreset{*this, "cmdreset", "Reset", &frmWindow::cmdreset_Click};
   ui::Button cmdusual{*this, "cmdusual", "All Keys As They Were", &frmWindow::cmdusual_Click};
   ui::Button cmdback{*this, "cmdback", "Close", [this] { Close(); }};
 };

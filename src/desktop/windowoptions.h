@@ -4,16 +4,12 @@
 #include <string>
 #include <vector>
 
+#include "desktop/settings.h"
 #include "ui/desk.h"
 
 namespace grapplemont::desktop {
 
 class Window;
-
-/// A command of the side bar with the key that it has unless the player sets another.
-struct KeyedCommand {
-  std::string Name, Caption, Usual;
-};
 
 /// Scales of the whole window to choose from, in percent.
 inline constexpr int kScales[] = {75, 100, 125, 150, 175, 200, 250};

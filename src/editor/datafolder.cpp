@@ -41,8 +41,13 @@ DataBusy::DataBusy()
           "The default data are being edited in another program. Close the editor there first; "
           "nothing was changed.") {}
 
-DataFolder::DataFolder(Disk& disk, std::string folder) : disk_(disk), folder_(std::move(folder)) {
-  const Disk::Kind kind = disk_.Look(folder_);
+DataFolder::DataFolder(Disk& disk, std::string folder, std::string below)
+    : disk_(disk), folder_(std::move(folder)), below_(std::move(below)) {
+  Disk::Kind kind = disk_.Look(folder_);
+  if (kind == Disk::Kind::Nothing && !below_.empty()) {
+    disk_.MakeFolder(folder_);
+    kind = Disk::Kind::Folder;
+  }
   if (kind == Disk::Kind::Nothing || kind == Disk::Kind::File)
     throw WorldFault("There is no folder \"" + folder_ + "\". Put the game's data there.");
   if (!disk_.Lock(Lock())) throw DataBusy();
@@ -63,8 +68,14 @@ DataFolder::~DataFolder() {
 void DataFolder::Read() {
   std::map<std::string, Bytes> files;
   for (const std::string_view file : kDataSet) {
-    const std::string name(file), path = folder_ + "/" + name;
-    const Disk::Kind kind = disk_.Look(path);
+    const std::string name(file);
+    std::string path = folder_ + "/" + name;
+    Disk::Kind kind = disk_.Look(path);
+    if (kind == Disk::Kind::Nothing && !below_.empty()) {
+      path = below_ + "/" + name;
+      kind = disk_.Look(path);
+      if (kind != Disk::Kind::Nothing) fromBelow_.insert(name);
+    }
     if (kind == Disk::Kind::Nothing) continue;
     if (kind != Disk::Kind::File) {
       unreadable_.push_back({name, name + " is not a plain file."});
@@ -141,12 +152,52 @@ void DataFolder::Commit() {
   const auto changes = world_.Changes();
   if (changes.empty()) return;
   if (!backedUp_) KeepBackup(FilesNow());
-  Take(StepOf(changes), [this] { world_.MarkCommitted(); });
+  Take(WithAllOwn(StepOf(changes)), [this] {
+    world_.MarkCommitted();
+    fromBelow_.clear();
+  });
+}
+
+DataStep DataFolder::WithAllOwn(DataStep step) const {
+  std::set<std::string> missing = fromBelow_;
+  for (StepFile& file : step)
+    if (missing.erase(file.Name)) file.Before.reset();
+  for (const Table* table : world_.Tables())
+    if (const std::string name(table->File()); missing.contains(name)) {
+      const ByteSpan bytes = table->Committed();
+      step.push_back({name, {}, Bytes(bytes.begin(), bytes.end())});
+    }
+  return step;
+}
+
+void DataFolder::RefuseUnreadable() const {
+  if (!unreadable_.empty())
+    throw WorldFault(unreadable_.front().Why + " Move it away first; nothing was restored.");
+}
+
+bool DataFolder::Covers() const {
+  return !below_.empty() && std::ranges::any_of(kDataSet, [this](std::string_view file) {
+    return disk_.Look(folder_ + "/" + std::string(file)) != Disk::Kind::Nothing;
+  });
+}
+
+void DataFolder::Uncover() {
+  RefuseUnreadable();
+  const auto own = FilesNow();
+  const auto below = ReadWorldFiles(disk_, below_);
+  std::vector<FileChange> changes;
+  for (const auto& [name, bytes] : own)
+    if (!fromBelow_.contains(name)) changes.push_back({name, true, false, bytes, {}});
+  // First, other than with Restore: nothing else keeps what is about to go.
+  KeepBackup(own);
+  Take(StepOf(changes), [&] {
+    world_.Load(below);
+    for (const auto& [name, bytes] : below) fromBelow_.insert(name);
+  });
 }
 
 bool DataFolder::Restore() {
-  if (!unreadable_.empty())
-    throw WorldFault(unreadable_.front().Why + " Move it away first; nothing was restored.");
+  RefuseUnreadable();
   FinishSwap(disk_, BackupFolder());
   std::map<std::string, Bytes> files;
   for (auto& [name, bytes] : ReadWorldFiles(disk_, BackupFolder()))
@@ -154,7 +205,10 @@ bool DataFolder::Restore() {
   const auto before = FilesNow();
   const DataStep step = StepBetween(before, files);
   if (step.empty()) return false;
-  Take(step, [&] { world_.Load(files); });
+  Take(WithAllOwn(step), [&] {
+    world_.Load(files);
+    fromBelow_.clear();
+  });
   // Only now: were it to go first, a fault between the two would cost the backup itself.
   try {
     KeepBackup(before);

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -26,12 +27,15 @@ struct UnreadableFile {
 };
 
 /// The default data while it is edited: the ten files of the data folder as a World, locked against
-/// other editors. Whatever rules do to the World goes to disk all or nothing with each Commit.
+/// other editors. Whatever rules do to the World goes to disk all or nothing with each Commit. What
+/// the folder lacks comes from the one below it, which is never changed: the first commit makes all
+/// ten files the player's own, so that no update puts strange files beside theirs.
 class DataFolder {
  public:
-  /// Opens the folder; a commit or restore that was cut short is brought to its end first. Throws
-  /// DataBusy, DiskError, and WorldFault where there is not a folder.
-  DataFolder(Disk& disk, std::string folder);
+  /// Opens the folder; a commit or restore that was cut short is brought to its end first. `below`
+  /// holds what came with the program; without one nothing did. Throws DataBusy, DiskError, and
+  /// WorldFault where there is not a folder.
+  DataFolder(Disk& disk, std::string folder, std::string below = {});
   ~DataFolder();
   DataFolder(const DataFolder&) = delete;
   DataFolder& operator=(const DataFolder&) = delete;
@@ -57,6 +61,12 @@ class DataFolder {
   /// backup, and nothing uncommitted. Throws as Commit, and WorldFault for an invalid backup.
   bool Restore();
 
+  /// Whether files of the player's own lie over the world that came with the program.
+  bool Covers() const;
+  /// The world that came with the program takes the place of the player's own, which becomes the
+  /// backup. Requires Covers(), and nothing uncommitted. Throws as Commit.
+  void Uncover();
+
  private:
   enum class Unfinished { Nothing, Drop, Apply };
 
@@ -65,13 +75,17 @@ class DataFolder {
   /// The files as they are on disk, except those that cannot be read.
   std::map<std::string, Bytes> FilesNow() const;
   void Read();
+  void RefuseUnreadable() const;
+  /// A step that leaves all ten files in the folder.
+  DataStep WithAllOwn(DataStep step) const;
   void KeepBackup(const std::map<std::string, Bytes>& files);
   void FinishBusiness();
   /// `made` runs once the step is on disk; what fails later does not undo it.
   void Take(const DataStep& step, const std::function<void()>& made);
 
   Disk& disk_;
-  std::string folder_;
+  std::string folder_, below_;
+  std::set<std::string> fromBelow_;  // files that the folder lacks
   grapplemont::World world_;
   std::vector<UnreadableFile> unreadable_;
   bool backedUp_ = false;

@@ -1,7 +1,9 @@
 #include "program/screens.h"
 
 #include "calendar/screens/calendarscreens.h"
+#include "chronicle/screens/chroniclescreens.h"
 #include "editor/screens/screenpages.h"
+#include "halls/screens/hallscreens.h"
 #include "info/screens/helpscreens.h"
 #include "info/screens/infoscreens.h"
 #include "program/screenfinding.h"
@@ -55,9 +57,14 @@ namespace grapplemont {
   SCREEN(frmTheEnd)          \
   SCREEN(frmPinky)           \
   SCREEN(frmPlayOn)          \
+  SCREEN(frmRecords)         \
+  SCREEN(frmHall)            \
+  SCREEN(frmYearbook)        \
+  SCREEN(frmFamilyTree)      \
   SCREEN(frmMainScreen)      \
   SCREEN(frmEvent)           \
   SCREEN(frmIncident)        \
+  SCREEN(frmChronicle)       \
   SCREEN(frmResults)         \
   SCREEN(frmReports)         \
   SCREEN(frmAwards)          \
@@ -82,6 +89,7 @@ namespace grapplemont {
   SCREEN(frmGameMenu)        \
   SCREEN(frmCredits)         \
   SCREEN(frmCreditsXtra)     \
+  SCREEN(frmAbout)           \
   SCREEN(frmNewGame)         \
   SCREEN(frmLoadGame)        \
   SCREEN(frmWait)            \
@@ -96,7 +104,9 @@ void RegisterScreens(Game& game) {
   RegisterRecordPages(game);
   ConnectRoster(game);
   ConnectRivals(game);
+  ConnectHalls(game);
   ConnectCalendar(game);
+  ConnectChronicle(game);
   ConnectInfo(game);
   ConnectHelp(game);
   ConnectFinding(game);

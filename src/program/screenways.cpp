@@ -43,8 +43,11 @@ constexpr PageRow kInGamePages[] = {
     {"Awards", "prizes year best of", "frmAwards"},
     {"Career", "user jobs reputation player me", "frmUser"},
     {"Charity", "donation give money", "frmCharity"},
+    {"Chronicle", "book history past story chapter chronicles", "frmChronicle"},
     {"Compare", "versus side by side workers", "frmRoster", "cmdcompare"},
     {"Drafts", "plan ahead card coming shows booking", "frmDrafts"},
+    {"Family Trees", "Title lineage history champions teams partners", "frmFamilyTree"},
+    {"Hall of Fame", "legends honours greatest retired", "frmHall"},
     {"Loan", "bank borrow debt credit", "frmLoan"},
     {"Loading Screens", "pictures", "frmLoadingScreens"},
     {"Managers", "clients", "frmManagers"},
@@ -64,6 +67,7 @@ constexpr PageRow kInGamePages[] = {
     {"Ticket Prices", "seats gate admission", "frmTicket"},
     {"Turns", "heel face change sides", "frmTurn"},
     {"Wages", "salaries pay costs", "frmWages"},
+    {"Yearbook", "annual review past years history", "frmYearbook"},
     {"What We Are Worth", "value company worth", "frmFedValue"},
 };
 constexpr PageRow kStartPages[] = {
@@ -72,6 +76,9 @@ constexpr PageRow kStartPages[] = {
     {"File Editor", "data records change", "frmEditor"},
     {"Credits", "authors makers", "frmCredits"},
 };
+constexpr PageRow kAbout{"About Grapplemont",
+                         "version licence license libraries new changes log faults bug report",
+                         "frmAbout"};
 
 void OpenPage(Game& game, const PageRow& page, const std::string& why) {
   if (!why.empty()) return game.Desk().Say("Not now", why);
@@ -118,6 +125,7 @@ void AddPages(Game& game, std::string_view typed, std::size_t most,
               pages);
   for (const PageRow& page : kStartPages)
     AddPage(game, page, typed, plays ? "Quit leads to the menu, where it stands." : "", pages);
+  AddPage(game, kAbout, typed, plays ? under : "", pages);
   std::ranges::stable_sort(pages, {}, &ui::Finding::Fit);
   pages.resize(std::min(pages.size(), most));
   findings.insert(findings.end(), pages.begin(), pages.end());

@@ -1,6 +1,7 @@
 #include "records/modVar.h"
 
 #include "records/fields/fields.h"
+#include "records/keepannals.h"
 #include "records/store/table.h"
 
 namespace grapplemont {
@@ -69,11 +70,12 @@ std::string Dollars(long long amount) {
 }
 
 void NoteDeed(World& world, DeedKind kind, const Promotion* house, std::string_view who,
-              std::string_view other, int number) {
+              std::string_view other, int number, const Worker* worker) {
   Deed deed = NewDeed(world, kind, house, who);
   deed.Other = other;
   deed.Number = number;
   AppendRolling(world.Deeds(), deed, kDeedsDropped);
+  KeepDeed(world, deed, worker);
 }
 
 void NoteShow(World& world, DeedKind kind, const Promotion& house, std::string_view show, int draw,

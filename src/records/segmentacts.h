@@ -13,7 +13,8 @@ enum class Phase { Finish, Aftermath };
 enum ActMeaning : unsigned {
   kTurnOccasion = 1,  // who does it can be booked to turn on whom it hits
   kSureTurn = 2,      // and turns, whatever the purpose
-  kFeudAttack = 4     // it counts in the record of a feud
+  kFeudAttack = 4,    // it counts in the record of a feud
+  kStruck = 8         // somebody lays hands on them, in what the show sees
 };
 
 /// Something that somebody does to somebody in a match.

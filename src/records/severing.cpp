@@ -4,6 +4,7 @@
 #include <array>
 
 #include "records/fields/fields.h"
+#include "records/keepannals.h"
 #include "records/segments.h"
 
 namespace grapplemont {
@@ -25,7 +26,7 @@ void LeaveEmployersOffice(World& world, const Worker& worker) {
 
 /// What a Title loses of its image when it falls vacant.
 int LossOf(const Title& title, TitleLoss loss) {
-  return loss == TitleLoss::ATenth ? title.Image / 10 : 20;
+  return loss == TitleLoss::ATenth ? title.Image / 10 : kImageOfStripped;
 }
 
 /// The job offer among the incidents names a promotion.
@@ -94,6 +95,10 @@ void ForgetInThePast(World& world, int uid) {
     LeavePlaces(match.Worker, uid);
     clear(match.Champion);
   }
+  for (Annal& event : world.Annals()) {
+    LeavePlaces(event.Who, uid);
+    LeavePlaces(event.Whom, uid);
+  }
   world.Grudges().Keep(
       [=](const Grudge& grudge) { return grudge.One != uid && grudge.Two != uid; });
   const auto isOthers = [=](const auto& row) { return row.Worker != uid; };
@@ -101,6 +106,11 @@ void ForgetInThePast(World& world, int uid) {
   world.Months().Keep(isOthers);
   world.Moods().Keep(isOthers);
   world.RingNames().Keep(isOthers);
+  for (Career& career : world.Of<Career>()) {
+    if (career.Worker != uid) continue;
+    career.Worker = 0;
+    if (world.HasGame()) career.Last = world.Today();
+  }
 }
 
 }  // namespace
@@ -121,8 +131,10 @@ void LeaveFeuds(World& world, int workerUid) {
   for (Feud& feud : world.Feuds()) {
     Word* const parties[] = {&feud.Worker1, &feud.Worker2, &feud.Worker3, &feud.Worker4};
     if (std::any_of(std::begin(parties), std::end(parties),
-                    [=](const Word* party) { return *party == workerUid; }))
+                    [=](const Word* party) { return *party == workerUid; })) {
+      if (workerUid != 0) KeepFeud(world, kAnnalFeudCold, feud);
       for (Word* party : parties) *party = 0;
+    }
   }
 }
 

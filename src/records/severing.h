@@ -44,6 +44,7 @@ void LeaveMicrophones(World& world, const Staff& staff);
 void LeaveFeuds(World& world, int workerUid);
 /// What a Title loses of its image when it falls vacant.
 enum class TitleLoss { Twenty, ATenth };
+inline constexpr int kImageOfStripped = 20;
 /// Vacates the Title: no holder, less image, a new reign of "Vacant" from today.
 void VacateTitle(World& world, Title& title, TitleLoss loss = TitleLoss::Twenty);
 /// Every Title that they hold, alone or with a partner.

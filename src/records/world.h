@@ -129,6 +129,9 @@ class World {
   /// The names that people have given up, oldest first.
   Records<RingName>& RingNames() { return Of<RingName>(); }
   const Records<RingName>& RingNames() const { return Of<RingName>(); }
+  /// What has happened in the wrestling world, kept for good (records/keepannals.h).
+  Records<Annal>& Annals() { return Of<Annal>(); }
+  const Records<Annal>& Annals() const { return Of<Annal>(); }
   /// How everybody stood on the firsts of twelve months, a record a worker.
   Records<WorkerMonths>& Months() { return Of<WorkerMonths>(); }
   const Records<WorkerMonths>& Months() const { return Of<WorkerMonths>(); }

@@ -52,7 +52,15 @@ Family FinisherFamily(FinisherType type) {
   }
 }
 
-/// One of the winner's two finishing moves, by a draw where they have both. True for a hold.
+/// What beats the loser where the winner has no finishing move: their best, and the loser lies.
+void TellPlainEnd(Teller& teller, Person* winner, Person* loser) {
+  teller.Act(winner, loser);
+  teller.SayOffence(Family::OffenceD, kDownTag);
+  if (teller.Under != Footing::Down) teller.Say(Family::PutDown);
+}
+
+/// One of the winner's two finishing moves, by a draw where they have both; where they have none, a
+/// plain one if a count follows. True for a hold.
 bool TellFinisher(Teller& teller) {
   Person *winner = teller.cast.First('w'), *loser = teller.cast.First('l');
   if (!winner || !loser) return false;
@@ -61,7 +69,10 @@ bool TellFinisher(Teller& teller) {
   std::vector<int> slots;
   for (const int slot : {1, 2})
     if (!moveIn(slot).View().empty() && moveIn(slot) != "None") slots.push_back(slot);
-  if (slots.empty()) return false;
+  if (slots.empty()) {
+    if (teller.Counts) TellPlainEnd(teller, winner, loser);
+    return false;
+  }
   const int slot = slots.size() == 1 ? slots[0] : teller.OneOf(slots);
   teller.cast.Set(Item::Finisher, WithoutThe(moveIn(slot)));
   teller.Act(winner, loser);
@@ -168,7 +179,11 @@ void TellBody(Teller& teller, const BoutRow& bout) {
   const bool isSingles = bout.Style == kSingles && bout.Type == kPlainSingles;
   const Script row =
       isSingles ? SinglesRow(teller, bout.Rows, winner == nullptr) : teller.OneOf(bout.Rows);
+  const bool isEvent =
+      isSingles && row.size() <= kSquashSteps && !teller.cast.Thing(Item::Title).empty();
+  if (isEvent) teller.Say(Family::Squash, kSquashBegins);
   ring.Play(row, bout.Spot, winner, loser);
+  if (isEvent) teller.Say(Family::Squash, kSquashDone);
 }
 
 /// The score is even until the last fall, which is the winner's. The sum of the falls stands behind
@@ -207,6 +222,16 @@ void TellFinish(Teller& teller, const BoutRow& bout) {
   if (bout.Style == kThreeOnThree || bout.Style == kFourOnFour)
     return TellLargeFinish(teller, bout);
   if (!teller.cast.Of('w').Empty()) Decide(teller, bout, TellFinisher(teller));
+}
+
+bool EndsCleanly(const Segment& segment) {
+  const int finish = segment.Finish, after = segment.Aftermath;
+  if (segment.Style == kThreeOnThree || segment.Style == kFourOnFour) return finish < kCheapVictory;
+  if (segment.Style != kSingles && segment.Style != kTag) return true;
+  const bool isPeaceful = segment.Style == kSingles
+                              ? after <= after1::kNothing || after == after1::kHandshake
+                              : after <= after2::kNothing;
+  return isPeaceful && (finish == kClean || finish == kSportsEntertainment);
 }
 
 bool PassesTitles(const Segment& segment) {

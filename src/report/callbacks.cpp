@@ -13,19 +13,23 @@ namespace grapplemont {
 namespace {
 
 constexpr int kRecalled = 35;  // days
-constexpr int kContractSigning = 33;
 
 /// Angles in which somebody is beaten up: at which places those who do it stand, and whom they hit.
 struct AttackRow {
   int Angle;
   std::initializer_list<int> By, On;
 };
-const AttackRow kAttacks[] = {{kAmbush, {2, 3}, {1}}, {kGetTheTable, {3, 4}, {1, 2}},
-                              {13, {2}, {1}},         {14, {2}, {1}},
-                              {16, {2, 3}, {1}},      {kStrengthInNumbers, {2, 3, 4}, {1}},
-                              {25, {2}, {1}},         {27, {2}, {1}},
-                              {39, {2}, {1}},         {46, {1, 2}, {3, 4}},
-                              {47, {2, 3}, {1}},      {59, {1, 2}, {3, 4}}};
+const AttackRow kAttacks[] = {{kAmbush, {2, 3}, {1}},         {kGetTheTable, {3, 4}, {1, 2}},
+                              {kLadderToSuccess, {2}, {1}},   {kBloodGetsSpilt, {2}, {1}},
+                              {kGettingGroinal, {2, 3}, {1}}, {kStrengthInNumbers, {2, 3, 4}, {1}},
+                              {kDebutAttack, {2}, {1}},       {kParamedics, {2}, {1}},
+                              {kFireball, {2}, {1}},          {kDoubleTrouble, {1, 2}, {3, 4}},
+                              {kWeakestLink, {2, 3}, {1}},    {kTeamDebutAttack, {1, 2}, {3, 4}}};
+
+/// Of an interview: the others hear what is coming to them.
+bool IsThreat(int purpose) {
+  return purpose == kVerbalAttack || purpose == kHypeMatch || purpose == kTalkContinueFeud;
+}
 
 std::vector<int> AtPlaces(const Segment& segment, std::initializer_list<int> places) {
   std::vector<int> uids;
@@ -43,9 +47,8 @@ class Recall {
     if (segment.Kind == kAngle) ReadAngle(segment, daysAgo);
     if (segment.Kind == kMatch)
       for (const Act& act : ActsOf(segment))
-        if (act.Is(kFeudAttack))
-          Attack(PeopleOf(segment, act.By), PeopleOf(segment, act.On), daysAgo);
-    if (segment.Kind == kInterview) ReadTalk(segment, daysAgo);
+        if (act.Is(kStruck)) Attack(PeopleOf(segment, act.By), PeopleOf(segment, act.On), daysAgo);
+    if (segment.Kind == kInterview && IsThreat(segment.Purpose)) ReadTalk(segment, daysAgo);
   }
   std::vector<PastFact> Facts() { return std::move(facts_); }
 
@@ -61,13 +64,14 @@ class Recall {
 
   void ReadTalk(const Segment& segment, int daysAgo) {
     const auto talkers = SeatedAs(segment, Casting::Talkers);
-    const int side = Between(talkers, SeatedAs(segment, Casting::Targets));
+    const auto targets = SeatedAs(segment, Casting::Targets);
+    const int side = Between(talkers, targets);
     if (side == 0) return;
     const auto managers = SeatedAs(segment, Casting::TalkManagers);
     PastFact fact{managers.empty() ? kThreatened : kManagerSpoke,
                   (daysAgo == 0 ? 84 : 64),
-                  side == 1 ? one_ : two_,
-                  side == 1 ? two_ : one_,
+                  Shared(side == 1 ? one_ : two_, talkers),
+                  Shared(side == 1 ? two_ : one_, targets),
                   0,
                   daysAgo};
     if (!managers.empty()) fact.Manager = managers[0];
@@ -77,8 +81,8 @@ class Recall {
   void Attack(const std::vector<int>& by, const std::vector<int>& on, int daysAgo) {
     const int side = Between(by, on);
     if (side != 0)
-      facts_.push_back({kWasAttacked, daysAgo <= 10 ? 80 : 57, side == 1 ? two_ : one_,
-                        side == 1 ? one_ : two_, 0, daysAgo});
+      facts_.push_back({kWasAttacked, daysAgo <= 10 ? 80 : 57, Shared(side == 1 ? two_ : one_, on),
+                        Shared(side == 1 ? one_ : two_, by), 0, daysAgo});
   }
 
   /// 1 or 2 for the side that does it to the other; 0 where it is between others.
@@ -99,7 +103,7 @@ std::vector<PastFact> CallbacksOf(Teller& teller, const std::vector<int>& one,
   Recall recall(one, two);
   for (int row = 1; row < teller.scene.Row; ++row) recall.Read(world.Segments()[row], 0);
   for (const KeptRow& kept : world.KeptRows()) {
-    const auto days = (world.Today() - Day(kept.On)).count();
+    const auto days = (teller.Today() - Day(kept.On)).count();
     if (!kept.IsDraft && days > 0 && days <= kRecalled)
       recall.Read(kept.Booked, static_cast<int>(days));
   }

@@ -130,6 +130,13 @@ Person* Cast::Find(const World& world, int uid) {
   return people_.emplace_back(std::make_unique<Person>(std::move(person))).get();
 }
 
+Person* Cast::Called(std::string_view name, bool isMan) {
+  for (const auto& person : people_)
+    if (person->Uid == 0 && person->Full == name) return person.get();
+  const std::string full = OneSpaced(name);
+  return people_.emplace_back(std::make_unique<Person>(Person{0, full, full, isMan})).get();
+}
+
 void Cast::Set(char part, Person* person) {
   Party& party = Of(part);
   party.Name.clear();
@@ -205,7 +212,8 @@ namespace {
 /// Writes one line's text behind what is there, sentence by sentence.
 class Filler {
  public:
-  Filler(Cast& cast, std::string& out) : cast_(cast), out_(out), sentence_(out.size()) {}
+  Filler(Cast& cast, std::string& out, std::vector<std::size_t>& ends)
+      : cast_(cast), out_(out), ends_(ends), sentence_(out.size()) {}
 
   void Write(std::string_view line) {
     ReadHoles(
@@ -249,6 +257,7 @@ class Filler {
   void EndSentence() {
     if (broken_) out_.resize(sentence_);
     broken_ = false;
+    if (out_.size() > sentence_) ends_.push_back(out_.size());
     sentence_ = out_.size();
   }
 
@@ -300,6 +309,7 @@ class Filler {
 
   Cast& cast_;
   std::string& out_;
+  std::vector<std::size_t>& ends_;
   std::size_t sentence_;
   std::size_t namesStop_ = 0;  // behind a name that ends in a stop, which ends no sentence
   bool hidden_ = false, broken_ = false, lastWasName_ = false;
@@ -307,9 +317,9 @@ class Filler {
 
 }  // namespace
 
-bool Fill(Cast& cast, std::string_view line, std::string& out) {
+bool Fill(Cast& cast, std::string_view line, std::string& out, std::vector<std::size_t>& ends) {
   const std::size_t before = out.size();
-  Filler(cast, out).Write(line);
+  Filler(cast, out, ends).Write(line);
   return out.size() > before;
 }
 

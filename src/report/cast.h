@@ -56,6 +56,9 @@ class Cast {
   /// The person of this uid; nullptr for nobody and for a uid that leads nowhere or to no name.
   Person* Find(const World& world, int uid);
 
+  /// Somebody of whom only the name is known, and the sex where a line asks for it.
+  Person* Called(std::string_view name, bool isMan);
+
   /// The first of a part; nullptr for nobody.
   Person* First(char part) const {
     return Of(part).People.empty() ? nullptr : Of(part).People.front();
@@ -108,6 +111,7 @@ std::string WithoutThe(std::string_view name);
 /// Appends a line with its slots filled. A sentence that names a part nobody plays, or a thing that
 /// is not there, is left out. A word or name that begins a sentence gets a capital. False when
 /// nothing was said.
-bool Fill(Cast& cast, std::string_view line, std::string& out);
+/// `ends` takes where each sentence ends in `out`.
+bool Fill(Cast& cast, std::string_view line, std::string& out, std::vector<std::size_t>& ends);
 
 }  // namespace grapplemont

@@ -44,12 +44,15 @@ constexpr BandRange kOne = {};
 constexpr BandRange kSkills = Named<kBrawlLow, kSpeedHigh>();
 constexpr BandRange kBouts = {0, static_cast<int>(std::size(kMatchTypes)) - 1, BoutName};
 constexpr BandRange kSpeeches = {0, TalkBand(kManagedTeamTalk, kTalkNone), SpeechName};
+constexpr BandRange kTellings = {static_cast<int>(Tells::WorksFor),
+                                 static_cast<int>(Tells::BeforeAnnals),
+                                 NameIn<Tells::WorksFor, Tells::BeforeAnnals>};
 constexpr BandRange kVerdicts = {0, static_cast<int>(std::size(kVerdictsUpTo)) - 1, VerdictName};
 constexpr std::uint32_t kNotInSingles = 1U << kMiscommunication | 1U << kPartnerTurns;
 constexpr bool kExact = true;
 
 // Family, file, parts its lines may name, parts each of them names, bands, lines a band, exactly as
-// many, the only voice that has it.
+// many, the only voice that has it, the bands that judge.
 constexpr FamilyRow kRows[] = {
     {OffenceA, "offence", "ad", "a", kSkills, 10, kExact},
     {OffenceB, "offence", "ad", "a", kSkills, 10, kExact},
@@ -112,16 +115,20 @@ constexpr FamilyRow kRows[] = {
      Named<after2::kRevenge, after2::kRunInOnBoth>(), 2},
     {TitleEnding, "finishes", "cC", "", Named<kRetained, kWonInAbsence>(), 3},
     {FeudEnding, "finishes", "FS", "", Named<kFeudGoesOn, kFeudIsOver>(), 3},
-    {PurposeEnding, "finishes", "tFS", "", Named<kGoodMatchTold, kRunInDebutTold>(), 3},
-    {Turn, "finishes", "t", "t", Named<kTurnsHeel, kBaffling>(), 3},
-    {PastOpening, "memory", "FSm", "", Named<kMetFirst, kRoadHere>(), 8},
-    {PastEnding, "memory", "FS", "", Named<kPaidBack, kPerfectMatch>(), 8},
-    {Interlude, "beats", "adwlcFS", "", Named<kWalkIn, kAfterBell>(), 10},
+    {PurposeEnding, "finishes", "tFS", "", Named<kGoodMatchTold, kRunInDebutTold>(), 3, false,
+     kEveryVoice, (1U << kPurposesTold) - 1},
+    {Turn, "finishes", "t", "t", Named<kTurnsHeel, kTooSoon>(), 3},
+    {PastOpening, "memory", "FSm", "", Named<kMetFirst, kYearRecalled>(), 8},
+    {PastEnding, "memory", "FS", "", Named<kPaidBack, kYearStands>(), 8},
+    {Interlude, "beats", "adwlcFS", "", Named<kWalkIn, kAfterBell>(), 10, false, kEveryVoice,
+     1U << kAfterBell},
+    {Squash, "beats", "wl", "", Named<kSquashBegins, kSquashDone>(), 6},
     {TalkOpening, "talk", "Tm", "T", Named<kSingleTalk, kManagedTeamTalk>(), 3},
     {Speech, "talk", "TmV", "", kSpeeches, 2},
     {SpeechAgain, "talk", "T", "T", kOne, 3},
     {TalkClosing, "talk", "TV", "", Named<kVerbalAttack, kTalkNone>(), 2},
     {AngleText, "angles", "1234FSOG", "", {1, kAngles, AngleName}, 2},
+    {Chapter, "chronicle", "FSXG", "", kTellings, 6},
     {Verdict, "verdicts", "", "", kVerdicts, 2, false, kTolland},
     {NoVerdict, "verdicts", "", "", kOne, 1, kExact, kTolland},
 };

@@ -90,12 +90,14 @@ enum class Family {
   PastOpening,
   PastEnding,
   Interlude,
+  Squash,  // {w} has {l} beaten for a Title in next to no time
   // Talk and angles.
   TalkOpening,
   Speech,
   SpeechAgain,  // {T} has nothing to add to what the show has heard
   TalkClosing,
   AngleText,
+  Chapter,  // of a chronicle, by what it tells
   // The second reporter's ratings.
   Verdict,  // by kVerdictsUpTo
   NoVerdict,
@@ -138,7 +140,7 @@ enum Stipulation {
   kTlcSpot
 };
 
-/// Bands of Beat. Its lines go by the crowd's rating.
+/// Bands of Beat.
 enum BeatTold {
   kComeback,   // {a} has turned it, who had taken a good deal
   kInTrouble,  // {d} has taken a good deal
@@ -172,7 +174,15 @@ enum PurposeTold {
   kRunInDebutTold,
   kPurposesTold
 };
-enum TurnTold { kTurnsHeel, kTurnsFace, kTurnsTweener, kBaffling, kTurnsTold };
+enum TurnTold {
+  kTurnsHeel,
+  kTurnsFace,
+  kTurnsTweener,
+  kBaffling,
+  kFellFlat,  // {?face}, {?heel} or {?tweener}
+  kTooSoon,
+  kTurnsTold
+};
 
 /// Bands of PastOpening. {F} is whom it is about, {S} the others.
 enum PastKind {
@@ -199,7 +209,8 @@ enum PastKind {
   kSignedFor,
   kManagerSpoke,  // {m} for {F}
   kYearsBest,     // the two had one of the year's best {when}
-  kRoadHere       // a feud since {when}, {count} matches
+  kRoadHere,      // a feud since {when}, {count} matches
+  kYearRecalled   // {F} beat {S} {when}, in the year's best: as December's Event opens
 };
 /// Bands of PastEnding.
 enum PastOutcome {
@@ -221,6 +232,7 @@ enum PastOutcome {
   kFiftyDone,
   kWentTooFar,    // {F} is badly hurt
   kPerfectMatch,  // behind the rating
+  kYearStands     // as December's Event closes, and none was better than that of {F} and {S}
 };
 /// Bands of Interlude. {a} and {d} as in the step before.
 enum InterludeKind {
@@ -233,6 +245,7 @@ enum InterludeKind {
   kSplit,    // some like it, some do not
   kDivided,  // one half for {a}, one for {d}
   kQuiet,
+  kWakes,  // once it has something to look at
   kHope,
   kDesperate,
   kDoubt,
@@ -240,6 +253,63 @@ enum InterludeKind {
   kGasp,  // behind it
   kHeldBreath,
   kAfterBell
+};
+
+/// Bands of Squash: before the few steps, and behind them.
+enum SquashTold { kSquashBegins, kSquashDone };
+
+/// What the second reporter calls a dud, no line praises, and what comes up to here none shrugs
+/// off.
+inline constexpr int kDudUpTo = 45, kFairUpTo = 80;
+/// Bands of Chapter. What {count}, {tally} and {feud} hold, their units with them, stands behind.
+enum class Tells {
+  WorksFor,        // {F} for {promotion}; {count} of age
+  WorksForNobody,  // {count} of age
+  CareerOver,      // {F}, {when}
+  SignedUp,        // {F} for {promotion}
+  SignedAway,      // {F} from {G} for {promotion}
+  LetGo,
+  Left,
+  Hurt,          // {F}, {tally}, for {count}
+  NewName,       // {F}, who was {tally} until then
+  TeamedUp,      // {F} and {S} as {G}
+  TeamParted,    // the same
+  StableMade,    // {F}, {G}
+  StableJoined,  // {F}, {G}
+  CrownWon,      // {F} {title} from {S}, for {count}, until {X}, if anybody, took it
+  CrownFilled,   // {F} {title} that was vacant, the same
+  CrownOn,       // {F} still has {title}, since {since}, for {count}
+  CrownBefore,   // {F} had {title} before anybody kept count of days
+  CrownsInAll,   // {F}, {count} reigns, {tally} in all
+  AwardWon,      // {F}, {tally}
+  AwardGiven,    // {tally} to {feud}
+  FeudBegan,     // {F} and {S}
+  FeudWon,       // by {F} over {S}, after {count}, by {tally}
+  FeudCold,      // {F} and {S}, after {count}
+  FeudOn,        // {F} and {S}, since {since}
+  FeudMatch,     // {F} beat {S}, rated {count}
+  Record,        // {F} for {promotion}: {count}, {tally}
+  BestMatch,     // {F} against {S}, rated {count}
+  CrownStands,   // {title} of {promotion}, image {count}
+  CrownGone,     // {title} of {promotion}
+  CrownMade,
+  CrownYear,     // {title} changed hands {count} {when}: {tally}
+  CrownLongest,  // {F}, {count}, from {when}
+  CrownMost,     // {F}, {count}
+  HouseFounded,  // {promotion}, {tally}
+  HouseStands,   // {promotion}, {tally}, image {count}
+  HouseRisen,    // to {tally}
+  HouseFallen,
+  HouseClosed,
+  HouseBought,  // by {G}
+  HouseOwner,   // {tally}
+  HousePeak,    // {tally}, image {count}
+  HouseShow,    // {tally}, rated {count}
+  HouseMoves,   // {count} signed, {tally} gone
+  YearMoves,    // {count}
+  YearCrowns,   // {count}
+  YearRetired,  // {count}: {tally}
+  BeforeAnnals
 };
 
 /// Bands of Verdict: the highest Overall that each rates.
@@ -278,6 +348,8 @@ struct FamilyRow {
   int Lines = 0;           // of each band, at least
   bool Exact = false;      // not a line more
   int Only = kEveryVoice;  // the voice that has it for all
+  /// Bands that judge the match, a bit for each: every line of theirs says for which ratings.
+  std::uint32_t Rated = 0;
 
   constexpr bool Has(int band) const {
     return band >= Bands.First && band <= Bands.Last &&

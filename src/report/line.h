@@ -32,11 +32,20 @@ enum LineTag : unsigned {
   kHighTag = 1024,
   kLegTag = 2048,  // what of {d} it hurts
   kArmTag = 4096,
-  kBackTag = 8192
+  kBackTag = 8192,
+  kUpTag = 16384,     // {d} stands behind it: no hold is on, and no count comes next
+  kCleanTag = 32768,  // the match was won fairly, and nobody strikes behind the bell
+  kColdTag = 65536,   // the crowd is rated low, in the middle, high: one of those that it names
+  kWarmTag = 131072,
+  kHotTag = 262144
 };
-inline constexpr std::string_view kLineTags[] = {"down",    "hold", "floor", "held", "anyway",
-                                                 "trouble", "worn", "pin",   "low",  "mid",
-                                                 "high",    "leg",  "arm",   "back"};
+inline constexpr unsigned kLevelTags = kLowTag | kMidTag | kHighTag;
+inline constexpr std::string_view kLineTags[] = {
+    "down", "hold", "floor", "held", "anyway", "trouble", "worn", "pin",  "low", "mid",
+    "high", "leg",  "arm",   "back", "up",     "clean",   "cold", "warm", "hot"};
+
+/// What a line is wished to be where several would do.
+enum class LineWish { Any, Short, Long };
 
 struct TaggedLine {
   unsigned Tags = 0;
@@ -99,11 +108,14 @@ enum class Item {
   Count,
   Nth,
   When,
-  Since
+  Since,
+  Face,  // only in conditions: what a turn that came off has made of somebody
+  Heel,
+  Tweener
 };
-inline constexpr std::string_view kItems[] = {"title",     "prize", "no",   "tally", "finisher",
-                                              "promotion", "left",  "turn", "feud",  "count",
-                                              "nth",       "when",  "since"};
+inline constexpr std::string_view kItems[] = {
+    "title", "prize", "no",  "tally", "finisher", "promotion", "left", "turn",
+    "feud",  "count", "nth", "when",  "since",    "face",      "heel", "tweener"};
 
 struct Hole {
   enum Kind { Bad, Name, Full, Short, Members, Word, Thing, ThingWord, If, IfNot, End };

@@ -20,13 +20,12 @@ constexpr double kPerSpread = 24, kMostSpreads = 2, kLeastSpread = 4;
 constexpr int kBoutsToJudgeBy = 60, kFewBouts = 5;
 
 /// What a match has to matter for more than its row, and how its room grows from there.
-constexpr int kMattersFrom = 54, kRoomFrom = 46, kSaysLittle = 48;
+constexpr int kMattersFrom = 54, kRoomFrom = 46, kSaysLittle = 48, kSaysMuch = 62;
 constexpr double kRoomPerPoint = 1.9;
 constexpr double kMostPerStep = 3, kLeastPerStep = 0.05;
 constexpr int kShort = 9;  // steps more that a row of few may have
 constexpr int kBig = 72, kHuge = 86;
 
-constexpr int kLoudCrowd = 65, kSplitCrowd = 40;
 constexpr double kEarly = 0.3, kLate = 0.7;
 constexpr int kMostAtOnce = 3, kMostOfAKind = 4;
 /// Moves that make a momentum if no answer came, and moves that use somebody up.
@@ -89,12 +88,12 @@ int ImportanceOf(Teller& teller) {
   if (scene.IsEvent) points += kForEvent;
   if (const FeudOfSides feud = FeudTold(teller); feud.Between)
     points += feud.Between->Heat / kPerHeat;
-  points += AboveTheRest(teller.world, PeopleOf(segment)) / kPerOver;
+  if (teller.IsOurs()) points += AboveTheRest(teller.world, PeopleOf(segment)) / kPerOver;
   if (std::any_of(teller.Told.begin(), teller.Told.end(),
                   [](const PastFact& fact) { return fact.Weight >= kOnceInACareer; }))
     points += kForCareer;
   if (scene.Overall != kUnrated) {
-    const Usual usual = UsualRating(teller.world);
+    const Usual usual = teller.IsOurs() ? UsualRating(teller.world) : Usual{};
     const double above = (scene.Overall - usual.Mean) / usual.Spread;
     points += static_cast<int>(std::clamp(above, -kMostSpreads, kMostSpreads) * kPerSpread);
   }
@@ -103,6 +102,7 @@ int ImportanceOf(Teller& teller) {
 
 void Pace::Open(Teller& teller) {
   importance_ = ImportanceOf(teller);
+  isOpen_ = true;
   if (importance_ < kMattersFrom) return;
   crowds_ = importance_ >= kHuge ? kMostCrowds + 1 : kMostCrowds;
   units_ = static_cast<int>((importance_ - kRoomFrom) * kRoomPerPoint);
@@ -159,12 +159,19 @@ void Pace::After(Teller& teller, char step, bool isSaid) {
 int Pace::CrowdBeat(Teller& teller) const {
   const int crowd = teller.scene.Crowd;
   if (crowd == kUnrated) return -1;
-  if (crowd < kSplitCrowd) return kQuiet;
+  if (crowd <= kColdUpTo) return kQuiet;
   const Person *a = teller.cast.First('a'), *d = teller.cast.First('d');
   const Worker* one = a ? teller.world.FindWorker(a->Uid) : nullptr;
   const Worker* two = d ? teller.world.FindWorker(d->Uid) : nullptr;
-  if (one && two && AreLikedAlike(*one, *two) && crowds_ == kMostCrowds) return kDivided;
-  return crowd >= kLoudCrowd ? kLoud : kSplit;
+  if (teller.IsOurs() && one && two && AreLikedAlike(*one, *two) && crowds_ == kMostCrowds)
+    return kDivided;
+  return crowd > kWarmUpTo ? kLoud : kSplit;
+}
+
+bool Pace::IsToWake(const Teller& teller) const {
+  const int crowd = teller.scene.Crowd;
+  const bool hasSeen = falls_ > 0 || told_[kHope] > 0;
+  return hasSeen && crowd > kColdUpTo && crowd <= kWarmUpTo && told_[kWakes] == 0;
 }
 
 /// One that is true of how the match stands, and not of the same kind as the one before.
@@ -175,14 +182,19 @@ int Pace::Choose(Teller& teller, char step) const {
   const Person *a = teller.cast.First('a'), *d = teller.cast.First('d');
   const bool isHard = kHard.find(step) != std::string_view::npos, isTurned = step == '#';
   const bool isFree = teller.Under != Footing::Held, isLate = part > kLate;
+  // Nothing but a look at who is covered next comes between, and a hold is not let go of.
+  const bool hasRoom = isFree && !teller.IsCoverNext;
   Beats fits;
-  if (const int beat = CrowdBeat(teller); beat >= 0 && crowds_ > 0) fits.push_back(beat);
-  if (part < kEarly && !isHard) fits.push_back(kFeeling);
-  if (isTurned && a && a->Trouble >= kMomentum && !isLate) fits.push_back(kHope);
-  if (!isTurned && d && d->Trouble >= kMomentum) fits.push_back(kInControl);
+  if (IsToWake(teller))
+    fits.push_back(kWakes);
+  else if (const int beat = CrowdBeat(teller); beat >= 0 && crowds_ > 0 && told_[kWakes] == 0)
+    fits.push_back(beat);
+  if (part < kEarly && !isHard && hasRoom) fits.push_back(kFeeling);
+  if (isTurned && a && a->Trouble >= kMomentum && !isLate && isFree) fits.push_back(kHope);
+  if (!isTurned && d && d->Trouble >= kMomentum && hasRoom) fits.push_back(kInControl);
   if (isHard && isFree && d && d->Taken >= kMomentum) fits.push_back(kHurting);
-  if (isLate && a && (falls_ > 0 || a->Taken >= kSpent)) fits.push_back(kDesperate);
-  if (isLate && !isTurned && isFree && a && d && std::min(a->Taken, d->Taken) >= kMomentum)
+  if (isLate && a && (falls_ > 0 || a->Taken >= kSpent) && hasRoom) fits.push_back(kDesperate);
+  if (isLate && !isTurned && hasRoom && a && d && std::min(a->Taken, d->Taken) >= kMomentum)
     fits.push_back(kDoubt);
   std::erase(fits, last_);
   // What the match has said least of comes first, and nothing over and over.
@@ -195,6 +207,11 @@ int Pace::Choose(Teller& teller, char step) const {
 
 bool Pace::SaysLittle() const {
   return importance_ < kSaysLittle;
+}
+
+LineWish Pace::Wish() const {
+  if (!isOpen_) return LineWish::Any;
+  return SaysLittle() ? LineWish::Short : importance_ >= kSaysMuch ? LineWish::Long : LineWish::Any;
 }
 
 void Pace::HoldBreath(Teller& teller) {

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "report/family.h"
+#include "report/line.h"
 
 namespace grapplemont {
 
@@ -13,7 +14,8 @@ class Teller;
 int ImportanceOf(Teller& teller);
 
 /// The room that a match gets. One that matters has sentences of its own between the steps of its
-/// row, three times as many as the row at most; any other is as short as its row.
+/// row, up to three a step and nine more a row, so that a short one has room too; any other is as
+/// short as its row.
 class Pace {
  public:
   /// Before the bell: sees what the match matters, and says what is in the air.
@@ -30,14 +32,19 @@ class Pace {
   void AfterBell(Teller& teller);
   /// The match is worth less than usual: nothing is said beside its row.
   bool SaysLittle() const;
+  /// Short lines for such a match, long ones for one that matters a good deal.
+  LineWish Wish() const;
 
  private:
   /// The match has sentences of its own between its steps.
   bool Matters() const { return units_ > 0; }
   void Say(Teller& teller, int beat);
   int CrowdBeat(Teller& teller) const;
+  /// A warm crowd has seen something, and has not been told to wake.
+  bool IsToWake(const Teller& teller) const;
   int Choose(Teller& teller, char step) const;
 
+  bool isOpen_ = false;  // Open has been called
   int importance_ = 0;
   int units_ = 0;           // steps and sentences that the whole match is to have
   int steps_ = 0, at_ = 0;  // of the row, and how many are through

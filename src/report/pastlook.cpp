@@ -16,8 +16,9 @@ using Uids = std::vector<int>;
 
 constexpr int kLately = 60, kLongApart = 365, kAMonth = 28, kSlotIsYoung = 180;
 constexpr int kALead = 3, kTooMany = 8, kFifty = 50, kARun = 5, kSeasoned = 8, kGreen = 8;
-constexpr int kALongReign = 100, kManyDefences = 3, kANewReign = 15, kAway = 60, kGreat = 80;
-constexpr int kDecember = 12, kPerfect = 100;
+constexpr int kALongReign = 100, kANewReign = 15, kAway = 60, kGreat = 80, kYoung = 25;
+constexpr int kPerfect = 100;
+constexpr std::size_t kFewNames = 3;
 
 int DaysAgo(const World& world, Day day) {
   return static_cast<int>((world.Today() - day).count());
@@ -27,16 +28,9 @@ bool IsAmong(const Uids& uids, int uid) {
   return std::find(uids.begin(), uids.end(), uid) != uids.end();
 }
 
-/// Whether a match was between these two sides; 1 or 2 for the side whose people come first.
-int FirstSide(const HeldMatch& bout, const Uids& one, const Uids& two) {
-  const auto holds = [&](std::size_t from, const Uids& side) {
-    for (std::size_t i = 0; i < side.size(); ++i)
-      if (!IsAmong(side, bout.Worker[from + i])) return false;
-    return true;
-  };
-  if (one.size() != two.size() || one.empty()) return 0;
-  if (holds(0, one)) return holds(one.size(), two) ? 1 : 0;
-  return holds(0, two) && holds(one.size(), one) ? 2 : 0;
+/// What has been written down since the day of a rival's match is not known there.
+bool HasBegun(const Teller& teller, const TitleReign& reign) {
+  return teller.IsOurs() || Day(reign.From) < teller.Today();
 }
 
 const MatchTally* TallyOf(const World& world, int uid) {
@@ -49,6 +43,27 @@ int MatchesOf(const MatchTally* tally) {
   return tally ? tally->Won + tally->Lost + tally->Drawn : 0;
 }
 
+/// On a card of the last five weeks, whatever they did there.
+bool WasOnACard(const World& world, int uid) {
+  return std::any_of(world.KeptRows().begin(), world.KeptRows().end(), [&](const KeptRow& kept) {
+    const int days = DaysAgo(world, kept.On);
+    return !kept.IsDraft && days > 0 && days < kAway && IsAmong(EverybodyOf(kept.Booked), uid);
+  });
+}
+
+/// Whether they hold another Title, or have ever held one.
+bool WasChampion(const Teller& teller, int uid) {
+  const World& world = teller.world;
+  const bool holds =
+      teller.IsOurs() && std::any_of(world.Titles().begin(), world.Titles().end(), [&](auto& each) {
+        return !(each.Name == teller.segment.TitleName) &&
+               (each.Holder == uid || each.Partner == uid);
+      });
+  return holds || std::any_of(world.Reigns().begin(), world.Reigns().end(), [&](auto& reign) {
+           return HasBegun(teller, reign) && (reign.Worker == uid || reign.Partner == uid);
+         });
+}
+
 /// The people of a match, and what is gathered of them.
 class Look {
  public:
@@ -59,12 +74,13 @@ class Look {
         sides_(SidesOf(segment_)) {}
 
   std::vector<PastFact> Facts() {
+    OfTitle();
+    if (!teller_.IsOurs()) return std::move(facts_);
     for (const Uids& side : sides_)
       for (const int uid : side) OfOne(uid);
     if (sides_.size() != 2) return std::move(facts_);
     const Uids &one = sides_[0], &two = sides_[1];
     OfMeetings(one, two);
-    OfTitle();
     OfRoad(one, two);
     if (one.size() == 1) {
       OfPartner(one[0], two[0]);
@@ -83,16 +99,37 @@ class Look {
     return {};
   }
 
+  /// Everybody on another side than this one; nobody where they are on none.
+  Uids Against(int uid) const {
+    Uids all;
+    bool isThere = false;
+    for (const Uids& side : sides_) {
+      const bool isOwn = IsAmong(side, uid);
+      isThere |= isOwn;
+      if (!isOwn) all.insert(all.end(), side.begin(), side.end());
+    }
+    return isThere ? all : Uids{};
+  }
+
+  Uids SideOf(int uid) const {
+    for (const Uids& side : sides_)
+      if (IsAmong(side, uid)) return side;
+    return {};
+  }
+
   void OfOne(int uid) {
     const Worker* worker = world_.FindWorker(uid);
     const MatchTally* tally = TallyOf(world_, uid);
     if (!worker) return;
     if (worker->RetiringSoon) Add({kLastMatch, 100, {uid}, Others(uid)});
-    if (tally && DaysAgo(world_, tally->Last) >= kAway)
+    // Who comes late into a rumble does so unannounced.
+    const bool isSecret = segment_.Style == kSpecial && segment_.MatchType == kRoyalRumble;
+    if (tally && DaysAgo(world_, tally->Last) >= kAway && !isSecret && !WasOnACard(world_, uid))
       Add({kAwayLong, 65, {uid}, Others(uid), 0, DaysAgo(world_, tally->Last)});
     const int matches = MatchesOf(tally);
-    const bool atTheTop = teller_.scene.IsLast || segment_.TitleName != "None";
-    if (atTheTop && tally && matches <= kGreen && IsSeasoned())
+    const bool atTheTop =
+        segment_.Style != kSpecial && (teller_.scene.IsLast || segment_.TitleName != "None");
+    if (atTheTop && tally && matches <= kGreen && worker->Age <= kYoung && IsSeasoned())
       Add({kNewAtTheTop, 62, {uid}, Others(uid), matches + 1});
     if (segment_.Style != kSingles || matches < kARun) return;
     if (const int run = RunOf(world_, uid); run >= kARun)
@@ -131,48 +168,70 @@ class Look {
     else if (had.LastDaysAgo <= kLately && had.LastWinner != 0)
       Add({kMetLately, 50, had.LastWinner == 1 ? one : two, had.LastWinner == 1 ? two : one, 0,
            had.LastDaysAgo});
-    if (MonthOf(world_.Today()) == kDecember && had.BestRating >= kGreat)
+    if (IsYearsEnd(world_.Today()) && had.BestRating >= kGreat)
       Add({kYearsBest, 68, one, two, had.BestRating, had.BestDaysAgo});
   }
 
   bool IsOfTitle(const TitleReign& reign) const {
-    return reign.Owner == world_.PlayerUid() && reign.Title == segment_.TitleName;
+    return reign.Owner == teller_.Promotion() && reign.Title == segment_.TitleName &&
+           HasBegun(teller_, reign);
   }
+  bool Lasts(const TitleReign& reign) const {
+    return reign.End == kReignLasts || (!teller_.IsOurs() && Day(reign.Until) >= teller_.Today());
+  }
+  int DaysSince(Day day) const { return static_cast<int>((teller_.Today() - day).count()); }
 
   void OfTitle() {
     const int holder = teller_.scene.Champion;
     if (segment_.TitleName == "None" || holder == 0) return;
-    const Uids challengers = Others(holder);
+    const Uids challengers = Against(holder);
     if (challengers.empty()) return;
     const TitleReign *lasts = nullptr, *before = nullptr, *once = nullptr;
     for (const TitleReign& reign : world_.Reigns()) {
       if (!IsOfTitle(reign) || reign.Worker == 0) continue;
-      if (reign.End == kReignLasts) {
+      if (Lasts(reign)) {
         lasts = &reign;
       } else {
         before = &reign;
-        if (IsAmong(challengers, reign.Worker)) once = &reign;
+        if (AnyOf({reign.Worker, reign.Partner}, challengers)) once = &reign;
       }
     }
-    if (lasts) OfReign(*lasts, challengers);
-    if (once && once == before && once->End == kReignLost)
-      Add({kTitleAgain, 75, challengers, {holder}, 0, DaysAgo(world_, once->Until)});
-    else if (once)
-      Add({kOnceChampion, 58, challengers, {holder}, 0, DaysAgo(world_, once->Until)});
-    const MatchTally* tally = TallyOf(world_, challengers[0]);
-    if (!once && tally && tally->ForTitles == 0 && MatchesOf(tally) >= kSeasoned && IsSeasoned())
-      Add({kTitleNever, 52, challengers, {holder}, MatchesOf(tally) + 1});
+    const Uids champions = SideOf(holder);
+    if (lasts) OfReign(*lasts, champions, challengers);
+    if (once) {
+      const bool isRematch = once == before && once->End == kReignLost;
+      Add({isRematch ? kTitleAgain : kOnceChampion, isRematch ? 75 : 58,
+           Shared(challengers, {once->Worker, once->Partner}), champions, 0,
+           DaysSince(once->Until)});
+    }
+    if (teller_.IsOurs() && IsSeasoned()) OfFirstShot(champions);
   }
 
-  void OfReign(const TitleReign& reign, const Uids& challengers) {
+  /// The first side of whom nobody has ever fought for a Title here.
+  void OfFirstShot(const Uids& champions) {
+    const auto isNew = [&](int uid) {
+      const MatchTally* tally = TallyOf(world_, uid);
+      return tally && tally->ForTitles == 0 && MatchesOf(tally) >= kSeasoned &&
+             !WasChampion(teller_, uid);
+    };
+    for (const Uids& side : sides_) {
+      if (side == champions || !std::all_of(side.begin(), side.end(), isNew)) continue;
+      const int matches = MatchesOf(TallyOf(world_, side[0]));
+      return Add({kTitleNever, 52, side, champions, side.size() == 1 ? matches + 1 : 0});
+    }
+  }
+
+  void OfReign(const TitleReign& reign, const Uids& champions, const Uids& challengers) {
     if (Day(reign.From) == Day(kNoTitleDate)) return;
-    const int days = DaysAgo(world_, reign.From), defences = reign.Defences;
-    const Uids champions = Others(challengers[0]);
-    if (days >= kALongReign || defences >= kManyDefences)
-      Add({kReignLong, 60, champions, challengers, days, -1,
+    const int days = DaysSince(reign.From);
+    // How often it has been defended by now is counted for the player's alone.
+    const int defences = teller_.IsOurs() ? int(reign.Defences) : 0;
+    const Uids named = challengers.size() <= kFewNames ? challengers : Uids{};
+    if (days >= kALongReign)
+      Add({kReignLong, 60, champions, named, days, -1,
            defences > 1 ? CountText(defences) + " defences" : std::string()});
-    else if (days < kANewReign && days > 0 && defences <= 0)
-      Add({kReignNew, 54, champions, challengers, days, days});
+    else if (days < kANewReign && days > 0 && defences <= 0 && teller_.IsOurs())
+      Add({kReignNew, 54, champions, named, days, days});
   }
 
   /// What an Event recalls: since when the two have been at it.
@@ -226,12 +285,6 @@ bool HasHeldAll(const World& world, int uid) {
   return titles >= kWorthTelling;
 }
 
-bool WasChampion(const World& world, int uid) {
-  return std::any_of(world.Reigns().begin(), world.Reigns().end(), [&](const TitleReign& reign) {
-    return reign.Worker == uid || reign.Partner == uid;
-  });
-}
-
 bool IsDeadly(const Segment& segment) {
   constexpr int kDeadly[] = {kDeathMatch, kBarbedWire, kInferno};
   return segment.Style == kSingles &&
@@ -240,74 +293,39 @@ bool IsDeadly(const Segment& segment) {
 
 }  // namespace
 
-bool AnyOf(const std::vector<int>& some, const std::vector<int>& others) {
-  return std::any_of(some.begin(), some.end(), [&](int uid) { return IsAmong(others, uid); });
-}
-
-Meetings MeetingsOf(const World& world, int style, const std::vector<int>& one,
-                    const std::vector<int>& two) {
-  Meetings had;
-  for (const HeldMatch& bout : world.Bouts()) {
-    if (bout.Style != style || bout.Promotion != world.PlayerUid()) continue;
-    const int first = FirstSide(bout, one, two);
-    if (first == 0) continue;
-    ++had.Met;
-    had.LastDaysAgo = DaysAgo(world, bout.On);
-    had.LastWinner = bout.Winners == 0 ? 0 : first;
-    if (had.LastWinner == 1) ++had.One;
-    if (had.LastWinner == 2) ++had.Two;
-    if (had.LastDaysAgo <= 365) ++had.LastYear;
-    if (YearOf(bout.On) == YearOf(world.Today()) && bout.Rating > had.BestRating) {
-      had.BestRating = bout.Rating;
-      had.BestDaysAgo = had.LastDaysAgo;
-    }
-  }
-  return had;
-}
-
-int RunOf(const World& world, int uid) {
-  int run = 0;
-  for (int number = world.Bouts().Count(); number > 0; --number) {
-    const HeldMatch& bout = world.Bouts()[number];
-    if (bout.Style == kSpecial || bout.Promotion != world.PlayerUid()) continue;
-    const auto* end = bout.Worker.begin() + 8;
-    const auto* at = std::find(bout.Worker.begin(), end, uid);
-    if (at == end) continue;
-    const bool won = at - bout.Worker.begin() < bout.Winners;
-    if (bout.Winners == 0 || (run != 0 && (run > 0) != won)) return run;
-    run += won ? 1 : -1;
-  }
-  return run;
-}
-
 std::vector<PastFact> LookBack(Teller& teller) {
   return Look(teller).Facts();
 }
 
 bool ChangesHands(Teller& teller) {
   const Segment& segment = teller.segment;
-  if (teller.cast.Thing(Item::Title).empty() || IsDraw(segment) || segment.Style == kSpecial)
-    return false;
-  return PassesTitles(segment) && !IsAmong(WinnersOf(segment), teller.scene.Champion);
+  if (teller.cast.Thing(Item::Title).empty() || IsDraw(segment)) return false;
+  const Uids winners = segment.Style == kSpecial ? Uids{int(segment.Winner)} : WinnersOf(segment);
+  return PassesTitles(segment) && !IsAmong(winners, teller.scene.Champion);
 }
 
 std::vector<PastMark> MarksOf(Teller& teller, const std::vector<int>& winners, bool changed) {
   const World& world = teller.world;
   std::vector<PastMark> marks;
-  const auto others = winners.empty() ? Uids{} : LosersOf(teller.segment);
+  const bool isCrowded = teller.segment.Style == kSpecial;
+  const auto others = winners.empty() || isCrowded ? Uids{} : LosersOf(teller.segment);
+  // In a crowd only who is left at the end stands there to be seen off.
   for (const PastFact& fact : teller.Told)
-    if (fact.Is == kLastMatch) marks.push_back({kLastBow, fact});
-  if (IsDeadly(teller.segment))
+    if (fact.Is == kLastMatch && (!isCrowded || AnyOf(winners, fact.One)))
+      marks.push_back({kLastBow, fact});
+  if (teller.IsOurs() && IsDeadly(teller.segment))
     for (const int uid : PeopleOf(teller.segment))
       if (const Worker* worker = world.FindWorker(uid); worker && worker->Status == "Inj")
         marks.push_back({kWentTooFar, {{}, 0, {uid}, {}}});
   if (teller.scene.Overall >= kPerfect && !winners.empty())
     marks.push_back({kPerfectMatch, {{}, 0, winners, others}});
   if (!changed || winners.empty()) return marks;
-  const int champion = winners[0];
-  if (winners.size() == 1 && HasHeldAll(world, champion))
+  const bool isFirst =
+      world.Reigns().Count() > 0 && std::none_of(winners.begin(), winners.end(),
+                                                 [&](int uid) { return WasChampion(teller, uid); });
+  if (teller.IsOurs() && winners.size() == 1 && HasHeldAll(world, winners[0]))
     marks.push_back({kEveryCrown, {{}, 0, winners, others}});
-  else if (world.Reigns().Count() > 0 && !WasChampion(world, champion))
+  else if (isFirst)
     marks.push_back({kFirstCrown, {{}, 0, winners, others}});
   return marks;
 }

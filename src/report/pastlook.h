@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "records/fields/chronicle.h"
 #include "report/pasttold.h"
 
 // How the records are read for what a match brings along.
@@ -35,6 +36,10 @@ int RunOf(const World& world, int uid);
 /// The attacks and signed contracts of the last five weeks' cards and of the rows before this one.
 std::vector<PastFact> CallbacksOf(Teller& teller, const std::vector<int>& one,
                                   const std::vector<int>& two);
+/// Those of a side who are among the others.
+std::vector<int> Shared(const std::vector<int>& side, const std::vector<int>& others);
+/// The player's best match of the present year between two or four; nullptr for none.
+const HeldMatch* BestOfTheYear(const World& world);
 /// Whether any of these is among the others.
 bool AnyOf(const std::vector<int>& some, const std::vector<int>& others);
 

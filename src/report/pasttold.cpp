@@ -49,8 +49,8 @@ void SayOf(Teller& teller, const PastFact& fact, Family family, int band) {
   cast.Set(Item::Count, fact.Count == 0 ? "" : CountText(fact.Count));
   cast.Set(Item::Nth, fact.Count == 0 ? "" : NthText(fact.Count));
   const bool dated = fact.DaysAgo >= 0;
-  cast.Set(Item::When, dated ? AgoText(fact.DaysAgo, teller.world.Today()) : "");
-  cast.Set(Item::Since, dated ? SinceText(fact.DaysAgo, teller.world.Today()) : "");
+  cast.Set(Item::When, dated ? AgoText(fact.DaysAgo, teller.Today()) : "");
+  cast.Set(Item::Since, dated ? SinceText(fact.DaysAgo, teller.Today()) : "");
   cast.Set(Item::Tally, fact.Tally);
   if (!cast.Of('F').Empty()) teller.Say(family, band);
   for (const Item item : {Item::Count, Item::Nth, Item::When, Item::Since, Item::Tally})
@@ -132,8 +132,31 @@ std::string SinceText(int days, Day today) {
   return days <= kAYearAgo ? "last year" : YearsText(days) + " back";
 }
 
+bool IsYearsEnd(Day day) {
+  constexpr int kDecember = 12;
+  return MonthOf(day) == kDecember;
+}
+
+void TellYear(Teller& teller, Family family, int band) {
+  if (!teller.scene.IsEvent || !teller.IsOurs() || !IsYearsEnd(teller.Today())) return;
+  const HeldMatch* best = BestOfTheYear(teller.world);
+  // What has just been better closes the year by itself.
+  if (!best || (band == kYearStands && teller.scene.Overall > best->Rating)) return;
+  const int many = best->Winners;
+  const auto winners = best->Worker.begin() + many;
+  const PastFact fact{{},
+                      0,
+                      {best->Worker.begin(), winners},
+                      {winners, winners + many},
+                      0,
+                      static_cast<int>((teller.Today() - Day(best->On)).count())};
+  teller.Paragraph();
+  SayOf(teller, fact, family, band);
+  teller.Paragraph();
+}
+
 std::vector<PastFact> PastOf(Teller& teller) {
-  if (teller.segment.Style == kSpecial || !teller.world.HasGame()) return {};
+  if (!teller.world.HasGame()) return {};
   std::vector<PastFact> facts = LookBack(teller);
   std::stable_sort(facts.begin(), facts.end(),
                    [](const PastFact& a, const PastFact& b) { return a.Weight > b.Weight; });
@@ -152,7 +175,9 @@ void TellPast(Teller& teller) {
 
 void TellPastEnding(Teller& teller) {
   const Segment& segment = teller.segment;
-  const auto winners = segment.Style == kSpecial ? std::vector<int>{} : WinnersOf(segment);
+  const auto winners = segment.Style == kSpecial && segment.Winner != 0
+                           ? std::vector<int>{segment.Winner}
+                           : WinnersOf(segment);
   const bool changed = ChangesHands(teller);
   int said = 0;
   for (const PastMark& mark : MarksOf(teller, winners, changed)) {

@@ -43,6 +43,10 @@ std::string SinceText(int days, Day today);
 
 /// The two most telling facts, before the bell. Remembers them in teller.Told.
 void TellPast(Teller& teller);
+/// Whether it is the month in which the year is looked back on.
+bool IsYearsEnd(Day day);
+/// At an Event of that month: the year's best match, by a line of this band and in a paragraph.
+void TellYear(Teller& teller, Family family, int band);
 /// What the result makes of them, and what a career has once.
 void TellPastEnding(Teller& teller);
 

@@ -12,6 +12,9 @@ namespace grapplemont {
 
 namespace {
 
+/// What so few lines have told ends in the same paragraph.
+constexpr int kLinesApart = 4;
+
 void TellBout(Teller& teller, const BoutRow& bout) {
   switch (bout.Shape) {
     case BoutShape::IronMan:
@@ -28,7 +31,7 @@ void TellBout(Teller& teller, const BoutRow& bout) {
     case BoutShape::Scramble:
       TellBody(teller, bout);
       teller.Pace.HoldBreath(teller);
-      teller.Paragraph();
+      if (teller.LinesHere() >= kLinesApart) teller.Paragraph();
       TellFinish(teller, bout);
   }
 }
@@ -49,17 +52,23 @@ void TellMatch(Teller& teller) {
   TellAftermath(teller);
 }
 
-bool HasTurnPending(const Teller& teller) {
+/// What the turns of an angle make of those who turn, as far as the crowd goes along.
+void SetTurn(Teller& teller) {
   const auto& turns = teller.scene.Turns;
-  return std::any_of(turns.begin(), turns.end(),
-                     [](const Turning& turn) { return !turn.Becomes.empty(); });
+  if (std::any_of(turns.begin(), turns.end(), [](auto& turn) { return !turn.Becomes.empty(); }))
+    teller.cast.Set(Item::Turn, "turn");
+  const bool isHit = std::all_of(turns.begin(), turns.end(), [&](const Turning& turn) {
+    return !turn.FellFlat && !turn.CameTooSoon && turn.Becomes == turns.front().Becomes;
+  });
+  if (isHit && !turns.empty()) SetSide(teller, turns.front().Becomes);
 }
 
 }  // namespace
 
 std::string WriteReport(World& world, const Segment& segment, const Scene& scene,
-                        LineMemory& memory) {
+                        LineMemory& memory, std::vector<SaidSentence>* sentences) {
   Teller teller(world, segment, scene, memory);
+  if (scene.Row == 1) TellYear(teller, Family::PastOpening, kYearRecalled);
   switch (segment.Kind) {
     case kMatch:
       TellMatch(teller);
@@ -73,6 +82,8 @@ std::string WriteReport(World& world, const Segment& segment, const Scene& scene
     default:
       break;
   }
+  if (scene.IsLast) TellYear(teller, Family::PastEnding, kYearStands);
+  if (sentences) *sentences = teller.Sentences();
   return teller.Text();
 }
 
@@ -83,47 +94,57 @@ std::vector<Feud> FeudsAtTheBell(const World& world) {
   return feuds;
 }
 
-int LineMemory::Pick(Draws& draws, const void* band, std::vector<bool> fits,
-                     std::span<const int> days) {
+std::vector<std::size_t> LineMemory::Open(const void* band, std::vector<bool>& fits) {
   if (std::count(fits.begin(), fits.end(), true) == 0) fits.flip();
   std::vector<bool>& used = used_[band];
   used.resize(fits.size());
-  const auto isOpen = [&](std::size_t line) { return fits[line] && !used[line]; };
-  const auto longestOpen = [&] {
-    int longest = -1;
+  std::vector<std::size_t> open;
+  const auto look = [&] {
     for (std::size_t line = 0; line < fits.size(); ++line)
-      if (isOpen(line)) longest = std::max(longest, days.empty() ? 0 : days[line]);
-    return longest;
+      if (fits[line] && !used[line]) open.push_back(line);
   };
-  int longest = longestOpen();
-  if (longest < 0) {
-    for (std::size_t line = 0; line < fits.size(); ++line)
-      if (fits[line]) used[line] = false;
-    longest = longestOpen();
+  look();
+  if (!open.empty()) return open;
+  for (std::size_t line = 0; line < fits.size(); ++line)
+    if (fits[line]) used[line] = false;
+  look();
+  return open;
+}
+
+int LineMemory::Pick(Draws& draws, const void* band, std::vector<bool> fits,
+                     std::span<const int> days) {
+  std::vector<std::size_t> choice = Open(band, fits);
+  if (!days.empty()) {
+    int longest = 0;
+    for (const std::size_t line : choice) longest = std::max(longest, days[line]);
+    std::erase_if(choice, [&](std::size_t line) { return days[line] != longest; });
   }
-  const auto isFree = [&](std::size_t line) {
-    return isOpen(line) && (days.empty() || days[line] == longest);
-  };
   auto picked = static_cast<std::size_t>(draws.Draw(static_cast<int>(fits.size())) - 1);
-  if (!isFree(picked)) {
-    std::vector<std::size_t> choice;
-    for (std::size_t line = 0; line < fits.size(); ++line)
-      if (isFree(line)) choice.push_back(line);
+  if (std::find(choice.begin(), choice.end(), picked) == choice.end())
     picked = choice[static_cast<std::size_t>(draws.Draw(static_cast<int>(choice.size())) - 1)];
-  }
-  used[picked] = true;
+  used_[band][picked] = true;
   return static_cast<int>(picked);
 }
 
-int LineMemory::PickFor(Draws& draws, const void* band, int speaker, std::span<const int> days) {
-  std::vector<bool>& said = bySpeaker_[{band, speaker}];
-  said.resize(days.size());
-  std::vector<bool> fits = said;
-  fits.flip();
-  const int picked = Pick(draws, band, std::move(fits), days);
-  if (said[static_cast<std::size_t>(picked)]) said.assign(said.size(), false);
-  said[static_cast<std::size_t>(picked)] = true;
-  return picked;
+int LineMemory::PickAsWished(Draws& draws, const void* band, std::vector<bool> fits,
+                             std::span<const int> days, std::span<const int> lengths,
+                             LineWish wish) {
+  if (wish == LineWish::Any) return Pick(draws, band, std::move(fits), days);
+  std::vector<std::size_t> choice = Open(band, fits);
+  const auto half = choice.begin() + static_cast<std::ptrdiff_t>((choice.size() - 1) / 2);
+  std::nth_element(choice.begin(), half, choice.end(),
+                   [&](std::size_t a, std::size_t b) { return days[a] > days[b]; });
+  const int least = days[*half];
+  std::erase_if(choice, [&](std::size_t line) { return days[line] < least; });
+  std::sort(choice.begin(), choice.end(), [&](std::size_t a, std::size_t b) {
+    return std::pair(wish == LineWish::Long ? -lengths[a] : lengths[a], a) <
+           std::pair(wish == LineWish::Long ? -lengths[b] : lengths[b], b);
+  });
+  const std::size_t best = std::min<std::size_t>(choice.size(), 2);
+  const std::size_t picked =
+      choice[static_cast<std::size_t>(draws.Draw(static_cast<int>(best)) - 1)];
+  used_[band][picked] = true;
+  return static_cast<int>(picked);
 }
 
 bool LineMemory::Used(const void* band, int line) const {
@@ -151,7 +172,7 @@ void TellInterview(Teller& teller) {
 }
 
 void TellAngle(Teller& teller) {
-  if (HasTurnPending(teller)) teller.cast.Set(Item::Turn, "turn");
+  SetTurn(teller);
   teller.Say(Family::AngleText, teller.segment.Style);
   for (const Turning& turn : teller.scene.Turns) {
     if (turn.Becomes.empty()) continue;

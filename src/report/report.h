@@ -1,16 +1,16 @@
 #pragma once
 
-#include <map>
+#include <optional>
 #include <span>
 #include <string>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 #include "records/fields/outside.h"
 #include "records/segments.h"
 #include "records/world.h"
 #include "report/family.h"
+#include "report/line.h"
 #include "report/saidlines.h"
 
 // A Segment told in prose, in the voice that the player has chosen.
@@ -24,6 +24,8 @@ std::string_view VoiceName(int voice);
 struct Turning {
   int Uid = 0;
   std::string Becomes = {};  // the disposition behind it; empty where nobody was prepared for it
+  bool FellFlat = false;     // the crowd did not like it
+  bool CameTooSoon = false;  // it remembered the last one
 };
 
 constexpr int kUnrated = -1;
@@ -36,9 +38,20 @@ struct Scene {
   std::vector<Feud> Feuds = {};  // as they stood when the bell rang
   int Row = 0;                   // of the sheet; 0 outside a show
   bool IsLast = false, IsEvent = false;
-  int Overall = kUnrated;  // what the match is rated, 0 to 100
-  int Crowd = kUnrated;    // the same of the crowd
+  int Overall = kUnrated;         // what the match is rated, 0 to 100
+  int Crowd = kUnrated;           // the same of the crowd
+  std::optional<Feud> Ends = {};  // the feud that the match was booked to end
+  /// A match on another promotion's card, read at any time behind its day; 0 on a show of ours.
+  int Promotion = 0;
+  Day On = {};
 };
+/// A sentence of a report: where it ends in the text, and the line that it is of.
+struct SaidSentence {
+  std::size_t Until = 0;
+  Family Of = Family::Opening;
+  int Band = 0;
+};
+
 /// The feuds of now, for a Scene.
 std::vector<Feud> FeudsAtTheBell(const World& world);
 
@@ -59,8 +72,10 @@ class LineMemory {
   int Pick(Draws& draws, const void* band, int lines, std::span<const int> days = {}) {
     return Pick(draws, band, std::vector<bool>(static_cast<std::size_t>(lines), true), days);
   }
-  /// The same, and as long as there are others none that this speaker has said tonight.
-  int PickFor(Draws& draws, const void* band, int speaker, std::span<const int> days);
+  /// The same by a wish: of the half that has been unused for longest, one of the two shortest, or
+  /// longest, by `lengths`, one for each line. Requires `days`.
+  int PickAsWished(Draws& draws, const void* band, std::vector<bool> fits,
+                   std::span<const int> days, std::span<const int> lengths, LineWish wish);
   /// Whether it was picked since the band last began. What a text says cannot tell: two bands may
   /// use the same words.
   bool Used(const void* band, int line) const;
@@ -69,16 +84,18 @@ class LineMemory {
 
  private:
   explicit LineMemory(SaidLines said) : said_(std::move(said)) {}
+  /// Those that fit and that tonight's show has not used; where it has used them all, the band
+  /// begins again.
+  std::vector<std::size_t> Open(const void* band, std::vector<bool>& fits);
 
   SaidLines said_;
   std::unordered_map<const void*, std::vector<bool>> used_;
-  std::map<std::pair<const void*, int>, std::vector<bool>> bySpeaker_;
 };
 
 /// The prose of a match, an interview or an angle, in paragraphs. Draws from World::Prose alone, so
-/// that a result never depends on it.
+/// that a result never depends on it. `sentences` takes what it consists of, where it is asked for.
 std::string WriteReport(World& world, const Segment& segment, const Scene& scene,
-                        LineMemory& memory);
+                        LineMemory& memory, std::vector<SaidSentence>* sentences = nullptr);
 /// The second reporter's rating of a match; empty for the others and for what is not a match. Draws
 /// from World::Prose.
 std::string Verdict(World& world, const Segment& segment, int overall,

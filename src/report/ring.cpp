@@ -5,6 +5,7 @@
 
 #include "records/segments.h"
 #include "report/drama.h"
+#include "report/stretches.h"
 
 namespace grapplemont {
 
@@ -132,17 +133,23 @@ void Ring::Play(std::string_view script, int spot, const Person* last, const Per
   Plan(script, last, under);
   Begin(script, plan_.back().Attacker, last);
   Begin(script, plan_.back().Defender, under);
+  teller_.Under = Footing::Up;  // a fall or an exchange begins
   Pace& pace = teller_.Pace;
   pace.Begin(static_cast<int>(script.size()));
   Drama drama(teller_);
+  const std::vector<Stretch> stretches = StretchesOf(script);
   for (std::size_t at = 0; at < script.size(); ++at) {
+    const bool isNew = at > 0 && stretches[at] != stretches[at - 1];
+    if (isNew || (at > 0 && IsEnough(script[at], teller_.LinesHere()))) teller_.Paragraph();
     attacker_ = plan_[at].Attacker;
     defender_ = plan_[at].Defender;
     Act();
     if (IsCount(script[at])) LayDown();
     pace.Before(teller_, script[at], drama.Before(script[at]));
     Step(script, at, spot);
+    teller_.IsCoverNext = at + 1 < script.size() && IsCount(script[at + 1]);
     pace.After(teller_, script[at], drama.After(script[at]));
+    teller_.IsCoverNext = false;
   }
 }
 
@@ -160,7 +167,10 @@ void Ring::Step(std::string_view script, std::size_t at, int spot) {
     case '~':
       attacker_ = plan_[at + 1].Attacker;
       defender_ = plan_[at + 1].Defender;
-      Act();
+      if (step == '#')
+        teller_.TurnRound(Legal(attacker_), Legal(defender_));
+      else
+        Act();
       teller_.Say(step == '#' ? Family::Counter : Family::BreakIn);
       break;
     case 'S':

@@ -78,6 +78,7 @@ using Scripts = std::span<const Script>;
 /// The rows of a plain singles match are three variants of each of four shapes; the last shape is
 /// the squash.
 inline constexpr int kShapes = 4, kVariants = 3;
+inline constexpr std::size_t kSquashSteps = 4;  // of a squash, at most
 
 enum class BoutShape { Duel, Scramble, IronMan, Elimination, Survivor, Rumble, BattleRoyal };
 

@@ -20,6 +20,11 @@ std::int32_t LineKey(int voice, std::string_view line) {
   return static_cast<std::int32_t>(key);
 }
 
+std::int32_t SpeakerKey(std::int32_t line, int speaker) {
+  const auto of = static_cast<std::uint32_t>(line) ^ (static_cast<std::uint32_t>(speaker) << 8);
+  return static_cast<std::int32_t>(of * 16777619U);
+}
+
 void SaidLines::Read(const World& world) {
   const auto& said = world.Said();
   if (read_ > said.Count()) {

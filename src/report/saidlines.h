@@ -11,6 +11,9 @@ namespace grapplemont {
 /// The number by which a line of a voice is remembered, whatever stands beside it in words/.
 std::int32_t LineKey(int voice, std::string_view line);
 
+/// The number by which it is remembered that one speaker said it.
+std::int32_t SpeakerKey(std::int32_t line, int speaker);
+
 /// The lines that the shows of a slot have said (said.dat). A world without a game remembers none.
 class SaidLines {
  public:

@@ -43,6 +43,16 @@ bool AreOpponents(const Segment& segment, const std::vector<int>& ones,
   });
 }
 
+/// Nobody of a feud of which only one side is there.
+FeudOfSides SidesIn(Teller& teller, const Feud& feud) {
+  const FeudSides sides = SidesOf(feud);
+  const auto ones = Present(teller, sides.One), others = Present(teller, sides.Two);
+  FeudOfSides told{&feud, teller.cast.Together(teller.world, ones),
+                   teller.cast.Together(teller.world, others),
+                   !AreOpponents(teller.segment, ones, others)};
+  return told.One.Empty() || told.Two.Empty() ? FeudOfSides{} : told;
+}
+
 void TellStake(Teller& teller) {
   const int holder = teller.scene.Champion, partner = teller.scene.CoChampion;
   TitleStake stake = kVacant;
@@ -79,16 +89,14 @@ void TellChampion(Teller& teller) {
 }  // namespace
 
 FeudOfSides FeudTold(Teller& teller) {
+  // What is settled here comes before any other quarrel of theirs.
+  if (teller.scene.Ends)
+    if (FeudOfSides ended = SidesIn(teller, *teller.scene.Ends); ended.Between) return ended;
   FeudOfSides partners;
   for (const Feud& feud : teller.scene.Feuds) {
-    const FeudSides sides = SidesOf(feud);
-    const auto ones = Present(teller, sides.One), others = Present(teller, sides.Two);
-    const Party one = teller.cast.Together(teller.world, ones),
-                two = teller.cast.Together(teller.world, others);
-    if (one.Empty() || two.Empty()) continue;
-    const bool apart = AreOpponents(teller.segment, ones, others);
-    if (apart) return {&feud, one, two, false};
-    if (!partners.Between) partners = {&feud, one, two, true};
+    FeudOfSides told = SidesIn(teller, feud);
+    if (told.Between && !told.ArePartners) return told;
+    if (!partners.Between) partners = std::move(told);
   }
   return partners;
 }
@@ -114,7 +122,7 @@ void TellOpening(Teller& teller) {
     teller.Say(Family::Opening, Bout(segment.Style, segment.MatchType));
   if (!teller.cast.Thing(Item::Title).empty())
     TellStake(teller);
-  else
+  else if (teller.IsOurs())
     TellChampion(teller);
   if (const FeudOfSides feud = FeudTold(teller); feud.ArePartners)
     SayFeud(teller, feud, Family::FeudPartners, 0);
@@ -179,28 +187,44 @@ void TurnOf(Teller& teller, char part) {
 
 namespace {
 
-/// The band of a turn by what it makes of somebody.
-int TurnBand(std::string_view becomes) {
-  if (becomes.empty()) return kBaffling;
-  return becomes == "F" ? kTurnsFace : becomes == "T" ? kTurnsTweener : kTurnsHeel;
+/// The band of a turn by what it makes of somebody, and by what the crowd made of it.
+int TurnBand(const Turning& turn) {
+  if (turn.Becomes.empty()) return kBaffling;
+  if (turn.FellFlat) return kFellFlat;
+  if (turn.CameTooSoon) return kTooSoon;
+  return turn.Becomes == "F" ? kTurnsFace : turn.Becomes == "T" ? kTurnsTweener : kTurnsHeel;
+}
+
+bool AreAlike(const Turning& one, const Turning& two) {
+  return TurnBand(one) == TurnBand(two) && one.Becomes == two.Becomes;
 }
 
 }  // namespace
 
+void SetSide(Teller& teller, std::string_view disposition) {
+  constexpr struct {
+    Item Is;
+    std::string_view Stored;
+  } kSides[] = {{Item::Face, "F"}, {Item::Heel, "H"}, {Item::Tweener, "T"}};
+  for (const auto& side : kSides) teller.cast.Set(side.Is, disposition == side.Stored ? "so" : "");
+}
+
 void TellTurn(Teller& teller) {
   const Party turners = teller.cast.Of('t');
-  std::vector<std::string> told;
+  std::vector<const Turning*> told;
   for (const Turning& first : teller.scene.Turns) {
     Party alike;  // who become the same are told together
     for (Person* person : turners.People)
       for (const Turning& turn : teller.scene.Turns)
-        if (turn.Uid == person->Uid && turn.Becomes == first.Becomes)
-          alike.People.push_back(person);
-    if (alike.Empty() || std::find(told.begin(), told.end(), first.Becomes) != told.end()) continue;
-    told.push_back(first.Becomes);
+        if (turn.Uid == person->Uid && AreAlike(turn, first)) alike.People.push_back(person);
+    const bool isTold = std::any_of(told.begin(), told.end(),
+                                    [&](const Turning* turn) { return AreAlike(*turn, first); });
+    if (alike.Empty() || isTold) continue;
+    told.push_back(&first);
     if (alike.People.size() == turners.People.size()) alike.Name = turners.Name;
     teller.cast.Of('t') = alike;
-    teller.Say(Family::Turn, TurnBand(first.Becomes));
+    SetSide(teller, first.Becomes);
+    teller.Say(Family::Turn, TurnBand(first));
   }
 }
 
@@ -215,8 +239,7 @@ void TellAftermath(Teller& teller) {
   const PurposeRow purpose = PurposeOf(segment);
   TellPurpose(teller, purpose);
   if (const FeudOfSides feud = FeudTold(teller); feud.Between && !feud.ArePartners)
-    SayFeud(teller, feud, Family::FeudEnding,
-            purpose.Does == Aim::EndsFeud ? kFeudIsOver : kFeudGoesOn);
+    SayFeud(teller, feud, Family::FeudEnding, teller.scene.Ends ? kFeudIsOver : kFeudGoesOn);
 }
 
 }  // namespace grapplemont

@@ -31,6 +31,8 @@ void TellBody(Teller& teller, const BoutRow& bout);
 void TellFinish(Teller& teller, const BoutRow& bout);
 /// Whether a win takes a Title along: by disqualification or count-out it stays where it is.
 bool PassesTitles(const Segment& segment);
+/// Won without a foul, and nobody lays hands on anybody behind the bell.
+bool EndsCleanly(const Segment& segment);
 /// What becomes of the Title.
 void TellTitleEnding(Teller& teller);
 /// After the bell: the aftermath, turns, what the match was booked for, the feud.
@@ -46,6 +48,8 @@ void TellBattleRoyal(Teller& teller);
 void TellInterview(Teller& teller);
 void TellAngle(Teller& teller);
 
+/// Sets the item of a disposition, and takes those of the others back.
+void SetSide(Teller& teller, std::string_view disposition);
 /// Says that the part t turns, if somebody plays it, by where they stand.
 void TellTurn(Teller& teller);
 /// Sets the part t to the people of this one.

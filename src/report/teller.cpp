@@ -8,6 +8,7 @@
 #include "records/segments.h"
 #include "report/cast.h"
 #include "report/report.h"
+#include "report/stages.h"
 
 namespace grapplemont {
 
@@ -47,7 +48,9 @@ bool Teller::Say(Family family, int band, unsigned wants) {
   if (wants != 0 && std::count(fits.begin(), fits.end(), true) == 0)
     fits = Fitting(family, band, 0);
   const std::vector<int> days = DaysUnsaid(family, band, fits);
-  return SayLine(family, band, memory_.Pick(world.Prose(), block, std::move(fits), days));
+  return SayLine(family, band,
+                 memory_.PickAsWished(world.Prose(), block, std::move(fits), days,
+                                      LengthsOf(voice_, family, band), Pace.Wish()));
 }
 
 bool Teller::SayNew(Family family, int band) {
@@ -56,8 +59,10 @@ bool Teller::SayNew(Family family, int band) {
   std::vector<bool> fits(block->Lines.size());
   for (std::size_t line = 0; line < fits.size(); ++line)
     fits[line] = !memory_.Used(block, static_cast<int>(line));
-  if (std::count(fits.begin(), fits.end(), true) == 0) return false;
   const std::vector<int> days = DaysUnsaid(family, band, fits);
+  // A game may have been closed and opened again since the show began.
+  for (std::size_t line = 0; line < fits.size(); ++line) fits[line] = fits[line] && days[line] > 0;
+  if (std::count(fits.begin(), fits.end(), true) == 0) return false;
   return SayLine(family, band, memory_.Pick(world.Prose(), block, std::move(fits), days));
 }
 
@@ -65,9 +70,19 @@ bool Teller::SayAs(char part, Family family, int band) {
   const Block* block = BlockOf(voice_, family, band);
   const Person* speaker = cast.First(part);
   if (!block || !speaker) return Say(family, band);
-  const std::vector<int> days =
-      DaysUnsaid(family, band, std::vector<bool>(block->Lines.size(), true));
-  return SayLine(family, band, memory_.PickFor(world.Prose(), block, speaker->Uid, days));
+  SaidLines& said = memory_.Said();
+  std::vector<std::int32_t> own;
+  for (const std::int32_t key : KeysOf(voice_, family, band))
+    own.push_back(SpeakerKey(key, speaker->Uid));
+  std::vector<int> since;
+  for (const std::int32_t key : own) since.push_back(said.DaysSince(world, key));
+  const int longest = *std::max_element(since.begin(), since.end());
+  std::vector<bool> fits;
+  for (const int days : since) fits.push_back(days == longest);
+  const std::vector<int> days = DaysUnsaid(family, band, fits);
+  const int line = memory_.Pick(world.Prose(), block, std::move(fits), days);
+  said.Say(world, own[static_cast<std::size_t>(line)]);
+  return SayLine(family, band, line);
 }
 
 std::vector<int> Teller::DaysUnsaid(Family family, int band, const std::vector<bool>& of) {
@@ -85,8 +100,11 @@ bool Teller::SayLine(Family family, int band, int line) {
   const int way = memory_.Said().Times(world, key);
   memory_.Said().Say(world, key);
   const bool hasWays = read.Text.find('[') != std::string_view::npos;
-  const bool isSaid =
-      hasWays ? Fill(cast, SaidIn(read.Text, way), text_) : Fill(cast, read.Text, text_);
+  ends_.clear();
+  const bool isSaid = hasWays ? Fill(cast, SaidIn(read.Text, way), text_, ends_)
+                              : Fill(cast, read.Text, text_, ends_);
+  for (const std::size_t end : ends_) sentences_.push_back({end, family, band});
+  linesHere_ += isSaid;
   Move(family, read);
   return isSaid;
 }
@@ -102,10 +120,18 @@ namespace {
 
 constexpr int kDeepTrouble = 3, kWornDown = 3;  // moves taken
 
-/// The tag of a percentage's level.
-unsigned LevelTag(int percent) {
-  constexpr int kMiddling = 45, kPraised = 81;
-  return percent < kMiddling ? kLowTag : percent < kPraised ? kMidTag : kHighTag;
+/// Three tags that follow each other, and up to where the first two of them go.
+struct Levels {
+  unsigned Low;
+  int LowUpTo, MidUpTo;
+};
+constexpr Levels kRatings{kLowTag, kDudUpTo, kFairUpTo}, kCrowds{kColdTag, kColdUpTo, kWarmUpTo};
+
+/// Whether the percentage is on one of the levels that the line names, if it names any.
+bool FitsLevel(const TaggedLine& line, const Levels& levels, int percent) {
+  const unsigned named = line.Tags & levels.Low * 7;
+  const int level = (percent > levels.LowUpTo) + (percent > levels.MidUpTo);
+  return named == 0 || percent == kUnrated || (named & levels.Low << level) != 0;
 }
 
 /// Whose lines say whether they lead out of a hold.
@@ -123,19 +149,23 @@ std::vector<bool> Teller::Fitting(Family family, int band, unsigned wants) const
 }
 
 bool Teller::Fits(const TaggedLine& line, Family family, unsigned wants) const {
-  constexpr unsigned kLevels = kLowTag | kMidTag | kHighTag;
-  if ((line.Tags & wants) != wants) return false;
-  if (LeadsOutOfHolds(family) && !line.Is(kAnywayTag) &&
-      line.Is(kHeldTag) != (Under == Footing::Held))
-    return false;
-  if (line.Is(kFloorTag) && Under != Footing::Down) return false;
+  if ((line.Tags & wants) != wants || !FitsFooting(line, family)) return false;
   if (line.Is(kPinTag) && !Counts) return false;
+  if (line.Is(kCleanTag) && !EndsCleanly(segment)) return false;
   const Person *attacker = cast.First('a'), *defender = cast.First('d');
   if (line.Is(kTroubleTag) && !(attacker && attacker->Trouble >= kDeepTrouble)) return false;
   if (line.Is(kWornTag) && !(defender && defender->Taken >= kWornDown)) return false;
-  const unsigned levels = line.Tags & kLevels;
-  const int rated = family == Family::Beat ? scene.Crowd : scene.Overall;
-  return levels == 0 || rated == kUnrated || (levels & LevelTag(rated)) != 0;
+  return FitsLevel(line, kRatings, scene.Overall) && FitsLevel(line, kCrowds, scene.Crowd);
+}
+
+bool Teller::FitsFooting(const TaggedLine& line, Family family) const {
+  if (LeadsOutOfHolds(family) && !line.Is(kAnywayTag) &&
+      line.Is(kHeldTag) != (Under == Footing::Held))
+    return false;
+  const bool isAside = family == Family::Interlude || family == Family::Beat;
+  if (isAside && Under == Footing::Held && (line.Tags & (kUpTag | kDownTag)) != 0) return false;
+  if (line.Is(kUpTag) && IsCoverNext) return false;
+  return !line.Is(kFloorTag) || Under == Footing::Down;
 }
 
 void Teller::Move(Family family, const TaggedLine& line) {
@@ -153,6 +183,9 @@ void Teller::Move(Family family, const TaggedLine& line) {
     case Family::EliminationTry:
       Under = Footing::Up;
       return;
+    case Family::Interlude:
+    case Family::Beat:
+      return line.Is(kUpTag) ? void(Under = Footing::Up) : leave(Under);
     case Family::TagOut:
       Under = Footing::Up;
       if (attacker) attacker->Trouble = 0;
@@ -190,6 +223,7 @@ void Teller::Move(Family family, const TaggedLine& line) {
 void Teller::Paragraph() {
   while (text_.ends_with(' ')) text_.pop_back();
   if (!text_.empty() && !text_.ends_with('\n')) text_ += '\n';
+  linesHere_ = 0;
 }
 
 std::string Teller::Text() {
@@ -198,8 +232,11 @@ std::string Teller::Text() {
 }
 
 void Teller::Act(Person* attacker, Person* defender) {
-  const Person *a = cast.First('a'), *d = cast.First('d');
-  if (!(a == attacker && d == defender) && !(a == defender && d == attacker)) Under = Footing::Up;
+  if (cast.First('a') != attacker || cast.First('d') != defender) Under = Footing::Up;
+  TurnRound(attacker, defender);
+}
+
+void Teller::TurnRound(Person* attacker, Person* defender) {
   cast.Set('a', attacker);
   cast.Set('d', defender);
 }
@@ -210,6 +247,14 @@ constexpr int kVoiceCount = static_cast<int>(std::size(kVoiceRows));
 
 int KnownVoice(int voice) {
   return voice >= 0 && voice < kVoiceCount ? voice : kLamplighter;
+}
+
+/// Of all ways to say it.
+int MeanLength(std::string_view line) {
+  const int ways = WaysToSay(line);
+  int letters = 0;
+  for (int way = 0; way < ways; ++way) letters += static_cast<int>(SaidIn(line, way).size());
+  return letters / ways;
 }
 
 /// Every block of a voice by family and band.
@@ -225,6 +270,7 @@ class Index {
     const Block* Lines = nullptr;
     std::vector<std::int32_t> Keys = {};
     std::vector<TaggedLine> Read = {};
+    std::vector<int> Lengths = {};
   };
   const Entry& Find(Family family, int band) const {
     static const Entry kNone;
@@ -240,7 +286,9 @@ class Index {
     entry.Lines = &block;
     for (const std::string_view line : block.Lines) {
       entry.Read.push_back(ReadTags(line));
-      entry.Keys.push_back(LineKey(voice, entry.Read.back().Text));
+      const std::string_view text = entry.Read.back().Text;
+      entry.Keys.push_back(LineKey(voice, text));
+      entry.Lengths.push_back(MeanLength(text));
     }
   }
 
@@ -252,14 +300,14 @@ const Index::Entry& EntryOf(int voice, Family family, int band) {
       Index{kLamplighter,
             {modLamplighter::Offence(), modLamplighter::Bouts(), modLamplighter::Finishes(),
              modLamplighter::Talk(), modLamplighter::Angles(), modLamplighter::Memory(),
-             modLamplighter::Beats()}},
+             modLamplighter::Beats(), modLamplighter::Chronicle()}},
       Index{kTolland,
             {modTolland::Offence(), modTolland::Bouts(), modTolland::Finishes(), modTolland::Talk(),
              modTolland::Angles(), modTolland::Verdicts(), modTolland::Memory(),
-             modTolland::Beats()}},
+             modTolland::Beats(), modTolland::Chronicle()}},
       Index{kQvd,
             {modQVD::Offence(), modQVD::Bouts(), modQVD::Finishes(), modQVD::Talk(),
-             modQVD::Angles(), modQVD::Memory(), modQVD::Beats()}}};
+             modQVD::Angles(), modQVD::Memory(), modQVD::Beats(), modQVD::Chronicle()}}};
   const int only = RowOf(family).Only;
   const int teller = only == kEveryVoice ? KnownVoice(voice) : only;
   return kIndex[static_cast<std::size_t>(teller)].Find(family, band);
@@ -277,6 +325,10 @@ const Block* BlockOf(int voice, Family family, int band) {
 
 std::span<const std::int32_t> KeysOf(int voice, Family family, int band) {
   return EntryOf(voice, family, band).Keys;
+}
+
+std::span<const int> LengthsOf(int voice, Family family, int band) {
+  return EntryOf(voice, family, band).Lengths;
 }
 
 std::span<const TaggedLine> ReadLinesOf(int voice, Family family, int band) {

@@ -17,6 +17,9 @@ namespace grapplemont {
 /// How the one who suffers is left by what was told last.
 enum class Footing { Up, Down, Held };
 
+/// Up to what rating the crowd is cold, and up to what it is warm.
+inline constexpr int kColdUpTo = 39, kWarmUpTo = 64;
+
 /// One report while it grows: the voice that GameInfo.Reporter names, the cast, the text.
 class Teller {
  public:
@@ -29,7 +32,8 @@ class Teller {
   bool Say(Family family, int band = 0, unsigned wants = 0);
   /// The same, but only a line that the show has not had; false when it has had them all.
   bool SayNew(Family family, int band);
-  /// The same as Say of whoever plays this part: a line that they have not been given tonight.
+  /// The same as Say of whoever plays this part: the line that they have not said for the longest
+  /// time, on this show or an earlier one.
   bool SayAs(char part, Family family, int band);
   /// The line of an offence family, by what the attacker is best at.
   void SayOffence(Family family, unsigned wants = 0);
@@ -37,8 +41,18 @@ class Teller {
   void Append(std::string_view text) { text_ += text; }
   /// What follows begins a new paragraph.
   void Paragraph();
+  /// Lines said since it began.
+  int LinesHere() const { return linesHere_; }
   /// The whole report, trimmed.
   std::string Text();
+  /// What it consists of.
+  const std::vector<SaidSentence>& Sentences() const { return sentences_; }
+
+  /// A match on a show of the player's; of any other no more is known than its card and its Title.
+  bool IsOurs() const { return scene.Promotion == 0; }
+  /// Who holds the show, and the day of it.
+  int Promotion() const { return IsOurs() ? world.PlayerUid() : scene.Promotion; }
+  Day Today() const { return IsOurs() ? world.Today() : scene.On; }
 
   /// A draw for the prose.
   int Draw(int n) { return world.Prose().Draw(n); }
@@ -49,6 +63,8 @@ class Teller {
   }
   /// Sets {a} and {d}. Whoever was down or held stays it while the two are the same.
   void Act(Person* attacker, Person* defender);
+  /// Sets {a} and {d} for a Counter, of which {a} was down or held until now.
+  void TurnRound(Person* attacker, Person* defender);
 
   World& world;
   const Segment& segment;
@@ -56,11 +72,13 @@ class Teller {
   Cast cast;
   Footing Under = Footing::Up;  // of {d}
   bool Counts = true;           // the bout may end in a count
+  bool IsCoverNext = false;     // the step to come counts {d}, who has to lie for it
   grapplemont::Pace Pace;
   std::vector<PastFact> Told;  // what has been said of the past
 
  private:
   bool Fits(const TaggedLine& line, Family family, unsigned wants) const;
+  bool FitsFooting(const TaggedLine& line, Family family) const;
   std::vector<bool> Fitting(Family family, int band, unsigned wants) const;
   bool SayLine(Family family, int band, int line);
   /// For each line that `of` holds true.
@@ -70,6 +88,9 @@ class Teller {
   LineMemory& memory_;
   int voice_;
   std::string text_;
+  std::vector<SaidSentence> sentences_;
+  std::vector<std::size_t> ends_;  // of the sentences of the line that is said
+  int linesHere_ = 0;
 };
 
 /// The band of an offence line: Brawl, Technical and Speed each with a draw of 10 on top, the
@@ -88,6 +109,7 @@ Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
 Blocks Angles();
+Blocks Chronicle();
 }  // namespace modLamplighter
 
 namespace modTolland {
@@ -98,6 +120,7 @@ Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
 Blocks Angles();
+Blocks Chronicle();
 Blocks Verdicts();
 }  // namespace modTolland
 
@@ -109,6 +132,7 @@ Blocks Bouts();
 Blocks Finishes();
 Blocks Talk();
 Blocks Angles();
+Blocks Chronicle();
 }  // namespace modQVD
 
 /// The lines to draw from: the voice's, or those of the one voice that has the family for all.
@@ -116,6 +140,8 @@ Blocks Angles();
 const Block* BlockOf(int voice, Family family, int band);
 /// By which each of its lines is remembered (saidlines.h).
 std::span<const std::int32_t> KeysOf(int voice, Family family, int band);
+/// About how many letters each of them has.
+std::span<const int> LengthsOf(int voice, Family family, int band);
 /// Each of them, apart from its tags.
 std::span<const TaggedLine> ReadLinesOf(int voice, Family family, int band);
 

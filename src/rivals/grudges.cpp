@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/keepannals.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/rivals.h"
@@ -26,6 +27,19 @@ auto* FindGrudge(Grudges& grudges, int promotionUid, int workerUid) {
 bool WorksFor(const World& world, int workerUid, int promotionUid) {
   const Worker* worker = world.FindWorker(workerUid);
   return worker && worker->Employer == promotionUid && IsOnRoster(*worker);
+}
+
+void KeepSettled(World& world, const Promotion& rival, int winner, int loser) {
+  const Grudge* grudge = GrudgeOf(world, rival.Uid, winner);
+  if (!grudge) return;
+  Annal event = NewAnnal(world, kAnnalFeudOver, &rival);
+  SetWho(world, event, winner);
+  SetWhom(world, event, loser);
+  // The match that settles it is not among those counted.
+  event.Number = 1 + (grudge->One == winner ? grudge->WonOne : grudge->WonTwo);
+  event.Against = grudge->One == winner ? grudge->WonTwo : grudge->WonOne;
+  event.Days = static_cast<int>((world.Today() - Day(grudge->Since)).count());
+  Keep(world, event);
 }
 
 bool IsAlight(const World& world, const Grudge& grudge) {
@@ -68,6 +82,7 @@ bool BeginGrudge(World& world, const Promotion& rival, int one, int two, GrudgeR
 
 void SettleGrudge(World& world, const Promotion& rival, int winner, int loser) {
   NoteDeed(world, kDeedSettled, &rival, WorkerName(world, winner), WorkerName(world, loser));
+  KeepSettled(world, rival, winner, loser);
   world.Grudges().Keep(
       [&](const Grudge& grudge) { return grudge.Promotion != rival.Uid || !Has(grudge, winner); });
 }

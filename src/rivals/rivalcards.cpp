@@ -11,6 +11,7 @@
 #include "rivals/rivals.h"
 #include "rivals/tuning.h"
 #include "roster/postings.h"
+#include "storylines/lineages.h"
 #include "storylines/titles.h"
 
 namespace grapplemont {
@@ -324,7 +325,9 @@ class CardMaker {
     match.Title = bout.Belt->Name;
     match.Champion = bout.Belt->Holder;
     match.Changed = bout.Belt->Holder == 0 || !redWins;
-    if (match.Changed)
+    if (!match.Changed)
+      CountDefence(world_, *bout.Belt);
+    else
       Crown(world_, *bout.Belt, winner.First->Uid, winner.Second ? int(winner.Second->Uid) : 0);
   }
 

@@ -67,9 +67,21 @@ Segment SegmentOf(const CardMatch& match) {
   return segment;
 }
 
-/// Who held the Title when the bell rang.
-Scene SceneOf(const CardMatch& match) {
+bool IsMainEvent(const World& world, const CardMatch& match) {
+  return std::ranges::none_of(world.RivalCards(), [&](const CardMatch& other) {
+    return other.Promotion == match.Promotion && Day(other.On) == Day(match.On) &&
+           other.Show == match.Show && other.Row > match.Row;
+  });
+}
+
+/// As it was when the bell rang. The hall is told by the match: nobody has rated it apart.
+Scene SceneOf(const World& world, const CardMatch& match) {
   Scene scene{.Champion = match.Champion};
+  scene.IsLast = IsMainEvent(world, match);
+  scene.IsEvent = match.Show == kUnseenEvent;
+  scene.Overall = scene.Crowd = match.Rating;
+  scene.Promotion = match.Promotion;
+  scene.On = match.On;
   for (const int side : {0, 1}) {
     const std::vector<int> uids = SideOf(match, side);
     if (uids.size() == 2 && std::ranges::count(uids, scene.Champion) != 0)
@@ -114,7 +126,7 @@ std::string TellMatch(World& world, const CardMatch& match) {
   auto before = world.ExchangeProse(std::make_unique<SeededDraws>(
       world.Fate("rival's match", {match.Promotion, day, match.Show, match.Row})));
   LineMemory memory = LineMemory::Apart();
-  std::string told = WriteReport(world, SegmentOf(match), SceneOf(match), memory);
+  std::string told = WriteReport(world, SegmentOf(match), SceneOf(world, match), memory);
   world.ExchangeProse(std::move(before));
   return told;
 }

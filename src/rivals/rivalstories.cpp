@@ -2,6 +2,7 @@
 #include <string>
 
 #include "records/fields/fields.h"
+#include "records/keepannals.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/founding.h"
@@ -114,8 +115,10 @@ void MakeTitles(World& world, const Promotion& rival, const Troupe& troupe) {
       return title.Owner == rival.Uid && kind.Is(title);
     });
     if (has || !enough[i]) continue;
-    if (const std::string name = FoundTitle(world, rival, kind.What, kind.Terms); !name.empty())
+    if (const std::string name = FoundTitle(world, rival, kind.What, kind.Terms); !name.empty()) {
       NoteDeed(world, kDeedTitleMade, &rival, name);
+      KeepTitle(world, &rival, name);
+    }
   }
 }
 

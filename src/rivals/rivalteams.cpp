@@ -4,6 +4,7 @@
 #include <string>
 
 #include "records/fields/fields.h"
+#include "records/keepannals.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/grudges.h"
@@ -51,6 +52,7 @@ void FallOut(World& world, Worker& one, Worker& two) {
 }
 
 void SplitUp(World& world, const Promotion& rival, const Team& team, Worker& one, Worker& two) {
+  KeepGroup(world, kAnnalParted, team.Name, one.Uid, two.Uid);
   NoteDeed(world, kDeedTeamSplit, &rival, team.Name, one.ShortName + " and " + two.ShortName.Str());
   FallOut(world, one, two);
   BeginGrudge(world, rival, one.Uid, two.Uid, kGrudgeSplit);
@@ -137,6 +139,7 @@ void TakeIn(World& world, const Promotion& rival, const std::string& name,
   const std::vector<Worker*> found = Followers(troupe, *members.front());
   if (found.empty()) return;
   found.front()->Stable = name;
+  KeepGroup(world, kAnnalJoined, name, found.front()->Uid);
   NoteDeed(world, kDeedJoined, &rival, found.front()->Name, name);
 }
 
@@ -161,6 +164,7 @@ void Found(World& world, const Promotion& rival, const Troupe& troupe) {
   world.Stables().Append(stable);
   (*leader)->Stable = *name;
   for (std::size_t i = 0; i < kFirstFollowers; ++i) followers[i]->Stable = *name;
+  KeepGroup(world, kAnnalStable, *name, (*leader)->Uid);
   NoteDeed(world, kDeedStableFounded, &rival, *name, (*leader)->Name);
 }
 

@@ -124,11 +124,11 @@ bool IsBetrayed(const Worker& worker) {
 
 void BreakWord(World& world, Worker& worker) {
   if (!IsBetrayed(worker)) {
-    worker.Loyalty -= 20;
+    worker.Loyalty -= kBrokenWordLoyalty;
     return;
   }
   GameInfo& game = world.Game();
-  game.Reputation -= 15;
+  game.Reputation -= kBrokenWordReputation;
   worker.Loyalty = 0;
   AddNews(world, worker.Name,
           "I can't believe you broke my verbal contract! I'll never work for you again!");

@@ -25,6 +25,9 @@ struct ReleaseAnswer {
 /// Of a worker of the player's.
 ReleaseAnswer AnswerToRelease(const World& world, const Worker& worker);
 
+// What a broken word costs: the worker's loyalty, or all of that and some of one's reputation.
+inline constexpr int kBrokenWordLoyalty = 20, kBrokenWordReputation = 15;
+
 // Ending the contract of a worker of the player's before its time.
 
 /// What it costs to buy out a contract, in dollars: by the difficulty, the wage in thousands of

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "records/houserules.h"
+#include "records/keepannals.h"
 #include "records/modVar.h"
 #include "records/severing.h"
 #include "roster/postings.h"
@@ -210,10 +211,12 @@ std::string JudgeSigning(const Worker& worker, const Demands& demands, const Sig
 void Sign(World& world, Worker& worker, const SigningOffer& offer) {
   const Promotion* former = world.FindPromotion(worker.Employer);
   NoteDeed(world, former ? kDeedStolen : kDeedSigned, &world.Player(), TrimmedName(offer.Name),
-           former ? former->Initials.View() : std::string_view());
+           former ? former->Initials.View() : std::string_view(), 0, &worker);
   LeaveFormer(world, worker);
   worker.Employer = world.PlayerUid();
+  const std::string before = worker.Name.Str();
   worker.Name = TrimmedName(offer.Name);
+  if (worker.Name != before) KeepNewName(world, worker, before);
   worker.ShortName = TrimmedName(offer.ShortName);
   worker.Disposition = offer.Disposition;
   worker.Position = offer.Position;

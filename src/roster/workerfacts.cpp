@@ -271,6 +271,7 @@ std::vector<FactGroup> WorkerFacts(const World& world, const Worker& worker) {
                                   BesideTheRing(world, worker),
                                   Titles(world, worker),
                                   {"Awards", AwardLines(world, worker)},
+                                  {"Where", TenureLines(world, worker)},
                                   {"Matches", RecordLines(world, worker)},
                                   {"Last matches", LastMatchLines(world, worker, kMatchesTold)},
                                   {"Company", CompanyOf(world, worker)},

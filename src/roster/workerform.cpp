@@ -107,6 +107,8 @@ std::vector<std::string> MarksOfWorker(const World& world, const Worker& worker)
   add(worker.Speaks, "Can talk");
   add(worker.Trainer, "Trainer");
   add(worker.RetiringSoon, "Will retire soon");
+  if (const int year = ElectedIn(world, worker.Uid); year != 0)
+    marks.push_back("Hall of fame " + std::to_string(year));
   if (worker.Split != "None" && worker.Split != "") marks.push_back("Split: " + worker.Split);
   return marks;
 }

@@ -1,6 +1,7 @@
 #include "roster/workerrecord.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
@@ -99,6 +100,40 @@ std::vector<std::string> AwardLines(const World& world, const Worker& worker) {
     if (worker.Uid != 0 && (award.Worker == worker.Uid || award.Partner == worker.Uid))
       lines.push_back(std::string(AwardName(award.Kind)) + " " + std::to_string(YearOf(award.On)) +
                       ".");
+  }
+  return lines;
+}
+
+namespace {
+
+const Career* CareerOf(const World& world, int uid) {
+  for (const Career& career : world.Of<Career>())
+    if (uid != 0 && career.Worker == uid) return &career;
+  return nullptr;
+}
+
+}  // namespace
+
+int ElectedIn(const World& world, int workerUid) {
+  const Career* career = CareerOf(world, workerUid);
+  return career ? int(career->Elected) : 0;
+}
+
+std::vector<std::string> TenureLines(const World& world, const Worker& worker) {
+  const Career* career = CareerOf(world, worker.Uid);
+  std::vector<const Tenure*> tenures;
+  for (const Tenure& tenure : world.Of<Tenure>())
+    if (career && tenure.Career == career->Number && tenure.Months > 0) tenures.push_back(&tenure);
+  std::ranges::stable_sort(tenures, std::greater{},
+                           [](const Tenure* tenure) { return Day(tenure->Last); });
+  std::vector<std::string> lines;
+  for (const Tenure* tenure : tenures) {
+    const int matches = tenure->Won + tenure->Lost + tenure->Drawn;
+    std::string line = tenure->Initials + ", " + MonthYear(tenure->First) + " to " +
+                       MonthYear(tenure->Last) + ": " + Counted(matches, "match", "matches") +
+                       ", " + std::to_string(tenure->Won) + " won";
+    if (tenure->Reigns > 0) line += ", " + Counted(tenure->Reigns, "reign");
+    lines.push_back(line + ".");
   }
   return lines;
 }

@@ -33,6 +33,11 @@ FormSum SumOf(const std::vector<FormLine>& form);
 std::vector<std::string> LastMatchLines(const World& world, const Worker& worker, int most);
 /// The awards of the years, the latest first: "Wrestler of the Year 2026".
 std::vector<std::string> AwardLines(const World& world, const Worker& worker);
+/// The year they entered the hall of fame; 0 for who has not.
+int ElectedIn(const World& world, int workerUid);
+/// What they did where, the latest first: "CWA, March 2026 to May 2031: 312 matches, 180 won, 2
+/// reigns".
+std::vector<std::string> TenureLines(const World& world, const Worker& worker);
 
 /// The Titles that they hold, alone or with a partner.
 std::vector<const Title*> TitlesHeldBy(const World& world, int workerUid);

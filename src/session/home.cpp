@@ -1,5 +1,6 @@
 #include "session/home.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -7,33 +8,76 @@
 
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/houserules.h"
 #include "records/store/knownfiles.h"
 #include "records/store/slotfolder.h"
 #include "records/store/slotrescue.h"
 #include "records/tables/worldreport.h"
+#include "session/build.h"
 
 namespace grapplemont {
 
 namespace {
 
-bool HasWorld(Disk& disk, const std::string& folder) {
-  return disk.Look(folder + "/data") != Disk::Kind::Nothing;
+constexpr const char* kProgramPictures[] = {"vxm_back.jpg", "vxm_title.jpg"};
+
+/// A folder "data" alone is no home: half of all folders that people work in have one.
+bool HasWorldAndPictures(Disk& disk, const std::string& folder) {
+  return MissingDataFiles(disk, {folder + "/data"}).empty() &&
+         std::ranges::all_of(kProgramPictures, [&](const char* picture) {
+           return disk.Look(folder + "/gfx/" + picture) == Disk::Kind::File;
+         });
 }
 
-/// $XDG_DATA_HOME/grapplemont, by the rules of the desktop's base folders.
-std::string UserFolder() {
-  if (const char* data = std::getenv("XDG_DATA_HOME"); data && *data == '/')
-    return std::string(data) + "/grapplemont";
+/// The game's folder in the base folder that the environment names, else in the user's home.
+std::string BaseFolder(const char* variable, const std::string& inHome) {
+  // A path that is not whole does not count, by the rules of the desktop's base folders.
+  if (const char* named = std::getenv(variable); named && *named == '/')
+    return std::string(named) + "/grapplemont";
   const char* user = std::getenv("HOME");
-  return std::string(user ? user : "") + "/.local/share/grapplemont";
+  return user && *user ? std::string(user) + "/" + inHome + "/grapplemont" : std::string();
 }
 
-/// Where the package put the world and the pictures, seen from the program's own place.
-std::string InstalledFolder() {
-  std::error_code ignored;
-  const auto program = std::filesystem::read_symlink("/proc/self/exe", ignored);
-  return (program.parent_path().parent_path() / "share" / "grapplemont").string();
+/// Where what came with the program may lie: beside a program that was built or moved, and where
+/// the build was told to install it.
+std::vector<std::string> SharesOf(const Surroundings& around) {
+  const auto beside = std::filesystem::path(around.Program).parent_path().parent_path();
+  std::vector<std::string> shares;
+  if (!beside.empty()) shares.push_back((beside / "share" / "grapplemont").string());
+  if (!around.Installed.empty()) shares.push_back(around.Installed);
+  return shares;
+}
+
+/// Empty for none.
+std::string ShareOf(Disk& disk, const Surroundings& around) {
+  for (const std::string& share : SharesOf(around))
+    if (HasWorldAndPictures(disk, share)) return share;
+  return {};
+}
+
+/// Whether the program lies where it was built: what configured the build is beside it.
+bool IsInItsBuild(Disk& disk, const Surroundings& around) {
+  const auto build = std::filesystem::path(around.Program).parent_path().parent_path();
+  return disk.Look((build / "CMakeCache.txt").string()) == Disk::Kind::File;
+}
+
+SlotSummary NotPlayable(const char* caption, std::string details = {}) {
+  return {caption, std::move(details), false, false};
+}
+constexpr const char* kUnreadable = "Slot Cannot Be Read";
+
+}  // namespace
+
+Surroundings MachineSurroundings() {
+  Surroundings around;
+  std::error_code none;
+  around.Program = std::filesystem::read_symlink("/proc/self/exe", none).string();
+  around.Installed = kInstalledShare;
+  around.UserData = BaseFolder("XDG_DATA_HOME", ".local/share");
+  around.UserConfig = BaseFolder("XDG_CONFIG_HOME", ".config");
+  around.UserState = BaseFolder("XDG_STATE_HOME", ".local/state");
+  return around;
 }
 
 void MakeFolders(Disk& disk, const std::string& folder) {
@@ -44,42 +88,34 @@ void MakeFolders(Disk& disk, const std::string& folder) {
   }
 }
 
-void CopyFolder(Disk& disk, const std::string& from, const std::string& to) {
-  MakeFolders(disk, to);
-  for (const std::string& name : disk.List(from))
-    if (disk.Look(from + "/" + name) == Disk::Kind::File)
-      CopyFile(disk, from + "/" + name, to + "/" + name);
+std::string Surroundings::FaultFile() const {
+  return UserState.empty() ? std::string() : UserState + "/faults.log";
 }
 
-SlotSummary NotPlayable(const char* caption, std::string details = {}) {
-  return {caption, std::move(details), false, false};
-}
-constexpr const char* kUnreadable = "Slot Cannot Be Read";
-
-}  // namespace
-
-std::string FindHome(Disk& disk) {
-  if (HasWorld(disk, ".")) return ".";
-  const std::string user = UserFolder();
-  if (HasWorld(disk, user)) return user;
-  const std::string installed = InstalledFolder();
-  if (!HasWorld(disk, installed)) return ".";
-  CopyFolder(disk, installed + "/gfx", user + "/gfx");
-  // The folder that marks a home comes last and in one step: a copy cut short is made again.
-  RemoveTree(disk, user + "/data.new");
-  CopyFolder(disk, installed + "/data", user + "/data.new");
-  disk.Rename(user + "/data.new", user + "/data");
-  return user;
+Home FindHome(Disk& disk, const Surroundings& around) {
+  const std::string share = ShareOf(disk, around);
+  if (IsInItsBuild(disk, around) && HasWorldAndPictures(disk, around.Working))
+    return {around.Working, share};
+  if (around.UserData.empty())
+    throw std::runtime_error(
+        "Neither HOME nor XDG_DATA_HOME says where your games are kept. Name a folder with "
+        "--home.");
+  if (share.empty() && !HasWorldAndPictures(disk, around.UserData))
+    throw std::runtime_error("The world and the pictures that come with the game are neither in " +
+                             Joined(SharesOf(around), " nor in ") +
+                             ". Install the game again, or name a folder that has data and gfx "
+                             "with --home.");
+  MakeFolders(disk, around.UserData);
+  return {around.UserData, share};
 }
 
-std::string HomeAt(Disk& disk, const std::string& folder) {
-  // Behind the "/." a link to a folder counts as the folder.
-  if (folder.empty() || disk.Look(folder + "/.") != Disk::Kind::Folder)
+Home HomeAt(Disk& disk, const std::string& folder, const Surroundings& around) {
+  if (folder.empty() || !IsFolder(disk, folder))
     throw std::runtime_error("\"" + folder + "\" is not a folder.");
-  return folder;
+  return {folder, ShareOf(disk, around)};
 }
 
-std::vector<std::string> WaitingPictures(Disk& disk, const std::string& pictureFolder, int set) {
+std::vector<std::string> WaitingPictures(Disk& disk, const Layers& folders, int set) {
   std::vector<std::string> pictures;
   const int most = set == 0 ? 4 : 10;
   for (int i = 1; i <= most; ++i) {
@@ -87,15 +123,14 @@ std::vector<std::string> WaitingPictures(Disk& disk, const std::string& pictureF
     const std::string file =
         set == 0 ? "VXM_load" + number + ".jpg"
                  : "VXM_Set" + std::to_string(set) + "_" + (i < 10 ? "0" : "") + number + ".jpg";
-    if (disk.Look(pictureFolder + "/" + file) == Disk::Kind::File) pictures.push_back(file);
+    if (!FileIn(disk, folders, file).empty()) pictures.push_back(file);
   }
   return pictures;
 }
 
-std::string DrawWaitingPicture(Disk& disk, const std::string& pictureFolder, int set,
-                               Draws& draws) {
-  std::vector<std::string> pictures = WaitingPictures(disk, pictureFolder, set);
-  if (pictures.empty() && set != 0) pictures = WaitingPictures(disk, pictureFolder, 0);
+std::string DrawWaitingPicture(Disk& disk, const Layers& folders, int set, Draws& draws) {
+  std::vector<std::string> pictures = WaitingPictures(disk, folders, set);
+  if (pictures.empty() && set != 0) pictures = WaitingPictures(disk, folders, 0);
   if (pictures.empty()) return {};
   return pictures[static_cast<std::size_t>(draws.Draw(static_cast<int>(pictures.size())) - 1)];
 }
@@ -172,13 +207,6 @@ std::string QuestionOfLeavings(Disk& disk, const std::string& folder) {
   if (!stay.empty())
     question += "\nWhat belongs to no game stays in the folder: " + Listed(stay) + ".";
   return question + "\nBegin the new game here?";
-}
-
-std::vector<std::string> MissingDataFiles(Disk& disk, const std::string& folder) {
-  std::vector<std::string> missing;
-  for (const std::string_view file : kDataSet)
-    if (disk.Look(folder + "/" + std::string(file)) != Disk::Kind::File) missing.emplace_back(file);
-  return missing;
 }
 
 }  // namespace grapplemont

@@ -9,6 +9,7 @@
 #include "records/arithmetic.h"
 #include "records/fields/fields.h"
 #include "records/houserules.h"
+#include "records/keepannals.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/readmail.h"
@@ -260,6 +261,8 @@ void SetTheHouse(World& world) {
 /// The game's first year is compared with this day, its Titles' reigns begin here, and what was
 /// news before it is no unread mail.
 void BeginPast(World& world) {
+  world.Annals().Rewrite({});
+  BeginAnnals(world);
   UpdateReigns(world);
   NoteYearEnd(world);
   world.ReadMails().Rewrite({});

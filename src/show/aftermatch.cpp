@@ -38,17 +38,6 @@ constexpr MoraleBand kMoraleBands[] = {
     {75, 3, -5, -5, -7}, {50, 3, -5, -5, -5}, {25, 2, -3, -3, -3}};
 constexpr int kMatchAhead = 15;
 
-/// A match of this quality carries those below the Over with it.
-struct Showcase {
-  int OverBelow;
-  int QualityFrom;
-  int Gain;
-};
-// The second sees what the first has given.
-constexpr Showcase kShowcases[] = {{80, 91, 5}, {40, 66, 3}};
-
-constexpr int kWinnersJoy = 3;
-
 void WearOut(SegmentRun& run, Worker& worker) {
   if (run.Strain < 1) return;
   const Wear& wear = kWear[std::min(run.Strain, static_cast<int>(std::size(kWear))) - 1];
@@ -100,9 +89,9 @@ void TellRoadAgent(World& world, const Worker& worker, const std::string& before
 
 CardPull PushedTooHigh(World& world, const Worker& worker, int fit, int mood) {
   CardPull pull;
-  if (worker.Position < fit - 1) pull.Over -= 1;
+  if (worker.Position < fit - 1) pull.Over -= kOverOfPush;
   if (worker.Position < fit - 2) {
-    pull.Over -= 2;
+    pull.Over -= kOverOfFarPush;
     TellRoadAgent(world, worker, " is losing heat because you are pushing ", " too much.");
   }
   if (worker.Attitude >= kModest && mood == kMoodToWrite && !IsLegend(worker))
@@ -112,9 +101,9 @@ CardPull PushedTooHigh(World& world, const Worker& worker, int fit, int mood) {
 
 CardPull HeldTooLow(World& world, const Worker& worker, int fit, int mood) {
   CardPull pull;
-  if (worker.Position - 1 > fit) pull.Morale -= 3;
+  if (worker.Position - 1 > fit) pull.Morale -= kMoraleOfHold;
   if (worker.Position - 2 > fit) {
-    pull.Morale -= 5;
+    pull.Morale -= kMoraleOfFarHold;
     TellRoadAgent(world, worker, " is losing morale because you are not pushing ", " enough.");
   }
   if (mood == kMoodToWrite)
@@ -161,6 +150,25 @@ void Feel(SegmentRun& run, Worker& worker, Feelings feelings) {
 
 }  // namespace
 
+Span WearOf(int strain) {
+  const Wear& wear = kWear[std::clamp(strain, 1, static_cast<int>(std::size(kWear))) - 1];
+  return {wear.Sure + 1, wear.Sure + wear.Draw};
+}
+
+Span MoraleOfGoodMatch() {
+  const auto [least, most] = std::ranges::minmax(kMoraleBands, {}, &MoraleBand::Better);
+  return {least.Better, most.Better};
+}
+
+Span MoraleOfPoorMatch() {
+  Span cost{-kMoraleBands[0].Worse, 0};
+  for (const MoraleBand& band : kMoraleBands) {
+    cost.Least = std::min(cost.Least, -band.Worse);
+    cost.Most = std::max(cost.Most, -(band.Worse + band.FarWorse + band.Dreadful));
+  }
+  return cost;
+}
+
 void AfterMatch(SegmentRun& run, Worker& worker, bool isWinner) {
   const int matchLevel = WeighRating(run.Quality, run.Crowd) + kMatchAhead;
   const int workerLevel = WeighRating(BestSkill(worker), worker.Over);
@@ -194,8 +202,6 @@ constexpr int kLongestMonths = 6;
 /// One in this many is hurt, by Strain.
 constexpr int kOddsByStrain[] = {0, 0, 0, 400, 250, 150};
 constexpr int kSickBumpOdds = 40;
-/// Below this Condition the odds double.
-constexpr int kWornOut = 40;
 
 bool TakesSickBump(const Segment& segment, int uid) {
   return (segment.Style == kSingles || segment.Style == kTag) && segment.Finish == kSickBump &&
@@ -212,6 +218,11 @@ int OddsOf(const SegmentRun& run, const Worker& worker) {
 }
 
 }  // namespace
+
+int HurtingStrain() {
+  return static_cast<int>(std::ranges::find_if(kOddsByStrain, [](int odds) { return odds > 0; }) -
+                          std::begin(kOddsByStrain));
+}
 
 void BreakSomething(World& world, Worker& worker) {
   const int kind = world.RandomDraw(kInjuryKinds);

@@ -101,7 +101,7 @@ void NoteTitle(World& world, const Segment& segment, const AtTheBell& bell, Held
   bout.Changed = title->Holder != bell.Champion || title->Partner != bell.CoChampion;
   UpdateReigns(world);
   if (!bout.Changed && bell.Champion != 0 && TakesPart(segment, bell.Champion))
-    CountDefence(world, title->Name);
+    CountDefence(world, *title);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "records/keepannals.h"
 #include "records/modVar.h"
 #include "records/segmentparts.h"
 #include "show/legend.h"
@@ -157,9 +158,13 @@ void PayOff(SegmentRun& run, const Feud& feud, bool firstWon) {
 
 }  // namespace
 
+int FeudEndedBy(const World& world, const Segment& segment) {
+  if (segment.Kind != kMatch || PurposeOf(segment).Does != Aim::EndsFeud) return 0;
+  return FeudSlotOf(world, segment, segment.Style == kTag);
+}
+
 void EndFeudByMatch(SegmentRun& run) {
-  if (PurposeOf(run.Segment).Does != Aim::EndsFeud) return;
-  const int slot = FeudSlotOf(run.World, run.Segment, run.Segment.Style == kTag);
+  const int slot = FeudEndedBy(run.World, run.Segment);
   if (slot == 0) return;
   MarkSlot(run, slot);
   Feud& feud = run.World.Feuds()[slot];
@@ -171,6 +176,8 @@ void EndFeudByMatch(SegmentRun& run) {
   if (const int side = FeudSideOf(feud, run.Segment.Winner);
       side != 0 && score.One + score.Two >= kNoticed)
     PayOff(run, feud, side == 1);
+  const int winners = FeudSideOf(feud, run.Segment.Winner);
+  KeepFeud(run.World, winners == 0 ? kAnnalFeudCold : kAnnalFeudOver, feud, winners == 2);
   for (Word* worker : {&feud.Worker1, &feud.Worker2, &feud.Worker3, &feud.Worker4}) *worker = 0;
   run.FeudEnding = false;
   NoteFact(run, {kNoteFeudEnd, name}, 0, heat,

@@ -31,9 +31,10 @@ constexpr Omen kOmens[] = {
 };
 
 /// What the slot keeps of its past says nothing of the show to come.
-constexpr std::string_view kPast[] = {"history.dat", "bouts.dat",  "tallies.dat", "reports.dat",
-                                      "said.dat",    "awards.dat", "yearend.dat", "months.dat",
-                                      "moods.dat",   "cards.dat",  "mornings.dat"};
+constexpr std::string_view kPast[] = {"history.dat", "bouts.dat",  "tallies.dat",  "reports.dat",
+                                      "said.dat",    "awards.dat", "yearend.dat",  "months.dat",
+                                      "moods.dat",   "cards.dat",  "mornings.dat", "telling.dat",
+                                      "annals.dat"};
 
 bool IsPast(std::string_view file) {
   return std::find(std::begin(kPast), std::end(kPast), file) != std::end(kPast);

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "records/angles.h"
+#include "records/keepannals.h"
 #include "records/modWresCheck.h"
 #include "show/nightbook.h"
 #include "show/titlechange.h"
@@ -130,6 +131,7 @@ void ChangeManager(SegmentRun& run, const Cast& cast) {
 void JoinStable(SegmentRun& run, const Cast& cast) {
   if (!cast.One) return;
   cast.One->Stable = run.Segment.Text.View();
+  KeepGroup(run.World, kAnnalJoined, run.Segment.Text, cast.One->Uid);
   Tell(run, cast.One->Name.View(), " joined ", run.Segment.Text.View());
 }
 
@@ -177,7 +179,6 @@ constexpr int kSensation = 91;
 constexpr int kClearlyAbove = 8;
 /// Nobody this popular gains by less than a sensation.
 constexpr int kAtTheTop = 90;
-constexpr int kBelow = 15;
 constexpr int kFarBelow = 20;
 
 int GainFrom(SegmentRun& run, int over, bool isSecondary) {
@@ -185,14 +186,14 @@ int GainFrom(SegmentRun& run, int over, bool isSecondary) {
     return isSecondary ? run.World.RandomDraw(2) - 1 : run.World.RandomDraw(n);
   };
   if (run.Overall <= over) return 0;
-  if (run.Overall >= kSensation) return draw(4);
-  return run.Overall > over + kClearlyAbove && over < kAtTheTop ? draw(3) : 0;
+  if (run.Overall >= kSensation) return draw(kSensationalTalk);
+  return run.Overall > over + kClearlyAbove && over < kAtTheTop ? draw(kGoodTalk) : 0;
 }
 
 int LossFrom(SegmentRun& run, int over, bool isSecondary) {
-  if (run.Overall >= over - kBelow) return 0;
-  if (run.Overall < over - kFarBelow && !isSecondary) return -2 - run.World.RandomDraw(4);
-  return -2;
+  if (run.Overall >= over - kTalkBelow) return 0;
+  if (run.Overall < over - kFarBelow && !isSecondary) return -kPoorTalk - run.World.RandomDraw(4);
+  return -kPoorTalk;
 }
 
 /// By the final rating. Who only stands by (secondary) gains and loses less.

@@ -18,6 +18,11 @@ void ReportOver(SegmentRun& run, const Worker& worker, int change, const std::st
 /// Over by the result of a 1 vs 1 or 2 vs 2 match; nothing for a draw and for other styles.
 void ShiftOver(SegmentRun& run);
 
+// Talk against the speaker's Over: the most that it gains, by draws, how far below it begins to
+// cost, and what it costs at least.
+inline constexpr int kSensationalTalk = 4, kGoodTalk = 3;
+inline constexpr int kTalkBelow = 15, kPoorTalk = 2;
+
 /// Over of everybody who spoke in an interview or angle; managers, stables and Titles that an angle
 /// moves.
 void TalkConsequences(SegmentRun& run);

@@ -1,9 +1,7 @@
 #include "show/runsegment.h"
 
-#include <algorithm>
 #include <span>
 
-#include "report/report.h"
 #include "show/aftermatch.h"
 #include "show/holdshow.h"
 #include "show/matchscore.h"
@@ -25,6 +23,7 @@ struct Telling {
   Title* AtStake;      // nullptr for no Title
   grapplemont::Scene Scene = {};
   std::string Report = {}, Verdict = {};
+  std::vector<SaidSentence> Sentences = {};
 };
 
 using Step = void (*)(Telling&);
@@ -48,6 +47,8 @@ void SetScene(Telling& telling) {
   telling.Scene.Row = telling.Number;
   telling.Scene.IsEvent = show.IsEvent;
   telling.Scene.IsLast = IsLastToCome(telling.Run.World, telling.Number, show.IsEvent);
+  if (const int slot = FeudEndedBy(telling.Run.World, telling.Run.Segment); slot != 0)
+    telling.Scene.Ends = telling.Run.World.Feuds()[slot];
   if (!telling.AtStake) return;
   telling.Scene.Champion = telling.AtStake->Holder;
   telling.Scene.CoChampion = telling.AtStake->Partner;
@@ -55,17 +56,14 @@ void SetScene(Telling& telling) {
 
 /// Whoever waited for it becomes what the rules make of them.
 void MakeTurns(Telling& telling) {
-  const World& world = telling.Run.World;
-  std::vector<int> ready;
-  for (const TurnCall& turn : BookedTurns(world, telling.Run.Segment)) {
-    const Worker* worker = world.FindWorker(turn.Turner);
-    telling.Scene.Turns.push_back({turn.Turner});
-    if (worker && worker->TurnPending) ready.push_back(turn.Turner);
+  for (const TurnMade& made : ApplyTurns(telling.Run)) {
+    Turning turn{.Uid = made.Turner,
+                 .FellFlat = made.Outcome == TurnOutcome::Flat,
+                 .CameTooSoon = made.Outcome == TurnOutcome::TooSoon};
+    if (made.Outcome != TurnOutcome::Baffling)
+      turn.Becomes = telling.Run.World.FindWorker(made.Turner)->Disposition.Str();
+    telling.Scene.Turns.push_back(std::move(turn));
   }
-  ApplyTurns(telling.Run);
-  for (Turning& turn : telling.Scene.Turns)
-    if (std::find(ready.begin(), ready.end(), turn.Uid) != ready.end())
-      turn.Becomes = world.FindWorker(turn.Uid)->Disposition.Str();
 }
 
 void LookForChampion(Telling& telling) {
@@ -76,8 +74,8 @@ void WriteProse(Telling& telling) {
   if (!telling.Memory) return;
   telling.Scene.Overall = telling.Run.Overall;
   telling.Scene.Crowd = telling.Run.Crowd;
-  telling.Report =
-      WriteReport(telling.Run.World, telling.Run.Segment, telling.Scene, *telling.Memory);
+  telling.Report = WriteReport(telling.Run.World, telling.Run.Segment, telling.Scene,
+                               *telling.Memory, &telling.Sentences);
 }
 
 void LimitBoth(SegmentRun& run) {
@@ -156,8 +154,9 @@ ToldSegment RunSegment(World& world, int number, LineMemory* memory) {
   SegmentRun run{world, segment, world.ShowRuns()[1], {}, {}, {}, 1, false, {}, number};
   Telling telling{run, number, memory, TitleAtStake(world, segment)};
   for (const Step step : StepsOf(segment)) step(telling);
-  return {std::move(run.Quality), std::move(run.Crowd),      std::move(run.Overall),
-          std::move(run.Notes),   std::move(telling.Report), std::move(telling.Verdict)};
+  return {std::move(run.Quality),      std::move(run.Crowd),      std::move(run.Overall),
+          std::move(run.Notes),        std::move(telling.Report), std::move(telling.Verdict),
+          std::move(telling.Sentences)};
 }
 
 void MatchConsequences(SegmentRun& run) {

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
+#include "report/report.h"
 #include "show/segmentrun.h"
 
 // A Segment of a show from its scoring to what it changes.
@@ -12,6 +16,7 @@ struct ToldSegment {
   std::string Notes;   // of the road agent
   std::string Report;  // prose
   std::string Verdict;
+  std::vector<SaidSentence> Sentences;  // of the report
 };
 
 /// Its percentages, by what they are called.
@@ -23,7 +28,6 @@ inline constexpr ToldFigure kToldFigures[] = {{"Match Quality", &ToldSegment::Qu
                                               {"Crowd Reaction", &ToldSegment::Crowd},
                                               {"Overall Rating", &ToldSegment::Overall}};
 
-class LineMemory;
 /// Runs record `number` of match.dat in the show under way: scores it, tells it, changes what it
 /// changes, adds it to the show's sum and writes its rating. `memory` is nullptr for a run without
 /// prose.

@@ -108,6 +108,17 @@ int MoveHeat(int heat, int target, bool isTalk) {
 
 }  // namespace
 
+Span HeatMoves() {
+  Span moves{kHeatSteps[0].By, 0};
+  for (const HeatStep& step : kHeatSteps) moves.Most += step.By;
+  return moves;
+}
+
+Span HeatOfTalk() {
+  const auto [least, most] = std::ranges::minmax(kHeatSteps, {}, &HeatStep::TalkBelow);
+  return {least.TalkBelow, most.TalkBelow};
+}
+
 int FeudSlotOf(const World& world, const Segment& segment, bool ofTeams) {
   if (!ofTeams) return FeudSlotOf(world, UidAt(segment, 1), UidAt(segment, 2));
   for (int slot = 1; slot <= world.Feuds().Count(); ++slot)

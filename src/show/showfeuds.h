@@ -1,5 +1,6 @@
 #pragma once
 
+#include "records/span.h"
 #include "show/segmentrun.h"
 
 // Feuds as a show sees them. In a singles feud the two enemies are the sides; in a tag feud each
@@ -29,6 +30,10 @@ int FeudSlotOf(const World& world, const Segment& segment, bool ofTeams);
 /// 0. Draws once where the crowd is below the heat.
 void FeudLift(SegmentRun& run, int slot);
 
+/// By how much the heat of a feud goes at a time, and the heats at which talk alone lifts no more.
+Span HeatMoves();
+Span HeatOfTalk();
+
 /// The heat of the first feud of Worker1 and Worker2 follows the match as it is rated so far; in a
 /// tag match too, where the two are partners.
 void HeatFollowsMatch(SegmentRun& run);
@@ -47,6 +52,8 @@ void TallyVerbal(SegmentRun& run, int speakerUid, int targetUid);
 /// Every attack that a match's run-ins and aftermath stand for.
 void TallyAttacks(SegmentRun& run);
 
+/// The slot of the feud that a match is booked to end; 0 for none.
+int FeudEndedBy(const World& world, const Segment& segment);
 /// A match that is booked to end its workers' feud does: both sides gain or lose by how it went,
 /// some write about it, and its slot is free. Nothing for other matches.
 void EndFeudByMatch(SegmentRun& run);

@@ -19,27 +19,28 @@ bool IsPlayers(const World& world, const Promotion& promotion) {
 }
 
 /// Who tells it, and in which words: "We made $" or "They made $".
-struct Voice {
+struct NewsVoice {
   std::string From;
   std::string Who;
 };
 
 /// Empty sender: nobody is to hear of it.
-Voice VoiceOf(const World& world, const Promotion& promotion, const char* ownSender, int option) {
+NewsVoice VoiceOf(const World& world, const Promotion& promotion, const char* ownSender,
+                  int option) {
   if (IsPlayers(world, promotion)) return {ownSender, "We"};
   if (!ShouldTell(world, option, promotion.Size)) return {};
   return {promotion.Initials + " News", "They"};
 }
 
-void Tell(World& world, const Voice& voice, const std::string& body) {
+void Tell(World& world, const NewsVoice& voice, const std::string& body) {
   if (!voice.From.empty()) AddNews(world, voice.From, body);
 }
 
-std::string Made(const Voice& voice, int dollars, const char* from) {
+std::string Made(const NewsVoice& voice, int dollars, const char* from) {
   return voice.Who + " made $" + std::to_string(dollars) + " from " + from + ".";
 }
 
-std::string Got(const Promotion& promotion, const Voice& voice) {
+std::string Got(const Promotion& promotion, const NewsVoice& voice) {
   return (voice.Who == "We" ? voice.Who : promotion.Initials.Str()) + " got a ";
 }
 
@@ -75,7 +76,7 @@ int PayForProduction(World& world, Promotion& promotion, int type) {
   return dollars;
 }
 
-std::string CrowdLine(const Voice& voice, int people) {
+std::string CrowdLine(const NewsVoice& voice, int people) {
   return (voice.Who == "We" ? "The attendance was " : "The event was attended by ") +
          std::to_string(people) + " people.";
 }
@@ -88,7 +89,7 @@ std::string BuyRateText(int hundredths) {
 
 void TellOfPayPerView(World& world, const Promotion& promotion, const Event& event, int buyRate,
                       int people, int ppvDollars, int ticketDollars) {
-  const Voice voice = VoiceOf(world, promotion, "PPV report", world.Game().MailShows);
+  const NewsVoice voice = VoiceOf(world, promotion, "PPV report", world.Game().MailShows);
   Tell(world, voice,
        Got(promotion, voice) + BuyRateText(buyRate) + " buy rate for '" + event.Name.Str() +
            "'!\n" + CrowdLine(voice, people) + "\n" +
@@ -98,7 +99,7 @@ void TellOfPayPerView(World& world, const Promotion& promotion, const Event& eve
 
 void TellOfEvent(World& world, const Promotion& promotion, const Event& event, int people,
                  int ticketDollars) {
-  const Voice voice = VoiceOf(world, promotion, "Show report", world.Game().MailShows);
+  const NewsVoice voice = VoiceOf(world, promotion, "Show report", world.Game().MailShows);
   Tell(world, voice,
        event.Name + " was attended by " + std::to_string(people) + " people!\n" +
            Made(voice, ticketDollars, "ticket sales"));
@@ -211,7 +212,7 @@ ShowTakings TvReport(World& world, Promotion& promotion) {
   const Score people = TvAttendance(world, promotion);
   NoteOwn(world, promotion, kNoteCrowd, people);
   const int dollars = SellTickets(world, promotion, people);
-  const Voice voice = VoiceOf(world, promotion, "Television report", world.Game().MailTvShow);
+  const NewsVoice voice = VoiceOf(world, promotion, "Television report", world.Game().MailTvShow);
   const bool own = voice.Who == "We";
   Tell(world, voice,
        Got(promotion, voice) + RatingText(rating) +

@@ -25,10 +25,10 @@ int StepTowards(int image, const Worker& champion) {
 int ImageChange(int target, int image) {
   int change = 0;
   // Whatever falls by 4 also passes the test for 2, which has the last word.
-  if (target + 12 < image) change = -4;
-  if (target + 7 < image) change = -2;
-  if (target > image) change = 2;
-  if (target > image + 10) change = 4;
+  if (target + 12 < image) change = -kTitleImageLeap;
+  if (target + 7 < image) change = -kTitleImageStep;
+  if (target > image) change = kTitleImageStep;
+  if (target > image + 10) change = kTitleImageLeap;
   return change;
 }
 

@@ -18,6 +18,8 @@ void PassTitle(SegmentRun& run, Title& title, int holder, int partner, std::stri
 std::vector<int> NewChampions(const World& world, const Segment& segment);
 /// The Title at stake goes to its new holders, if the result takes it there.
 void ChangeTitle(SegmentRun& run);
+// How far a Title's image goes at a time, the second from further off.
+inline constexpr int kTitleImageStep = 2, kTitleImageLeap = 4;
 /// Of a Title at stake, by the final rating.
 void MoveTitleImage(SegmentRun& run);
 

@@ -14,8 +14,6 @@ namespace grapplemont {
 
 namespace {
 
-enum class TurnOutcome { Completed, Flat, TooSoon, Baffling };
-
 /// What the fans remember of a last turn: within Days of it, a draw of kMemory below Below spoils
 /// the new one.
 struct Memory {
@@ -109,12 +107,14 @@ std::string_view TurnedInto(const Worker& turner) {
   return turner.Disposition == "F" ? "face. " : turner.Disposition == "T" ? "tweener. " : "heel. ";
 }
 
+constexpr int kTurnUp = 10, kTurnDown = 3;  // draws of Over
+
 void CompleteTurn(SegmentRun& run, Worker& turner) {
   run.Notes += turner.Name.Str() + "'s turn was completed, and " +
                (turner.Gender ? "he " : "she ") + "is now a " + std::string(TurnedInto(turner));
   run.Crowd.Add(run.World.RandomDraw(10), "turn of " + turner.Name.Str());
-  const int up = run.World.RandomDraw(10);
-  ChangeOverAndTell(run, turner, up - run.World.RandomDraw(3), "turned");
+  const int up = run.World.RandomDraw(kTurnUp);
+  ChangeOverAndTell(run, turner, up - run.World.RandomDraw(kTurnDown), "turned");
 }
 
 void FailTurn(SegmentRun& run, Worker& turner, const FailedTurn& price) {
@@ -241,12 +241,25 @@ void AddMatchTurns(Calls& calls, const World& world, const Segment& segment) {
 
 }  // namespace
 
+int BestOfTurn() {
+  return kTurnUp - 1;
+}
+
+Span CostOfFailedTurn() {
+  Span cost{100, 0};
+  for (const FailedTurn& price : kFailedTurns) {
+    cost.Least = std::min(cost.Least, -price.Over + (price.OverDraw > 0 ? 1 : 0));
+    cost.Most = std::max(cost.Most, -price.Over + price.OverDraw);
+  }
+  return cost;
+}
+
 bool IsSureToFail(const Worker& turner, const Worker* other) {
   const TurnRow* row = FindTurn(turner, other ? *other : turner);
   return row && row->MayFallFlat && row->FlatWhen == Popularity::Any;
 }
 
-void ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other) {
+TurnOutcome ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other) {
   TurnOutcome outcome = RememberedTurn(run.World, turner);
   if (!turner.TurnPending)
     outcome = TurnOutcome::Baffling;
@@ -258,6 +271,7 @@ void ApplyTurn(SegmentRun& run, Worker& turner, const Worker* other) {
     CompleteTurn(run, turner);
   else
     FailTurn(run, turner, kFailedTurns[static_cast<int>(outcome) - 1]);
+  return outcome;
 }
 
 std::vector<TurnCall> BookedTurns(const World& world, const Segment& segment) {
@@ -268,10 +282,12 @@ std::vector<TurnCall> BookedTurns(const World& world, const Segment& segment) {
   return calls;
 }
 
-void ApplyTurns(SegmentRun& run) {
+std::vector<TurnMade> ApplyTurns(SegmentRun& run) {
+  std::vector<TurnMade> made;
   for (const TurnCall& call : BookedTurns(run.World, run.Segment))
     if (Worker* turner = run.World.FindWorker(call.Turner))
-      ApplyTurn(run, *turner, run.World.FindWorker(call.Other));
+      made.push_back({call.Turner, ApplyTurn(run, *turner, run.World.FindWorker(call.Other))});
+  return made;
 }
 
 }  // namespace grapplemont

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "records/keepannals.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "storylines/storynames.h"
@@ -187,8 +188,7 @@ std::string SideName(const World& world, const FeudSide& side) {
 }
 
 FeudScore FeudWins(const Feud& feud) {
-  return {feud.Clean1 + feud.Dirty1 + feud.Interference1 + feud.Sneak1,
-          feud.Clean2 + feud.Dirty2 + feud.Interference2 + feud.Sneak2};
+  return {feud.WonOne(), feud.WonTwo()};
 }
 
 bool FeudExists(const World& world, int workerA, int workerB) {
@@ -252,12 +252,14 @@ int StartFeud(World& world, const FeudSides& sides) {
   feud.Heat = StartingHeatOf(world, sides).Heat;
   feud.Started = world.Today();
   world.Feuds()[slot] = feud;
+  KeepFeud(world, kAnnalFeud, feud);
   return slot;
 }
 
 void EndFeudOffCamera(World& world, int slot) {
   const Feud ended = world.Feuds()[slot];
   world.Feuds()[slot] = Feud{};
+  KeepFeud(world, kAnnalFeudCold, ended);
   const FeudScore score = FeudWins(ended);
   if (score.One + score.Two < kNoticed) return;
   for (const int uid : Members(SidesOf(ended))) {

@@ -6,6 +6,7 @@
 #include <ranges>
 
 #include "records/fields/fields.h"
+#include "records/keepannals.h"
 #include "records/modWresCheck.h"
 #include "storylines/titles.h"
 
@@ -118,7 +119,7 @@ class Update {
     reign.Worker = holder;
     reign.Partner = partner;
     reign.Holder = line.Holder;
-    reign.Defences = title.Owner == world_.PlayerUid() ? 0 : kNoEnd;
+    reign.Defences = 0;
     return reign;
   }
 
@@ -141,6 +142,10 @@ class Update {
   void Rename(const Name& before, std::string_view after) {
     for (TitleReign& reign : world_.Reigns())
       if (NameOf(reign) == before) reign.Title = after;
+    for (Annal& event : world_.Annals())
+      if (event.Kind == kAnnalTitle && event.Promotion == before.first &&
+          event.What == before.second)
+        event.What = after;
   }
 
   void Append(const TitleReign& reign) {
@@ -173,13 +178,25 @@ void UpdateReigns(World& world) {
   Update(world).Run();
 }
 
-void CountDefence(World& world, std::string_view title) {
-  for (TitleReign& reign : world.Reigns()) {
-    if (reign.End != kReignLasts || reign.Owner != world.PlayerUid() || reign.Title != title)
-      continue;
-    reign.Defences = std::max<int>(0, reign.Defences) + 1;
-    return;
+namespace {
+
+/// The one that lasts; those are late in the file. nullptr where the reigns lag behind the Title.
+TitleReign* PresentReign(World& world, const Title& title) {
+  for (TitleReign& reign : std::views::reverse(world.Reigns()))
+    if (reign.End == kReignLasts && reign.Owner == title.Owner && reign.Title == title.Name)
+      return IsPresent(reign, title) ? &reign : nullptr;
+  return nullptr;
+}
+
+}  // namespace
+
+void CountDefence(World& world, const Title& title) {
+  TitleReign* reign = PresentReign(world, title);
+  if (!reign) {
+    UpdateReigns(world);
+    reign = PresentReign(world, title);
   }
+  if (reign) reign->Defences = std::max<int>(0, reign->Defences) + 1;
 }
 
 std::vector<Lineage> LineagesOf(const World& world) {

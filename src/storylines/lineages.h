@@ -16,8 +16,8 @@ namespace grapplemont {
 /// made or dissolved since the last time. A Title without a past begins with the five of its
 /// record. A full file drops its thousand oldest reigns that have ended.
 void UpdateReigns(World& world);
-/// The champion of a Title of the player's has kept it in the ring. Requires reigns up to date.
-void CountDefence(World& world, std::string_view title);
+/// The champion has kept the Title in the ring.
+void CountDefence(World& world, const Title& title);
 
 /// A line of Titles: all reigns of one name in one promotion.
 struct Lineage {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "records/angles.h"
+#include "records/keepannals.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "storylines/storynames.h"
@@ -93,6 +94,7 @@ int FormTeam(World& world, std::string_view name, int workerA, int workerB,
   team.Worker2 = workerB;
   SetTeamFinisher(team, finisher);
   world.Teams().Append(team);
+  KeepGroup(world, kAnnalTeamed, team.Name, workerA, workerB);
   return world.Teams().Count();
 }
 
@@ -145,6 +147,7 @@ void FoundStable(World& world, std::string_view name) {
   stable.Name = name;
   stable.Owner = world.PlayerUid();
   world.Stables().Append(stable);
+  KeepGroup(world, kAnnalStable, name, 0);
 }
 
 void RenameStable(World& world, std::string_view from, std::string_view to) {

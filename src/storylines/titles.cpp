@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "records/fields/fields.h"
+#include "records/keepannals.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
 #include "records/severing.h"
@@ -114,6 +115,7 @@ Title VacantTitle(const World& world, const TitleTerms& terms, int promotionUid,
 
 int CreateTitle(World& world, const TitleTerms& terms) {
   world.Titles().Append(VacantTitle(world, terms, world.PlayerUid(), kNewTitleImage));
+  KeepTitle(world, &world.Player(), terms.Name);
   return world.Titles().Count();
 }
 

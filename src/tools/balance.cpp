@@ -254,7 +254,6 @@ std::vector<PromotionBalance> BalanceOf(const World& world) {
 const Command kBalance{"balance",
                        "FOLDER",
                        "Prints what every promotion of a world earns and spends: docs/balance.md.",
-                       1,
                        {},
                        Balance};
 

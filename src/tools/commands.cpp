@@ -63,23 +63,18 @@ const Command kBuild{"build",
                      "TABLES DATA",
                      "Makes the files of a world in DATA from the tables in TABLES; names every "
                      "mistake by file and line.",
-                     2,
                      {},
                      Build};
-const Command kExport{"export",
-                      "FOLDER TABLES [--replace]",
+const Command kExport{"export", "FOLDER TABLES",
                       "Writes the world in FOLDER, default data or a saved game, to tables in "
                       "TABLES: a new folder, an empty one or, with --replace, one that holds "
                       "tables and nothing else; nothing is lost.",
-                      2,
-                      kExportOptions,
-                      Export};
+                      kExportOptions, Export};
 const Command kCheck{
     "check",
     "FOLDER",
     "Lists every fault of the world in FOLDER, a line each; ends with 1 when there "
     "is one.",
-    1,
     {},
     Check};
 

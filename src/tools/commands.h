@@ -10,9 +10,8 @@ namespace grapplemont::tools {
 /// One command of the tool.
 struct Command {
   std::string_view Name;
-  std::string_view Usage;    // what stands behind the name
+  std::string_view Takes;    // words that are no options: "TABLES DATA"
   std::string_view Summary;  // one line for --help
-  std::size_t Places = 0;    // words that are no options
   std::span<const OptionKind> Options;
   int (*Run)(const Arguments& arguments, Shell& shell);
 };
@@ -20,7 +19,7 @@ struct Command {
 // Worlds as tables and as files.
 extern const Command kBuild, kExport, kCheck;
 // Games without a window.
-extern const Command kNew, kRun, kTell, kSoak;
+extern const Command kNew, kRun, kTell, kBook, kSoak;
 // Pages of docs/.
 extern const Command kFormats, kColumns, kBalance;
 

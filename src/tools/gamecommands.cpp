@@ -28,8 +28,11 @@ constexpr int kFirstYear = 1900, kLastYear = 9000;
 
 Game::Options GameOptions(const Arguments& arguments, Disk& disk, const Shell& shell) {
   Game::Options options;
-  const auto home = arguments.Text("--home");
-  options.Home = home ? FolderName(disk, *home) : FindHome(disk);
+  const auto named = arguments.Text("--home");
+  const Home home =
+      named ? HomeAt(disk, WithoutSlashes(*named), shell.Where) : FindHome(disk, shell.Where);
+  options.Home = home.Folder;
+  options.Share = home.Share;
   options.Today = shell.Today;
   options.Seed = arguments.Number("--seed", 0, kHighestSeed);
   return options;
@@ -65,13 +68,13 @@ int PromotionUid(const World& world, const std::string& initials) {
 }
 
 World ReadDefaultWorld(Game& game) {
-  const auto missing = MissingDataFiles(game.Disk(), game.DataFolder());
+  const auto missing = MissingDataFiles(game.Disk(), game.DataFolders());
   if (!missing.empty())
     throw WorldFault(game.DataFolder() + "/" + missing.front() +
                      " is missing. Build the default world first.");
   World world(game.NewDraws(Game::kWorldMaking), game.NewDraws(Game::kWorldProse),
               game.NewDraws(Game::kWorldLife));
-  world.Load(ReadWorldFiles(game.Disk(), game.DataFolder()));
+  world.Load(ReadDefaultData(game.Disk(), game.DataFolders()));
   return world;
 }
 
@@ -184,7 +187,7 @@ int Run(const Arguments& arguments, Shell& shell) {
   return 0;
 }
 
-constexpr OptionKind kNewOptions[] = {{"--home", "H"},
+constexpr OptionKind kNewOptions[] = {kHomeOption,
                                       {"--slot", "N", true},
                                       {"--player", "NAME", true},
                                       {"--promotion", "INITIALS", true},
@@ -192,7 +195,7 @@ constexpr OptionKind kNewOptions[] = {{"--home", "H"},
                                       {"--start", "YYYY-MM-DD"},
                                       {"--seed", "S"},
                                       {"--voice", "0..2"}};
-constexpr OptionKind kRunOptions[] = {{"--home", "H"},
+constexpr OptionKind kRunOptions[] = {kHomeOption,
                                       {"--slot", "N", true},
                                       {"--days", "D", true},
                                       {"--seed", "S"},
@@ -265,25 +268,18 @@ int Tell(const Arguments& arguments, Shell& shell) {
 }
 
 constexpr OptionKind kTellOptions[] = {
-    {"--home", "H"}, {"--slot", "N", true}, {"--seed", "S"}, {"--voice", "0..2"}, {"--event", ""}};
+    kHomeOption, {"--slot", "N", true}, {"--seed", "S"}, {"--voice", "0..2"}, {"--event", ""}};
 
 }  // namespace
 
-const Command kNew{"new",
-                   "--home H --slot N --player NAME --promotion INITIALS --difficulty 1..4 --start "
-                   "YYYY-MM-DD --seed S [--voice 0..2]",
-                   "Begins a game in a slot of the home H, in place of one that is there, on the "
-                   "first of a month from the start on.",
-                   0,
-                   kNewOptions,
-                   New};
-const Command kRun{"run",
-                   "--home H --slot N --days D --seed S --shows auto|cancel [--no-sync] [--stats "
-                   "FILE]",
+const Command kNew{
+    "new", "",
+    "Begins a game in a slot, in place of one that is there, on the first of a month "
+    "from the start on.",
+    kNewOptions, New};
+const Command kRun{"run", "",
                    "Plays days of a saved game; FILE gets a JSON object a line for each month.",
-                   0,
-                   kRunOptions,
-                   Run};
+                   kRunOptions, Run};
 
 // The next show of a game, told.
 
@@ -305,12 +301,9 @@ void TellShow(World& world, bool isEvent, std::ostream& out) {
   out << "\nThe show: " << CloseShow(world) << "%\n";
 }
 
-const Command kTell{"tell",
-                    "--home H --slot N --seed S [--voice 0..2] [--event]",
+const Command kTell{"tell", "",
                     "Books the next show (with --event the next Event) of a saved game and prints "
                     "its report; the game itself stays as it is.",
-                    0,
-                    kTellOptions,
-                    Tell};
+                    kTellOptions, Tell};
 
 }  // namespace grapplemont::tools

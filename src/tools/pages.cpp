@@ -124,15 +124,24 @@ A world is a folder of record files. Two kinds of folder hold one, both in the *
   `history.dat` (every show of the player's, and how each promotion stood at every month end), `bouts.dat` (the player's
   matches), `tallies.dat` (what each worker's matches add up to), `reigns.dat` (the reigns of every Title in the world),
   `reports.dat` (the words of the last twelve shows), `said.dat` (when each line of the reports was last said), `mornings.dat` (what these shows moved, step by step),
+  `annals.dat` (what has happened in the wrestling world, an event a record, from which chronicles are written),
   `mailread.dat` (which mails have been read), `awards.dat` (the awards of the years), `yearend.dat` (how
   popular everybody was when the last year ended), `months.dat` (how everybody stood on the firsts of twelve months),
-  `moods.dat` (what moved the morale of the player's people), `rivalcards.dat` (the matches of the rivals' last shows) and
-  `ringnames.dat` (names that people have given up).
+  `moods.dat` (what moved the morale of the player's people), `rivalcards.dat` (the matches of the rivals' last shows),
+  `ringnames.dat` (names that people have given up), and what all of it adds up to since the game began:
+  `careers.dat` and `tenures.dat` (what everybody has done, anywhere and with each promotion), `pairs.dat` (who teamed
+  with whom), `feats.dat` (the best of each kind), `yearbook.dat` (the pages of the years), `hall.dat` (the hall of
+  fame) and `totals.dat` (how far the counting has come).
 
 None of the past is needed to play: where one of its files is missing or cut short, the game goes on without what stood
 in it. A full file makes room by dropping its oldest records: a thousand of the history and of the reigns that have
 ended, five hundred matches (what they add up to stays in the tallies), a year of awards, five hundred moves of morale,
-five hundred matches of rivals' cards, a hundred names.
+five hundred matches of rivals' cards, a hundred names. The annals keep some fifty years; their first record says since
+when, and in which version they are written.
+What adds up is brought up to date on every first of a month and at the end of a year; what has happened since is
+counted when it is looked at. Of those who have left the world the two thousand careers that were worth most are kept,
+of pairs the two thousand with the most days as champions and matches, of feats fifteen of a kind and promotion (three
+of one that has closed), of yearbooks 150 years.
 The words of a show take the places of the oldest one's, a month those of the same month a year before.
 
 ## The journal
@@ -235,8 +244,7 @@ int Formats(const Arguments&, Shell& shell) {
 }  // namespace
 
 const Command kColumns{
-    "columns", "", "Prints the part of docs/world-making.md that tells every column.",
-    0,         {}, Columns};
-const Command kFormats{"formats", "", "Prints docs/file-formats.md.", 0, {}, Formats};
+    "columns", "", "Prints the part of docs/world-making.md that tells every column.", {}, Columns};
+const Command kFormats{"formats", "", "Prints docs/file-formats.md.", {}, Formats};
 
 }  // namespace grapplemont::tools

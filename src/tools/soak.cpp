@@ -207,13 +207,10 @@ void StatsFile::Add(const World& world) {
 
 // Many careers that nobody watches, looked at for faults month by month.
 
-const Command kSoak{"soak",
-                    "DATA --seeds N --days D",
+const Command kSoak{"soak", "DATA",
                     "Plays a year, or D days, from every chair of the default data in DATA with N "
                     "seeds, all shows booked and all called off; lists every fault, a line each, "
                     "and ends with 1 when there is one.",
-                    1,
-                    kSoakOptions,
-                    Soak};
+                    kSoakOptions, Soak};
 
 }  // namespace grapplemont::tools

@@ -2,13 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <new>
 #include <ostream>
 
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
-#include "records/fields/outside.h"
 #include "records/fields/wording.h"
 #include "records/store/datastep.h"
 #include "records/store/disk.h"
@@ -21,26 +19,27 @@ namespace {
 
 constexpr std::string_view kProgram = "grapplemont-world";
 
-std::array<const Command*, 10> Commands() {
-  return {&kBuild, &kExport, &kCheck,   &kNew,     &kRun,
-          &kTell,  &kSoak,   &kFormats, &kColumns, &kBalance};
+std::array<const Command*, 11> Commands() {
+  return {&kBuild, &kExport, &kCheck,   &kNew,     &kRun,    &kTell,
+          &kBook,  &kSoak,   &kFormats, &kColumns, &kBalance};
+}
+
+std::string UsageOf(const Command& command) {
+  return grapplemont::UsageOf(command.Name, command.Takes, command.Options);
 }
 
 void PrintUsage(std::ostream& out, const Command& command) {
-  out << "usage: " << kProgram << " " << command.Name;
-  if (!command.Usage.empty()) out << " " << command.Usage;
-  out << "\n";
+  out << "usage: " << kProgram << " " << UsageOf(command) << "\n";
 }
 
 void PrintHelp(std::ostream& out) {
   out << "usage: " << kProgram
       << " COMMAND ...\n\nMakes, checks and runs the worlds of Grapplemont.\n";
-  for (const Command* command : Commands()) {
-    out << "\n  " << command->Name;
-    if (!command->Usage.empty()) out << " " << command->Usage;
-    out << "\n      " << command->Summary << "\n";
-  }
-  out << "\nEnds with 0 when all went well, 1 for faults and failures, 2 for a wrong use.\n";
+  for (const Command* command : Commands())
+    out << "\n  " << UsageOf(*command) << "\n      " << command->Summary << "\n";
+  out << "\nWithout --home a command works on your own games. --help behind a command tells of it "
+         "alone; --version\nprints the version. Ends with 0 when all went well, 1 for faults and "
+         "failures, 2 for a wrong use.\n";
 }
 
 const Command& FindCommand(const std::string& name) {
@@ -52,6 +51,10 @@ const Command& FindCommand(const std::string& name) {
   throw UsageError("there is no command \"" + name + "\"" + DidYouMean(name, names));
 }
 
+std::size_t CountOfWords(std::string_view words) {
+  return static_cast<std::size_t>(std::ranges::count(words, ' ')) + 1;
+}
+
 /// One line without what a terminal would take for a command.
 std::string OneLine(std::string text) {
   std::replace_if(
@@ -60,19 +63,35 @@ std::string OneLine(std::string text) {
   return text;
 }
 
-int RunCommand(const Command& command, std::span<const std::string> words, Shell& shell) {
-  if (std::find(words.begin(), words.end(), "--help") != words.end()) {
+/// Whether the words ask about the tool, or about a command of it, rather than for work.
+bool Answer(std::span<const std::string> words, Shell& shell) {
+  const Asked asked = AskedIn(words);
+  const bool ofAll = words.empty() || words[0].starts_with("-");
+  if (asked == Asked::Version) {
+    shell.Out << VersionLine(kProgram);
+  } else if (!words.empty() && words[0] == "help") {
+    PrintHelp(shell.Out);
+  } else if (asked == Asked::Nothing) {
+    return false;
+  } else if (ofAll) {
+    PrintHelp(shell.Out);
+  } else {
+    const Command& command = FindCommand(words[0]);
     PrintUsage(shell.Out, command);
     shell.Out << command.Summary << "\n";
-    return 0;
   }
+  return true;
+}
+
+int RunCommand(const Command& command, std::span<const std::string> words, Shell& shell) {
   const auto tell = [&](std::string_view fault) {
     // Some speak of what they found in files, in the letters of the records, others of what was
     // typed.
     shell.Errors << kProgram << " " << command.Name << ": " << OneLine(ValidUtf8(fault)) << "\n";
   };
   try {
-    return command.Run(Arguments(words, command.Options, command.Places), shell);
+    const std::size_t places = command.Takes.empty() ? 0 : CountOfWords(command.Takes);
+    return command.Run(Arguments(words, command.Options, places), shell);
   } catch (const UsageError& fault) {
     tell(fault.what());
     PrintUsage(shell.Errors, command);
@@ -85,27 +104,11 @@ int RunCommand(const Command& command, std::span<const std::string> words, Shell
   return 1;
 }
 
-std::string Quoted(std::string_view text) {
-  return '"' + std::string(text) + '"';
-}
-
-const OptionKind& FindOption(std::span<const OptionKind> options, const std::string& name) {
-  const auto found = std::find_if(options.begin(), options.end(),
-                                  [&](const OptionKind& option) { return option.Name == name; });
-  if (found != options.end()) return *found;
-  std::vector<std::string_view> names;
-  for (const OptionKind& option : options) names.push_back(option.Name);
-  throw UsageError("there is no option " + Quoted(name) + DidYouMean(name, names));
-}
-
 }  // namespace
 
 int RunWorldTool(std::span<const std::string> arguments, Shell shell) {
-  if (!arguments.empty() && (arguments[0] == "--help" || arguments[0] == "help")) {
-    PrintHelp(shell.Out);
-    return 0;
-  }
   try {
+    if (Answer(arguments, shell)) return 0;
     if (arguments.empty()) throw UsageError("a command is missing");
     return RunCommand(FindCommand(arguments[0]), arguments.subspan(1), shell);
   } catch (const UsageError& fault) {
@@ -113,56 +116,6 @@ int RunWorldTool(std::span<const std::string> arguments, Shell shell) {
     PrintHelp(shell.Errors);
     return 2;
   }
-}
-
-Arguments::Arguments(std::span<const std::string> words, std::span<const OptionKind> options,
-                     std::size_t places) {
-  for (std::size_t i = 0; i < words.size(); ++i) {
-    if (!words[i].starts_with("--")) {
-      places_.push_back(words[i]);
-      continue;
-    }
-    const OptionKind& option = FindOption(options, words[i]);
-    const bool takesValue = !option.Value.empty();
-    if (takesValue && i + 1 == words.size())
-      throw UsageError(words[i] + " needs a value, " + std::string(option.Value));
-    if (!options_.emplace(words[i], takesValue ? words[i + 1] : "").second)
-      throw UsageError(words[i] + " stands there twice");
-    if (takesValue) ++i;
-  }
-  if (places_.size() > places) throw UsageError(Quoted(places_[places]) + " is one word too many");
-  if (places_.size() < places) throw UsageError("something is missing");
-  for (const OptionKind& option : options)
-    if (option.Needed && !Has(option.Name))
-      throw UsageError(std::string(option.Name) + " is missing");
-}
-
-bool Arguments::Has(std::string_view name) const {
-  return options_.contains(name);
-}
-
-std::optional<std::string> Arguments::Text(std::string_view name) const {
-  const auto found = options_.find(name);
-  return found == options_.end() ? std::nullopt : std::optional(found->second);
-}
-
-std::optional<std::uint64_t> Arguments::Number(std::string_view name, std::uint64_t least,
-                                               std::uint64_t most) const {
-  const auto text = Text(name);
-  if (!text) return std::nullopt;
-  std::uint64_t number = 0;
-  const char* const last = text->data() + text->size();
-  const auto [end, fault] = std::from_chars(text->data(), last, number);
-  if (fault == std::errc() && end == last && number >= least && number <= most) return number;
-  throw UsageError(std::string(name) + " needs a whole number from " + std::to_string(least) +
-                   " to " + std::to_string(most) + ", not " + Quoted(*text));
-}
-
-std::optional<Day> Arguments::Date(std::string_view name) const {
-  const auto text = Text(name);
-  if (!text) return std::nullopt;
-  if (const auto day = ParseIsoDate(*text)) return day;
-  throw UsageError(std::string(name) + " needs a date such as 2026-03-01, not " + Quoted(*text));
 }
 
 namespace {

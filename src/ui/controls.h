@@ -119,6 +119,9 @@ class Button : public Control {
   Property<std::string> Badge{Changes(), {}};
   Property<bool> Plain{Changes(), false};  // words without a frame, for one of many small acts
   std::string Key;  // "Alt+3" presses it wherever the keyboard is; a shell may do so
+  /// Milliseconds after which a shell that has a clock presses it by itself, again and again; 0 for
+  /// never.
+  Property<int> Every{Changes(), 0};
 };
 
 class TextBox : public Control {
@@ -221,6 +224,9 @@ struct Column {
   std::function<Drawing(int key)> Draws = {};
   /// What a word of Tags says by its colour.
   Tone (*ToneOf)(std::string_view word) = nullptr;
+  /// The sign that a Tag, or a word of Tags, is drawn as, with the number behind the word; the
+  /// words are read out and told in tips. None: the word itself; nullptr: words alone.
+  Sign (*SignOf)(std::string_view word) = nullptr;
   /// What stands above it where the column before it says the rest; empty: the title.
   std::string Short = {};
   /// A sentence below a cell's text, by the key of its row; it makes cards of the rows.
@@ -337,6 +343,7 @@ class Chart : public Control {
   };
   Chart(Screen& screen, std::string name, bool bars = false);
   bool Bars;
+  bool Thin = false;  // one line from 0 to 100 without an axis, as high as a line of words
   Property<std::vector<std::string>> Captions{Changes(), {}};  // one a value, below the axis
   Property<std::vector<Series>> Lines{Changes(), {}};
   /// Where a value stands along the axis, such as a day's number, one a value and none below the
@@ -349,9 +356,16 @@ class Report : public Control {
  public:
   /// Body is prose; Line is a short fact in the letters of tables.
   enum class Style { Body, Heading, Strong, Muted, Line };
+  /// Some of the words lead somewhere, whatever they say; `Key` is the screen's.
+  struct Lead {
+    std::size_t From = 0, Length = 0;
+    int Key = 0;
+    friend bool operator==(const Lead&, const Lead&) = default;
+  };
   struct Paragraph {
     Style As = Style::Body;
     std::string Words;
+    std::vector<Lead> Leads = {};  // in their order; none overlaps another
     friend bool operator==(const Paragraph&, const Paragraph&) = default;
   };
   Report(Screen& screen, std::string name);
@@ -359,8 +373,10 @@ class Report : public Control {
   void Write(std::string_view plain);       // line breaks part paragraphs
   void WriteLines(std::string_view plain);  // the same in short facts
   const std::vector<Paragraph>& Paragraphs() const { return paragraphs_; }
-  bool Brief = false;  // takes no more room than its words need
-  int Room = 10;       // the lines that it asks room for, else
+  std::function<void(int key)> OnLead;  // the way of a Lead
+  bool Brief = false;                   // takes no more room than its words need
+  int Room = 10;                        // the lines that it asks room for, else
+  bool Grows = false;  // what is written goes on from what stood there: its end stays in sight
 
  private:
   std::vector<Paragraph> paragraphs_;

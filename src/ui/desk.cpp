@@ -124,6 +124,7 @@ void Desk::TakeBack(const Stack& before, const std::exception& fault) {
   screens_ = before;
   for (auto& screen : before)
     if (screen->loaded_) attempt([&] { screen->Return(); });
+  if (NoteFault) NoteFault((Top() ? Top()->Name() : "nowhere") + ": " + reason);
   Say("Error!", reason);
 }
 

@@ -40,6 +40,9 @@ struct HelpPages {
   std::function<std::unique_ptr<Screen>(std::string_view term)> Glossary;
   /// What a heading means, in a line; empty for one that the glossary does not know.
   std::function<std::string(std::string_view heading)> Meaning;
+  /// The keys of a shell that has keys, as the player has set them for this screen, in lines
+  /// "F2: Roster".
+  std::function<std::vector<std::string>(Screen& of)> Keys;
 };
 
 enum class Default { Yes, No };
@@ -120,6 +123,10 @@ class Desk {
 
   /// Opens what can be set about the shell itself; a shell without such a thing has none.
   Handler OpenShellOptions;
+
+  /// Hears of every fault that took an event back: the screen below it and the reason, for a log.
+  /// Must not throw.
+  std::function<void(const std::string& fault)> NoteFault;
 
   HelpPages Help;
   /// Opens the help for the top screen; false where there is none.

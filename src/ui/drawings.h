@@ -39,6 +39,9 @@ struct TitlePlate {
   bool operator==(const TitlePlate&) const = default;
 };
 
+/// A word of few that a table says in a small drawing, where several stand abreast.
+enum class Sign { None, Crown, Flame, Pair, Row, Rise, Tired, Star, Face, Heel, Tweener };
+
 using Drawing = std::variant<std::monostate, Portrait, Crest, TitlePlate>;
 
 }  // namespace grapplemont::ui

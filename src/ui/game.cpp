@@ -64,6 +64,12 @@ std::vector<std::string> Game::OpenSlot(int slot, bool dropDamaged) {
   return remarks;
 }
 
+std::vector<std::string> Game::Layers(const std::string& name) const {
+  std::vector<std::string> folders{Path(name)};
+  if (!options_.Share.empty()) folders.push_back(options_.Share + "/" + name);
+  return folders;
+}
+
 std::string Game::PageFile(int slot) const {
   return PageOf(SlotFolder(slot));
 }

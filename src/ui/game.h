@@ -27,9 +27,11 @@ inline constexpr const char* kCareerIsOver = "Your career is over: the world can
 class Game : public ui::Work {
  public:
   struct Options {
-    std::string Home = ".";  // holds data/, gfx/ and s1/ to s8/
+    std::string Home = ".";  // holds s1/ to s8/, and data/ and gfx/ of the player's own
     Clock Today = MachineToday;
     std::optional<std::uint64_t> Seed = {};  // none: from the operating system
+    std::string Share = {};   // data/ and gfx/ as they came with the program; empty for none
+    std::string Faults = {};  // the file where faults are noted; empty for none
   };
   Game(ui::Desk& desk, Disk& disk, Options options);
   ~Game() override;
@@ -37,8 +39,17 @@ class Game : public ui::Work {
   ui::Desk& Desk() { return desk_; }
   grapplemont::Disk& Disk() { return disk_; }
   const std::string& Home() const { return options_.Home; }
+  /// The player's own; what lies there is over what came with the program.
   std::string DataFolder() const { return Path("data"); }
-  std::string PictureFolder() const { return Path("gfx"); }
+  /// Folders over each other, the player's own first.
+  std::vector<std::string> DataFolders() const { return Layers("data"); }
+  std::vector<std::string> PictureFolders() const { return Layers("gfx"); }
+  const std::string& Share() const { return options_.Share; }
+  const std::string& FaultFile() const { return options_.Faults; }
+  /// The data as they came with the program; empty for none.
+  std::string PristineData() const {
+    return options_.Share.empty() ? std::string() : options_.Share + "/data";
+  }
   /// "s1" to "s8" in the home.
   std::string SlotFolder(int slot) const { return Path("s" + std::to_string(slot)); }
   /// The picture of the page that was seen last in a slot; it need not be there.
@@ -85,8 +96,17 @@ class Game : public ui::Work {
   std::function<void(int uid)> OpenWorker, OpenPromotion;
   /// Opens the report of the promotion's show of a day, while its words are kept.
   std::function<void(Day on, int promotionUid)> OpenReport;
+  /// Opens the family tree of a promotion's Title.
+  std::function<void(int promotionUid, const std::string& title)> OpenTree;
   /// Opens the mailbox at the mail of a number.
   std::function<void(int number)> OpenMail;
+
+  /// Opens the chronicle at a chapter: of "Workers" or "Promotions" by uid, of "Titles" by the
+  /// promotion's uid and the name.
+  std::function<void(std::string_view kind, int number, std::string_view name)> OpenChapter;
+  /// Writes the whole chronicle in a voice's words into a file as PDF, and says why it could not;
+  /// set by a shell that can.
+  std::function<std::string(const std::string& file, int voice)> WritePdf;
 
   /// Keeps a picture of what is shown in a file; set by a shell that has pictures. Called when a
   /// slot is left, and must not throw.
@@ -121,6 +141,7 @@ class Game : public ui::Work {
   void MarkCommitted();
   bool MayChange(const std::vector<FileChange>& changes) const;
   std::string Path(const std::string& name) const { return options_.Home + "/" + name; }
+  std::vector<std::string> Layers(const std::string& name) const;
 
   ui::Desk& desk_;
   grapplemont::Disk& disk_;

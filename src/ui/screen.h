@@ -19,6 +19,7 @@ struct Box {
   std::vector<Box> Parts = {};  // of an Item or a Field: what stands within it or beside it
   int Stretch = 0;              // share of the room left over; 0 takes what it needs
   int Letters = 0;  // of Columns: the width of a part that may stand beside others; 0: the shell's
+  int Spare = 0;    // of a Group: the width in letters from which on a page has room for it
 
   Box() = default;
   Box(Control& control) : Is(Kind::Item), Shown(&control) {}
@@ -27,6 +28,11 @@ struct Box {
   /// The same box with a share of the room left over.
   Box Grow(int share = 1) && {
     Stretch = share;
+    return std::move(*this);
+  }
+  /// The same Group, which a narrower page leaves out: it shows what is to be had elsewhere, too.
+  Box From(int letters) && {
+    Spare = letters;
     return std::move(*this);
   }
   /// The same Columns, with parts below each other that would be narrower than so many letters.

@@ -39,6 +39,7 @@ void AddFamily(WordsFile& file, const FamilyRow& row) {
     heading.IsReport = true;
     heading.Parts = row.Parts;
     heading.Must = row.Must;
+    heading.IsRated = band < 32 && (row.Rated >> band & 1U) != 0;
     file.Headings.push_back(std::move(heading));
   }
 }

@@ -15,6 +15,7 @@ struct Heading {
   /// A report's line: the letters of the parts that it may name, and of those that it must.
   bool IsReport = false;
   std::string Parts = {}, Must = {};
+  bool IsRated = false;  // it says for which ratings it is
   /// Any other line: the names that may stand in braces.
   std::vector<std::string> Slots = {};
 };

@@ -214,6 +214,8 @@ std::string WhyNoLine(std::string_view line, const Heading& heading) {
   if (!heading.IsReport) return WhyNotSaid(line, heading);
   const TaggedLine read = ReadTags(line);
   if (!read.Sound) return "there is no such tag" + TagsKnown();
+  if (heading.IsRated && (read.Tags & kLevelTags) == 0)
+    return "a line that judges says for which ratings: <low>, <mid high>, or all three";
   std::string why = WhyNoWays(read.Text);
   for (int way = 0; why.empty() && way < WaysToSay(read.Text); ++way)
     why = WhyNotSaid(SaidIn(read.Text, way), heading);

@@ -263,6 +263,24 @@ TEST(TelevisionSheet, MovesEditsAndTakesBackItsRows) {
   EXPECT_EQ(sheet(), Names());
 }
 
+TEST(KeptCards, StayForFiveWeeksAndTheLatestIsTheLast) {
+  OnSheet play(Sunday("G"));
+  World& world = play.World();
+  const CardOwner held{"Tidal Force", false, false}, draft{"Tidal Force", false, true};
+  Card card(2, EmptySegment());
+  for (int week = 0; week < 8; ++week) {
+    card[0] = Singles(world, "CWA Hand 5", week == 7 ? "CWA Hand 8" : "CWA Hand 6");
+    for (const CardOwner& owner : {held, draft})
+      KeepCard(world, owner, card, kGameStart + std::chrono::days{7 * week});
+  }
+  int cards = 0, drafts = 0;
+  for (const KeptRow& row : world.KeptRows()) ++(row.IsDraft ? drafts : cards);
+  EXPECT_EQ(cards, 6) << "tonight's, and those of the five weeks before";
+  EXPECT_EQ(drafts, 1);
+  EXPECT_EQ(FindCard(world, held).On, kGameStart + std::chrono::days{49});
+  EXPECT_EQ(FindCard(world, held).Rows[0].Worker[1], card[0].Worker[1]);
+}
+
 TEST(TelevisionSheet, LaysTheLastCardAndTheDraftOfItsDay) {
   OnSheet play(Sunday("G"));
   EXPECT_FALSE(play.Desk.Enabled("cmdlast"));

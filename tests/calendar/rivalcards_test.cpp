@@ -42,6 +42,12 @@ TEST(RivalCards, TellOfEveryTitleThatChangedHands) {
     }
   }
   EXPECT_GT(changes, 20);
+  int kept = 0, defences = 0;
+  for (const CardMatch& match : world.RivalCards())
+    kept += !match.Changed && !match.Title.View().empty();
+  for (const TitleReign& reign : world.Reigns()) defences += reign.Defences;
+  EXPECT_GT(kept, 20);
+  EXPECT_EQ(defences, kept) << "each is counted for the reign that it was part of";
   EXPECT_GT(world.RivalCards().Count(), 1000);
   for (const Fault& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();
 }

@@ -4,7 +4,7 @@
 
 #include "console/run.h"
 #include "console/served.h"
-#include "records/fields/fields.h"
+#include "session/build.h"
 #include "support/checkout.h"
 #include "support/scratchfolder.h"
 
@@ -102,23 +102,6 @@ TEST(JsonAnswer, SpeaksUtf8) {
       << "and Windows-1252 inside";
 }
 
-using std::chrono::year;
-
-TEST(ConsoleOptions, AreRead) {
-  std::string why;
-  const auto none = console::ReadOptions({}, why);
-  ASSERT_TRUE(none);
-  EXPECT_FALSE(none->Home || none->Today || none->Seed || none->Json || none->Help);
-  const std::vector<std::string> all = {
-      "--json", "--seed", "18446744073709551615", "--home", "a home", "--today", "2026-03-01"};
-  const auto some = console::ReadOptions(all, why);
-  ASSERT_TRUE(some) << why;
-  EXPECT_TRUE(some->Json);
-  EXPECT_EQ(some->Seed, 18446744073709551615u);
-  EXPECT_EQ(some->Home, "a home");
-  EXPECT_EQ(some->Today, Day(year{2026} / 3 / 1));
-}
-
 struct Outcome {
   int Code;
   std::string Out, Errors;
@@ -127,33 +110,42 @@ struct Outcome {
 Outcome Played(const std::vector<std::string>& arguments, const std::string& lines = {}) {
   std::istringstream in(lines);
   std::ostringstream out, errors;
-  const int code = console::RunConsole(arguments, {in, out, errors}, {});
+  const int code = console::RunConsole(arguments, {in, out, errors}, {}, {});
   return {code, out.str(), errors.str()};
 }
 
 TEST(RunConsole, RefusesWrongArguments) {
   const std::pair<std::vector<std::string>, std::string> kRows[] = {
-      {{"--fast"}, "There is no option \"--fast\"."},
-      {{""}, "There is no option \"\"."},
-      {{"--json", "--seed"}, "--seed needs a value."},
-      {{"--home", ""}, "--home needs a folder."},
-      {{"--seed", "-1"}, "--seed needs a whole number from 0 up, not \"-1\"."},
-      {{"--seed", "18446744073709551616"},
-       "--seed needs a whole number from 0 up, not \"18446744073709551616\"."},
-      {{"--today", "2026-02-30"}, "--today needs a date such as 2026-03-01, not \"2026-02-30\"."},
+      {{"--jsan"}, "there is no option \"--jsan\"; did you mean --json?"},
+      {{"show"}, "\"show\" is one word too many"},
+      {{"--json", "--seed"}, "--seed needs a value, N"},
+      {{"--json=on"}, "--json takes no value"},
+      {{"--seed", "-1"}, "--seed needs a whole number from 0 to 18446744073709551615, not \"-1\""},
+      {{"--seed=18446744073709551616"},
+       "--seed needs a whole number from 0 to 18446744073709551615, not "
+       "\"18446744073709551616\""},
+      {{"--today", "2026-02-30"}, "--today needs a date such as 2026-03-01, not \"2026-02-30\""},
   };
+  const std::string usage =
+      "usage: grapplemont-console [--home FOLDER] [--today YYYY-MM-DD] [--seed N] [--json]\n";
   for (const auto& [arguments, why] : kRows) {
     const Outcome outcome = Played(arguments, "show\n");
     EXPECT_EQ(outcome.Code, 2) << why;
     EXPECT_EQ(outcome.Out, "");
-    EXPECT_EQ(outcome.Errors, "grapplemont-console: " + why + "\n" + console::kUsage);
+    EXPECT_EQ(outcome.Errors, "grapplemont-console: " + why + "\n" + usage);
   }
-  EXPECT_EQ(Played({"--help"}).Out, console::kUsage);
+  for (const char* help : {"--help", "-h"}) {
+    const std::string told = Played({"--json", help}).Out;
+    EXPECT_TRUE(told.starts_with(usage)) << told;
+    EXPECT_NE(told.find("\n  --home FOLDER     the folder"), std::string::npos) << told;
+  }
+  EXPECT_EQ(Played({"--version"}).Out,
+            std::string("grapplemont-console ") + kProgramVersion + "\n");
 }
 
 TEST(RunConsole, TellsInOneLineWhyItCannotStart) {
   const ScratchFolder scratch;
-  for (const std::string& home : {scratch / "none", std::string("/dev/null")}) {
+  for (const std::string& home : {scratch / "none", std::string("/dev/null"), std::string()}) {
     const Outcome outcome = Played({"--json", "--home", home}, "show\n");
     EXPECT_EQ(outcome.Code, 1);
     EXPECT_EQ(outcome.Out, "");

@@ -66,7 +66,7 @@ inline std::vector<Json> Answers(const Served& served) {
   return answers;
 }
 
-inline constexpr console::Settings kJson{.Json = true};
+inline const console::Settings kJson{.Json = true};
 
 /// The last answer to the lines.
 inline Json LastAnswer(const std::string& lines) {

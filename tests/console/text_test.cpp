@@ -25,14 +25,14 @@ TEST(TextAnswer, ShowsTheScreenAfterItsLayout) {
 
 Who
   txtname          TextBox      Name: "Pat"
-  lstpeople        ListBox      3 rows
+  lstpeople        ListBox      Who: 3 rows
         Name               Over
      1  Bram Okafor          88
      2  3                    40
      3  Ilya Marsh   $1,284,500
 
 How
-  cmbkind          ComboBox     Singles (1 of 2)
+  cmbkind          ComboBox     How: Singles (1 of 2)
     >1  Singles
      2  Tag Team
   chkday           CheckBox     [ ] Every day
@@ -40,11 +40,11 @@ How
   optheel          OptionButton ( ) Heel
 
 What
-  hsprice          ScrollBar    20, from 5 to 100
-  chtmoney         Chart
+  hsprice          ScrollBar    What: 20, from 5 to 100
+  chtmoney         Chart        What
     Jan: Money 1200, Image 61
     Feb: Money -50.25
-  rptshow          Report
+  rptshow          Report       What
     The bell rings.
     It is over.
 
@@ -165,6 +165,50 @@ TEST(Shortened, EndsInDotsWhereItIsCut) {
   EXPECT_EQ(console::Shortened("Bram Okafor", 10), "Bram Ok...");
   EXPECT_EQ(console::Shortened("Bram Okafor", 2), "Br");
   EXPECT_EQ(console::Shortened("one\ntwo", 9), "one two");
+}
+
+TEST(Completion, KnowsTheCommandsAndTheControlsThatEachCanWork) {
+  std::istringstream in;
+  std::ostringstream out;
+  console::Console desk(in, out, {});
+  std::vector<std::string> clicks;
+  SampleScreen::On(desk, clicks);
+  using Words = std::vector<std::string>;
+  const std::pair<const char*, Words> kRows[] = {
+      {"cl", {"click"}},
+      {"s", {"share", "show", "slide"}},
+      {"click cmds", {"cmdsay"}},
+      {"click cmdo", {}},  // it is disabled
+      {"show cmdo", {"cmdoff"}},
+      {"show cmdh", {}},  // it is hidden
+      {"type ", {"txtname", "txtnotes"}},
+      {"pick ", {"cmbkind", "lstmany", "lstnone", "lstpeople"}},
+      {"open cmb", {}},
+      {"slide h", {"hsprice"}},
+      {"type txtname tx", {}},  // that is a text
+      {"nonsense c", {}}};
+  for (const auto& [before, words] : kRows) EXPECT_EQ(desk.CompletionsOf(before), words) << before;
+}
+
+TEST(Typing, TakesLinesFromThePersonOnlyBehindAPrompt) {
+  for (const bool prompt : {true, false}) {
+    std::vector<std::string> typed{"click cmddoit", "quit"}, clicks;
+    std::istringstream in("click cmdask\nyes\n");
+    std::ostringstream out;
+    console::Settings settings{.Prompt = prompt};
+    settings.Ask = [&](const std::string& asked, const console::Completions& completions) {
+      EXPECT_EQ(asked, "> ");
+      EXPECT_EQ(completions("qu"), std::vector<std::string>{"quit"});
+      console::Line line{typed.front()};
+      typed.erase(typed.begin());
+      return std::optional(line);
+    };
+    console::Console desk(in, out, settings);
+    SampleScreen::On(desk, clicks);
+    clicks.clear();
+    desk.Run();
+    EXPECT_EQ(clicks.front(), prompt ? "cmddoit" : "yes");
+  }
 }
 
 }  // namespace

@@ -21,10 +21,10 @@ constexpr const char* kPlayerName = "Pat Lee";
 
 }  // namespace
 
-Evening::Evening(const World& data, Hands hands)
+Evening::Evening(const World& data, Hands hands, std::uint64_t seed)
     : home_(data),
       hands_(hands),
-      game_(play_.Desk, *disk_, {home_.Path("."), [] { return kGameStart; }, 11}) {
+      game_(play_.Desk, *disk_, {home_.Path("."), [] { return kGameStart; }, seed}) {
   RegisterScreens(game_);
   play_.Window.resize(1280, 800);
   QObject::connect(&boxes_, &QTimer::timeout, &boxes_, [this] { AnswerBox(); });
@@ -106,9 +106,19 @@ void Evening::Leave() {
   Act("Escape", [&] { play_.Key(Qt::Key_Escape); });
 }
 
+/// By the careful answer: nobody leaves for another promotion on their first evening.
+void Evening::DecideWhatWaits() {
+  for (int step = 0; step < kMostSteps && (Top() == "frmIncident" || Top() == "frmPinky"); ++step) {
+    Leave();
+    ++decided_;
+  }
+}
+
 /// What waits on the way is answered with what it offers.
 void Evening::GoHome() {
   for (int step = 0; step < kMostSteps && Top() != "frmMainScreen"; ++step) {
+    DecideWhatWaits();
+    if (Top() == "frmMainScreen") return;
     const std::string before = Top();
     Leave();
     if (Top() == before) Act("Enter", [&] { play_.Key(Qt::Key_Return); });
@@ -191,7 +201,10 @@ void Evening::FillTheRest() {
 }
 
 void Evening::BookAShow() {
-  for (int day = 0; day < kLongestWait && Top() != "frmBooking"; ++day) Press("cmdnext");
+  for (int day = 0; day < kLongestWait && Top() != "frmBooking"; ++day) {
+    Press("cmdnext");
+    DecideWhatWaits();
+  }
   Arrive("frmBooking");
   Press("cmdbook(1)");
   BookARow();
@@ -214,6 +227,7 @@ void Evening::HoldIt() {
        ++step) {
     read = read || Top() == "frmMatchOutput";
     Act("Enter", [&] { play_.Key(Qt::Key_Return); });
+    DecideWhatWaits();
   }
   EXPECT_TRUE(read) << "nothing of the show was reported";
   EXPECT_GT(TheWorld().Today(), day);
@@ -237,6 +251,7 @@ void Evening::ToTheMonthsEnd() {
       HoldIt();
     } else if (Top() == "frmMainScreen") {
       Press("cmdnext");
+      DecideWhatWaits();
     } else {
       GoHome();
     }

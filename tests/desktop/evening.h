@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -17,8 +18,9 @@ namespace grapplemont::test {
 class Evening {
  public:
   enum class Hands { Mouse, Keys };
-  /// In a home of its own whose default data are these.
-  Evening(const World& data, Hands hands);
+  static constexpr std::uint64_t kUsualSeed = 11;
+  /// In a home of its own whose default data are these; luck is the seed's.
+  Evening(const World& data, Hands hands, std::uint64_t seed = kUsualSeed);
   ~Evening();
 
   void NewGame();
@@ -41,6 +43,8 @@ class Evening {
 
   const World& TheWorld() { return game_.World(); }
   std::string Top() const { return play_.Top(); }
+  /// How many decisions have waited on the way.
+  int Decided() const { return decided_; }
 
  private:
   void Act(const std::string& what, const std::function<void()>& act);
@@ -58,6 +62,8 @@ class Evening {
   /// By the auto booker's proposal.
   void FillTheRest();
   void GoHome();
+  /// What has happened backstage stands before everything else until it is decided.
+  void DecideWhatWaits();
   void Arrive(const std::string& screen);
 
   HomeFolder home_;
@@ -69,6 +75,7 @@ class Evening {
   QElapsedTimer since_;
   std::string doing_;
   bool painting_ = false;
+  int decided_ = 0;
 };
 
 }  // namespace grapplemont::test

@@ -178,6 +178,52 @@ TEST(TheCards, StandInALineWhereEachHasTheLettersItNeeds) {
   }
 }
 
+TEST(TheCards, AreLeftOutWhereThePageHasNoRoomToSpare) {
+  class Cards : public ui::Screen {
+   public:
+    explicit Cards(ui::Desk& desk) : Screen(desk, "frmCards", "Cards") {}
+    ui::Page Layout() override {
+      return {.Body = ui::Columns({ui::Group("First", {ui::Grow(lstfirst)}).Grow(),
+                                   ui::Group("More", {ui::Grow(lstmore)}).From(200).Grow()})};
+    }
+    ui::ListBox lstfirst{*this, "lstfirst"}, lstmore{*this, "lstmore"};
+  };
+  Player play;
+  play.Open(std::make_unique<Cards>(play.Desk));
+  for (const auto& [width, isThere] : {std::pair(1280, false), {1920, true}, {1024, false}}) {
+    play.Window.resize(width, 800);
+    QApplication::processEvents();
+    play.Window.Sync();
+    EXPECT_EQ(play.Sees("lstmore"), isThere) << width;
+    EXPECT_GT(play.See("lstfirst")->width(), width * 4 / 10);
+  }
+}
+
+/// The guide stands on it beside all else.
+TEST(TheDesk, IsSeenWholeInTheFirstWeek) {
+  HomeFolder home(RichWorld().Build());
+  home.StartNewGame();
+  home.Desk.CloseAll();
+  home.Play.CloseSlot();
+  const std::unique_ptr<Disk> files = RealDisk(Syncs::None);
+  Player play;
+  Game game(play.Desk, *files, {home.Path("."), [] { return kGameStart; }, 11});
+  RegisterScreens(game);
+  play.Window.resize(1280, 800);
+  game.OpenSlot(1);
+  play.Desk.Event([&] { play.Desk.Open("frmMainScreen"); });
+  play.Window.Sync();
+  QApplication::processEvents();
+  ASSERT_TRUE(play.Sees("txtguide"));
+  int scrolls = 0;
+  for (const auto* scroller : play.See("frmMainScreen")->findChildren<desktop::Scroller*>())
+    scrolls += scroller->verticalScrollBar()->maximum();
+  EXPECT_EQ(scrolls, 0);
+  play.Desk.CloseAll();
+  play.Window.Sync();
+  game.CloseSlot();
+}
+
 TEST(ALargeDialog, TakesTheRoomOfTheWindow) {
   class Lists : public ui::Screen {
    public:

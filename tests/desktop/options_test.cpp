@@ -2,9 +2,12 @@
 
 #include <QClipboard>
 #include <QFile>
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
+#include "desktop/desktopcolours.h"
+#include "desktop/look.h"
 #include "desktop/player.h"
 #include "desktop/sharing.h"
 #include "desktop/sound.h"
@@ -113,6 +116,72 @@ TEST_F(TheOptions, GiveACommandAnotherKey) {
   Play->Key(Qt::Key_Escape);
   Play->Key(Qt::Key_F2);
   EXPECT_EQ(Play->Top(), "frmPeople");
+}
+
+TEST_F(TheOptions, GiveAPageAndTheWindowOtherKeys) {
+  Begin();
+  Play->Key(Qt::Key_F4);
+  ASSERT_EQ(Play->Top(), "frmDesk");
+  const auto choose = [&](const char* command) {
+    const auto* keys = dynamic_cast<ui::ListBox*>(Play->Desk.Top()->Find("lstkeys"));
+    for (int row = 1; row <= keys->Count(); ++row)
+      if (keys->Rows()[static_cast<std::size_t>(row - 1)].Cells[0].Text == command)
+        return Choose("lstkeys", row);
+    ADD_FAILURE() << "no key can be set for " << command;
+  };
+  const auto set = [&](const char* command, const char* key) {
+    choose(command);
+    Play->AtNextBox([&] {
+      Play->Type(key);
+      Play->Click("boxok");
+    });
+    Play->Click("cmdkey");
+  };
+  OpenOptions();
+  set("Done", "Ctrl+D");
+  set("Search everything", "Ctrl+G");
+  Play->Key(Qt::Key_Escape);
+  EXPECT_TRUE(Play->See("cmddone")->toolTip().contains("Ctrl+D"));
+  const std::vector<std::string> lines = Play->Desk.Help.Keys(*Play->Desk.Top());
+  for (const char* line : {"Ctrl+D: Done", "Ctrl+G: Search everything"})
+    EXPECT_NE(std::find(lines.begin(), lines.end(), line), lines.end()) << line;
+  Notes.clear();
+  Play->Key(Qt::Key_D, Qt::ControlModifier);
+  EXPECT_EQ(Notes, Log({"done"}));
+  Play->Key(Qt::Key_K, Qt::ControlModifier);
+  EXPECT_FALSE(Play->Sees("finder"));
+  Play->Key(Qt::Key_G, Qt::ControlModifier);
+  EXPECT_TRUE(Play->Sees("finder"));
+  Play->Key(Qt::Key_Escape);
+  Begin();
+  OpenOptions();
+  choose("Done");  // its page is not open, and it is known all the same
+  Play->Click("cmdreset");
+  Play->Key(Qt::Key_Escape);
+  Play->Key(Qt::Key_F4);
+  Notes.clear();
+  Play->Key(Qt::Key_D, Qt::ControlModifier);
+  EXPECT_EQ(Notes, Log());
+}
+
+TEST_F(TheOptions, SayWhoseKeyAKeyIs) {
+  Begin();
+  OpenOptions();
+  for (const auto& [key, whose] : {std::pair("F4", "F4 is the key of Desk."),
+                                   {"Ctrl+L", "Ctrl+L is the key of Dark or light colours."},
+                                   {"Ctrl+C", "Ctrl+C is a key of tables and lines of text."}}) {
+    std::string said;
+    Play->AtNextBox([&] {
+      Play->Type(key);
+      Play->AtNextBox([&] {
+        said = Play->TextOf("boxtext").toStdString();
+        Play->Click("boxok");
+      });
+      Play->Click("boxok");
+    });
+    Play->Click("cmdkey");
+    EXPECT_EQ(said, whose);
+  }
 }
 
 TEST_F(TheOptions, MakeShowsHeardOnceTheyAreTurnedOn) {
@@ -289,6 +358,27 @@ TEST_F(TheOptions, FillTheScreenByF11) {
     Play->Key(Qt::Key_F11);
     EXPECT_EQ(Play->Window.isFullScreen(), full);
   }
+}
+
+TEST(TheDesktopsColours, AreFollowedWhileItRunsUntilThePlayerChoosesOthers) {
+  Player play;
+  desktop::DesktopColours desktop([&](bool dark) { play.Window.FollowDesktop(dark); });
+  const auto turn = [&](uint preference, const char* key = "color-scheme") {
+    desktop.Heard("org.freedesktop.appearance", key, QDBusVariant(preference));
+    return desktop::ColoursOf(&play.Window).Dark;
+  };
+  play.Window.SetColours(desktop::Scheme::System);
+  EXPECT_FALSE(turn(2));
+  EXPECT_FALSE(turn(1, "accent-color"));
+  EXPECT_FALSE(turn(0)) << "no preference is no change";
+  EXPECT_TRUE(turn(1));
+  desktop.Heard("org.freedesktop.appearance", "color-scheme",
+                QDBusVariant(QVariant::fromValue(QDBusVariant(2u))));
+  EXPECT_FALSE(desktop::ColoursOf(&play.Window).Dark) << "as the first answer is wrapped";
+  play.Window.SetColours(desktop::Scheme::Light);
+  EXPECT_FALSE(turn(1)) << "the player's own";
+  play.Window.SetColours(desktop::Scheme::System);
+  EXPECT_TRUE(desktop::ColoursOf(&play.Window).Dark) << "back to what the desktop has by now";
 }
 
 }  // namespace

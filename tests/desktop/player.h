@@ -22,7 +22,9 @@ namespace grapplemont::test {
 class Player {
  public:
   explicit Player(const QString& settings = {})
-      : Window(Desk, {QString::fromStdString(Checkout("/gfx")), settings, [this] { ++Closings; },
+      : Window(Desk, {{QString::fromStdString(Checkout("/gfx"))},
+                      settings,
+                      [this] { ++Closings; },
                       [this] { return Game; },
                       [this](ui::Sound sound, int volume) { Heard.emplace_back(sound, volume); }}) {
     Window.show();

@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QScrollBar>
 #include <QTemporaryDir>
+#include <QToolTip>
 
 #include "desktop/player.h"
+#include "desktop/tablecells.h"
 
 // The table under a player's hands.
 
@@ -440,6 +443,45 @@ TEST_F(RowButtons, AListMayShrinkWhileItsNeighbourGrows) {
   Page->Fill(1);
   Play.Window.Sync();
   EXPECT_EQ(Play.Column("lstlong", 0).size(), 40U);
+}
+
+ui::Sign SignOfMark(std::string_view word) {
+  return word.starts_with("Feud") ? ui::Sign::Flame : ui::Sign::None;
+}
+
+/// A table with the same marks in words and in signs.
+class MarkedPage : public ui::Screen {
+ public:
+  explicit MarkedPage(ui::Desk& desk) : Screen(desk, "frmMarked", "Marked") {
+    lstmarks.Add({"Bram", "Feud 71, Late", "Feud 71, Late"}, 1);
+  }
+  ui::Page Layout() override { return {.Body = ui::Group("", {ui::Grow(lstmarks)})}; }
+
+  ui::ListBox lstmarks{*this,
+                       "lstmarks",
+                       {{"Name"},
+                        {"Words", ui::ColumnKind::Tags},
+                        {.Title = "Signs", .Kind = ui::ColumnKind::Tags, .SignOf = SignOfMark}}};
+};
+
+TEST(SignsInATable, TakeLittleRoomAndAreReadOutAsWords) {
+  Player play;
+  play.Open(std::make_unique<MarkedPage>(play.Desk));
+  const ui::ListBox& list = dynamic_cast<MarkedPage&>(*play.Desk.Top()).lstmarks;
+  const ui::Cell& cell = list.Rows()[0].Cells[1];
+  EXPECT_LT(desktop::CellWidth(cell, list.Columns()[2]),
+            desktop::CellWidth(cell, list.Columns()[1]) * 3 / 4);
+  const QModelIndex shown = play.Grid("lstmarks").model()->index(0, 2);
+  EXPECT_EQ(shown.data(Qt::AccessibleTextRole), "Feud 71, Late");
+  const auto pictureOf = [&](int column) {
+    desktop::TableGrid& grid = play.Grid("lstmarks");
+    return grid.viewport()->grab(grid.visualRect(grid.model()->index(0, column))).toImage();
+  };
+  EXPECT_NE(pictureOf(1), pictureOf(2));
+  QTest::qWait(1);
+  QHelpEvent hover(QEvent::ToolTip, play.Grid("lstmarks").visualRect(shown).center(), QPoint(5, 5));
+  QApplication::sendEvent(play.Grid("lstmarks").viewport(), &hover);
+  EXPECT_TRUE(QToolTip::text().contains("Feud 71, Late")) << QToolTip::text().toStdString();
 }
 
 }  // namespace

@@ -244,9 +244,8 @@ TEST_F(TheWindow, FindsWhatCanBeDoneByItsLetters) {
   Play.Click("searcheverything");
   Play.Type("later");
   Play.Key(Qt::Key_Return);
-  EXPECT_TRUE(Play.Sees("finder")) << "what is disabled is not found";
-  Play.Key(Qt::Key_Escape);
   EXPECT_FALSE(Play.Sees("finder"));
+  EXPECT_EQ(Play.TextOf("hint"), "Later cannot be pressed now.") << "there is no reason to be told";
   EXPECT_EQ(Play.Top(), "frmPeople");
   Play.Desk.Screens().front()->Find("cmdlater")->Tip = "Not before noon.";
   Play.Click("searcheverything");
@@ -254,6 +253,59 @@ TEST_F(TheWindow, FindsWhatCanBeDoneByItsLetters) {
   Play.Key(Qt::Key_Return);
   EXPECT_EQ(Play.TextOf("hint"), "Not before noon.") << "a slip, and the reason";
   EXPECT_EQ(Play.Top(), "frmPeople");
+}
+
+TEST_F(TheWindow, TellsInTheSearchWhyAPagesActionCannotBeDone) {
+  DeskPage& page = OpenDesk();
+  page.cmddone.Enabled = false;
+  page.cmddone.Tip = "Nothing is chosen yet.";
+  Play.Key(Qt::Key_K, Qt::ControlModifier);
+  Play.Type("Done");
+  const auto* list = dynamic_cast<QListWidget*>(Play.See("finderlist"));
+  ASSERT_EQ(list->currentItem()->text(), "Done");
+  EXPECT_EQ(list->currentItem()->data(Qt::AccessibleDescriptionRole),
+            "Not now: Nothing is chosen yet.");
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Play.TextOf("hint"), "Nothing is chosen yet.");
+  EXPECT_EQ(Notes, Log());
+}
+
+TEST_F(TheWindow, GivesTheKeyboardBackToWhatOpenedAPage) {
+  Play.See("cmdpeople")->setFocus(Qt::TabFocusReason);
+  Play.Key(Qt::Key_Space);
+  ASSERT_EQ(Play.Top(), "frmPeople");
+  Play.See("cmdback")->setFocus(Qt::TabFocusReason);
+  Play.Key(Qt::Key_Space);
+  EXPECT_EQ(Play.FocusName(), "cmdpeople") << "though it stands beside the page";
+  OpenDesk();
+  Play.See("cmdask")->setFocus(Qt::TabFocusReason);
+  Play.Open(std::make_unique<PeoplePage>(Play.Desk, Notes));
+  Play.Key(Qt::Key_L, Qt::ControlModifier);
+  Play.Key(Qt::Key_Escape);
+  ASSERT_EQ(Play.Top(), "frmDesk");
+  EXPECT_EQ(Play.FocusName(), "cmdask") << "though the page below was drawn again";
+}
+
+/// A cover that has no picture behind it.
+class BareCover : public ui::Screen {
+ public:
+  explicit BareCover(ui::Desk& desk) : Screen(desk, "frmBare", "Bare", ui::Role::Cover) {}
+  ui::Page Layout() override { return {.Body = ui::Rows({lblwords})}; }
+
+ private:
+  ui::Label lblwords{*this, "lblwords", "Words"};
+};
+
+int warnings = 0;
+
+TEST_F(TheWindow, DrawsACoverWithoutAPictureInSilence) {
+  warnings = 0;
+  const auto before = qInstallMessageHandler(
+      [](QtMsgType, const QMessageLogContext&, const QString&) { ++warnings; });
+  Play.Open(std::make_unique<BareCover>(Play.Desk));
+  Play.Window.grab();
+  qInstallMessageHandler(before);
+  EXPECT_EQ(warnings, 0);
 }
 
 TEST_F(TheWindow, FindsNamesUnderHeadingsAndRemembersWhatWasChosen) {

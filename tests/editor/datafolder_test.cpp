@@ -3,6 +3,7 @@
 #include "editor/datafolder.h"
 #include "editorhome.h"
 #include "program/screens.h"
+#include "session/layers.h"
 #include "support/cutdisk.h"
 #include "support/smallworld.h"
 
@@ -15,6 +16,7 @@ namespace {
 using Files = std::map<std::string, Bytes>;
 constexpr const char* kData = "data";
 constexpr const char* kBackup = "data.backup";
+constexpr const char* kBelow = "came";
 
 World SmallData() {
   return SmallWorld().Promotion("CWA").Owner("Ruth Vane").Crew(6).Title("CWA Crown");
@@ -89,6 +91,71 @@ TEST(TheDataFolder, ExchangesDataAndBackup) {
   again.World().Workers()[2].Over = 3;
   again.Commit();
   EXPECT_EQ(BytesOf(before), Found(disk, kBackup)) << "from before this session's first change";
+}
+
+/// A disk where a world came with the program and nothing is the player's yet.
+CutDisk DiskBelow(const World& world) {
+  CutDisk disk;
+  disk.MakeFolder(kBelow);
+  for (const auto& [name, bytes] : FilesOf(world))
+    WriteFile(disk, std::string(kBelow) + "/" + name, bytes);
+  disk.SyncFolder(".");
+  return disk;
+}
+
+TEST(TheDataFolder, LeavesWhatCameWithTheProgramAloneAndOwnsAllOnceOneFileIsChanged) {
+  const World before = SmallData();
+  CutDisk disk = DiskBelow(before);
+  DataFolder data(disk, kData, kBelow);
+  EXPECT_EQ(BytesOf(before), BytesOf(data.World()));
+  EXPECT_FALSE(data.Covers());
+  data.World().Workers()[1].Over = 1;
+  const Files mine = BytesOf(data.World());
+  data.Commit();
+  EXPECT_TRUE(data.Covers());
+  EXPECT_EQ(mine, Found(disk)) << "all files, not the changed one alone";
+  EXPECT_EQ(BytesOf(before), Found(disk, kBelow));
+  EXPECT_EQ(BytesOf(before), Found(disk, kBackup));
+
+  World update = CopyOf(before);
+  update.Promotions()[1].Risk = 12;
+  for (const auto& [name, bytes] : FilesOf(update))
+    WriteFile(disk, std::string(kBelow) + "/" + name, bytes);
+  EXPECT_EQ(mine, ReadDefaultData(disk, {kData, kBelow})) << "an update leaves it alone";
+  data.Uncover();
+  EXPECT_FALSE(data.Covers());
+  EXPECT_EQ(BytesOf(update), BytesOf(data.World()));
+  EXPECT_EQ(BytesOf(update), ReadDefaultData(disk, {kData, kBelow}));
+  EXPECT_TRUE(data.Restore()) << "and back";
+  EXPECT_EQ(mine, Found(disk));
+  EXPECT_EQ(BytesOf(update), Found(disk, kBackup));
+}
+
+TEST(PowerCutsInTheEditor, LeaveTheWorldThatCameWithTheProgramOrTheOwnOne) {
+  const World before = SmallData();
+  const Files old = BytesOf(before), fresh = Edited(before);
+  CutDisk disk = DiskBelow(before);
+  {
+    DataFolder data(disk, kData, kBelow);
+    disk.Record();
+    disk.Begins(1);
+    Edit(data.World());
+    data.Commit();
+    disk.Shows(1);
+    disk.Begins(2);
+    data.Uncover();
+    disk.Shows(2);
+  }
+  const auto check = [&](CutDisk& after, const Cut& cut) {
+    const Files seen = ReadDefaultData(after, {kData, kBelow});
+    DataFolder data(after, kData, kBelow);
+    const Files files = BytesOf(data.World());
+    EXPECT_EQ(seen, files) << cut.Where;
+    const bool isOld = cut.Least == 0 || cut.Most == 2, isFresh = cut.Least <= 1 && cut.Most >= 1;
+    EXPECT_TRUE((isOld && files == old) || (isFresh && files == fresh)) << cut.Where;
+  };
+  EXPECT_GT(ForEveryCut(disk, 4, 9, check), 200);
+  EXPECT_GT(ForEveryDeath(disk, check), 30);
 }
 
 TEST(TheDataFolder, IsLetGoOf) {

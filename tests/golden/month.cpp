@@ -65,9 +65,14 @@ std::string OneLine(std::string text) {
   return text;
 }
 
-/// What a worker's page keeps of changes that the workers' own records tell.
+/// What a worker's page and the records keep of changes that the workers' own records and the
+/// matches tell.
 bool IsRetold(std::string_view file) {
-  return file == LayoutOf<WorkerMonths>().File || file == LayoutOf<MoodChange>().File;
+  for (const RecordLayout* retold :
+       {&LayoutOf<WorkerMonths>(), &LayoutOf<MoodChange>(), &LayoutOf<Career>(),
+        &LayoutOf<Tenure>(), &LayoutOf<Partnership>(), &LayoutOf<Feat>()})
+    if (file == retold->File) return true;
+  return false;
 }
 
 class Player {

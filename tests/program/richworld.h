@@ -38,16 +38,18 @@ inline constexpr const char* kInGame[] = {
     "frmFedProd",    "frmFedSponsor",   "frmTelevision", "frmPromoTape", "frmTvOffer",
     "frmTVRank",     "frmViewNetworks", "frmViewShows",  "frmFed",       "frmFedValue",
     "frmBelts",      "frmEvent",        "frmOtherFed",   "frmTheEnd",    "frmPinky",
-    "frmReigns",     "frmResults",      "frmReports",    "frmAwards",    "frmTalk",
+    "frmReigns",     "frmChronicle",  "frmResults",      "frmReports",    "frmAwards",    "frmTalk",
     "frmMorning",    "frmInternet",     "frmGlossary",   "frmDrafts",    "frmProspect",
-    "frmPlayOn",     "frmMonth",        "frmGodMode"};
+    "frmPlayOn",     "frmMonth",        "frmGodMode",    "frmRecords",   "frmHall",
+    "frmYearbook",   "frmFamilyTree"};
 
 /// Those that come before one, and the editor's.
 inline constexpr const char* kBeforeGame[] = {
-    "frmTitleScreen",  "frmDisclaimer",   "frmGameMenu",   "frmCredits",        "frmCreditsXtra",
-    "frmNewGame",      "frmLoadGame",     "frmWait",       "frmLoadingScreens", "frmEditor",
-    "frmEditWres",     "frmEditPromo",    "frmEditOwners", "frmEditStaff",      "frmEditTeams",
-    "frmEditStables",  "frmEditBelts",    "frmEditTv",     "frmEditEvents",     "frmEditNetworks",
-    "frmEditSponsors", "frmEditMaintain", "frmEditMerge",  "frmEditImport",     "frmEditTables"};
+    "frmTitleScreen",  "frmDisclaimer",   "frmGameMenu",     "frmCredits",    "frmCreditsXtra",
+    "frmAbout",        "frmNewGame",      "frmLoadGame",     "frmWait",       "frmLoadingScreens",
+    "frmEditor",       "frmEditWres",     "frmEditPromo",    "frmEditOwners", "frmEditStaff",
+    "frmEditTeams",    "frmEditStables",  "frmEditBelts",    "frmEditTv",     "frmEditEvents",
+    "frmEditNetworks", "frmEditSponsors", "frmEditMaintain", "frmEditMerge",  "frmEditImport",
+    "frmEditTables"};
 
 }  // namespace grapplemont::test

@@ -7,6 +7,7 @@
 #include "records/segments.h"
 #include "report/report.h"
 #include "show/holdshow.h"
+#include "show/recap.h"
 #include "support/gameonworld.h"
 
 // A show day as a player has it, from the main screen and back, beside a second world in which the
@@ -248,6 +249,82 @@ TEST(ATelevisionShowPlayed, IsToldSegmentBySegmentAndLeadsToTheNextDay) {
   std::string senders;
   for (const Mail& mail : play.World().News()) senders += mail.From.Str() + "\n";
   EXPECT_NE(senders.find("Television report"), std::string::npos) << senders;
+}
+
+/// What a Segment's kept report says, with the verdict below.
+std::string KeptWords(const grapplemont::World& world, int row) {
+  std::string words;
+  for (const ReportText& text : ReportOf(world, world.Today(), world.PlayerUid()))
+    if (text.Row == row && (text.Kind == kProse || text.Kind == kVerdict))
+      words += (words.empty() ? "" : "\n") + text.Words;
+  return words;
+}
+
+void ChooseLive(ScriptDesk& desk, bool live) {
+  desk.Open("frmOptions");
+  EXPECT_NE(desk.Checked("chklive"), live);
+  desk.Check("chklive", live);
+  desk.Click("cmddone");
+}
+
+TEST(AShowToldLive, AppearsSentenceBySentenceAndItsPercentagesLast) {
+  OnSunday play;
+  ScriptDesk& desk = play.Desk;
+  for (const char* name : {"cmdall", "chthall", "cmbpace"}) EXPECT_FALSE(desk.Visible(name));
+  ChooseLive(desk, true);
+  EXPECT_TRUE(desk.Visible("txtoverall")) << "what stood there stays";
+  int breaths = 0;
+  for (int row = 2; row <= play.kRows; ++row) {
+    SCOPED_TRACE(row);
+    desk.Click("cmdnext");
+    std::string told;
+    int steps = 0;
+    for (; desk.Visible("cmdall") && steps < 400; ++steps) {
+      const std::string text = desk.Text("txtreport");
+      for (const char* name : {"txtoverall", "txtcrowd", "lblwinner", "txtroad", "cmdwhy(3)"})
+        EXPECT_FALSE(desk.Visible(name)) << name << " before the end";
+      EXPECT_EQ(desk.Text("txtwhy"), "");
+      EXPECT_EQ(text.substr(0, told.size()), told);
+      EXPECT_TRUE(desk.Visible("chthall"));
+      told = text;
+      if (text.ends_with(" ...")) told.resize(text.size() - 4), ++breaths;
+      desk.Click("cmdnext");
+    }
+    EXPECT_GT(steps, 2);
+    EXPECT_EQ(told, KeptWords(play.World(), row));
+    EXPECT_EQ(desk.Text("txtreport"), told);
+    EXPECT_TRUE(desk.Visible("txtoverall"));
+  }
+  EXPECT_GT(breaths, 0) << "no count was waited for";
+  ChooseLive(desk, false);
+  desk.Click("cmdnext");
+  EXPECT_EQ(desk.TopName(), "frmPostShow");
+}
+
+TEST(AShowToldLive, IsSeenAtOnceOnRequestOrGoesOnByItself) {
+  OnSunday play;
+  ScriptDesk& desk = play.Desk;
+  ChooseLive(desk, true);
+  desk.Click("cmdnext");
+  const auto wait = [&] {
+    return dynamic_cast<const ui::Button&>(*desk.Top()->Find("cmdnext")).Every.Get();
+  };
+  EXPECT_EQ(wait(), 0) << "it waits for its reader";
+  desk.Pick("cmbpace", "Slow");
+  const int slow = wait();
+  desk.Pick("cmbpace", "Fast");
+  EXPECT_GT(wait(), 0);
+  EXPECT_LT(wait(), slow);
+  desk.Click("cmdall");
+  EXPECT_EQ(desk.Text("txtreport"), KeptWords(play.World(), 2));
+  EXPECT_TRUE(desk.Visible("txtoverall"));
+  EXPECT_EQ(wait(), 0) << "the next Segment waits for its reader";
+  desk.Click("cmdnext");
+  EXPECT_GT(wait(), 0) << "the pace stays";
+  play.World().Of<TellingHabit>()[1].Version = TellingHabit::kKnownVersion + 1;
+  desk.Click("cmdall");
+  desk.Click("cmdnext");
+  EXPECT_TRUE(desk.Visible("txtoverall")) << "what a later program has kept counts for nothing";
 }
 
 TEST(AShowThatIsKilled, GoesOnWithTheSegmentThatWasToComeOrOnItsRecap) {

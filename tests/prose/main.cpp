@@ -68,7 +68,7 @@ bool GoToShow(World& world, bool& isEvent) {
   return false;
 }
 
-/// Feuds between some who would have one, and some who wait to turn.
+/// Feuds between some who would have one, some who wait to turn, some without a finishing move.
 void StirUp(World& world, Dice& dice) {
   const auto roster = FeudRoster(world);
   const auto anybody = [&] {
@@ -82,8 +82,11 @@ void StirUp(World& world, Dice& dice) {
                                 : FeudSides{{anybody(), 0}, {anybody(), 0}};
     if (WhyNoFeud(world, sides).empty()) StartFeud(world, sides);
   }
-  for (Worker& worker : world.Workers())
-    if (worker.Employer == world.PlayerUid() && dice.OneIn(6)) worker.TurnPending = true;
+  for (Worker& worker : world.Workers()) {
+    if (worker.Employer != world.PlayerUid()) continue;
+    if (dice.OneIn(6)) worker.TurnPending = true;
+    if (dice.OneIn(40)) worker.Finisher1 = worker.Finisher2 = "None";
+  }
 }
 
 void BookAtRandom(World& world, Dice& dice, bool isEvent) {

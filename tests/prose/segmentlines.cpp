@@ -33,7 +33,15 @@ Json NamesOf(const World& world, const Segment& segment) {
   return names;
 }
 
-Json FeudsAmong(const std::vector<Feud>& feuds, const std::vector<int>& people) {
+bool Goes(const World& world, const Feud& feud) {
+  return std::any_of(world.Feuds().begin(), world.Feuds().end(), [&](const Feud& each) {
+    return each.Worker1 == feud.Worker1 && each.Worker2 == feud.Worker2 &&
+           each.Worker3 == feud.Worker3 && each.Worker4 == feud.Worker4;
+  });
+}
+
+Json FeudsAmong(const World& world, const std::vector<Feud>& feuds,
+                const std::vector<int>& people) {
   const auto isThere = [&](int uid) {
     return std::find(people.begin(), people.end(), uid) != people.end();
   };
@@ -43,7 +51,8 @@ Json FeudsAmong(const std::vector<Feud>& feuds, const std::vector<int>& people) 
     const auto one = UidsOf(sides.One), two = UidsOf(sides.Two);
     if (std::any_of(one.begin(), one.end(), isThere) &&
         std::any_of(two.begin(), two.end(), isThere))
-      rows.push_back({{"one", one}, {"two", two}, {"heat", int(feud.Heat)}});
+      rows.push_back(
+          {{"one", one}, {"two", two}, {"heat", int(feud.Heat)}, {"over", !Goes(world, feud)}});
   }
   return rows;
 }
@@ -85,8 +94,9 @@ std::string SegmentLine::Told(const World& world, const ToldSegment& told) const
       {"people", PeopleOf(s)},
       {"sides", s.Kind == kMatch ? SidesOf(s) : std::vector<std::vector<int>>{}},
       {"names", NamesOf(world, s)},
-      {"feuds", FeudsAmong(feuds_, EverybodyOf(s))},
+      {"feuds", FeudsAmong(world, feuds_, EverybodyOf(s))},
       {"turns", turns},
+      {"notes", ToUtf8(told.Notes)},
       {"quality", int(told.Quality)},
       {"crowd", int(told.Crowd)},
       {"overall", int(told.Overall)},

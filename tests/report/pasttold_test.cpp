@@ -2,12 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <chrono>
+#include <set>
 
 #include "records/segments.h"
-#include "report/report.h"
-#include "report/teller.h"
+#include "report/pastsupport.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
 
@@ -16,79 +14,6 @@ namespace {
 
 using test::ScriptedDraws;
 using test::SmallWorld;
-
-World Two() {
-  return SmallWorld()
-      .Promotion("CWA")
-      .Worker("Ada Crane")
-      .Worker("Bo Pike")
-      .Title("Crown")
-      .Game("CWA");
-}
-
-Segment AdaBeatsBo(const char* title = "None") {
-  Segment segment = EmptySegment();
-  segment.Kind = kMatch;
-  segment.Style = kSingles;
-  segment.MatchType = kPlainSingles;
-  segment.Worker[0] = segment.Winner = 1;
-  segment.Worker[1] = segment.Loser = 2;
-  segment.Finish = kClean;
-  segment.TitleName = title;
-  return segment;
-}
-
-Day Ago(const World& world, int days) {
-  return world.Today() - std::chrono::days(days);
-}
-
-void Held(World& world, int winner, int days, int rating = 50) {
-  HeldMatch bout;
-  bout.On = Ago(world, days);
-  bout.Promotion = world.PlayerUid();
-  bout.Style = kSingles;
-  bout.Rating = rating;
-  bout.Winners = 1;
-  bout.Worker[0] = winner;
-  bout.Worker[1] = 3 - winner;
-  world.Bouts().Append(bout);
-}
-
-void Tally(World& world, int uid, int matches, int lastDaysAgo) {
-  MatchTally tally;
-  tally.Promotion = world.PlayerUid();
-  tally.Worker = uid;
-  tally.Won = matches;
-  tally.Last = Ago(world, lastDaysAgo);
-  world.Tallies().Append(tally);
-}
-
-void Reign(World& world, int uid, int from, int until, int defences = 0) {
-  TitleReign reign;
-  reign.From = Ago(world, from);
-  reign.Until = until == 0 ? kNoTitleDate : Ago(world, until);
-  reign.Title = "Crown";
-  reign.Owner = world.PlayerUid();
-  reign.Worker = uid;
-  reign.Defences = defences;
-  reign.End = until == 0 ? kReignLasts : kReignLost;
-  world.Reigns().Append(reign);
-}
-
-struct Past {
-  std::vector<PastFact> Facts;
-
-  Past(World& world, const Segment& segment, const Scene& scene = {}) {
-    LineMemory memory;
-    Teller teller(world, segment, scene, memory);
-    Facts = PastOf(teller);
-  }
-  const PastFact* Has(PastKind kind) const {
-    const auto found = std::find_if(Facts.begin(), Facts.end(),
-                                    [&](const PastFact& fact) { return fact.Is == kind; });
-    return found == Facts.end() ? nullptr : &*found;
-  }
-};
 
 TEST(Past, KnowsWhoHasMetAndWhoWon) {
   World world = Two();
@@ -190,6 +115,88 @@ TEST_P(Voices, TellThePastInWholeSentences) {
         EXPECT_EQ(teller.Text().find_first_of("[]{}|"), std::string::npos) << teller.Text();
       }
     }
+}
+
+/// Which line has been drawn, by the memory of the show.
+bool WasSaid(const LineMemory& memory, Family family, int band, int voice) {
+  const Block* block = BlockOf(voice, family, band);
+  for (std::size_t line = 0; line < block->Lines.size(); ++line)
+    if (memory.Used(block, static_cast<int>(line))) return true;
+  return false;
+}
+
+TEST_P(Voices, LookBackOnTheYearAtDecembersEvent) {
+  for (const auto& [day, isEvent, overall] : {std::tuple("2026-12-20", true, 50),
+                                              {"2026-12-20", true, 95},
+                                              {"2026-12-20", false, 50},
+                                              {"2026-11-20", true, 50}}) {
+    World world = SmallWorld()
+                      .Promotion("CWA")
+                      .Worker("Ada Crane")
+                      .Worker("Bo Pike")
+                      .Game("CWA", *ParseIsoDate(day));
+    world.Game().Reporter = GetParam();
+    Held(world, 2, 100, 90);
+    Scene scene;
+    scene.Row = 1;
+    scene.IsLast = true;
+    scene.IsEvent = isEvent;
+    scene.Overall = overall;
+    LineMemory memory;
+    WriteReport(world, AdaBeatsBo(), scene, memory);
+    const bool isYear = isEvent && MonthOf(world.Today()) == 12;
+    EXPECT_EQ(WasSaid(memory, Family::PastOpening, kYearRecalled, GetParam()), isYear);
+    EXPECT_EQ(WasSaid(memory, Family::PastEnding, kYearStands, GetParam()), isYear && overall < 90);
+  }
+}
+
+/// A Title that is won in no time has words of its own; any other squash is as short as it is.
+TEST_P(Voices, MakeAnEventOfATitleSquash) {
+  World world = Two();
+  world.Game().Reporter = GetParam();
+  int told = 0;
+  for (int round = 0; round < 60; ++round) {
+    for (const char* title : {"Crown", "None"}) {
+      LineMemory memory;
+      Scene scene;
+      scene.Champion = 2;
+      WriteReport(world, AdaBeatsBo(title), scene, memory);
+      const bool begins = WasSaid(memory, Family::Squash, kSquashBegins, GetParam());
+      EXPECT_EQ(begins, WasSaid(memory, Family::Squash, kSquashDone, GetParam()));
+      EXPECT_TRUE(!begins || title == std::string("Crown"));
+      told += begins;
+    }
+  }
+  EXPECT_GT(told, 0);
+  EXPECT_LT(told, 40) << "one shape of four";
+}
+
+/// Also when the game was closed between: who speaks has the line that they have not said.
+TEST_P(Voices, GiveNobodyTheSameOpeningTwice) {
+  World world = Two();
+  world.Game().Reporter = GetParam();
+  Segment talk = EmptySegment();
+  talk.Kind = kInterview;
+  talk.Style = kSingleTalk;
+  talk.Worker[0] = 1;
+  const Scene scene;
+  std::set<int> said;
+  const auto lines = BlockOf(GetParam(), Family::TalkOpening, kSingleTalk)->Lines.size();
+  for (std::size_t show = 0; show < lines; ++show) {
+    LineMemory memory;
+    Teller teller(world, talk, scene, memory);
+    teller.SayAs('T', Family::TalkOpening, kSingleTalk);
+    for (std::size_t line = 0; line < lines; ++line)
+      if (memory.Used(BlockOf(GetParam(), Family::TalkOpening, kSingleTalk), int(line)))
+        said.insert(int(line));
+  }
+  EXPECT_EQ(said.size(), lines);
+  LineMemory before, reopened;
+  Teller first(world, talk, scene, before), second(world, talk, scene, reopened);
+  const int band = TalkBand(kSingleTalk, kVerbalAttack);
+  while (first.SayNew(Family::Speech, band)) {
+  }
+  EXPECT_FALSE(second.SayNew(Family::Speech, band)) << "the show has heard them all";
 }
 
 /// What matters is told at length, three times the row at most; what does not stays short.

@@ -181,6 +181,22 @@ TEST(RivalCards, TellAMainEventTheSameWheneverItIsRead) {
   const std::string told = TellMatch(world, match);
   EXPECT_NE(told.find("Best"), std::string::npos);
   EXPECT_EQ(told, TellMatch(world, match));
+  // What the player's promotion and the Titles have come to since is not known on that day.
+  world.Game().Today = world.Today() + std::chrono::days{60};
+  HeldMatch ours{};
+  ours.On = world.Today();
+  ours.Promotion = world.PlayerUid();
+  ours.Style = match.Style;
+  ours.Rating = 95;
+  ours.Winners = 1;
+  for (std::size_t at = 0; at < match.Worker.size(); ++at) ours.Worker[at] = match.Worker[at];
+  for (int times = 0; times < 12; ++times) world.Bouts().Append(ours);
+  for (Worker& worker : world.Workers()) worker.RetiringSoon = true;
+  EXPECT_EQ(told, TellMatch(world, match));
+  CardMatch dull = match, great = match;
+  dull.Rating = 20;
+  great.Rating = 95;
+  EXPECT_GT(TellMatch(world, great).size(), TellMatch(world, dull).size());
   CardMatch other = match;
   other.Worker[1] = 0;
   EXPECT_EQ(TellMatch(world, other), "") << "who has left the business is not written about";

@@ -78,7 +78,8 @@ TEST(GameMenu, OpensItsScreensAndAsksBeforeItEnds) {
   home.Desk.Open("frmGameMenu");
   for (const auto& [button, screen] : {std::pair{"cmdnewgame", "frmNewGame"},
                                        {"cmdloadgame", "frmLoadGame"},
-                                       {"cmdcredits", "frmCredits"}}) {
+                                       {"cmdcredits", "frmCredits"},
+                                       {"cmdabout", "frmAbout"}}) {
     home.Desk.Click(button);
     EXPECT_EQ(home.Desk.TopName(), screen);
     home.Desk.Click("cmdback");

@@ -1,3 +1,4 @@
+#include "session/build.h"
 #include "toolhome.h"
 
 namespace grapplemont::test {
@@ -180,8 +181,17 @@ TEST_F(ToolUsage, HelpsOnEveryCommand) {
   for (const std::string command :
        {"build", "export", "check", "new", "run", "soak", "formats", "columns"}) {
     EXPECT_NE(std::string::npos, all.find("\n  " + command)) << command;
-    EXPECT_TRUE(Say(command + " --help").starts_with("usage: grapplemont-world " + command));
+    for (const char* help : {" --help", " --home H -h"})
+      EXPECT_TRUE(Say(command + help).starts_with("usage: grapplemont-world " + command));
   }
+  EXPECT_EQ(all, Say("-h"));
+  EXPECT_EQ(all, Say("help"));
+  EXPECT_EQ(std::string("grapplemont-world ") + kProgramVersion + "\n", Say("--version"));
+  EXPECT_EQ(
+      "usage: grapplemont-world new [--home FOLDER] --slot N --player NAME --promotion INITIALS "
+      "[--difficulty 1..4] [--start YYYY-MM-DD] [--seed S] [--voice 0..2]",
+      Say("new --help").substr(0, Say("new --help").find('\n')))
+      << "read from the options that it takes";
 }
 
 using TellCommand = ToolHome;

@@ -29,7 +29,7 @@ class ToolHome : public ::testing::Test {
       words.push_back(word == "H" || word.starts_with("H/") ? Home + word.substr(1) : word);
     std::ostringstream out, errors;
     const auto today = [] { return Day(std::chrono::year{2026} / 3 / 20); };
-    const int code = tools::RunWorldTool(words, {out, errors, terminal, today});
+    const int code = tools::RunWorldTool(words, {out, errors, terminal, today, {}});
     return (errors.str().empty() ? "" : "[" + Homeless(errors.str()) + "]") + Homeless(out.str()) +
            (code == 0 ? "" : "=" + std::to_string(code));
   }

@@ -65,7 +65,7 @@ TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
       {"{T} is here. {.}", "{.} ends no condition"},
       {"<dwon> {T} is here, too.",
        "there is no such tag; there are down, hold, floor, held, anyway, trouble, worn, pin, low, "
-       "mid, high, leg, arm, back"},
+       "mid, high, leg, arm, back, up, clean, cold, warm, hot"},
       {"{T} is in.  Camera on.", "two blanks in a row"},
       {"{T} talks to himself.",
        "write {a:himself}, with the letter of whoever it is: it goes by sex and number"},
@@ -78,6 +78,9 @@ TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
   std::vector<std::string> expected = {
       At("qvd/bouts.txt", Replace("qvd/bouts.txt", "{w} gets", "{l} wins, {w} gets")) +
       "{l} or {L} has lost, and wins here"};
+  expected.push_back(
+      At("qvd/finishes.txt", Replace("qvd/finishes.txt", "<mid high> [Solid all", "[Solid all")) +
+      "a line that judges says for which ratings: <low>, <mid high>, or all three");
   // What the program cannot read is reported before what it may not say.
   expected.push_back(At("qvd/talk.txt", first + int(std::size(rows)) - 1) +
                      rows[std::size(rows) - 1].Why);

@@ -46,9 +46,18 @@ CellColumn<Worker> MarksColumn(bool narrow, const RosterMarks* marks) {
                      "booked in; Hot: has won the last three matches; Tired: condition under 60; "
                      "Debut: not seen yet."};
   heading.ToneOf = MarkTone;
+  if (narrow) heading.SignOf = MarkSign;
   return {std::move(heading), [marks](const Worker& worker) {
             return ui::Cell(marks ? Joined(marks->Of(worker), ", ") : std::string());
           }};
+}
+
+ui::Sign DispositionSign(std::string_view word) {
+  constexpr std::pair<std::string_view, ui::Sign> kSigns[] = {
+      {"Face", ui::Sign::Face}, {"Heel", ui::Sign::Heel}, {"Tweener", ui::Sign::Tweener}};
+  for (const auto& [says, sign] : kSigns)
+    if (word == says) return sign;
+  return ui::Sign::None;
 }
 
 /// What the choice is made on comes first: lists abreast have no room for all.
@@ -60,12 +69,9 @@ CellColumns<Worker> TableOf(int kind, bool narrow, const RosterMarks* marks) {
         .Kind = K::Tag,
         .Width = narrow ? 1 : 3,
         .Tip = "Face, Heel or Tweener.",
+        .SignOf = narrow ? DispositionSign : nullptr,
         .Short = narrow ? "D." : "Disp."},
-       [narrow](const Worker& worker) {
-         ui::Cell cell = DispositionCell(worker);
-         if (narrow) cell.Text = worker.Disposition.Str();
-         return cell;
-       }},
+       [](const Worker& worker) { return DispositionCell(worker); }},
       ColumnOf({"Over", "Over", "Ov", "Popularity.", &Worker::Over}, narrow)};
   // Talk stands or falls with one skill.
   if (kind != kMatch) table.push_back(ColumnOf(kCharisma, narrow));
@@ -79,15 +85,35 @@ CellColumns<Worker> TableOf(int kind, bool narrow, const RosterMarks* marks) {
 
 }  // namespace
 
+namespace {
+
+struct MarkLook {
+  std::string_view Word;
+  ui::Tone Colour;
+  ui::Sign As;
+};
+constexpr MarkLook kMarkLooks[] = {
+    {"Champion", ui::Tone::Gold, ui::Sign::Crown}, {"Feud", ui::Tone::Amber, ui::Sign::Flame},
+    {"Team", ui::Tone::Plain, ui::Sign::Pair},     {"Row", ui::Tone::Plain, ui::Sign::Row},
+    {"Hot", ui::Tone::Green, ui::Sign::Rise},      {"Tired", ui::Tone::Red, ui::Sign::Tired},
+    {"Debut", ui::Tone::Green, ui::Sign::Star}};
+
+const MarkLook* LookOf(std::string_view mark) {
+  for (const MarkLook& look : kMarkLooks)
+    if (mark.starts_with(look.Word)) return &look;
+  return nullptr;
+}
+
+}  // namespace
+
 ui::Tone MarkTone(std::string_view mark) {
-  constexpr std::pair<std::string_view, ui::Tone> kTones[] = {{"Champion", ui::Tone::Gold},
-                                                              {"Feud", ui::Tone::Amber},
-                                                              {"Tired", ui::Tone::Red},
-                                                              {"Hot", ui::Tone::Green},
-                                                              {"Debut", ui::Tone::Green}};
-  for (const auto& [word, tone] : kTones)
-    if (mark.starts_with(word)) return tone;
-  return ui::Tone::Plain;
+  const MarkLook* const look = LookOf(mark);
+  return look ? look->Colour : ui::Tone::Plain;
+}
+
+ui::Sign MarkSign(std::string_view mark) {
+  const MarkLook* const look = LookOf(mark);
+  return look ? look->As : ui::Sign::None;
 }
 
 std::vector<ui::Column> PeopleColumns(int kind, int listsAbreast) {

@@ -17,5 +17,7 @@ void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, int
 
 /// Gold for what is held, amber and red for what may hurt, green for what may help.
 ui::Tone MarkTone(std::string_view mark);
+/// What a mark is drawn as where lists are narrow.
+ui::Sign MarkSign(std::string_view mark);
 
 }  // namespace grapplemont

@@ -135,7 +135,7 @@ class frmEvent : public GameScreen {
 
   void lstevents_Click() {
     const grapplemont::Event* event = Chosen();
-    lblmonth.Text = std::string(MonthName(Month()));
+    lblmonth.Text = Month() == 0 ? std::string() : LongDate(NextEventDay(world(), Month()));
     txtname.Text = event ? event->Name.Str()
                    : Month() == 0
                        ? std::string()

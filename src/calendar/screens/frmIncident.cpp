@@ -49,6 +49,7 @@ class frmIncident : public ui::Screen {
     if (!incident) return Leave();
     txtincident.Write(IncidentText(world(), *incident));
     lblleft.Text = Waiting();
+    lblleft.Visible = !lblleft.Text->empty();
     const bool isOffer = incident->Type == kJobOffer;
     cmdaccept.Visible = isOffer;
     cmdignore.Text = isOffer ? "Decline" : incident->Type >= kRehab ? "Continue" : "Ignore";

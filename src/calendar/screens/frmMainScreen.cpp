@@ -38,7 +38,7 @@ struct Command {
   const char* Also;
   Reach Into = Reach::Company;
 };
-constexpr std::array<Command, 19> kCommands = {{
+constexpr std::array<Command, 20> kCommands = {{
     {"cmdroster", "Roster", "frmRoster", "People", "F2", "people workers own wrestlers"},
     {"cmdstaff", "Staff", "frmStaff", "People", "F3", "writers medics agents", Reach::Today},
     {"cmdtag", "Tag Teams", "frmTagTeams", "People", "", "partners pairs"},
@@ -55,6 +55,8 @@ constexpr std::array<Command, 19> kCommands = {{
     {"cmdotherfed", "Other Promotions", "frmOtherFed", "World", "", "rivals companies",
      Reach::Today},
     {"cmdnet", "Internet", "frmInternet", "World", "", "rumours fans polls", Reach::Tells},
+    {"cmdrecords", "Records", "frmRecords", "World", "",
+     "hall of fame yearbook family trees best all time history", Reach::Tells},
     {"cmdnews", "News", "frmNews", "Desk", "F10", "mail inbox messages", Reach::Tells},
     {"cmdresults", "Results", "frmResults", "Desk", "", "past shows history", Reach::Tells},
     {"cmdmeeting", "Meeting", "frmTalk", "Desk", "", "staff advice talk", Reach::Today},
@@ -98,8 +100,8 @@ class frmMainScreen : public ui::Screen {
     page.Main = &cmdnext;
     page.First = &cmdbook;
     page.Cancel = &cmdquit;
-    page.Body = ui::Rows(
-        {figures_.Layout(), Due().Grow(4), cards_.People().Grow(2), cards_.Standing().Grow(2)});
+    page.Body = ui::Rows({guide_.Layout(), figures_.Layout(), Due().Grow(4),
+                          cards_.People().Grow(2), cards_.Standing().Grow(2)});
     return page;
   }
 
@@ -143,13 +145,10 @@ class frmMainScreen : public ui::Screen {
  private:
   /// What is to be done and to be read.
   ui::Box Due() {
-    return ui::Columns(
-               {ui::Rows({guide_.Layout(), ui::Group("The weeks ahead",
-                                                     {ui::Columns({ui::Grow(lbltonight), cmdbook}),
+    return ui::Columns({ui::Group("The weeks ahead", {ui::Columns({ui::Grow(lbltonight), cmdbook}),
                                                       ui::Grow(lstahead)})
-                                               .Grow()})
-                    .Grow(),
-                mail_.Layout().Grow()})
+                            .Grow(),
+                        mail_.Layout().Grow()})
         .Wide(kDeskLetters);
   }
 

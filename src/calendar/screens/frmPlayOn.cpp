@@ -7,6 +7,7 @@
 #include "records/modWresCheck.h"
 #include "rivals/founding.h"
 #include "rivals/ownership.h"
+#include "rivals/promotionfacts.h"
 #include "rivals/purse.h"
 #include "rivals/rivals.h"
 #include "storylines/screens/screenpeople.h"
@@ -17,6 +18,7 @@ namespace grapplemont {
 
 namespace {
 
+constexpr int kLettersOfWide = 190;  // of a window that has room for the people of a chair, too
 constexpr const char* kGoesOnAnyway = "Your career goes on: there is nothing to begin again.";
 
 /// After the end of a career: another chair, or a promotion of one's own.
@@ -27,6 +29,7 @@ class frmPlayOn : public GameScreen {
     BackBefore(cmdtake);
     lstchairs.EmptyText =
         "No promotion as small as the one you left, or smaller, is there. Found one of your own.";
+    lstpeople.EmptyText = "Choose a chair to see who works there.";
     txtname.Hint = "Your name";
     txtpromo.Hint = "Grapple Town Wrestling";
     txtinitials.Hint = "GTW";
@@ -38,13 +41,15 @@ class frmPlayOn : public GameScreen {
 
   ui::Page Layout() override {
     return PageOf(
-        ui::Columns({ui::Group("Chairs that are open to you", {ui::Grow(lstchairs)}).Grow(3),
-                     ui::Rows({ui::Group("You", {ui::Field("Name", txtname), lblname}),
-                               ui::Group("Or a promotion of your own",
-                                         {ui::Field("Name", txtpromo),
-                                          ui::Field("Initials", txtinitials), lblfound, cmdfound}),
-                               ui::Spacer()})
-                         .Grow(2)}),
+        ui::Columns(
+            {ui::Group("Chairs that are open to you", {ui::Grow(lstchairs)}).Grow(3),
+             ui::Rows({ui::Group("You", {ui::Field("Name", txtname), lblname}),
+                       ui::Group("Or a promotion of your own",
+                                 {ui::Field("Name", txtpromo), ui::Field("Initials", txtinitials),
+                                  lblfound, cmdfound}),
+                       ui::Spacer()})
+                 .Grow(2),
+             ui::Group("Whom you would lead", {ui::Grow(lstpeople)}).From(kLettersOfWide).Grow(2)}),
         &lblfacts, {}, &cmdtake);
   }
 
@@ -90,12 +95,18 @@ class frmPlayOn : public GameScreen {
   }
 
   void ShowWhatMayBe() {
+    ShowPeople();
     EnableUnless(cmdtake, WhyNot(lstchairs.Key() == 0 ? "Choose a promotion first." : ""));
     EnableUnless(cmdfound, WhyNot(WhyNotFound(world(), detail::Trimmed(txtpromo.Text.Get()),
                                               detail::Trimmed(txtinitials.Text.Get()))));
   }
 
   void lstchairs_Click() { ShowWhatMayBe(); }
+
+  void ShowPeople() {
+    const int chair = lstchairs.Key();
+    FillShort(lstpeople, chair == 0 ? std::vector<const Worker*>() : RosterOf(world(), chair));
+  }
 
   void cmdtake_Click() {
     const Promotion& promotion = *world().FindPromotion(lstchairs.Key());
@@ -119,6 +130,7 @@ class frmPlayOn : public GameScreen {
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstchairs{*this, "lstchairs", HeadingsOf(Table()), &frmPlayOn::lstchairs_Click,
                         cmdtake};
+  ui::ListBox lstpeople{*this, "lstpeople", WithFaces(world(), ShortColumns())};
   ui::TextBox txtname{*this, "txtname", "", 25};
   ui::Label lblname{*this, "lblname"};
   ui::TextBox txtpromo{*this, "txtpromo", "", 40};

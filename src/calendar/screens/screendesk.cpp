@@ -49,10 +49,9 @@ const CellColumns<Worker> kEnding = {
 DeskCards::DeskCards(ui::Screen& screen, Game& game)
     : game_(game),
       lstchampions(screen, "lstchampions",
-                   {{"Champion", K::Text, 5, "", [this](int key) { return PlateOfRow(key); }},
-                    {"Title", K::Text, 4},
-                    {"Days", K::Number, 2, "Since the Title was won."},
-                    {.Title = "Image", .Kind = K::Number, .Width = 2, .Term = "Title image"}},
+                   {{"Champion", K::Text, 5},
+                    {"Title", K::Text, 5, "", [this](int key) { return PlateOfRow(key); }},
+                    {.Title = "Image", .Kind = K::Number, .Width = 1, .Term = "Title image"}},
                    ui::Handler{}, [this] { game_.Desk().Open("frmBelts"); }),
       lstfeuds(screen, "lstfeuds", {{"Feud", K::Text, 6}, {"Heat", K::Percent, 4}}, ui::Handler{},
                [this] { game_.Desk().Open("frmFeuds"); }),
@@ -71,7 +70,7 @@ DeskCards::DeskCards(ui::Screen& screen, Game& game)
   lstcontracts.EmptyText = "No contract ends within half a year.";
   for (ui::ListBox* list : {&lstchampions, &lstfeuds, &lsthurt, &lstunhappy, &lstcontracts})
     list->Room = 4;
-  for (ui::ListBox* list : {&lstchampions, &lstfeuds}) list->Least = 3;
+  for (ui::ListBox* list : {&lstchampions, &lstfeuds}) list->Least = 2;
   for (ui::ListBox* list : {&lsthurt, &lstunhappy, &lstcontracts}) list->Least = 2;
 }
 
@@ -92,9 +91,7 @@ ui::Box DeskCards::Standing() {
 void DeskCards::ShowStories() {
   std::vector<ui::ListBox::Row> champions, feuds;
   for (const Title* title : HeldTitles(world())) {
-    const int days = DaysHeld(world(), *title);
-    champions.push_back({{ChampionText(world(), *title), title->Name.View(),
-                          days < 0 ? ui::Cell(0.0, "") : ui::Cell(days), int(title->Image)},
+    champions.push_back({{ChampionText(world(), *title), title->Name.View(), int(title->Image)},
                          world().Titles().NumberOf(*title)});
   }
   for (const Feud* feud : HottestFeuds(world())) {

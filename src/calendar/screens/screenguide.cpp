@@ -1,5 +1,7 @@
 #include "calendar/screens/screenguide.h"
 
+#include <algorithm>
+
 #include "calendar/guide.h"
 #include "storylines/screens/screenpeople.h"
 
@@ -15,29 +17,24 @@ GuideCard::GuideCard(ui::Screen& screen, Game& game)
 }
 
 ui::Box GuideCard::Layout() {
-  return ui::Group("Your first show", {txtguide, ui::Columns({cmdstep, cmdguide, ui::Spacer()})});
+  return ui::Group("Your first show", {ui::Columns({ui::Grow(txtguide), cmdstep, cmdguide})});
 }
 
-/// What comes next stands out and is told in full; what is done says so.
+/// The step that comes next alone: the desk has room for no more.
 void GuideCard::Show() {
   using Style = ui::Report::Style;
-  std::vector<ui::Report::Paragraph> words;
-  bool hasNext = false;
-  page_.clear();
-  int number = 0;
-  for (const GuideLine& line : GuideLines(game_.World())) {
-    const bool isNext = !line.IsDone && !hasNext;
-    hasNext = hasNext || isNext;
-    const Style style = line.IsDone ? Style::Muted : isNext ? Style::Strong : Style::Line;
-    words.push_back({style, std::to_string(++number) + ". " + (line.IsDone ? "Done. " : "") +
-                                std::string(line.Title)});
-    if (!isNext) continue;
-    words.push_back({Style::Body, std::string(line.Says)});
-    page_ = line.Page;
-  }
-  txtguide.Visible = !words.empty();
-  cmdguide.Visible = !words.empty();
-  txtguide.Write(std::move(words));
+  const std::vector<GuideLine> lines = GuideLines(game_.World());
+  const auto next = std::ranges::find_if(lines, [](const GuideLine& line) { return !line.IsDone; });
+  const bool hasNext = next != lines.end();
+  page_ = hasNext ? next->Page : std::string_view();
+  if (hasNext)
+    txtguide.Write(
+        {{Style::Strong, "Step " + std::to_string(next - lines.begin() + 1) + " of " +
+                             std::to_string(lines.size()) + ": " + std::string(next->Title)},
+         {Style::Body, std::string(next->Says)}});
+  else
+    txtguide.Write("All of it is done. The house is yours.");
+  txtguide.Visible = cmdguide.Visible = !lines.empty();
   ShowWay();
 }
 

@@ -56,17 +56,6 @@ bool RunsRight(const QPainterPath& part) {
 
 }  // namespace
 
-double Lot(int uid, std::string_view word) {
-  std::uint64_t hash = 0xCBF29CE484222325;
-  const auto take = [&hash](unsigned byte) { hash = (hash ^ (byte & 0xFF)) * 0x100000001B3; };
-  for (const char letter : word) take(static_cast<unsigned char>(letter));
-  for (int shift = 0; shift < 32; shift += 8) take(static_cast<unsigned>(uid) >> shift);
-  hash = (hash ^ (hash >> 30)) * 0xBF58476D1CE4E5B9;
-  hash = (hash ^ (hash >> 27)) * 0x94D049BB133111EB;
-  hash ^= hash >> 31;
-  return static_cast<double>(hash >> 11) / 9007199254740992.0;
-}
-
 QPainterPath Shape(std::string_view text, double unit) {
   QPainterPath whole, part;
   const auto finish = [&] {

@@ -5,6 +5,8 @@
 #include <QPainterPath>
 #include <string_view>
 
+#include "chronicle/signforms.h"
+
 // What all drawn pictures are made with: shapes as short texts, flat fills and round lines.
 
 namespace grapplemont::desktop {
@@ -13,10 +15,6 @@ namespace grapplemont::desktop {
 inline constexpr double kMiddle = 50;
 /// Pupils, lashes and outlines.
 inline const QColor kDark(0x241D1F);
-
-/// A number from 0 to below 1 that belongs to a uid and a word, the same for ever. Each choice has
-/// a word of its own, so that a new one changes no old picture.
-double Lot(int uid, std::string_view word);
 
 /// One of `size` rows by their weights; rows of weight 0 are never taken.
 template <class Rows, class Weight>

@@ -14,6 +14,8 @@ void DrawPortrait(QPainter& painter, const QRectF& where, const ui::Portrait& pe
 void DrawCrest(QPainter& painter, const QRectF& where, const ui::Crest& crest);
 /// Twice as wide as high.
 void DrawPlate(QPainter& painter, const QRectF& where, const ui::TitlePlate& plate);
+/// In one colour, on a square.
+void DrawSign(QPainter& painter, const QRectF& where, ui::Sign sign, const QColor& colour);
 /// Whichever it is; nothing for none.
 void Draw(QPainter& painter, const QRectF& where, const ui::Drawing& drawing);
 /// Its width for a height of 1: 1, or 2 for a plate; 0 for nothing.

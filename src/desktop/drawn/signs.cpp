@@ -1,8 +1,8 @@
 #include <QFont>
 #include <algorithm>
-#include <array>
 #include <cmath>
 
+#include "chronicle/signforms.h"
 #include "desktop/drawn/brush.h"
 #include "desktop/drawn/drawn.h"
 
@@ -10,39 +10,7 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr QRgb kCloth[] = {0x22375E, 0x7A2433, 0x1D5B63, 0x4B3A7C, 0x7A4420, 0x8F2F5C,
-                           0x2B2E36, 0x3F5228, 0x5C2A6E, 0x1F6A4A, 0x9A3B2C, 0x34506B};
-constexpr QRgb kEdges[] = {0xD8B65A, 0xE9E2D4, 0xC9993A, 0xA9A2D8, 0xE08A3C, 0xE6A3C0, 0x9FB4C8};
 constexpr double kSmallSign = 30;
-
-struct Form {
-  std::string_view Outline;
-  bool Rope = false;
-  bool Askew = false;
-  int Stars = 0;
-};
-constexpr std::string_view kCircle = "E0 50 42 42";
-constexpr std::string_view kShield =
-    "M-36 10 L36 10 L36 52 C36 74 18 86 0 94 C-18 86 -36 74 -36 52Z";
-constexpr std::string_view kPointed =
-    "M-36 12 C-22 16 -12 14 0 6 C12 14 22 16 36 12 L34 58 C30 76 14 86 0 95 C-14 86 -30 76 -34 58Z";
-constexpr std::string_view kHexagon = "M0 6 L38 27 L38 73 L0 94 L-38 73 L-38 27Z";
-constexpr std::string_view kDiamond = "M0 4 L46 50 L0 96 L-46 50Z";
-constexpr std::string_view kTicket =
-    "M-42 22 L42 22 L42 42 C34 42 34 58 42 58 L42 78 L-42 78 L-42 58 C-34 58 -34 42 -42 42Z";
-
-Form FormOf(const ui::Crest& crest) {
-  static constexpr std::array<Form, 3> kBySize[] = {
-      {{{kCircle, true, false, 3}, {kCircle, true, false, 3}, {kCircle, true, false, 3}}},
-      {{{kShield, false, false, 2}, {kShield, false, false, 2}, {kShield, false, false, 2}}},
-      {{{kHexagon, false, false, 1}, {kPointed, false, false, 1}, {kCircle, true, false, 1}}},
-      {{{kCircle}, {kShield}, {kDiamond}}},
-      {{{kDiamond}, {kHexagon}, {kTicket}}},
-      {{{kTicket, false, true}, {kTicket, false, true}, {kTicket, false, true}}},
-  };
-  const auto size = static_cast<std::size_t>(std::clamp(crest.Size, 1, 6) - 1);
-  return kBySize[size][static_cast<std::size_t>(Lot(crest.Uid, "crest form") * 3)];
-}
 
 QPainterPath Star(double x, double y, double radius) {
   QPainterPath star;
@@ -77,10 +45,8 @@ struct Metal {
   QColor Plate, Light, Dark;
 };
 Metal MetalOf(const ui::TitlePlate& plate) {
-  if (plate.Vacant) return {QColor(0x4A4F57), QColor(0x5B616A), QColor(0x363A41)};
-  if (plate.Image >= 70) return {QColor(0xE3B34A), QColor(0xF6D685), QColor(0xB07F22)};
-  if (plate.Image >= 45) return {QColor(0xB9C0C9), QColor(0xDDE2E8), QColor(0x868E99)};
-  return {QColor(0xBC7B4A), QColor(0xDA9C6C), QColor(0x8A5530)};
+  const PlateMetal metal = PlateMetalOf(plate.Image, plate.Vacant);
+  return {QColor(metal.Plate), QColor(metal.Light), QColor(metal.Dark)};
 }
 
 /// One short word of a Title's name: the longest that a band holds and that says more than "Title".
@@ -101,10 +67,7 @@ QString WordOf(const std::string& name) {
 
 void PaintPlateAt(Brush& brush, const ui::TitlePlate& plate, double x, double size,
                   const Metal& metal) {
-  static constexpr std::string_view kForms[] = {
-      "E0 50 46 40", "M-20 8 L20 8 L46 30 L46 70 L20 92 L-20 92 L-46 70 L-46 30Z",
-      "M-44 14 C-20 18 -10 10 0 4 C10 10 20 18 44 14 C46 50 36 80 0 96 C-36 80 -46 50 -44 14Z"};
-  const std::string_view form = kForms[static_cast<std::size_t>(plate.Number % 3 + 3) % 3];
+  const std::string_view form = PlateForm(plate.Number);
   const auto place = [&](const QPainterPath& path, double by = 1) {
     return QTransform()
         .translate(x, 50)
@@ -143,11 +106,8 @@ void OnCanvas(QPainter& painter, const QRectF& where, double wide, Paint paint) 
 
 void DrawCrest(QPainter& painter, const QRectF& where, const ui::Crest& crest) {
   const bool small = where.width() <= kSmallSign;
-  const Form form = FormOf(crest);
-  const QColor cloth(
-      kCloth[static_cast<std::size_t>(Lot(crest.Uid, "crest cloth") * std::size(kCloth))]);
-  const QColor edge(
-      kEdges[static_cast<std::size_t>(Lot(crest.Uid, "crest edge") * std::size(kEdges))]);
+  const CrestForm form = CrestFormOf(crest.Uid, crest.Size);
+  const QColor cloth(CrestCloth(crest.Uid)), edge(CrestEdge(crest.Uid));
   OnCanvas(painter, where, 100, [&](Brush& brush) {
     if (form.Askew) {
       brush.Painter().translate(50, 50);
@@ -177,7 +137,7 @@ void DrawCrest(QPainter& painter, const QRectF& where, const ui::Crest& crest) {
                                         : 25,
                       5.4),
                  form.Stars == 2 ? cloth : edge);
-    const double half = form.Outline == kDiamond ? 27 : 30, high = small ? 34 : 26;
+    const double half = IsNarrow(form) ? 27 : 30, high = small ? 34 : 26;
     PaintLetters(brush, QString::fromLatin1(crest.Initials.c_str()),
                  {50 - half, (form.Stars == 2 && !small ? 55 : 50) - high / 2, 2 * half, high},
                  Qt::white);

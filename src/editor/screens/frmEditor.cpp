@@ -49,6 +49,7 @@ class frmEditor : public GameScreen {
       records.push_back(ui::Columns({ui::Box(*pages_[i]).Grow(), ui::Box(*counts_[i]).Grow()}));
     for (const auto& work : works_) works.emplace_back(*work);
     works.emplace_back(cmdrestore);
+    works.emplace_back(cmduncover);
     ui::Page page;
     page.Facts = &lblfacts;
     page.Actions = {&cmdback};
@@ -69,6 +70,11 @@ class frmEditor : public GameScreen {
     cmdrestore.Tip = has ? "Puts the data back as they were before the last session that changed "
                            "them."
                          : "There is no backup yet. The first change of a session makes one.";
+    cmduncover.Visible = !game_.PristineData().empty();
+    const bool covers = data_.Covers();
+    cmduncover.Enabled = covers;
+    cmduncover.Tip = covers ? "Puts the world that comes with the game in the place of yours."
+                            : "This is the world that comes with the game.";
   }
 
  private:
@@ -100,6 +106,9 @@ class frmEditor : public GameScreen {
     lblfacts.Text = std::string(
                         "The default world, of which every new game is made. Games that have begun "
                         "keep what they have. ") +
+                    (data_.Covers() ? "It is your own and lies over the one that comes with the "
+                                      "game. "
+                                    : "") +
                     (count == 0 ? "The data are in order."
                                 : Counted(count, "fault") + ShownOf(faults.Count) + ".");
   }
@@ -114,6 +123,16 @@ class frmEditor : public GameScreen {
     Return();
   }
 
+  void cmduncover_Click() {
+    if (!desk().Ask("The Game's Own World",
+                    "Put the world that comes with the game, as its last update has it, in the "
+                    "place of yours? Yours becomes the backup.",
+                    ui::Default::No))
+      return;
+    data_.Uncover();
+    Return();
+  }
+
   void cmdback_Click() override {
     StopEditing(game_);
     Close();
@@ -125,6 +144,7 @@ class frmEditor : public GameScreen {
   std::vector<std::unique_ptr<ui::Button>> works_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Button cmdrestore{*this, "cmdrestore", "Restore Backup", &frmEditor::cmdrestore_Click};
+  ui::Button cmduncover{*this, "cmduncover", "The Game's Own World", &frmEditor::cmduncover_Click};
   ui::ListBox lstfaults{*this,
                         "lstfaults",
                         {{"File", ui::ColumnKind::Text, 2},

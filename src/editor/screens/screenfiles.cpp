@@ -33,7 +33,7 @@ namespace {
 
 class EditingWork : public ui::Work {
  public:
-  explicit EditingWork(Game& game) : Data(game.Disk(), game.DataFolder()) {}
+  explicit EditingWork(Game& game) : Data(game.Disk(), game.DataFolder(), game.PristineData()) {}
   void Commit() override { Data.Commit(); }
   void Rollback() override { Data.Rollback(); }
   std::string Explain(const std::exception& fault) const override {

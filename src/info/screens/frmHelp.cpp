@@ -45,20 +45,10 @@ void AddPart(Paragraphs& words, const char* heading, Add add) {
   if (words.size() == before) words.pop_back();
 }
 
-/// Numbered steps are told together.
-void AddButtonKeys(Paragraphs& words, ui::Screen& screen) {
-  for (const ui::Control* control : screen.Controls()) {
-    const auto* button = dynamic_cast<const ui::Button*>(control);
-    if (!IsThere(button) || button->Key.empty()) continue;
-    if (button->Key == "Alt+1")
-      AddLine(words, "Alt+1, Alt+2 and on: back to that step");
-    else if (!button->Key.starts_with("Alt+"))
-      AddLine(words, button->Key + ": " + button->Text.Get());
-  }
-}
+using ShellKeys = std::function<std::vector<std::string>(ui::Screen& of)>;
 
-/// The keys that do something on this page.
-void AddKeys(Paragraphs& words, ui::Screen& screen) {
+/// The keys that do something on this page; those that can be set come from the shell.
+void AddKeys(Paragraphs& words, ui::Screen& screen, const ShellKeys& keys) {
   const ui::Page page = screen.Layout();
   const bool waits = IsThere(page.Then) && !(IsThere(page.Main) && page.Main->Enabled);
   const ui::Button* const main = waits ? page.Then : page.Main;
@@ -72,15 +62,12 @@ void AddKeys(Paragraphs& words, ui::Screen& screen) {
     }
   if (opens) AddLine(words, "Double click or Ctrl+Enter: open the row");
   if (lists) {
-    AddLine(words, "Ctrl+F: filter the list, Backspace: all of it again");
+    AddLine(words, "Backspace: all of a filtered list again");
     AddLine(words, "Menu key or Shift+F10: what can be done to the row; sort, filter, columns");
     AddLine(words, "Ctrl+C: copy the list, or of it the chosen rows");
   }
-  AddButtonKeys(words, screen);
-  for (const ui::SideGroup& group : page.Side)
-    for (const auto& command : group.Commands)
-      if (!command.Key.empty()) AddLine(words, command.Key + ": " + command.Press->Text.Get());
-  AddLine(words, "Ctrl+K: find anybody and anything");
+  if (keys)
+    for (std::string& line : keys(screen)) AddLine(words, std::move(line));
 }
 
 void AddLabels(const ui::Box& box, std::vector<std::string>& headings) {
@@ -107,13 +94,13 @@ void AddDisabled(Paragraphs& words, ui::Screen& screen) {
       AddLine(words, control->Text.Get() + ": " + control->Tip.Get());
 }
 
-Paragraphs HelpFor(ui::Screen& screen) {
+Paragraphs HelpFor(ui::Screen& screen, const ShellKeys& keys) {
   Paragraphs words;
   if (const HelpRow* row = RowFor(screen.Name())) {
     words.push_back({Style::Body, std::string(row->For)});
     words.push_back({Style::Body, std::string(row->How)});
   }
-  AddPart(words, "Keys", [&] { AddKeys(words, screen); });
+  AddPart(words, "Keys", [&] { AddKeys(words, screen, keys); });
   AddPart(words, "Words", [&] { AddWords(words, screen); });
   AddPart(words, "Not possible now", [&] { AddDisabled(words, screen); });
   return words;
@@ -126,7 +113,7 @@ class frmHelp : public GameScreen {
  public:
   frmHelp(Game& game, ui::Screen& of)
       : GameScreen(game, "frmHelp", "Help: " + of.Title.Get(), {.Is = kOver}) {
-    txthelp.Write(HelpFor(of));
+    txthelp.Write(HelpFor(of, desk().Help.Keys));
   }
 
   ui::Page Layout() override {

@@ -56,6 +56,16 @@ class frmInternet : public GameScreen {
     lstnews.Fill(NumberedRows(news_, news), false);
   }
 
+  /// The page of whom a row's story names first, else of the promotion that it is about.
+  void OpenChosen(const ui::ListBox& list, std::size_t story, std::size_t house) {
+    if (list.Selected() == 0) return;
+    const auto& cells = list.Rows()[static_cast<std::size_t>(list.Selected() - 1)].Cells;
+    if (const auto links = desk().LinksIn(cells[story].Text); !links.empty())
+      return links.front().Open();
+    for (const Promotion& promotion : world().Promotions())
+      if (promotion.Initials == cells[house].Text) return game_.OpenPromotion(promotion.Uid);
+  }
+
   bool IsOurs(const std::string& house) { return house == world().Player().Initials.View(); }
 
   ui::Tone ToneOf(const NewsItem& item) {
@@ -135,9 +145,12 @@ class frmInternet : public GameScreen {
        [this](const NewsItem& item) { return ui::Cell(item.What, ToneOf(item)); }},
       {{"Who", K::Text, 2}, [](const NewsItem& item) { return item.House; }},
       {{"Story", K::Text, 14}, [](const NewsItem& item) { return item.Words; }}};
-  ui::ListBox lstnews{*this, "lstnews", HeadingsOf(news_)};
+  ui::ListBox lstnews{*this, "lstnews", HeadingsOf(news_), ui::Handler{},
+                      [this] { OpenChosen(lstnews, 3, 2); }};
   ui::ComboBox cmbrank{*this, "cmbrank", &frmInternet::ShowRanking};
-  ui::ListBox lstrank{*this, "lstrank", {{"Place", K::Number}}};
+  ui::ListBox lstrank{*this, "lstrank", {{"Place", K::Number}}, ui::Handler{}, [this] {
+                        OpenChosen(lstrank, 1, 2);
+                      }};
   ui::Report txtrumours{*this, "txtrumours"};
   ui::Report txtfans{*this, "txtfans"};
   ui::Button cmdcards{*this, "cmdcards", "Rivals' Shows", [this] { desk().Open("frmCards"); }};

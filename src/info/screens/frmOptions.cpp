@@ -7,6 +7,7 @@
 #include "records/fields/wording.h"
 #include "records/houserules.h"
 #include "records/modVar.h"
+#include "show/livetelling.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -47,7 +48,7 @@ class frmOptions : public GameScreen {
              ui::Rows(
                  {ui::Group("Set all mail at once", {cmdalways, cmddirect, cmdnever}),
                   ui::Group("Mail about your own people", std::move(own)),
-                  ui::Group("Shows", {ui::Field("Match reporter", cmbreport)}),
+                  ui::Group("Shows", {ui::Field("Match reporter", cmbreport), chklive}),
                   ui::Group("While time passes", {ui::Field("Loading screens", cmbload), cmdview}),
                   ui::Spacer()})
                  .Grow(2)}),
@@ -63,6 +64,7 @@ class frmOptions : public GameScreen {
       combos(number).SelectKey(option.TwoWay && choice == kMailRivals ? int(kMailAlways) : choice);
     }
     cmbreport.SelectKey(state().Reporter);
+    chklive.Checked = TellsLive(world());
     cmbload.SelectKey(state().LoadingSet);
   }
 
@@ -76,6 +78,7 @@ class frmOptions : public GameScreen {
 
   void cmbmail_Click(int number) { SetMailOption(state(), OptionOf(number), combos(number).Key()); }
   void cmbreport_Click() { state().Reporter = cmbreport.Key(); }
+  void chklive_Click() { SetTellsLive(world(), chklive.Checked); }
   void cmbload_Click() { state().LoadingSet = cmbload.Key(); }
 
   ui::Label lblfacts{*this, "lblfacts",
@@ -87,6 +90,8 @@ class frmOptions : public GameScreen {
                                        [this, number] { cmbmail_Click(number); });
                                  }};
   ui::ComboBox cmbreport{*this, "cmbreport", &frmOptions::cmbreport_Click};
+  ui::CheckBox chklive{*this, "chklive", "Told live, sentence by sentence", false,
+                       &frmOptions::chklive_Click};
   ui::ComboBox cmbload{*this, "cmbload", &frmOptions::cmbload_Click};
   ui::Button cmdalways{*this, "cmdalways", "Always", [this] { SetAll(kMailAlways); }};
   ui::Button cmddirect{*this, "cmddirect", "Only for direct rivals or above",

@@ -249,7 +249,9 @@ class frmResults : public GameScreen {
                             ui::Columns({ui::Group("Who won", {ui::Grow(lstcard)}).Grow(3),
                                          ui::Group("Ratings", {ui::Grow(chtratings)}).Grow(2)})
                                 .Grow(4)}),
-                  &lblfacts, {&cmdreports, &cmdtitles, &cmdawards, &cmdmorning}, &cmdreport);
+                  &lblfacts,
+                  {&cmdreports, &cmdtitles, &cmdawards, &cmdrecords, &cmdchronicle, &cmdmorning},
+                  &cmdreport);
   }
 
   void Load() override {
@@ -355,6 +357,9 @@ class frmResults : public GameScreen {
   ui::Button cmdmorning{*this, "cmdmorning", "Morning After", &frmResults::cmdmorning_Click};
   ui::Button cmdtitles{*this, "cmdtitles", "Reigns", [this] { desk().Open("frmReigns"); }};
   ui::Button cmdawards{*this, "cmdawards", "Awards", [this] { desk().Open("frmAwards"); }};
+  ui::Button cmdrecords{*this, "cmdrecords", "Records", [this] { desk().Open("frmRecords"); }};
+  ui::Button cmdchronicle{*this, "cmdchronicle", "Chronicle",
+                          [this] { desk().Open("frmChronicle"); }};
 };
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cctype>
 
+#include "info/screens/glossaryfigures.h"
+#include "records/fields/wording.h"
 #include "records/world.h"
 #include "ui/game.h"
 #include "words/glossary.h"
@@ -69,9 +71,9 @@ const GlossaryRow* RowFor(const RecordLayout& layout, const Field& field) {
 
 void Take(GlossaryTerm& term, const GlossaryRow& row) {
   term.Name = row.Term;
-  if (!row.Range.empty()) term.Range = row.Range;
-  if (!row.Means.empty()) term.Means = row.Means;
-  term.Moves = row.Moves;
+  if (!row.Range.empty()) term.Range = FillHoles(row.Range, GlossaryFigure);
+  if (!row.Means.empty()) term.Means = FillHoles(row.Means, GlossaryFigure);
+  term.Moves = FillHoles(row.Moves, GlossaryFigure);
   for (std::string_view left = row.Also; !left.empty();) {
     const auto end = left.find(", ");
     term.Also.emplace_back(left.substr(0, end));

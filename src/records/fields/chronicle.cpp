@@ -75,7 +75,7 @@ constexpr Field kReignFields[] = {
     REIGN(Worker).LeadsTo(Refers::Worker).Means("Holder; 0 for who has gone."),
     REIGN(Partner).LeadsTo(Refers::Worker).Means("The other half of a pair."),
     REIGN(Holder).Means("The holder as they were called, or Vacant."),
-    REIGN(Defences).Means("Defences on the player's shows; -1 not counted."),
+    REIGN(Defences).Means("Defences in the ring; -1 not counted."),
     REIGN(End).In(kReignLasts, kReignDissolved).From(kEnds).Means("How it ended."),
 };
 
@@ -96,6 +96,14 @@ constexpr Field kSaidFields[] = {
     SAID(Line).Means("A number made of the voice and the words of the line."),
     SAID(On).Means("The day of the last show that said it."),
     SAID(Times).Means("How often it has been said."),
+};
+
+#define TELLING(member) GM_FIELD(TellingHabit, member)
+constexpr Field kTellingFields[] = {
+    TELLING(Version).Means(
+        "Of what the record means; a later one than the program's counts as none."),
+    TELLING(Live).Means("Reports appear sentence by sentence."),
+    TELLING(Pace).Means("0 by the reader's hand, 1 slow, 2 steady, 3 fast."),
 };
 
 #define AWARD(member) GM_FIELD(YearAward, member)
@@ -157,6 +165,7 @@ GM_LAYOUT(TitleReign, "reigns.dat", 12000, kReignFields)
 GM_LAYOUT(ReportPart, "reports.dat", 8000, kReportFields)
 // Half as many again as the three voices have.
 GM_LAYOUT(SaidLine, "said.dat", 20000, kSaidFields)
+GM_LAYOUT(TellingHabit, "telling.dat", 1, kTellingFields)
 GM_LAYOUT(YearAward, "awards.dat", 2000, kAwardFields)
 GM_LAYOUT(YearEnd, "yearend.dat", 25000, kYearEndFields)
 // A dozen shows of three hundred steps each.

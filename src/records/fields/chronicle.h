@@ -59,7 +59,7 @@ struct TitleReign {
   Word Worker;       // uids; 0 for nobody and for who has gone
   Word Partner;
   Text<25> Holder;                      // as the Title's own record names them; "Vacant"
-  RangedWord<0, 32767, true> Defences;  // on the player's shows; kNoEnd where nobody counts
+  RangedWord<0, 32767, true> Defences;  // kNoEnd where nobody has counted
   Word End;
 };
 GM_RECORD(TitleReign, 77);
@@ -99,6 +99,17 @@ struct SaidLine {
   Natural Times;
 };
 GM_RECORD(SaidLine, 14);
+
+/// How the player has the shows told: the one record of telling.dat. A slot without it has never
+/// been asked: a Segment's words stand there at once.
+struct TellingHabit {
+  static constexpr int kKnownVersion = 1;
+
+  RangedWord<1, 32767> Version{kKnownVersion};  // of what the record means
+  Flag Live;                                    // sentence by sentence
+  RangedWord<0, 3> Pace;                        // 0 by the reader's hand, else from slow to fast
+};
+GM_RECORD(TellingHabit, 6);
 
 /// YearAward.Kind.
 enum AwardKind {

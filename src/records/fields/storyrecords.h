@@ -29,6 +29,9 @@ struct Feud {
   Natural Sneak2;
   Percent Heat;
   Date Started;
+
+  int WonOne() const { return Clean1 + Dirty1 + Interference1 + Sneak1; }
+  int WonTwo() const { return Clean2 + Dirty2 + Interference2 + Sneak2; }
 };
 GM_RECORD(Feud, 36);
 
@@ -62,8 +65,8 @@ struct Segment {
 };
 GM_RECORD(Segment, 143);
 
-/// A row of a card that is kept beside the sheet: of the last one that a show of the player's was
-/// held with, or of the draft for one to come. A record of cards.dat.
+/// A row of a card that is kept beside the sheet: of one that a show of the player's was held with
+/// in the last five weeks or as its last, or of the draft for one to come. A record of cards.dat.
 struct KeptRow {
   Segment Booked;  // as in match.dat
   Text<30> Show;   // or Event

@@ -2,10 +2,12 @@
 
 #include <tuple>
 
+#include "records/fields/annals.h"
 #include "records/fields/chapters.h"
 #include "records/fields/chronicle.h"
 #include "records/fields/companies.h"
 #include "records/fields/gameinfo.h"
+#include "records/fields/halls.h"
 #include "records/fields/people.h"
 #include "records/fields/storyrecords.h"
 #include "records/fields/unseen.h"
@@ -26,7 +28,9 @@ using AllTables =
                Records<WorkerMonths>, Records<MoodChange>, Records<KeptRow>, Records<ShowNote>,
                Records<ReadMail>, Records<WorldKey>, Records<BoardState>, Records<OwnerWish>,
                Records<MonthPlan>, Records<HouseRules>, Records<CardMatch>, Records<Grudge>,
-               Records<RingName>, Records<SaidLine>>;
+               Records<RingName>, Records<SaidLine>, Records<TotalsState>, Records<Career>,
+               Records<Tenure>, Records<Partnership>, Records<Feat>, Records<YearLine>,
+               Records<HallMember>, Records<TellingHabit>, Records<Annal>>;
 
 // What all files of the house would compile again and again is compiled once, in knownfiles.cpp.
 // clang-format off
@@ -37,7 +41,8 @@ using AllTables =
   OF(MatchTally) OF(TitleReign) OF(ReportPart) OF(YearAward) OF(YearEnd) OF(Deed) \
   OF(GuideState) OF(WorkerMonths) OF(MoodChange) OF(KeptRow) OF(ShowNote) OF(ReadMail) \
   OF(WorldKey) OF(BoardState) OF(OwnerWish) OF(MonthPlan) OF(HouseRules) OF(CardMatch) \
-  OF(Grudge) OF(RingName) OF(SaidLine)
+  OF(Grudge) OF(RingName) OF(SaidLine) OF(TotalsState) OF(Career) OF(Tenure) \
+  OF(Partnership) OF(Feat) OF(YearLine) OF(HallMember) OF(TellingHabit) OF(Annal)
 // clang-format on
 #define GM_ELSEWHERE(T) extern template class Records<T>;
 GM_EVERY_RECORD(GM_ELSEWHERE)

@@ -110,7 +110,16 @@ std::vector<TableKind> MakeKinds() {
           Kind<CardMatch>("rivalcards.csv", true),
           Kind<Grudge>("grudges.csv", true),
           Kind<RingName>("ringnames.csv", true),
-          Kind<SaidLine>("said.csv", true)};
+          Kind<SaidLine>("said.csv", true),
+          Kind<TotalsState>("totals.csv", true),
+          Kind<Career>("careers.csv", true),
+          Kind<Tenure>("tenures.csv", true),
+          Kind<Partnership>("pairs.csv", true),
+          Kind<Feat>("feats.csv", true),
+          Kind<YearLine>("yearbook.csv", true),
+          Kind<HallMember>("hall.csv", true),
+          Kind<TellingHabit>("tellings.csv", true),
+          Kind<Annal>("annals.csv", true)};
 }
 
 }  // namespace

@@ -302,7 +302,7 @@ class frmPromotion : public GameScreen {
   int Uid() const { return uid_; }
 
   ui::Page Layout() override {
-    return PageOf(sheets.Layout().Grow(), &lblfacts, {&cmdcards, &cmdbuyout});
+    return PageOf(sheets.Layout().Grow(), &lblfacts, {&cmdchronicle, &cmdcards, &cmdbuyout});
   }
 
   void Return() override {
@@ -325,6 +325,8 @@ class frmPromotion : public GameScreen {
   int uid_;
   ui::Label lblfacts{*this, "lblfacts"};
   PromotionSheets sheets;
+  ui::Button cmdchronicle{*this, "cmdchronicle", "Chronicle",
+                          [this] { game_.OpenChapter("Promotions", uid_, ""); }};
   ui::Button cmdcards{*this, "cmdcards", "Last Shows",
                       [this] { desk().Open(MakefrmCards(game_, uid_)); }};
   ui::Button cmdbuyout{*this, "cmdbuyout", "Attempt Buy Out", &frmPromotion::cmdbuyout_Click};

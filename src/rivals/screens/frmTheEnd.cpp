@@ -1,26 +1,67 @@
+#include <algorithm>
+
 #include "business/finance.h"
+#include "business/past.h"
+#include "records/fields/fields.h"
 #include "rivals/endstories.h"
 #include "rivals/founding.h"
 #include "rivals/purse.h"
 #include "rivals/screens/rivalscreens.h"
+#include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
 
 namespace grapplemont {
 
 namespace {
 
+constexpr int kMonthsShown = 120;
+constexpr std::size_t kNightsShown = 20;
+constexpr int kLettersOfWide = 190;  // of a window that has room for more than news and figures
+
+const CellColumns<HistoryEntry> kNights = {
+    {{"Show", ui::ColumnKind::Text, 4},
+     [](const HistoryEntry& night) { return night.Name.View(); }},
+    {{"Date", ui::ColumnKind::Date, 2},
+     [](const HistoryEntry& night) { return DayCell(night.On); }},
+    {{"Rating", ui::ColumnKind::Percent, 2},
+     [](const HistoryEntry& night) { return int(night.Rating); }},
+    {{"Gate", ui::ColumnKind::Number, 1, "How many people came."},
+     [](const HistoryEntry& night) { return int(night.Attendance); }}};
+
+/// The shows of the player's last promotion while it was theirs, the best first.
+std::vector<const HistoryEntry*> BestNights(const World& world) {
+  std::vector<const HistoryEntry*> nights;
+  for (const HistoryEntry& entry : world.History())
+    if (IsShow(entry) && !entry.CalledOff && entry.Promotion == world.PlayerUid() &&
+        entry.Rating > 0)
+      nights.push_back(&entry);
+  std::ranges::stable_sort(nights, [](auto* a, auto* b) { return a->Rating > b->Rating; });
+  if (nights.size() > kNightsShown) nights.resize(kNightsShown);
+  return nights;
+}
+
 /// The news of the player's end, and the career behind it. The world can still be read afterwards.
 class frmTheEnd : public ui::Screen {
  public:
   explicit frmTheEnd(Game& game)
-      : Screen(game.Desk(), "frmTheEnd", "The End", ui::Role::Cover), game_(game) {}
+      : Screen(game.Desk(), "frmTheEnd", "The End", ui::Role::Cover), game_(game) {
+    txtcareer.Brief = true;
+    lstnights.EmptyText = "No show was held.";
+  }
 
   ui::Page Layout() override {
-    return {.Actions = {&cmdlook, &cmdmenu, &cmdplayon},
-            .Main = &cmdplayon,
-            .Cancel = &cmdlook,
-            .Body = ui::Columns({ui::Group("The Turnbuckle Courier", {ui::Grow(txtstory)}).Grow(3),
-                                 ui::Group("Your career", {ui::Grow(txtcareer)}).Grow(2)})};
+    return {
+        .Actions = {&cmdlook, &cmdmenu, &cmdplayon},
+        .Main = &cmdplayon,
+        .Cancel = &cmdlook,
+        .Body = ui::Columns(
+            {ui::Group("The Turnbuckle Courier", {ui::Grow(txtstory)}).Grow(3),
+             ui::Rows({ui::Group("Your career", {txtcareer}),
+                       ui::Group("Standing by month, a size class for each hundred",
+                                 {ui::Grow(chtstanding)})
+                           .Grow()})
+                 .Grow(2),
+             ui::Group("The best nights", {ui::Grow(lstnights)}).From(kLettersOfWide).Grow(2)})};
   }
 
   void Load() override {
@@ -31,6 +72,13 @@ class frmTheEnd : public ui::Screen {
                     {Style::Body, story.Body},
                     {Style::Muted, story.SignedBy}});
     txtcareer.WriteLines(CareerInFigures(world));
+    FillPlaces(lstnights, kNights, BestNights(world));
+    const std::vector<PastStanding> standings = StandingsOf(world, world.Player(), kMonthsShown);
+    ui::Chart::Series line{"Standing", {}, ui::Tone::Gold};
+    for (const PastStanding& then : standings) line.Values.push_back(then.Score());
+    chtstanding.Captions = CaptionsOf(standings);
+    chtstanding.Places = PlacesOf(standings);
+    chtstanding.Lines = std::vector<ui::Chart::Series>{std::move(line)};
   }
 
  private:
@@ -44,6 +92,8 @@ class frmTheEnd : public ui::Screen {
   Game& game_;
   ui::Report txtstory{*this, "txtstory"};
   ui::Report txtcareer{*this, "txtcareer"};
+  ui::Chart chtstanding{*this, "chtstanding"};
+  ui::ListBox lstnights{*this, "lstnights", HeadingsOf(kNights)};
   ui::Button cmdlook{*this, "cmdlook", "Look Around", [this] { Close(); }};
   ui::Button cmdmenu{*this, "cmdmenu", "Main Menu", &frmTheEnd::cmdmenu_Click};
   ui::Button cmdplayon{*this, "cmdplayon", "Play On", [this] { desk().Open("frmPlayOn"); }};

@@ -25,6 +25,7 @@ namespace {
 using K = ui::ColumnKind;
 
 constexpr int kFormTold = 10;
+constexpr int kLettersOfColumn = 41;  // that stands beside another
 
 ui::Cell OutcomeCell(int outcome) {
   if (outcome == 0) return {"Drew", ui::Tone::Muted};
@@ -62,26 +63,31 @@ class frmWorker : public GameScreen {
   int Uid() const { return uid_; }
 
   ui::Page Layout() override {
+    // Where three columns would be narrow, two of them stand one below the other.
     ui::Box glance(
         ui::Box::Kind::Columns, "At a glance",
         {ui::Rows({ui::Group("What they can do", {ui::Grow(lstskills)}).Grow(),
                    ui::Group("Contract", {txtcontract, ui::Columns({cmdpromote, cmddemote})})})
              .Grow(10),
-         ui::Rows({ui::Group("Twelve months", {ui::Grow(chtmonths)}).Grow(2),
-                   ui::Group("Last ten matches",
-                             {ui::Columns({ui::Grow(lblform), cmdreport}), ui::Grow(lstform)})
-                       .Grow(3)})
-             .Grow(13),
-         ui::Rows({ui::Group("What they think of you, and why", {ui::Grow(txtwhy)}).Grow(5),
-                   ui::Group("Titles and reigns", {pictitle, ui::Grow(lsttitles)}).Grow(2),
-                   ui::Group("Company", {ui::Grow(lstcompany)}).Grow(2)})
-             .Grow(10)});
+         ui::Columns(
+             {ui::Rows({ui::Group("Twelve months", {ui::Grow(chtmonths)}).Grow(2),
+                        ui::Group("Last ten matches",
+                                  {ui::Columns({ui::Grow(lblform), cmdreport}), ui::Grow(lstform)})
+                            .Grow(3)})
+                  .Grow(13),
+              ui::Rows({ui::Group("What they think of you, and why", {ui::Grow(txtwhy)}).Grow(5),
+                        ui::Group("Titles and reigns", {pictitle, ui::Grow(lsttitles)}).Grow(2),
+                        ui::Group("Company", {ui::Grow(lstcompany)}).Grow(2)})
+                  .Grow(10)})
+             .Wide(kLettersOfColumn)
+             .Grow(23)});
     ui::Box facts(
         ui::Box::Kind::Columns, "All the facts",
         {ui::Group("", {ui::Grow(txtpage)}).Grow(1), ui::Group("", {ui::Grow(txtmore)}).Grow(1)});
-    ui::Page page =
-        PageOf(ui::Tabs({std::move(glance), std::move(facts)}), &lblfacts,
-               {&cmdprevious, &cmdnext, &cmdcompare, &cmdturn, &cmdshortlist}, &cmdcontract);
+    ui::Page page = PageOf(
+        ui::Tabs({std::move(glance), std::move(facts)}), &lblfacts,
+        {&cmdprevious, &cmdnext, &cmdhall, &cmdcompare, &cmdturn, &cmdshortlist, &cmdchronicle},
+        &cmdcontract);
     page.Then = &cmdback;  // for those who cannot be talked to
     page.Face = &picworker;
     page.More = {&lblmarks, &lblfinishers};
@@ -236,6 +242,7 @@ class frmWorker : public GameScreen {
     cmdcontract.Text = own ? "Contract" : "Talks";
     EnableUnless(cmdcontract, worker ? WhyNoTalks(game_, worker) : gone);
     EnableUnless(cmdcompare, worker ? "" : gone);
+    cmdhall.Visible = worker && ElectedIn(world(), uid_) != 0;
     cmdturn.Visible = cmdpromote.Visible = cmddemote.Visible = own;
     if (own) {
       cmdturn.Text = worker->TurnPending ? "Call The Turn Off" : "Prepare A Turn";
@@ -347,10 +354,13 @@ class frmWorker : public GameScreen {
   ui::Report txtmore{*this, "txtmore"};
   ui::Button cmdprevious{*this, "cmdprevious", "Previous", [this] { Go(&Neighbours::Before); }};
   ui::Button cmdnext{*this, "cmdnext", "Next", [this] { Go(&Neighbours::After); }};
+  ui::Button cmdhall{*this, "cmdhall", "Hall Of Fame", [this] { desk().Open("frmHall"); }};
   ui::Button cmdcompare{*this, "cmdcompare", "Compare",
                         [this] { desk().Open(MakefrmCompare(game_, {uid_})); }};
   ui::Button cmdturn{*this, "cmdturn", "Prepare A Turn", &frmWorker::cmdturn_Click};
   ui::Button cmdshortlist{*this, "cmdshortlist", "Shortlist", &frmWorker::cmdshortlist_Click};
+  ui::Button cmdchronicle{*this, "cmdchronicle", "Chronicle",
+                          [this] { game_.OpenChapter("Workers", uid_, ""); }};
   ui::Button cmdcontract{*this, "cmdcontract", "Contract", &frmWorker::cmdcontract_Click};
 };
 

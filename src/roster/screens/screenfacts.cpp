@@ -31,7 +31,7 @@ Paragraphs Told(std::span<const FactGroup> groups) {
 /// Short sentences in a row are one paragraph: a card beside a list is low.
 Paragraphs RunTogether(const Paragraphs& words) {
   Paragraphs fewer;
-  for (const auto& [as, text] : words) {
+  for (const auto& [as, text, leads] : words) {
     const bool goesOn = !fewer.empty() && as == Style::Line && fewer.back().As == Style::Line &&
                         fewer.back().Words.ends_with('.') && text.ends_with('.');
     if (goesOn)

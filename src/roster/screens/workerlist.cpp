@@ -6,10 +6,17 @@
 #include "roster/screens/frmWorker.h"
 #include "roster/screens/screenmany.h"
 #include "roster/screens/screentalks.h"
+#include "roster/workerform.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
 
 namespace grapplemont {
+
+namespace {
+
+constexpr int kLettersOfWide = 190;  // of a page that has room for face and skills, too
+
+}  // namespace
 
 WorkerListScreen::WorkerListScreen(Game& game, std::string name, std::string title, PeopleList list,
                                    std::span<const FilterFamily> filters)
@@ -26,9 +33,15 @@ WorkerListScreen::WorkerListScreen(Game& game, std::string name, std::string tit
                  }),
       lstwres(*this, "lstwres", WithFaces(game.World(), WorkerColumns(list)),
               ui::Handler([this] { ShowChoice(); })),
+      lstskills(*this, "lstskills",
+                {{"Skill", ui::ColumnKind::Text, 2},
+                 {"Level", ui::ColumnKind::Percent, 1},
+                 {"Which means", ui::ColumnKind::Text, 4}}),
       list_(list),
       filters_(filters) {
   lblchosen.Fleeting = true;
+  picworker.Height = 132;
+  lstskills.Room = static_cast<int>(Abilities().size());
   lstwres.Extends = true;
   lstwres.Views = WorkerViews();
 }
@@ -77,6 +90,7 @@ void WorkerListScreen::ShowList() {
 void WorkerListScreen::ShowChoice() {
   const Worker* chosen = Chosen();
   ShowFacts();
+  ShowSkills(chosen);
   WriteWorkerPage(txtpage, world(), chosen, "Choose somebody to read about.");
   EnableUnless({cmdpage, cmdcompare}, chosen ? "" : kNobodyChosen);
   ShowActions(chosen);
@@ -88,9 +102,22 @@ void WorkerListScreen::ShowFacts() {
   lblchosen.Text = chosen > 1 ? std::to_string(chosen) + " are chosen." : "";
 }
 
+void WorkerListScreen::ShowSkills(const Worker* chosen) {
+  picworker.Drawn = chosen ? FaceOf(world(), chosen->Uid) : ui::Drawing();
+  std::vector<ui::ListBox::Row> rows;
+  if (chosen)
+    for (const Ability& ability : Abilities())
+      rows.push_back(
+          {{ability.Name, int(chosen->*ability.Of), {WordsFor(ability, *chosen), ui::Tone::Muted}},
+           static_cast<int>(rows.size()) + 1});
+  lstskills.Fill(std::move(rows), false);
+}
+
 ui::Box WorkerListScreen::PageBox() {
-  return ui::Group("",
-                   {ui::Grow(txtpage), ui::Columns({cmdpage, cmdcompare, ui::Grow(lblchosen)})});
+  return ui::Rows(
+      {ui::Group("", {ui::Columns({picworker, ui::Grow(lstskills)})}).From(kLettersOfWide),
+       ui::Group("", {ui::Grow(txtpage), ui::Columns({cmdpage, cmdcompare, ui::Grow(lblchosen)})})
+           .Grow()});
 }
 
 void WorkerListScreen::Negotiate() {

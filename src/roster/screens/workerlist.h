@@ -46,7 +46,8 @@ class WorkerListScreen : public GameScreen {
 
   /// The filters side by side, with the screen's own behind them, and what they hide.
   ui::Box FilterBox(std::vector<ui::Box> more = {});
-  /// What is known of the first chosen worker, and the ways on.
+  /// What is known of the first chosen worker, and the ways on; in a wide window their face and
+  /// skills above it.
   ui::Box PageBox();
   /// The page on which one key takes the filters off.
   ui::Page WithFilters(ui::Page page);
@@ -54,6 +55,8 @@ class WorkerListScreen : public GameScreen {
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Array<ui::ComboBox> cmbfilters;
   ui::ListBox lstwres;
+  ui::Picture picworker{*this, "picworker"};
+  ui::ListBox lstskills;
   ui::Report txtpage{*this, "txtpage"};
   ui::Button cmdpage{*this, "cmdpage", "Open Page",
                      [this] { OpenWorkerPage(game_, lstwres.Key()); }};
@@ -66,6 +69,7 @@ class WorkerListScreen : public GameScreen {
  private:
   static std::size_t Index(int number) { return static_cast<std::size_t>(number - 1); }
   void ShowFacts();
+  void ShowSkills(const Worker* chosen);
   bool FitsFilters(const Worker& worker);
   void ShowFilters();
   void ClearFilters();

@@ -3,6 +3,7 @@
 #include "records/fields/wording.h"
 #include "records/world.h"
 #include "session/home.h"
+#include "session/layers.h"
 #include "session/screens/frmLoadGame.h"
 #include "session/slots.h"
 #include "ui/game.h"
@@ -28,7 +29,7 @@ class frmTitleScreen : public ui::Screen {
 
   void Load() override {
     for (const char* picture : {"vxm_back.jpg", "vxm_title.jpg"}) {
-      if (game_.Disk().Look(game_.PictureFolder() + "/" + picture) == Disk::Kind::File) continue;
+      if (!FileIn(game_.Disk(), game_.PictureFolders(), picture).empty()) continue;
       desk().Say("Error Loading",
                  "Sorry, some graphics files seem to be missing, and so the game cannot load.\n"
                  "Please see the help file that comes with this game for details on what files "
@@ -83,7 +84,7 @@ class frmDisclaimer : public ui::Screen {
   }
 
   void Load() override {
-    const auto missing = MissingDataFiles(game_.Disk(), game_.DataFolder());
+    const auto missing = MissingDataFiles(game_.Disk(), game_.DataFolders());
     for (int i = 1; i <= lblfiles.Count(); ++i) {
       const std::string_view file = kDataSet[static_cast<std::size_t>(i - 1)];
       const bool found = std::find(missing.begin(), missing.end(), file) == missing.end();
@@ -143,8 +144,8 @@ class frmGameMenu : public ui::Screen {
     page.Main = &cmdcontinue;
     page.Then = &cmdnewgame;
     page.Cancel = &cmdquit;
-    page.Body = ui::Rows(
-        {ui::Grow(imgtitle), cmdcontinue, cmdnewgame, cmdloadgame, cmdeditor, cmdcredits, cmdquit});
+    page.Body = ui::Rows({ui::Grow(imgtitle), cmdcontinue, cmdnewgame, cmdloadgame, cmdeditor,
+                          cmdcredits, cmdabout, cmdquit});
     return page;
   }
 
@@ -163,6 +164,7 @@ class frmGameMenu : public ui::Screen {
   void cmdloadgame_Click() { desk().Open("frmLoadGame"); }
   void cmdeditor_Click() { desk().Open("frmEditor"); }
   void cmdcredits_Click() { desk().Open("frmCredits"); }
+  void cmdabout_Click() { desk().Open("frmAbout"); }
   void cmdquit_Click() {
     if (desk().Ask("Quit?", "Are you sure you want to quit?")) desk().CloseAll();
   }
@@ -176,6 +178,7 @@ class frmGameMenu : public ui::Screen {
   ui::Button cmdloadgame{*this, "cmdloadgame", "Load Game", &frmGameMenu::cmdloadgame_Click};
   ui::Button cmdeditor{*this, "cmdeditor", "File Editor", &frmGameMenu::cmdeditor_Click};
   ui::Button cmdcredits{*this, "cmdcredits", "Credits", &frmGameMenu::cmdcredits_Click};
+  ui::Button cmdabout{*this, "cmdabout", "About", &frmGameMenu::cmdabout_Click};
   ui::Button cmdquit{*this, "cmdquit", "Quit", &frmGameMenu::cmdquit_Click};
 };
 

@@ -8,6 +8,7 @@
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "session/chairs.h"
+#include "session/layers.h"
 #include "session/newgame.h"
 #include "session/screens/frmLoadGame.h"
 #include "storylines/screens/screenpeople.h"
@@ -71,7 +72,7 @@ class frmNewGame : public GameScreen {
   }
 
   void Load() override {
-    world_.Load(ReadWorldFiles(game_.Disk(), game_.DataFolder()));
+    world_.Load(ReadDefaultData(game_.Disk(), game_.DataFolders()));
     chairs_ = ChairsOf(world_);
     for (const Chair& chair : chairs_) {
       const Promotion& promotion = *chair.Of;

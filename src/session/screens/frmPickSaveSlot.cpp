@@ -2,6 +2,7 @@
 #include "records/modVar.h"
 #include "records/store/slot.h"
 #include "records/store/slotfolder.h"
+#include "session/layers.h"
 #include "session/newgame.h"
 #include "session/screens/frmLoadGame.h"
 #include "session/screens/slotscreen.h"
@@ -42,7 +43,7 @@ class frmPickSaveSlot : public SlotScreen {
     if (desk().Objects(WhyNotPlain(choice_.SaveName))) return;
     World world(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse),
                 game_.NewDraws(Game::kWorldLife));
-    world.Load(ReadWorldFiles(game_.Disk(), game_.DataFolder()));
+    world.Load(ReadDefaultData(game_.Disk(), game_.DataFolders()));
     desk().Say("Database creation",
                "The database for this game will now be created.\n"
                "This process can take up to 10 minutes depending on the speed of your machine.\n"

@@ -11,8 +11,8 @@ class frmWait : public ui::Screen {
  public:
   explicit frmWait(Game& game) : Screen(game.Desk(), "frmWait", "One Moment", ui::Role::Wait) {
     const int set = game.HasWorld() ? int(game.World().Game().LoadingSet) : 0;
-    imgwait.File =
-        DrawWaitingPicture(game.Disk(), game.PictureFolder(), set, *game.NewDraws(Game::kPictures));
+    imgwait.File = DrawWaitingPicture(game.Disk(), game.PictureFolders(), set,
+                                      *game.NewDraws(Game::kPictures));
   }
 
   ui::Page Layout() override {
@@ -38,7 +38,7 @@ class frmLoadingScreens : public GameScreen {
 
   ui::Page Layout() override {
     return PageOf(ui::Rows({ui::Columns({ui::Field("Set", cmbset), lblcount, ui::Spacer()}),
-                            ui::Grow(imgpicture), lbltext}),
+                            ui::Grow(imgpicture), lbltext, lblfolder}),
                   nullptr, {&cmdprevious, &cmdnext});
   }
 
@@ -46,7 +46,7 @@ class frmLoadingScreens : public GameScreen {
 
  private:
   void cmbset_Click() {
-    pictures_ = WaitingPictures(game_.Disk(), game_.PictureFolder(), cmbset.Key());
+    pictures_ = WaitingPictures(game_.Disk(), game_.PictureFolders(), cmbset.Key());
     at_ = 0;
     const std::string prefix = "VXM_Set" + std::to_string(cmbset.Key());
     lbltext.Text =
@@ -55,6 +55,8 @@ class frmLoadingScreens : public GameScreen {
             : "To use this graphics set (maximum 10 graphics per set), please add your " + prefix +
                   "_01.jpg to " + prefix +
                   "_10.jpg. They must be in order, and there must be at least 1 graphic present.";
+    lblfolder.Text = "Pictures of your own belong into " + game_.PictureFolders().front() + ".";
+    lblfolder.Visible = cmbset.Key() != 0;
     ShowPicture();
   }
 
@@ -81,7 +83,7 @@ class frmLoadingScreens : public GameScreen {
   ui::ComboBox cmbset{*this, "cmbset", &frmLoadingScreens::cmbset_Click};
   ui::Label lblcount{*this, "lblcount"};
   ui::Picture imgpicture{*this, "imgpicture"};
-  ui::Label lbltext{*this, "lbltext"};
+  ui::Label lbltext{*this, "lbltext"}, lblfolder{*this, "lblfolder"};
   ui::Button cmdprevious{*this, "cmdprevious", "Previous", &frmLoadingScreens::cmdprevious_Click};
   ui::Button cmdnext{*this, "cmdnext", "Next", &frmLoadingScreens::cmdnext_Click};
 };

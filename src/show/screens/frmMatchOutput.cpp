@@ -1,9 +1,15 @@
+#include <algorithm>
 #include <optional>
+#include <string>
+#include <vector>
 
+#include "report/live.h"
 #include "report/report.h"
 #include "show/holdshow.h"
+#include "show/livetelling.h"
 #include "show/recap.h"
 #include "show/runsegment.h"
+#include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
 
 namespace grapplemont {
@@ -13,14 +19,24 @@ namespace {
 /// Where the percentages stand.
 constexpr const char* kFigureControls[] = {"txtquality", "txtcrowd", "txtoverall"};
 constexpr int kFigureCount = 3, kOverallFigure = 3;
-constexpr int kLettersOfCard = 60;  // that stands beside another
+constexpr int kLettersOfCard = 60;     // that stands beside another
+constexpr int kLettersOfWide = 190;    // of a page that has room for faces, too
+constexpr std::size_t kHallRoom = 80;  // pieces that the line of the hall shows
+
+ui::Cell OutcomeIn(const Segment& segment, bool won) {
+  if (segment.Kind != kMatch) return "";
+  if (IsDraw(segment)) return {"Drew", ui::Tone::Muted};
+  return won ? ui::Cell("Won", ui::Tone::Green) : ui::Cell("Lost", ui::Tone::Red);
+}
 
 const ToldFigure& FigureAt(int i) {
   return kToldFigures[i - 1];
 }
 
-void ShowRatings(World& world, ui::Chart& chart) {
-  const RatingsSoFar ratings = RatingsOfShow(world);
+/// Without the last one while it is still being told.
+void ShowRatings(World& world, ui::Chart& chart, bool withLast = true) {
+  RatingsSoFar ratings = RatingsOfShow(world);
+  if (!withLast && !ratings.Values.empty()) ratings.Values.pop_back();
   chart.Captions = ratings.Rows;
   chart.Lines = std::vector<ui::Chart::Series>{{"", ratings.Values}};
 }
@@ -32,12 +48,18 @@ class frmMatchOutput : public ui::Screen {
       : Screen(game.Desk(), "frmMatchOutput", "Show Report"), game_(game) {
     lbltitle.Visible = false;  // the page's own heading says the same
     txtstip.Brief = true;
+    lstcast.EmptyText = "Whoever is in the next Segment stands here.";
+    chthall.Thin = true;
+    chthall.Tip = "How loud the hall is.";
+    cmdall.Tip = "Shows what is left of this report, and its percentages.";
+    int pace = 0;
+    for (const TellingPace& row : TellingPaces()) cmbpace.Add(std::string(row.Name), pace++);
   }
 
   ui::Page Layout() override {
     ui::Page page;
     page.Facts = &lblreportedby;
-    page.Actions = {&cmdnotepad, &cmdnext};
+    page.Actions = {&cmdnotepad, &cmdall, &cmdnext};
     page.Main = &cmdnext;
     page.Stays = "The show has to be seen through to its end first.";
     page.Lets = ui::Reach::Tells;
@@ -48,8 +70,12 @@ class frmMatchOutput : public ui::Screen {
     figures.push_back(ui::Grow(txtwhy));
     page.Body = ui::Columns(
         {ui::Group("", {lbltitle, ui::Columns({lblinfo, txtstyle, txttype, txtbelt, ui::Spacer()}),
-                        txtstip, ui::Grow(txtreport), lblwinner})
+                        txtstip, ui::Grow(txtreport),
+                        ui::Columns(
+                            {ui::Field("The hall", chthall).Grow(), ui::Field("Goes on", cmbpace)}),
+                        lblwinner})
              .Grow(9),
+         ui::Group("Who is in it", {ui::Grow(lstcast)}).From(kLettersOfWide).Grow(4),
          ui::Columns({ui::Rows({ui::Group("", std::move(figures)).Grow(9),
                                 ui::Group("Road agent", {ui::Grow(txtroad)}).Grow(4)})
                           .Grow(2),
@@ -95,6 +121,7 @@ class frmMatchOutput : public ui::Screen {
                         : "What has been told so far stands. Press Next for what was to come.");
     ShowFigures();
     ShowRatings(world(), chtshow);
+    ShowPace();
   }
 
   std::string RowName(int number) { return DescribeSegment(world(), world().Segments()[number]); }
@@ -103,10 +130,63 @@ class frmMatchOutput : public ui::Screen {
     if (NextSegment(world()) == 0) return Finish();
     told_ = RunNextSegment(world(), &memory_);
     if (world().Segments()[run().Current].Kind == kMatch) desk().Hear(ui::Sound::Bell);
+    text_ = told_->Report;
+    pieces_.clear();
+    if (TellsLive(world())) pieces_ = LivePieces(text_, told_->Sentences, told_->Crowd);
+    if (!told_->Verdict.empty()) {
+      text_ += "\n" + told_->Verdict;
+      if (!pieces_.empty()) pieces_.push_back({text_.size(), false, pieces_.back().Hall});
+    }
+    shown_ = 1;
     ShowDetails();
+    ShowTold();
+  }
+
+  bool IsLive() const { return !pieces_.empty(); }
+  /// The percentages come behind the last piece.
+  bool IsThrough() const { return !IsLive() || shown_ > pieces_.size(); }
+
+  void GoOn() {
+    ++shown_;
+    ShowTold();
+  }
+
+  void cmdall_Click() {
+    shown_ = pieces_.size() + 1;
+    ShowTold();
+  }
+
+  /// As much as has been told by now: nothing that gives the end away before it.
+  void ShowTold() {
     ShowProse();
     ShowFigures();
-    ShowRatings(world(), chtshow);
+    ShowRatings(world(), chtshow, IsThrough());
+    lblwinner.Visible = IsThrough() && !lblwinner.Text.Get().empty();
+    ShowPace();
+  }
+
+  void ShowPace() {
+    cmdall.Visible = !IsThrough();
+    chthall.Visible = IsLive();
+    cmbpace.Visible = IsLive();
+    cmdnext.Every = 0;
+    if (!IsLive()) return;
+    const std::size_t last = std::min(shown_, pieces_.size());
+    std::vector<double> hall;
+    for (std::size_t at = last > kHallRoom ? last - kHallRoom : 0; at < last; ++at)
+      hall.push_back(pieces_[at].Hall);
+    chthall.Lines = std::vector<ui::Chart::Series>{{"The hall", hall}};
+    cmbpace.SelectKey(PaceOfTelling(world()));
+    if (IsThrough()) return;
+    const std::size_t from = last > 1 ? pieces_[last - 2].Until : 0;
+    const LivePiece& piece = pieces_[last - 1];
+    cmdnext.Every = WaitBehind(std::string_view(text_).substr(from, piece.Until - from),
+                               piece.HoldsBreath, PaceOfTelling(world()));
+  }
+
+  void cmbpace_Click() {
+    SetPaceOfTelling(world(), cmbpace.Key());
+    ShowPace();
   }
 
   void ShowDetails() {
@@ -117,24 +197,47 @@ class frmMatchOutput : public ui::Screen {
     txtbelt.Text = details.Belt;
     txtbelt.Colour = ui::Tone::Gold;
     lblwinner.Text = details.Winner;
-    for (ui::Label* label : {&txtstyle, &txttype, &txtbelt, &lblwinner})
+    for (ui::Label* label : {&txtstyle, &txttype, &txtbelt})
       label->Visible = !label->Text.Get().empty();
     txtstip.Write({{ui::Report::Style::Heading, details.Names}});
+    ShowCast(world().Segments()[run().Current]);
+  }
+
+  /// As they are after it, the winners first.
+  void ShowCast(const Segment& segment) {
+    const std::vector<int> winners = WinnersOf(segment);
+    const auto hasWon = [&](int uid) { return std::ranges::find(winners, uid) != winners.end(); };
+    std::vector<int> people = PeopleOf(segment);
+    std::ranges::stable_partition(people, hasWon);
+    std::vector<ui::ListBox::Row> rows;
+    for (const int uid : people)
+      if (const Worker* worker = world().FindWorker(uid))
+        rows.push_back({{worker->Name.View(), DispositionCell(*worker), int(worker->Over),
+                         int(worker->Condition), OutcomeIn(segment, hasWon(uid))},
+                        uid});
+    lstcast.Fill(std::move(rows), false);
   }
 
   void ShowProse() {
-    std::string text = told_->Report;
-    if (!told_->Verdict.empty()) text += "\n" + told_->Verdict;
-    txtreport.Write(text);
+    txtreport.Grows = IsLive();
+    txtreport.Write(WordsSoFar());
     txtroad.WriteLines(told_->Notes);
-    txtroad.Visible = !told_->Notes.empty();  // without a word, its room goes to the figures
+    // Without a word, its room goes to the figures.
+    txtroad.Visible = IsThrough() && !told_->Notes.empty();
+  }
+
+  std::string WordsSoFar() const {
+    if (IsThrough()) return text_;
+    const LivePiece& piece = pieces_[shown_ - 1];
+    std::string words = text_.substr(0, piece.Until);
+    while (words.ends_with(' ') || words.ends_with('\n')) words.pop_back();
+    return words + (piece.HoldsBreath ? " ..." : "");
   }
 
   void ShowFigures() {
     const bool isMatch = told_ && world().Segments()[run().Current].Kind == kMatch;
-    lblanalysis.Text = isMatch ? "Match Analysis" : "Analysis";
     for (int i = 1; i <= kFigureCount; ++i) {
-      const bool shown = told_ && (isMatch || i != 1);
+      const bool shown = told_ && IsThrough() && (isMatch || i != 1);
       txtfigures(i).Visible = shown;
       cmdwhy(i).Visible = shown;
       if (!shown) continue;
@@ -148,7 +251,7 @@ class frmMatchOutput : public ui::Screen {
   }
 
   void cmdwhy_Click(int i) {
-    if (!told_) return txtwhy.Write("");
+    if (!told_ || !IsThrough()) return txtwhy.Write("");
     const ToldFigure& figure = FigureAt(i);
     txtwhy.WriteLines(WhyText(figure.Name, (*told_).*figure.Of));
   }
@@ -159,11 +262,14 @@ class frmMatchOutput : public ui::Screen {
     Close();
   }
 
-  void cmdnext_Click() { TellNext(); }
+  void cmdnext_Click() { IsThrough() ? TellNext() : GoOn(); }
 
   Game& game_;
   LineMemory memory_;
   std::optional<ToldSegment> told_;
+  std::string text_;               // of the report and the verdict
+  std::vector<LivePiece> pieces_;  // of a Segment that is told live
+  std::size_t shown_ = 0;          // of them; one more with the percentages
   ui::Label lbltitle{*this, "lbltitle"};
   ui::Label lblreportedby{*this, "lblreportedby"};
   ui::Label lblinfo{*this, "lblinfo"};
@@ -172,7 +278,16 @@ class frmMatchOutput : public ui::Screen {
   ui::Label txtbelt{*this, "txtbelt"};
   ui::Report txtstip{*this, "txtstip"};
   ui::Report txtreport{*this, "txtreport"};
+  ui::Chart chthall{*this, "chthall"};
+  ui::ComboBox cmbpace{*this, "cmbpace", &frmMatchOutput::cmbpace_Click};
   ui::Label lblwinner{*this, "lblwinner"};
+  ui::ListBox lstcast{*this, "lstcast",
+                      WithFaces(world(), {{"Who", ui::ColumnKind::Text, 4},
+                                          {"Disposition", ui::ColumnKind::Tag},
+                                          {"Over", ui::ColumnKind::Number},
+                                          {"Condition", ui::ColumnKind::Percent},
+                                          {"Result", ui::ColumnKind::Tag}}),
+                      ui::Handler{}, [this] { game_.OpenWorker(lstcast.Key()); }};
   ui::Label lblanalysis{*this, "lblanalysis", "Match Analysis"};
   ui::Array<ui::Label> txtfigures{"", kFigureCount, [this](const std::string&, int i) {
                                     return std::make_unique<ui::Label>(*this,
@@ -187,6 +302,7 @@ class frmMatchOutput : public ui::Screen {
   ui::Label txtannouncers{*this, "txtannouncers"};
   ui::Chart chtshow{*this, "chtshow", true};
   ui::Button cmdnotepad{*this, "cmdnotepad", "Notepad", [this] { desk().Open("frmNotepad"); }};
+  ui::Button cmdall{*this, "cmdall", "See It All", &frmMatchOutput::cmdall_Click};
   ui::Button cmdnext{*this, "cmdnext", "Next", &frmMatchOutput::cmdnext_Click};
 };
 

@@ -27,7 +27,7 @@ class frmReigns : public GameScreen {
     return PageOf(
         ui::Columns({ui::Group("", {ui::Field("Title", cmbtitle), ui::Grow(lstreigns)}).Grow(5),
                      ui::Group("Champions", {ui::Grow(lsttotals)}).Grow(3)}),
-        &lblfacts);
+        &lblfacts, {&cmdchronicle});
   }
 
   void Load() override {
@@ -74,8 +74,14 @@ class frmReigns : public GameScreen {
                 [&](const TitleReign& reign) { return world().Reigns().NumberOf(reign); });
       FillPlaces(lsttotals, totals_, TotalsOf(world(), lineage));
     }
+    EnableUnless(cmdchronicle, cmbtitle.Selected() != 0 ? "" : "There is no Title in the world.");
     lblfacts.Text = cmbtitle.Count() == 0 ? "There is no Title in the world."
                                           : Counted(lsttotals.Count(), "champion") + ".";
+  }
+
+  void cmdchronicle_Click() {
+    const Lineage& lineage = lineages_[static_cast<std::size_t>(cmbtitle.Selected() - 1)];
+    game_.OpenChapter("Titles", lineage.Owner, lineage.Title);
   }
 
   using K = ui::ColumnKind;
@@ -97,7 +103,7 @@ class frmReigns : public GameScreen {
        }},
       {{"Days", K::Number},
        [this](const TitleReign& reign) { return CountCell(DaysOf(reign, world().Today())); }},
-      {{"Defences", K::Number, 0, "On your shows; of others nobody counts them."},
+      {{"Defences", K::Number, 0, "How often it was kept in the ring."},
        [](const TitleReign& reign) {
          return CountCell(IsVacancy(reign) ? -1 : int(reign.Defences));
        }},
@@ -111,6 +117,7 @@ class frmReigns : public GameScreen {
        [](const ChampionTotal& total) { return CountCell(total.Defences); }}};
   ui::ListBox lstreigns{*this, "lstreigns", HeadingsOf(reigns_)};
   ui::ListBox lsttotals{*this, "lsttotals", HeadingsOf(totals_)};
+  ui::Button cmdchronicle{*this, "cmdchronicle", "Chronicle", &frmReigns::cmdchronicle_Click};
 };
 
 enum Whose { kYours = 1, kEverybodys };
@@ -121,7 +128,7 @@ class frmBelts : public GameScreen {
  public:
   explicit frmBelts(Game& game) : GameScreen(game, "frmBelts", "Titles", {.Manages = true}) {
     lsthistory.EmptyText = "Choose a Title to see who has held it.";
-    lsttitles.Acts = {{&cmdreigns}, {&cmdsuspend}, {&cmdvacate}, {&cmddissolve}};
+    lsttitles.Acts = {{&cmdreigns}, {&cmdtree}, {&cmdsuspend}, {&cmdvacate}, {&cmddissolve}};
     lstwres.Multi = true;
     txtname.Hint = "Name";
     cmbwhose.Add("Your Titles", kYours);
@@ -136,7 +143,9 @@ class frmBelts : public GameScreen {
     return PageOf(
         ui::Columns(
             {ui::Rows({ui::Group("", {cmbwhose, ui::Grow(lsttitles)}).Grow(3),
-                       ui::Group("Who has held it", {ui::Grow(lsthistory), cmdreigns}).Grow(2)})
+                       ui::Group("Who has held it",
+                                 {ui::Grow(lsthistory), ui::Columns({cmdreigns, cmdtree})})
+                           .Grow(2)})
                  .Grow(5),
              ui::Rows({ui::Group("Name and kind",
                                  {txtname, cmdrename, ui::Columns({cmbkind, chkwoman, chklight}),
@@ -223,6 +232,7 @@ class frmBelts : public GameScreen {
     const bool isSuspended = none.empty() && Chosen()->Suspended;
     cmdsuspend.Text = isSuspended ? "Activate" : "Suspend";
     EnableUnless({cmdrename, cmdsuspend, cmddissolve}, none);
+    EnableUnless(cmdtree, Chosen() ? "" : "Choose a Title first.");
     EnableUnless(cmdvacate, none.empty() ? WhyNotVacate(*Chosen()) : none);
     const auto [holder, partner] = Picked();
     const bool tooMany = lstwres.Keys().size() > 2;
@@ -253,6 +263,11 @@ class frmBelts : public GameScreen {
     const grapplemont::Title* title = Chosen();
     desk().Open(std::make_unique<frmReigns>(
         game_, title ? Lineage{title->Name.Str(), title->Owner, {}, false} : Lineage{}));
+  }
+
+  void cmdtree_Click() {
+    if (const grapplemont::Title* title = Chosen(); title && game_.OpenTree)
+      game_.OpenTree(title->Owner, title->Name.Str());
   }
 
   void cmdcreate_Click() {
@@ -314,6 +329,7 @@ class frmBelts : public GameScreen {
                         &frmBelts::lsttitles_Click};
   ui::ListBox lsthistory{*this, "lsthistory", ReignColumns()};
   ui::Button cmdreigns{*this, "cmdreigns", "All Reigns", &frmBelts::cmdreigns_Click};
+  ui::Button cmdtree{*this, "cmdtree", "Family Tree", &frmBelts::cmdtree_Click};
   ui::TextBox txtname{*this, "txtname", {}, decltype(grapplemont::Title::Name)::kWidth};
   ui::Button cmdrename{*this, "cmdrename", "Rename", &frmBelts::cmdrename_Click};
   ui::ComboBox cmbkind{*this, "cmbkind"};

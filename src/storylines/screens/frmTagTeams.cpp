@@ -1,4 +1,5 @@
 #include "records/fields/wording.h"
+#include "records/keepannals.h"
 #include "records/modWresCheck.h"
 #include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
@@ -113,6 +114,8 @@ class frmTagTeams : public GameScreen {
     if (!desk().Ask("Dissolve?", "Are you sure you wish to dissolve " + Chosen()->Name + "?",
                     ui::Default::No))
       return;
+    const Team& team = world().Teams()[lstteams.Key()];
+    KeepGroup(world(), kAnnalParted, team.Name, team.Worker1, team.Worker2);
     world().Teams().Erase(lstteams.Key());
     Load();
   }
@@ -265,6 +268,7 @@ class frmStables : public GameScreen {
       Worker* worker = world().FindWorker(uid);
       if (!worker || desk().Objects(WhyNotJoin(world(), Chosen(), *worker))) break;
       worker->Stable = Chosen();
+      KeepGroup(world(), kAnnalJoined, Chosen(), uid);
     }
     Return();
   }

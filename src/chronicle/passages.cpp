@@ -1,0 +1,110 @@
+#include "chronicle/scribe.h"
+#include "records/fields/chronicle.h"
+#include "records/fields/fields.h"
+#include "report/pasttold.h"
+#include "storylines/lineages.h"
+
+// Sentences that chapters of several kinds have.
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kAMonth = 31;
+
+/// A name in a text: at most as many as can be read.
+struct HouseEvent {
+  AnnalKind Of;
+  Tells As;
+};
+constexpr HouseEvent kHouseEvents[] = {
+    {kAnnalFounded, Tells::HouseFounded}, {kAnnalClosed, Tells::HouseClosed},
+    {kAnnalBought, Tells::HouseBought},   {kAnnalRisen, Tells::HouseRisen},
+    {kAnnalFallen, Tells::HouseFallen},   {kAnnalOwner, Tells::HouseOwner}};
+
+}  // namespace
+
+void TellReign(Scribe& scribe, const Archive& archive, const HeldCrown& held) {
+  const World& world = archive.Of();
+  const TitleReign& reign = held.Reign();
+  const TitleReign* before = held.Before();
+  const int days = DaysOf(reign, world.Today());
+  const bool knowsBegin = Day(reign.From) > kNoTitleDate;
+  Telling telling{.Of = Tells::CrownBefore, .F = HolderOf(world, reign)};
+  telling.Title = CrownName(world, *held.Of);
+  telling.House = archive.HouseName(reign.Owner);
+  telling.By = {ProofBy(world, reign)};
+  if (knowsBegin) telling.On = reign.From;
+  telling.Count = DaysText(days);
+  telling.Runs = days > kAMonth;
+  if (reign.End == kReignLasts) {
+    telling.Of = knowsBegin ? Tells::CrownOn : Tells::CrownBefore;
+    return scribe.Tell(telling);
+  }
+  if (const TitleReign* after = held.After(); after && reign.End == kReignLost) {
+    telling.X = HolderOf(world, *after);
+    telling.By.push_back(ProofBy(world, *after));
+  }
+  if (knowsBegin && days >= 0) {
+    const bool won = before && before->End == kReignLost;
+    telling.Of = won ? Tells::CrownWon : Tells::CrownFilled;
+    if (won) {
+      telling.S = HolderOf(world, *before);
+      telling.By.push_back(ProofBy(world, *before));
+    }
+  }
+  scribe.Tell(telling);
+}
+
+bool TellOfHouse(Scribe& scribe, const Archive& archive, const Annal& event, bool full) {
+  for (const HouseEvent& row : kHouseEvents) {
+    if (event.Kind != row.Of) continue;
+    Telling telling{.Of = row.As, .On = event.On, .By = {ProofBy(archive.Of(), event)}};
+    telling.House =
+        full || event.House == "" ? archive.FullHouseName(event.Promotion) : event.House.Str();
+    telling.Tally = event.Kind == kAnnalOwner ? event.Name.Str() : SmallSize(event.Number);
+    telling.G = event.Other.Str();
+    scribe.Tell(telling);
+    return true;
+  }
+  return false;
+}
+
+bool TellFeudsEnd(Scribe& scribe, const Archive& archive, const Annal& event) {
+  if (event.Kind != kAnnalFeudOver && event.Kind != kAnnalFeudCold) return false;
+  const World& world = archive.Of();
+  const bool won = event.Kind == kAnnalFeudOver;
+  Telling telling{.Of = won ? Tells::FeudWon : Tells::FeudCold,
+                  .F = FirstOf(world, event),
+                  .S = SecondOf(world, event),
+                  .On = event.On,
+                  .By = {ProofBy(world, event)}};
+  telling.Count = DaysText(event.Days);
+  const int lost = event.Against;
+  telling.Tally =
+      CountText(event.Number) + " to " + (lost == 0 ? std::string("nothing") : CountText(lost));
+  scribe.Tell(telling);
+  return true;
+}
+
+void TellAward(Scribe& scribe, const Archive& archive, const YearAward& award) {
+  const World& world = archive.Of();
+  Telling telling{.Of = Tells::AwardGiven, .By = {ProofBy(world, award)}};
+  telling.Year = YearOf(award.On);
+  telling.Tally = std::string(AwardName(award.Kind));
+  telling.Feud = award.Winner.Str();
+  const bool toSomebody = award.Kind == kWrestlerOfTheYear || award.Kind == kWomanOfTheYear ||
+                          award.Kind == kTeamOfTheYear || award.Kind == kRookieOfTheYear;
+  if (toSomebody) {
+    telling.Of = Tells::AwardWon;
+    const bool several = award.Kind == kTeamOfTheYear;
+    const Worker* worker = several ? nullptr : world.FindWorker(award.Worker);
+    telling.F = {worker && worker->Name == award.Winner ? int(award.Worker) : 0, award.Winner.Str(),
+                 several  ? kSeveral
+                 : worker ? (worker->Gender ? kMan : kWoman)
+                          : kNobodysSex};
+  }
+  scribe.Tell(telling);
+}
+
+}  // namespace grapplemont

@@ -1,0 +1,89 @@
+#include <algorithm>
+
+#include "records/fields/fields.h"
+#include "records/segments.h"
+#include "records/world.h"
+#include "report/pastlook.h"
+
+// What the book of matches knows of two sides, of one worker, of the year.
+
+namespace grapplemont {
+
+namespace {
+
+bool IsOneOf(const std::vector<int>& uids, int uid) {
+  return std::find(uids.begin(), uids.end(), uid) != uids.end();
+}
+
+/// Whether a match was between these two sides; 1 or 2 for the side whose people come first.
+int FirstSide(const HeldMatch& bout, const std::vector<int>& one, const std::vector<int>& two) {
+  const auto holds = [&](std::size_t from, const std::vector<int>& side) {
+    for (std::size_t i = 0; i < side.size(); ++i)
+      if (!IsOneOf(side, bout.Worker[from + i])) return false;
+    return true;
+  };
+  if (one.size() != two.size() || one.empty()) return 0;
+  if (holds(0, one)) return holds(one.size(), two) ? 1 : 0;
+  return holds(0, two) && holds(one.size(), one) ? 2 : 0;
+}
+
+}  // namespace
+
+std::vector<int> Shared(const std::vector<int>& side, const std::vector<int>& others) {
+  std::vector<int> shared;
+  for (const int uid : side)
+    if (IsOneOf(others, uid)) shared.push_back(uid);
+  return shared;
+}
+
+const HeldMatch* BestOfTheYear(const World& world) {
+  const HeldMatch* best = nullptr;
+  for (const HeldMatch& bout : world.Bouts())
+    if ((bout.Style == kSingles || bout.Style == kTag) && bout.Promotion == world.PlayerUid() &&
+        bout.Winners > 0 && YearOf(bout.On) == YearOf(world.Today()) &&
+        (!best || bout.Rating > best->Rating))
+      best = &bout;
+  return best;
+}
+
+bool AnyOf(const std::vector<int>& some, const std::vector<int>& others) {
+  return std::any_of(some.begin(), some.end(), [&](int uid) { return IsOneOf(others, uid); });
+}
+
+Meetings MeetingsOf(const World& world, int style, const std::vector<int>& one,
+                    const std::vector<int>& two) {
+  Meetings had;
+  for (const HeldMatch& bout : world.Bouts()) {
+    if (bout.Style != style || bout.Promotion != world.PlayerUid()) continue;
+    const int first = FirstSide(bout, one, two);
+    if (first == 0) continue;
+    ++had.Met;
+    had.LastDaysAgo = static_cast<int>((world.Today() - Day(bout.On)).count());
+    had.LastWinner = bout.Winners == 0 ? 0 : first;
+    if (had.LastWinner == 1) ++had.One;
+    if (had.LastWinner == 2) ++had.Two;
+    if (had.LastDaysAgo <= 365) ++had.LastYear;
+    if (YearOf(bout.On) == YearOf(world.Today()) && bout.Rating > had.BestRating) {
+      had.BestRating = bout.Rating;
+      had.BestDaysAgo = had.LastDaysAgo;
+    }
+  }
+  return had;
+}
+
+int RunOf(const World& world, int uid) {
+  int run = 0;
+  for (int number = world.Bouts().Count(); number > 0; --number) {
+    const HeldMatch& bout = world.Bouts()[number];
+    if (bout.Style == kSpecial || bout.Promotion != world.PlayerUid()) continue;
+    const auto* end = bout.Worker.begin() + 8;
+    const auto* at = std::find(bout.Worker.begin(), end, uid);
+    if (at == end) continue;
+    const bool won = at - bout.Worker.begin() < bout.Winners;
+    if (bout.Winners == 0 || (run != 0 && (run > 0) != won)) return run;
+    run += won ? 1 : -1;
+  }
+  return run;
+}
+
+}  // namespace grapplemont

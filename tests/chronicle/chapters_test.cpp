@@ -1,0 +1,209 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+#include "chronicle/book.h"
+#include "records/keepannals.h"
+#include "records/modVar.h"
+#include "records/severing.h"
+#include "report/family.h"
+#include "rivals/grudges.h"
+#include "storylines/feuds.h"
+#include "storylines/lineages.h"
+#include "storylines/partners.h"
+#include "storylines/titles.h"
+#include "support/smallworld.h"
+
+namespace grapplemont {
+namespace {
+
+using test::Named;
+using test::SmallWorld;
+
+class Chronicles : public testing::Test {
+ protected:
+  Chronicles()
+      : World_(SmallWorld()
+                   .Promotion("CWA", kCult)
+                   .Owner("Ruth Vane")
+                   .Worker("Bram Okafor", [](Worker& w) { w.ShortName = "Okafor"; })
+                   .Worker("Ilya Marsh",
+                           [](Worker& w) {
+                             w.Gender = false;
+                             w.ShortName = "Marsh";
+                           })
+                   .Worker("Cal Drift")
+                   .Title("CWA Crown", "Ilya Marsh")
+                   .Promotion("NEW", kSmall)
+                   .Owner("Tess Hale")
+                   .Worker("Eli Fenn")
+                   .Worker("Fay Loose", [](Worker& w) { w.Gender = false; })
+                   .Game("CWA")) {
+    UpdateReigns(World_);
+  }
+
+  int Uid(std::string_view name) { return Named(World_.Workers(), name).Uid; }
+  void Pass(int days) { World_.Game().Today = World_.Today() + std::chrono::days(days); }
+  void CrownIs(std::string_view name) {
+    Crown(World_, Named(World_.Titles(), "CWA Crown"), Uid(name), 0);
+    UpdateReigns(World_);
+  }
+
+  Chapter Read(About kind, std::string_view name, int voice) {
+    const Archive archive(World_);
+    for (const Subject& subject : archive.Subjects(kind))
+      if (subject.Name == name) return WriteChapter(archive, subject, voice);
+    ADD_FAILURE() << "nobody is called " << name;
+    return {};
+  }
+  static std::string TextOf(const Chapter& chapter) {
+    std::string text;
+    for (const auto& paragraph : chapter.Paragraphs)
+      for (const ToldSentence& sentence : paragraph) text += sentence.Words + "\n";
+    return text;
+  }
+  /// Something of everything.
+  void LiveAYear() {
+    Pass(10);
+    StartFeud(World_, {{Uid("Bram Okafor"), 0}, {Uid("Ilya Marsh"), 0}});
+    Pass(40);
+    CrownIs("Bram Okafor");
+    Pass(100);
+    CrownIs("Cal Drift");
+    Pass(30);
+    CrownIs("Bram Okafor");
+    EndFeudOffCamera(World_, 1);
+    const Promotion& rival = Named(World_.Promotions(), "NEW");
+    NoteDeed(World_, kDeedStolen, &rival, "Cal Drift", "CWA");
+    NoteDeed(World_, kDeedRisen, &rival, rival.Name, {}, kRegional);
+    NoteDeed(World_, kDeedInjured, &World_.Player(), "Ilya Marsh", "Knee", 7);
+    FormTeam(World_, "Salt and Tar", Uid("Eli Fenn"), Uid("Fay Loose"), "");
+    ASSERT_TRUE(BeginGrudge(World_, rival, Uid("Eli Fenn"), Uid("Fay Loose"), kGrudgeCard));
+    Pass(60);
+    SettleGrudge(World_, rival, Uid("Fay Loose"), Uid("Eli Fenn"));
+    YearAward award{};
+    award.On = World_.Today();
+    award.Kind = kWomanOfTheYear;
+    award.Worker = Uid("Ilya Marsh");
+    award.Winner = "Ilya Marsh";
+    World_.Awards().Append(award);
+  }
+
+  World World_;
+};
+
+TEST_F(Chronicles, TellNothingWithoutARecordThatSaysSo) {
+  LiveAYear();
+  const Archive archive(World_);
+  for (int voice = kLamplighter; voice <= kQvd; ++voice)
+    for (int kind = 0; kind < kKindsOfChapter; ++kind) {
+      int told = 0;
+      for (const Subject& subject : archive.Subjects(static_cast<About>(kind))) {
+        const Chapter chapter = WriteChapter(archive, subject, voice);
+        for (const auto& paragraph : chapter.Paragraphs)
+          for (const ToldSentence& sentence : paragraph) {
+            ++told;
+            EXPECT_EQ(sentence.Words.find_first_of("{}[]"), std::string::npos) << sentence.Words;
+            ASSERT_FALSE(sentence.By.empty()) << sentence.Words;
+            for (const Proof& proof : sentence.By)
+              EXPECT_FALSE(FieldsOf(World_, proof).empty()) << sentence.Words;
+          }
+      }
+      EXPECT_GT(told, 0) << "kind " << kind << ", voice " << voice;
+    }
+}
+
+TEST_F(Chronicles, TellAReignByItsDaysItsLoserAndItsEnd) {
+  LiveAYear();
+  const std::string text = TextOf(Read(About::Worker, "Bram Okafor", kTolland));
+  EXPECT_NE(text.find("100 days"), std::string::npos) << text;
+  EXPECT_NE(text.find("Marsh"), std::string::npos) << "whom he beat: " << text;
+  EXPECT_NE(text.find("Drift"), std::string::npos) << "who beat him: " << text;
+  EXPECT_NE(text.find("two reigns"), std::string::npos) << text;
+  EXPECT_EQ(text.find("She "), std::string::npos) << text;
+
+  const std::string hers = TextOf(Read(About::Worker, "Ilya Marsh", kLamplighter));
+  EXPECT_NE(hers.find("seven months"), std::string::npos) << hers;
+  EXPECT_NE(hers.find("Woman of the Year"), std::string::npos) << hers;
+  EXPECT_EQ(hers.find("He "), std::string::npos) << hers;
+
+  const std::string crown = TextOf(Read(About::Title, "CWA Crown", kQvd));
+  EXPECT_NE(crown.find("CWA Crown"), std::string::npos) << crown;
+  EXPECT_NE(crown.find("twice"), std::string::npos) << "who had it most often: " << crown;
+}
+
+TEST_F(Chronicles, TellOfFeudsHousesAndYears) {
+  LiveAYear();
+  const std::string feud = TextOf(Read(About::Feud, "Eli Fenn and Fay Loose", kTolland));
+  EXPECT_NE(feud.find("one to nothing"), std::string::npos) << feud;
+  EXPECT_NE(feud.find("60 days"), std::string::npos) << feud;
+  const std::string own = TextOf(Read(About::Feud, "Bram Okafor and Ilya Marsh", kTolland));
+  EXPECT_NE(own.find("170 days"), std::string::npos) << own;
+  const std::string house = TextOf(Read(About::Promotion, "NEW", kTolland));
+  EXPECT_NE(house.find("regional"), std::string::npos) << house;
+  EXPECT_NE(house.find("one signing"), std::string::npos) << house;
+  const std::string year = TextOf(Read(About::Year, "2026", kTolland));
+  EXPECT_NE(year.find("Ilya Marsh"), std::string::npos) << year;
+  EXPECT_NE(year.find("one contract"), std::string::npos) << year;
+}
+
+TEST_F(Chronicles, AreTheSameWheneverTheyAreReadAndDifferByVoice) {
+  LiveAYear();
+  const std::string once = TextOf(Read(About::Worker, "Bram Okafor", kTolland));
+  EXPECT_EQ(once, TextOf(Read(About::Worker, "Bram Okafor", kTolland)));
+  std::set<std::string> voices;
+  for (int voice = kLamplighter; voice <= kQvd; ++voice)
+    voices.insert(TextOf(Read(About::Worker, "Bram Okafor", voice)));
+  EXPECT_EQ(voices.size(), 3U);
+}
+
+TEST_F(Chronicles, KnowWhoHasGoneFromSomebodyElseOfTheSameName) {
+  const int uid = Uid("Cal Drift");
+  Pass(5);
+  CrownIs("Cal Drift");
+  Pass(20);
+  CrownIs("Bram Okafor");
+  Pass(5);
+  NoteDeed(World_, kDeedRetired, &World_.Player(), "Cal Drift");
+  Worker& cal = Named(World_.Workers(), "Cal Drift");
+  cal.Employer = 0;
+  ForgetWorker(World_, cal);
+  cal.Uid = uid + 100;  // somebody new, of the same name
+  Pass(300);
+  NoteDeed(World_, kDeedSigned, &World_.Player(), "Cal Drift");
+
+  const Archive archive(World_);
+  std::vector<std::string> texts;
+  for (const Subject& subject : archive.Subjects(About::Worker))
+    if (subject.Name == "Cal Drift")
+      texts.push_back(TextOf(WriteChapter(archive, subject, kTolland)));
+  ASSERT_EQ(texts.size(), 2U);
+  const bool first = texts[0].find("20 days") != std::string::npos;
+  const std::string &gone = texts[first ? 0 : 1], &fresh = texts[first ? 1 : 0];
+  EXPECT_NE(gone.find("20 days"), std::string::npos) << gone;
+  EXPECT_EQ(fresh.find("CWA Crown"), std::string::npos) << fresh;
+  EXPECT_NE(gone.find("retire"), std::string::npos) << gone;
+}
+
+TEST_F(Chronicles, BecomeABookWhoseLinksAllLeadSomewhere) {
+  LiveAYear();
+  Named(World_.Workers(), "Bram Okafor").Name = "Bram <Okafor> & Son";
+  const Archive archive(World_);
+  const std::string html = HtmlOf(World_, WriteBook(archive, kTolland), {SvgOf});
+  EXPECT_EQ(html.find("<Okafor>"), std::string::npos) << "names are no markup";
+  int links = 0;
+  for (auto at = html.find("href=\"#"); at != html.npos; at = html.find("href=\"#", at + 1)) {
+    const auto from = at + 7;
+    const std::string id = html.substr(from, html.find('"', from) - from);
+    EXPECT_NE(html.find("id=\"" + id + "\""), html.npos) << id;
+    ++links;
+  }
+  EXPECT_GT(links, 20);
+  EXPECT_NE(html.find("<svg class=\"crest\""), html.npos);
+  EXPECT_NE(html.find("<svg class=\"plate\""), html.npos);
+  EXPECT_NE(html.find("reigns.dat, record"), html.npos);
+}
+
+}  // namespace
+}  // namespace grapplemont

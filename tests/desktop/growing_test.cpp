@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QScrollBar>
+#include <QTextEdit>
+
+#include "desktop/player.h"
+
+// What goes on by itself: words that grow, a button with a clock, the line of the hall.
+
+namespace grapplemont::test {
+namespace {
+
+class Story : public ui::Screen {
+ public:
+  explicit Story(ui::Desk& desk) : Screen(desk, "frmStory", "Story") {
+    rptstory.Grows = true;
+    chthall.Thin = true;
+  }
+  ui::Page Layout() override {
+    return {.Actions = {&cmdnext},
+            .Main = &cmdnext,
+            .Body = ui::Group("", {ui::Grow(rptstory), ui::Field("The hall", chthall)})};
+  }
+  void Next() {
+    words += "Okafor slams Marsh, sentence " + std::to_string(++told) + ". ";
+    rptstory.Write(words);
+    if (told == kLast) cmdnext.Every = 0;
+  }
+
+  static constexpr int kLast = 3;
+  std::string words;
+  int told = 0;
+  ui::Report rptstory{*this, "rptstory"};
+  ui::Chart chthall{*this, "chthall"};
+  ui::Button cmdnext{*this, "cmdnext", "Next", &Story::Next};
+};
+
+class TheStory : public testing::Test {
+ protected:
+  TheStory() : Page(*new Story(Play.Desk)) { Play.Open(std::unique_ptr<ui::Screen>(&Page)); }
+
+  Player Play;
+  Story& Page;
+};
+
+TEST_F(TheStory, StaysAtItsEndWhileItGrowsAndIsHeardPieceByPiece) {
+  auto* view = dynamic_cast<QTextEdit*>(Play.See("rptstory"));
+  ASSERT_TRUE(view);
+  for (int piece = 1; piece <= 200; ++piece) {
+    Play.Key(Qt::Key_Space);
+    ASSERT_EQ(Page.told, piece) << "the space bar goes on, however long the words are";
+    EXPECT_EQ(view->accessibleDescription(),
+              QString("Okafor slams Marsh, sentence %1.").arg(piece));
+  }
+  EXPECT_GT(view->verticalScrollBar()->maximum(), 0);
+  EXPECT_EQ(view->verticalScrollBar()->value(), view->verticalScrollBar()->maximum());
+  Page.rptstory.Write("Marsh has the microphone.");
+  Play.Window.Sync();
+  EXPECT_EQ(view->accessibleDescription(), "Marsh has the microphone.");
+}
+
+TEST_F(TheStory, GoesOnByTheClockUntilItIsToStop) {
+  Page.cmdnext.Every = 5;
+  Play.Window.Sync();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Page.told == Story::kLast; }));
+  QTest::qWait(50);
+  EXPECT_EQ(Page.told, Story::kLast) << "nobody winds the clock any more";
+  Page.cmdnext.Every = 5;
+  Page.cmdnext.Enabled = false;
+  Play.Window.Sync();
+  QTest::qWait(50);
+  EXPECT_EQ(Page.told, Story::kLast) << "it cannot be pressed";
+}
+
+TEST_F(TheStory, ShowsTheHallAsALineThatCanBeHeard) {
+  QWidget* line = Play.See("chthall");
+  const auto picture = [&] { return line->grab().toImage(); };
+  const QImage silent = picture();
+  Page.chthall.Lines = std::vector<ui::Chart::Series>{{"The hall", {20, 40, 90}}};
+  Play.Window.Sync();
+  EXPECT_NE(picture(), silent);
+  EXPECT_LT(line->height(), 60);
+  EXPECT_EQ(line->accessibleDescription(), "The hall: 3 values, 20 to 90, now 90");
+}
+
+}  // namespace
+}  // namespace grapplemont::test

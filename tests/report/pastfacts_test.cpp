@@ -1,0 +1,113 @@
+#include <gtest/gtest.h>
+
+#include "records/angles.h"
+#include "report/pastsupport.h"
+
+// That no fact of the past is told that was not one.
+
+namespace grapplemont {
+namespace {
+
+/// Talk that threatens nobody, and a beating that the feud's book counts against another.
+TEST(Past, RecallsNothingThatWasNotThere) {
+  World world = Two();
+  Segment talk = EmptySegment();
+  talk.Kind = kInterview;
+  talk.Style = kSingleTalk;
+  talk.Worker[0] = 2;
+  talk.Worker[1] = 1;
+  world.Segments().Append(talk);
+  Scene scene;
+  scene.Row = 2;
+  for (const auto& [purpose, threatens] : {std::pair(kVerbalAttack, true),
+                                           {kHypeMatch, true},
+                                           {kTalkTurn, false},
+                                           {kTalkNone, false}}) {
+    world.Segments()[1].Purpose = purpose;
+    EXPECT_EQ(Past(world, AdaBeatsBo(), scene).Has(kThreatened) != nullptr, threatens);
+  }
+  // A run-in by Bo on the first of a match that the other one won.
+  Segment beaten = AdaBeatsBo();
+  beaten.Worker[1] = beaten.Winner = 7;
+  beaten.Loser = 1;
+  beaten.Aftermath = after1::kRunInOnFirst;
+  beaten.Other1 = 2;
+  world.Segments()[1] = beaten;
+  ASSERT_TRUE(Past(world, AdaBeatsBo(), scene).Has(kWasAttacked));
+  EXPECT_EQ(Past(world, AdaBeatsBo(), scene).Has(kWasAttacked)->One, std::vector<int>{1});
+  world.Segments()[1].Aftermath = after1::kRunInOnSecond;
+  EXPECT_FALSE(Past(world, AdaBeatsBo(), scene).Has(kWasAttacked));
+  world.Segments()[1].Aftermath = after1::kNothing;
+  world.Segments()[1].Finish = kBotchedInterference;
+  EXPECT_FALSE(Past(world, AdaBeatsBo(), scene).Has(kWasAttacked)) << "nobody meant to hit them";
+}
+
+World Four() {
+  test::SmallWorld small;
+  small.Promotion("CWA");
+  for (const char* name : {"Ada Crane", "Bo Pike", "Cy Marsh", "Di Holt"}) small.Worker(name);
+  return small.Title("Crown").Game("CWA");
+}
+
+Segment Teams(const char* title) {
+  Segment segment = AdaBeatsBo(title);
+  segment.Style = kTag;
+  for (int place = 1; place <= 4; ++place) segment.Worker[std::size_t(place - 1)] = place;
+  segment.Loser = 3;
+  return segment;
+}
+
+TEST(Past, NamesThoseOfASideWhomItIsAbout) {
+  World world = Four();
+  Segment angle = EmptySegment();
+  angle.Kind = kAngle;
+  angle.Style = kParamedics;
+  angle.Worker[0] = 2;
+  angle.Worker[1] = 3;
+  world.Segments().Append(angle);
+  Scene scene;
+  scene.Row = 2;
+  const Past past(world, Teams("None"), scene);
+  ASSERT_TRUE(past.Has(kWasAttacked));
+  EXPECT_EQ(past.Has(kWasAttacked)->One, std::vector<int>{2});
+  EXPECT_EQ(past.Has(kWasAttacked)->Two, std::vector<int>{3});
+}
+
+TEST(Past, KnowsATitleOfTeamsAndOfThree) {
+  World world = Four();
+  Reign(world, 3, 300, 200);
+  world.Reigns()[1].Partner = 1;
+  world.Reigns()[1].End = kReignVacated;
+  Reign(world, 2, 21, 0, 3);
+  Segment three = AdaBeatsBo("Crown");
+  three.Style = kThreeWay;
+  three.Worker[2] = 4;
+  const Past past(world, three, {2});
+  EXPECT_FALSE(past.Has(kReignLong)) << "three weeks are no age, however busy";
+  ASSERT_TRUE(past.Has(kOnceChampion)) << "as the partner of somebody";
+  EXPECT_EQ(past.Has(kOnceChampion)->One, std::vector<int>{1});
+  EXPECT_FALSE(past.Has(kTitleAgain)) << "nobody lost a vacated Title";
+  for (int uid = 1; uid <= 4; ++uid) Tally(world, uid, 20, 7);
+  Held(world, 1, 400);
+  world.Reigns()[1].Partner = 0;
+  EXPECT_FALSE(Past(world, Teams("Crown"), {2}).Has(kTitleNever)) << "one of the two has had it";
+  world.Reigns()[1].Worker = 0;
+  EXPECT_TRUE(Past(world, Teams("Crown"), {2}).Has(kTitleNever));
+}
+
+TEST(Past, SeesNobodyAsAwayWhoWasOnACard) {
+  World world = Two();
+  Tally(world, 1, 9, 90);
+  EXPECT_TRUE(Past(world, AdaBeatsBo()).Has(kAwayLong));
+  KeptRow kept{};
+  kept.Booked = EmptySegment();
+  kept.Booked.Kind = kInterview;
+  kept.Booked.Style = kSingleTalk;
+  kept.Booked.Worker[0] = 1;
+  kept.On = Ago(world, 7);
+  world.KeptRows().Append(kept);
+  EXPECT_FALSE(Past(world, AdaBeatsBo()).Has(kAwayLong));
+}
+
+}  // namespace
+}  // namespace grapplemont
