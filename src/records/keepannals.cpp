@@ -1,6 +1,7 @@
 #include "records/keepannals.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #include "records/fields/fields.h"
@@ -45,6 +46,11 @@ const Worker* WorkerCalled(const World& world, std::string_view name) {
     return worker.Uid != 0 && worker.Name == name;
   });
   return found == world.Workers().end() ? nullptr : &*found;
+}
+
+/// What a spoiled record adds up to may be more than an event holds.
+int Held(long long count) {
+  return static_cast<int>(std::clamp<long long>(count, INT16_MIN, INT16_MAX));
 }
 
 AnnalSex SexOf(bool isMan) {
@@ -152,10 +158,9 @@ void KeepFeud(World& world, AnnalKind kind, const Feud& feud, bool secondWon) {
   }
   SetWho(world, event, one[0], one[1]);
   SetWhom(world, event, two[0], two[1]);
-  event.Number = won;
-  event.Against = lost;
-  if (kind != kAnnalFeud)
-    event.Days = static_cast<int>((world.Today() - Day(feud.Started)).count());
+  event.Number = Held(won);
+  event.Against = Held(lost);
+  if (kind != kAnnalFeud) event.Days = Held((world.Today() - Day(feud.Started)).count());
   Keep(world, event);
 }
 
