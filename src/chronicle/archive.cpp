@@ -171,11 +171,24 @@ std::string Archive::FullHouseName(int promotion) const {
 }
 
 std::vector<Subject> Archive::Subjects(About kind) const {
-  static constexpr void (Archive::*kAdd[])(std::vector<Subject>&)
-      const = {&Archive::AddWorkers, &Archive::AddTitles, &Archive::AddFeuds, &Archive::AddHouses,
-               &Archive::AddYears};
   std::vector<Subject> subjects;
-  (this->*kAdd[static_cast<int>(kind)])(subjects);
+  switch (kind) {
+    case About::Worker:
+      AddWorkers(subjects);
+      break;
+    case About::Title:
+      AddTitles(subjects);
+      break;
+    case About::Feud:
+      AddFeuds(subjects);
+      break;
+    case About::Promotion:
+      AddHouses(subjects);
+      break;
+    case About::Year:
+      AddYears(subjects);
+      break;
+  }
   for (Subject& subject : subjects) subject.Is = kind;
   if (kind != About::Year) std::ranges::stable_sort(subjects, std::greater{}, &Subject::Weight);
   return subjects;

@@ -21,8 +21,9 @@ constexpr std::size_t kGoneKept = 2000, kPairsKept = 2000, kMostFeats = 7000;
 constexpr int kYearsKept = 150;
 
 /// The higher, the better.
-int WorthOf(const Feat& feat) {
-  return feat.Kind == kFeatYoungest ? -feat.Number : int(feat.Number);
+std::int64_t WorthOf(const Feat& feat) {
+  const std::int64_t number = int(feat.Number);
+  return feat.Kind == kFeatYoungest ? -number : number;
 }
 
 bool IsTheSame(const Feat& one, const Feat& other) {
