@@ -18,7 +18,8 @@ std::vector<Life> LivesOf(const Ledger& ledger, int promotionUid) {
         {&Life::Rough, &Tenure::Rough},         {&Life::Reigns, &Tenure::Reigns},
         {&Life::Defences, &Tenure::Defences}};
     for (const auto& [sum, part] : sums) life.*sum += tenure.*part;
-    life.Days += tenure.Days;
+    // A damaged file may hold more days than a number does.
+    life.Days = static_cast<int>(std::min<long long>(0LL + life.Days + tenure.Days, kMostDollars));
     life.Ratings += tenure.Ratings;
     life.Best = std::max<int>(life.Best, tenure.Best);
     life.Wage = std::max<int>(life.Wage, tenure.Wage);

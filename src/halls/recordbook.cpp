@@ -87,7 +87,7 @@ int AllMatches(const Life& life) {
   return life.Matches();
 }
 int WinShare(const Life& life) {
-  return life.Matches() < kFewestMatches ? 0 : life.Won * 100 / life.Matches();
+  return life.Matches() < kFewestMatches ? 0 : static_cast<int>(life.Won * 100LL / life.Matches());
 }
 int MeanRating(const Life& life) {
   return life.Matches() < kFewestMatches ? 0 : static_cast<int>(life.Ratings / life.Matches());
