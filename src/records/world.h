@@ -262,12 +262,6 @@ class World {
   SessionWords committedSession_;
 };
 
-/// The names of the ten files that a new game copies and the file check looks for, in their fixed
-/// order.
-inline constexpr std::array<std::string_view, 10> kDataSet = {
-    "belt.dat",    "event.dat", "network.dat", "promos.dat", "sponsor.dat",
-    "stables.dat", "staff.dat", "teams.dat",   "tv.dat",     "wrestler.dat"};
-
 /// Reads the known files of a folder; others are left alone. A step that stands beside it counts
 /// (datastep.h). Throws DiskError, and WorldFault for what is too long or not a file (a folder,
 /// a link).

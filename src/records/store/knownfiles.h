@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <string_view>
 #include <tuple>
 
 #include "records/fields/annals.h"
@@ -47,6 +49,12 @@ using AllTables =
 #define GM_ELSEWHERE(T) extern template class Records<T>;
 GM_EVERY_RECORD(GM_ELSEWHERE)
 #undef GM_ELSEWHERE
+
+/// The names of the ten files that a new game copies and the file check looks for, in their fixed
+/// order.
+inline constexpr std::array<std::string_view, 10> kDataSet = {
+    "belt.dat",    "event.dat", "network.dat", "promos.dat", "sponsor.dat",
+    "stables.dat", "staff.dat", "teams.dat",   "tv.dat",     "wrestler.dat"};
 
 /// The files a folder may hold and how long each may be.
 const std::vector<KnownFile>& KnownFiles();
