@@ -35,6 +35,18 @@ void BM_Screen(benchmark::State& state, const char* screen) {
   state.SetLabel(bench::AgeText(static_cast<int>(state.range(0))));
 }
 
+/// A table of the records' screen, which is open already.
+void BM_Records(benchmark::State& state, const char* table) {
+  test::GameOnWorld play(bench::Played(static_cast<int>(state.range(0))));
+  play.Desk.Open(kMain);
+  play.Desk.Open("frmRecords");
+  for (auto _ : state) {
+    play.Desk.Pick("lsttables", "All-time ranking");
+    bench::Time(state, [&] { play.Desk.Pick("lsttables", table); });
+  }
+  state.SetLabel(bench::AgeText(static_cast<int>(state.range(0))));
+}
+
 /// The file, or all of them.
 void BM_ReadFileBaseline(benchmark::State& state, const char* name) {
   const World world = bench::Played(static_cast<int>(state.range(0)));
@@ -63,6 +75,7 @@ void YoungAndOld(benchmark::internal::Benchmark* figure) {
   figure->UseManualTime()->Iterations(50);
 }
 BENCHMARK_CAPTURE(BM_Screen, Records, "frmRecords")->Apply(YoungAndOld);
+BENCHMARK_CAPTURE(BM_Records, LongestReigns, "Longest reigns")->Apply(YoungAndOld);
 BENCHMARK_CAPTURE(BM_Screen, Hall, "frmHall")->Apply(YoungAndOld);
 BENCHMARK_CAPTURE(BM_Screen, Yearbook, "frmYearbook")->Apply(YoungAndOld);
 BENCHMARK_CAPTURE(BM_Screen, FamilyTree, "frmFamilyTree")->Apply(YoungAndOld);

@@ -3,8 +3,15 @@
 
 find_path(XXHASH_HEADERS xxhash.h)
 find_library(XXHASH_LIBRARY xxhash)
-if(NOT XXHASH_HEADERS OR NOT XXHASH_LIBRARY)
+if(NOT XXHASH_HEADERS)
   message(FATAL_ERROR "xxHash is missing, which all checksums are made with. Install libxxhash-dev.")
+endif()
+# Its header alone does, where there is no library of it.
+set(packing ${PROJECT_SOURCE_DIR}/src/records/store/packing.cpp)
+if(NOT XXHASH_LIBRARY)
+  set(XXHASH_LIBRARY "")
+  set_source_files_properties(${packing} PROPERTIES COMPILE_DEFINITIONS XXH_INLINE_ALL
+                              SKIP_UNITY_BUILD_INCLUSION ON)
 endif()
 # It can choose the fastest code for the machine at hand where it was built so.
 include(CheckCXXSymbolExists)
@@ -12,8 +19,12 @@ set(CMAKE_REQUIRED_LIBRARIES ${XXHASH_LIBRARY})
 check_cxx_symbol_exists(XXH3_64bits_dispatch xxh_x86dispatch.h FASTEST_HASH)
 unset(CMAKE_REQUIRED_LIBRARIES)
 if(FASTEST_HASH)
-  set_source_files_properties(${PROJECT_SOURCE_DIR}/src/records/store/packing.cpp PROPERTIES
-                              COMPILE_DEFINITIONS GRAPPLEMONT_FASTEST_HASH)
+  set_source_files_properties(${packing} PROPERTIES COMPILE_DEFINITIONS GRAPPLEMONT_FASTEST_HASH)
+endif()
+
+find_package(ZLIB)
+if(NOT ZLIB_FOUND)
+  message(FATAL_ERROR "zlib is missing, which exported games are made small with. Install zlib1g-dev.")
 endif()
 
 find_path(JSON_HEADERS nlohmann/json.hpp)

@@ -13,6 +13,13 @@ target_compile_options(house_rules INTERFACE -Wall -Wextra -Wpedantic -Wconversi
 set(gcc_only -Wno-restrict -Wno-maybe-uninitialized -Wno-stringop-overflow)
 target_compile_options(house_rules INTERFACE "$<$<CXX_COMPILER_ID:GNU>:${gcc_only}>")
 
+if(WIN32)
+  target_compile_definitions(house_rules INTERFACE UNICODE NOMINMAX WIN32_LEAN_AND_MEAN
+                                                   _POSIX_C_SOURCE=200809L)
+  # The standard library's headers are the cross compiler's own; these are not with them.
+  target_include_directories(house_rules SYSTEM INTERFACE ${XXHASH_HEADERS} ${JSON_HEADERS})
+endif()
+
 # What nearly every file reads is read by the compiler once: one header for rules, one that adds the
 # screen model, one that adds GoogleTest. `precompile(TARGET HEADER)` makes such a target, and
 # `precompiled(TARGET FROM)` lets another use it.
@@ -68,11 +75,17 @@ function(headers_of_folder name folder)
   target_include_directories(${name} INTERFACE ${CMAKE_BINARY_DIR}/rooms/${name})
 endfunction()
 
+# One file each speaks to the machine.
+set(other_system win)
+if(WIN32)
+  set(other_system unix)
+endif()
+
 # library_of_folder(NAME FOLDER PCH [LINK...]): one library for src/FOLDER, without its sub-folders.
 function(library_of_folder name folder pch)
   headers_of_folder(${name}_headers ${folder})
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp)
-  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$|/${other_system}disk\\.cpp$")
   add_library(${name} STATIC ${sources})
   target_link_libraries(${name} PRIVATE house_rules PUBLIC ${name}_headers ${ARGN})
   precompiled(${name} ${pch})

@@ -1,6 +1,7 @@
 #!/bin/sh
 # Renders the drawings beside this script into the pictures one folder up: *.svg becomes *.jpg
-# (1600x1000, under 300 KB) and icon.svg becomes icon.png (256x256).
+# (1600x1000, under 300 KB) and icon.svg becomes icon.png (256x256), and the sizes that a desktop asks
+# for in packaging/icons.
 #
 #   gfx/source/render.sh            all of them
 #   gfx/source/render.sh NAME...    only these, by name without an ending
@@ -24,7 +25,10 @@ needTool() {
 }
 
 renderIcon() {
-  rsvg-convert --width 256 --height 256 --output "$target/icon.png" "$source/icon.svg"
+  for size in 16 22 24 32 48 64 128 256 512; do
+    rsvg-convert --width "$size" --height "$size" --output "$icons/$size.png" "$source/icon.svg"
+  done
+  cp "$icons/256.png" "$target/icon.png"
 }
 
 # A faint grey grain hides the steps that eight bits leave in the long dark gradients. Its seed and
@@ -56,6 +60,7 @@ needTool fc-match fontconfig
 
 source=$(cd "$(dirname "$0")" && pwd)
 target=$(dirname "$source")
+icons=$(dirname "$target")/packaging/icons
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 export MAGICK_THREAD_LIMIT=1

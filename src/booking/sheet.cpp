@@ -5,6 +5,7 @@
 #include <set>
 
 #include "booking/wizard/casting.h"
+#include "booking/wizard/interviews.h"
 #include "booking/wizard/matchrules.h"
 #include "booking/wizard/wizard.h"
 #include "records/fields/fields.h"
@@ -97,12 +98,9 @@ std::string WhyNotInThisHouse(const World& world) {
   std::set<int> talked;
   for (const Segment& segment : world.Segments()) {
     if (segment.Kind != kInterview) continue;
-    const InterviewStyleRow* style = FindInterviewStyle(segment.Style);
-    for (int place = 1; style && place <= style->Speakers; ++place) {
-      const int uid = UidAt(segment, place);
+    for (const int uid : SpeakersOf(segment))
       if (uid != 0 && !talked.insert(uid).second)
         return "A rule of the house: " + WorkerName(world, uid) + " talks more than once.";
-    }
   }
   return {};
 }

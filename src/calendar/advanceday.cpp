@@ -63,9 +63,10 @@ constexpr Step kFirstOfMonth[] = {
 
 // The year is judged before its end is noted as what the next one is compared with.
 constexpr Step kClosing[] = {
-    STEP(IncidentRoll), STEP(SweepDeadPromotions), STEP(SweepDeadShows),
-    STEP(UpdateReigns), STEP(OwnersWishes),        STEP(GiveAwards),
-    STEP(NoteMonths),   STEP(BoardWarning),        STEP(FanMail),
+    STEP(IncidentRoll),   STEP(SweepDeadPromotions), STEP(SweepDeadShows),
+    STEP(TellOfTheMonth), STEP(UpdateReigns),        STEP(OwnersWishes),
+    STEP(GiveAwards),     STEP(NoteMonths),          STEP(BoardWarning),
+    STEP(FanMail),
 };
 
 #undef STEP

@@ -78,10 +78,16 @@ void StatusCountdown(World& world);
 void AgeAndRetire(World& world);
 void PayWagesAndContracts(World& world);
 void LoanRepayments(World& world);
+/// The house shows of rivals, and what they do to their standing: where one that is at home in its
+/// class would fall, it tours where it is loved; where it would rise to what it is not ready for,
+/// only where it has always been. Draws of World::Life, and those of a class that is crossed.
+void RivalHouseShows(World& world);
 void MerchandiseIncome(World& world);
 void MonthlyCosts(World& world);
 void MonthlyReview(World& world);
 void CloseMonthBooks(World& world);
+/// On the first of a month, once its steps are over: a mail of what the books closed with.
+void TellOfTheMonth(World& world);
 /// What the next first of a month takes from the player as things stand, in dollars: wages, running
 /// costs and the repayment, less what merchandise brings then.
 long long DueOnTheFirst(const World& world);

@@ -32,14 +32,15 @@ std::string MovedText(const Promotion& player, long long moved) {
   return PlusIf(told) + Dollars(told) + (tellsLast ? " last month" : " this month");
 }
 
-/// What counts is what is left when the first of the month has been paid.
+/// It wants care where what is left when the first of the month has been paid is below nothing, and
+/// goes well where the month has earned that: shows to come may earn it yet.
 DeskTile MoneyTile(const World& world, const Promotion& player) {
   const long long before = player.MoneyBefore[0], due = DueOnTheFirst(world);
   const long long moved = before == kNoEnd ? Balance(player.ThisMonth) : player.Money - before;
   return {"Money " + Dollars(player.Money),
           MovedText(player, moved) + ", " + Dollars(due < 0 ? -due : due) +
               (due < 0 ? " comes in" : " due") + " on the 1st",
-          SignOf(moved - due)};
+          player.Money < due ? -1 : std::max(SignOf(moved - due), 0)};
 }
 
 DeskTile ImageTile(const Promotion& player) {

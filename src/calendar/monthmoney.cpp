@@ -5,6 +5,7 @@
 #include "business/past.h"
 #include "calendar/advanceday.h"
 #include "calendar/board.h"
+#include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "records/notes.h"
@@ -120,9 +121,9 @@ long long DueOnTheFirst(const World& world) {
   return player.Merchandising > 0 ? due - sales : due;
 }
 
-namespace {
-
-void TellMonth(World& world, const MonthBooks& books) {
+void TellOfTheMonth(World& world) {
+  if (!IsFirstOfMonth(world.Today())) return;
+  const MonthBooks& books = world.Player().LastMonth;
   const long long in = TotalIn(books), out = TotalOut(books), left = in - out;
   if (in == 0 && out == 0) return;
   AddNews(world, kFinance,
@@ -131,10 +132,7 @@ void TellMonth(World& world, const MonthBooks& books) {
               Dollars(left < 0 ? -left : left) + ".");
 }
 
-}  // namespace
-
 void CloseMonthBooks(World& world) {
-  TellMonth(world, world.Player().ThisMonth);
   for (Promotion& promotion : world.Promotions()) {
     promotion.LastMonth = promotion.ThisMonth;
     promotion.ThisMonth = {};

@@ -3,6 +3,7 @@
 #include <span>
 
 #include "calendar/advanceday.h"
+#include "calendar/birthdays.h"
 #include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -91,14 +92,13 @@ void GrowOlder(World& world, Worker& worker) {
   worker.Age += 1;
   if (world.RandomDraw(5) == kUnchanged) return;
   for (Percent Worker::*skill : {&Worker::Brawl, &Worker::Technical, &Worker::Speed}) {
-    const int gain = world.RandomDraw(5);
-    worker.*skill = worker.*skill + gain - world.RandomDraw(5);
+    const int gain = world.RandomDraw(kBirthdayDraw);
+    worker.*skill = worker.*skill + gain - world.RandomDraw(kBirthdayDraw);
   }
 }
 
 /// Whoever goes on may do so outside the ring.
 void LeaveTheRing(World& world, Worker& worker) {
-  constexpr int kMiddleAged = 41, kAged = 50;
   constexpr int kHasEnough = 5;  // of a draw of 25
   if (worker.Position == kNonWrestler || worker.Age < kMiddleAged) return;
   if (worker.Age < kAged && world.RandomDraw(25) != kHasEnough) return;

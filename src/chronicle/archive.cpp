@@ -62,7 +62,12 @@ int Archive::PersonOf(int uid, std::string_view name, Day on) const {
 }
 
 void Archive::SortAnnals() {
+  std::map<int, std::string> owners;
   for (const Annal& event : world_.Annals()) {
+    // Who owns it already comes into no new possession.
+    if (event.Kind == kAnnalOwner &&
+        std::exchange(owners[event.Promotion], event.Name.Str()) == event.Name.Str())
+      continue;
     byYear_[YearOf(event.On)].push_back(&event);
     firstYear_ = std::min(firstYear_, YearOf(event.On));
     if (event.Promotion != 0) {

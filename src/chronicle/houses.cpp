@@ -51,14 +51,33 @@ class HouseStory {
         {Figure::Kind::Crest, uid_, house->Initials.Str(), house->Size});
   }
 
-  /// In the order of days; awards stand at the end of their years.
+  /// Changes of class, and of owners, by year.
+  using Churns = std::map<std::pair<int, Churn>, Archive::Events>;
+  Churns ChurnsByYear() const {
+    Churns churns;
+    for (const Annal* event : archive_.EventsOfHouse(uid_))
+      if (const Churn churn = ChurnOf(*event); churn != Churn::None)
+        churns[{YearOf(event->On), churn}].push_back(event);
+    return churns;
+  }
+
+  /// In the order of days; awards stand at the end of their years, restless years at their first
+  /// event.
   void Rise() {
     std::multimap<Day, std::function<void()>> dates;
     bool first = !world_.FindPromotion(uid_);
-    for (const Annal* event : archive_.EventsOfHouse(uid_))
-      dates.emplace(event->On, [this, event, &first] {
-        if (TellOfHouse(scribe_, archive_, *event, first)) first = false;
-      });
+    const Churns churns = ChurnsByYear();
+    for (const Annal* event : archive_.EventsOfHouse(uid_)) {
+      const auto churn = churns.find({YearOf(event->On), ChurnOf(*event)});
+      if (churn == churns.end() || churn->second.size() <= kChurnsTold)
+        dates.emplace(event->On, [this, event, &first] {
+          if (TellOfHouse(scribe_, archive_, *event, first)) first = false;
+        });
+      else if (churn->second.front() == event)
+        dates.emplace(event->On, [this, churn] {
+          TellChurn(scribe_, archive_, archive_.HouseName(uid_), churn->second);
+        });
+    }
     for (const YearAward& award : world_.Awards())
       if (award.Promotion == uid_ &&
           (award.Kind == kPromotionOfTheYear || award.Kind == kShowOfTheYear))

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "chronicle/scribe.h"
 #include "records/fields/chronicle.h"
 #include "records/fields/fields.h"
@@ -11,8 +13,9 @@ namespace grapplemont {
 namespace {
 
 constexpr int kAMonth = 31;
+constexpr int kWrittenOut = 12;
 
-/// A name in a text: at most as many as can be read.
+/// An event of a promotion, and how it is told.
 struct HouseEvent {
   AnnalKind Of;
   Tells As;
@@ -22,7 +25,21 @@ constexpr HouseEvent kHouseEvents[] = {
     {kAnnalBought, Tells::HouseBought},   {kAnnalRisen, Tells::HouseRisen},
     {kAnnalFallen, Tells::HouseFallen},   {kAnnalOwner, Tells::HouseOwner}};
 
+/// "four to nothing", "11 to 14": both in letters or both in figures.
+std::string ScoreText(int won, int lost) {
+  const bool inFigures = std::max(won, lost) > kWrittenOut;
+  const auto text = [&](int count) {
+    return count == 0 ? "nothing" : inFigures ? std::to_string(count) : CountText(count);
+  };
+  return text(won) + " to " + text(lost);
+}
+
 }  // namespace
+
+Churn ChurnOf(const Annal& event) {
+  if (event.Kind == kAnnalRisen || event.Kind == kAnnalFallen) return Churn::Class;
+  return event.Kind == kAnnalOwner ? Churn::Owner : Churn::None;
+}
 
 void TellReign(Scribe& scribe, const Archive& archive, const HeldCrown& held) {
   const World& world = archive.Of();
@@ -70,19 +87,46 @@ bool TellOfHouse(Scribe& scribe, const Archive& archive, const Annal& event, boo
   return false;
 }
 
+void TellChurn(Scribe& scribe, const Archive& archive, std::string house,
+               const Archive::Events& events) {
+  const bool isOwners = ChurnOf(*events.front()) == Churn::Owner;
+  Telling telling{.Of = isOwners ? Tells::HouseHands : Tells::HouseUneasy};
+  telling.House = std::move(house);
+  telling.Year = YearOf(events.front()->On);
+  std::vector<std::string> names;
+  int rises = 0;
+  for (const Annal* event : events) {
+    telling.By.push_back(ProofBy(archive.Of(), *event));
+    rises += event->Kind == kAnnalRisen;
+    const std::string name = event->Name.Str();
+    const bool isBack = std::ranges::find(names, name) != names.end();
+    names.push_back(isBack ? name + " again" : name);
+  }
+  const auto count = static_cast<int>(events.size());
+  const int falls = count - rises;
+  telling.Count = isOwners ? CountText(count) : TimesText(count);
+  telling.Tally = isOwners     ? AndJoined(names)
+                  : rises == 0 ? "always down"
+                  : falls == 0 ? "always up"
+                               : TimesText(rises) + " up, " + TimesText(falls) + " down";
+  telling.Feud = isOwners ? std::string() : SmallSize(events.back()->Number);
+  scribe.Tell(telling);
+}
+
 bool TellFeudsEnd(Scribe& scribe, const Archive& archive, const Annal& event) {
   if (event.Kind != kAnnalFeudOver && event.Kind != kAnnalFeudCold) return false;
   const World& world = archive.Of();
   const bool won = event.Kind == kAnnalFeudOver;
-  Telling telling{.Of = won ? Tells::FeudWon : Tells::FeudCold,
+  const bool isBehind = event.Number < event.Against;
+  Telling telling{.Of = !won       ? Tells::FeudCold
+                        : isBehind ? Tells::FeudLast
+                                   : Tells::FeudWon,
                   .F = FirstOf(world, event),
                   .S = SecondOf(world, event),
                   .On = event.On,
                   .By = {ProofBy(world, event)}};
   telling.Count = DaysText(event.Days);
-  const int lost = event.Against;
-  telling.Tally =
-      CountText(event.Number) + " to " + (lost == 0 ? std::string("nothing") : CountText(lost));
+  telling.Tally = ScoreText(event.Number, event.Against);
   scribe.Tell(telling);
   return true;
 }
@@ -94,7 +138,8 @@ void TellAward(Scribe& scribe, const Archive& archive, const YearAward& award) {
   telling.Tally = std::string(AwardName(award.Kind));
   telling.Feud = award.Winner.Str();
   const bool toSomebody = award.Kind == kWrestlerOfTheYear || award.Kind == kWomanOfTheYear ||
-                          award.Kind == kTeamOfTheYear || award.Kind == kRookieOfTheYear;
+                          award.Kind == kTeamOfTheYear || award.Kind == kRookieOfTheYear ||
+                          award.Kind == kMostImproved;
   if (toSomebody) {
     telling.Of = Tells::AwardWon;
     const bool several = award.Kind == kTeamOfTheYear;

@@ -1,9 +1,12 @@
 #include <algorithm>
+#include <functional>
+#include <map>
 
 #include "chronicle/scribe.h"
 #include "records/fields/fields.h"
 #include "report/pasttold.h"
 #include "storylines/feuds.h"
+#include "storylines/lineages.h"
 
 // The chapter of a feud.
 
@@ -35,7 +38,12 @@ class FeudStory {
                     .On = Day(first.On) - std::chrono::days(feud_.Begun ? 0 : int(first.Days)),
                     .By = {ProofBy(world_, first)}};
     scribe_.Tell(telling);
-    Matches();
+    Telling held = telling;
+    held.Of = Tells::FeudHeld;
+    held.On.reset();
+    held.House = archive_.HouseName(first.Promotion);
+    if (!held.House.empty()) scribe_.Tell(held);
+    Course();
     if (feud_.Ended) {
       TellFeudsEnd(scribe_, archive_, *feud_.Ended);
     } else if (const std::optional<Proof> lasts = Lasting()) {
@@ -46,26 +54,62 @@ class FeudStory {
   }
 
  private:
-  void Matches() {
+  using Dates = std::multimap<Day, std::function<void()>>;
+
+  /// The matches between the two, and the Titles that went from one to the other.
+  void Course() {
+    Dates dates;
+    Matches(dates);
+    Crowns(dates, feud_.First().Who, feud_.First().Whom);
+    Crowns(dates, feud_.First().Whom, feud_.First().Who);
+    for (const auto& [on, tell] : dates) {
+      scribe_.BreakBefore(on);
+      tell();
+    }
+  }
+
+  bool IsWithin(Day on) const {
+    const Annal& first = feud_.First();
+    const Day begun = Day(first.On) - std::chrono::days(feud_.Begun ? 0 : int(first.Days));
+    return on >= begun && (!feud_.Ended || on <= Day(feud_.Ended->On));
+  }
+
+  void Crowns(Dates& dates, const std::array<Word, 2>& to, const std::array<Word, 2>& from) {
+    for (const HeldCrown& held : to[0] == 0 ? std::vector<HeldCrown>() : archive_.CrownsOf(to[0])) {
+      const TitleReign* before = held.Before();
+      // A pair's Titles belong to a pair's feud.
+      const bool isOfTheirs = (held.Reign().Partner != 0) == (to[1] != 0);
+      const bool isTaken = before && before->End == kReignLost && from[0] != 0 && isOfTheirs &&
+                           (before->Worker == from[0] || before->Partner == from[0]);
+      if (isTaken && IsWithin(held.Reign().From))
+        dates.emplace(held.Reign().From, [this, held] { TellReign(scribe_, archive_, held); });
+    }
+  }
+
+  void Matches(Dates& dates) {
     if (!feud_.Begun) return;
     const Annal& begun = *feud_.Begun;
     if (begun.Promotion != world_.PlayerUid()) return;
     for (const HeldMatch& bout : world_.Bouts()) {
-      const bool within =
-          Day(bout.On) >= Day(begun.On) && (!feud_.Ended || Day(bout.On) <= Day(feud_.Ended->On));
-      if (!within || bout.Winners == 0 || !Has(bout, begun.Who) || !Has(bout, begun.Whom)) continue;
+      if (!IsWithin(bout.On) || bout.Winners == 0 || !Has(bout, begun.Who) ||
+          !Has(bout, begun.Whom))
+        continue;
       const bool first = IsWonBy(bout, begun.Who);
-      if (!first && !IsWonBy(bout, begun.Whom)) continue;
-      Telling telling{.Of = Tells::FeudMatch,
-                      .F = FirstOf(world_, begun),
-                      .S = SecondOf(world_, begun),
-                      .On = bout.On,
-                      .By = {ProofBy(world_, bout)}};
-      if (!first) std::swap(telling.F, telling.S);
-      telling.Count = PercentText(bout.Rating);
-      scribe_.BreakBefore(bout.On);
-      scribe_.Tell(telling);
+      if (first || IsWonBy(bout, begun.Whom))
+        dates.emplace(bout.On, [this, &bout, first] { TellMatch(bout, first); });
     }
+  }
+
+  void TellMatch(const HeldMatch& bout, bool first) {
+    const Annal& begun = *feud_.Begun;
+    Telling telling{.Of = Tells::FeudMatch,
+                    .F = FirstOf(world_, begun),
+                    .S = SecondOf(world_, begun),
+                    .On = bout.On,
+                    .By = {ProofBy(world_, bout)}};
+    if (!first) std::swap(telling.F, telling.S);
+    telling.Count = PercentText(bout.Rating);
+    scribe_.Tell(telling);
   }
 
   /// The record of a feud that goes on.

@@ -80,8 +80,10 @@ std::string Scribe::WhenText(const Telling& telling) {
 }
 
 std::string Scribe::Again(const Telling& telling, std::string line) {
-  const bool again = IsOneOf(telling.F) && telling.F.Name == lastF_;
+  const bool isClear = telling.S.Name.empty() || telling.S.Name != lastS_;
+  const bool again = IsOneOf(telling.F) && telling.F.Name == lastF_ && isClear;
   lastF_ = telling.F.Name;
+  lastS_ = telling.S.Name;
   saidHe_ = again && !saidHe_ && line.starts_with("{F} ");
   if (saidHe_) line.replace(0, 3, "{F:he}");
   return line;

@@ -45,7 +45,7 @@ class Scribe {
   std::string_view Choose(Tells of);
   void Cast(char part, const Somebody& who);
   std::string WhenText(const Telling& telling);
-  /// The same one again may be a he or a she.
+  /// The same one again may be a he or a she, unless the same other one was there as well.
   std::string Again(const Telling& telling, std::string line);
 
   const Archive& archive_;
@@ -53,7 +53,7 @@ class Scribe {
   grapplemont::Cast cast_;
   std::map<int, std::pair<std::vector<int>, int>> orders_;  // of lines by band, and how many said
   std::optional<Day> last_;
-  std::string lastF_;
+  std::string lastF_, lastS_;
   bool saidHe_ = false;
   Chapter chapter_;
 };
@@ -81,8 +81,16 @@ std::string SmallSize(int size);
 
 /// Tells of a reign: how it began and ended.
 void TellReign(Scribe& scribe, const Archive& archive, const HeldCrown& held);
+/// What a promotion may go through again and again in a year.
+enum class Churn { None, Class, Owner };
+Churn ChurnOf(const Annal& event);
+/// Changes of class or of owner in a year that are told one by one.
+inline constexpr std::size_t kChurnsTold = 2;
 /// The rise, the fall, the opening and the end of promotions; false for another event.
 bool TellOfHouse(Scribe& scribe, const Archive& archive, const Annal& event, bool full = false);
+/// Many changes of class, or of owners, of one promotion in a year, in one sentence. Requires some.
+void TellChurn(Scribe& scribe, const Archive& archive, std::string house,
+               const Archive::Events& events);
 /// What it came to; false for another event than the end of a feud.
 bool TellFeudsEnd(Scribe& scribe, const Archive& archive, const Annal& event);
 void TellAward(Scribe& scribe, const Archive& archive, const YearAward& award);

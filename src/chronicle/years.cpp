@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <map>
 
 #include "business/past.h"
 #include "chronicle/scribe.h"
@@ -12,7 +13,7 @@ namespace grapplemont {
 
 namespace {
 
-constexpr std::size_t kFeudsTold = 6, kNamesTold = 12;
+constexpr std::size_t kFeudsTold = 6, kNamesTold = 12, kOwnersTold = 4;
 
 class YearStory {
  public:
@@ -23,10 +24,7 @@ class YearStory {
     Begin();
     Awards();
     scribe_.Break();
-    for (const Annal* event : archive_.EventsOfYear(year_)) {
-      scribe_.BreakBefore(event->On);
-      TellOfHouse(scribe_, archive_, *event, true);
-    }
+    Houses();
     scribe_.Break();
     Crowns();
     Feuds();
@@ -53,6 +51,52 @@ class YearStory {
   void Awards() {
     for (const YearAward& award : world_.Awards())
       if (YearOf(award.On) == year_) TellAward(scribe_, archive_, award);
+  }
+
+  /// What opened, closed, rose and fell; whoever went to and fro is told of in a sum.
+  void Houses() {
+    std::map<int, Archive::Events> classes;
+    Archive::Events owners;
+    for (const Annal* event : archive_.EventsOfYear(year_)) {
+      const Churn churn = ChurnOf(*event);
+      if (churn == Churn::Class) classes[event->Promotion].push_back(event);
+      if (churn == Churn::Owner) owners.push_back(event);
+    }
+    for (const Annal* event : archive_.EventsOfYear(year_)) {
+      const Churn churn = ChurnOf(*event);
+      const bool isOwn = event->Promotion == world_.PlayerUid();
+      if (churn == Churn::Class && classes[event->Promotion].size() > kChurnsTold) continue;
+      if (churn == Churn::Owner && owners.size() > kOwnersTold && !isOwn) continue;
+      scribe_.BreakBefore(event->On);
+      TellOfHouse(scribe_, archive_, *event, true);
+    }
+    Uneasy(classes);
+    if (owners.size() <= kOwnersTold) return;
+    Telling telling = Of(Tells::YearHands);
+    telling.Count = CountText(static_cast<int>(owners.size()));
+    for (const Annal* event : owners) telling.By.push_back(ProofBy(world_, *event));
+    scribe_.Tell(telling);
+  }
+
+  /// The changes of class of all who had many.
+  void Uneasy(const std::map<int, Archive::Events>& classes) {
+    Telling telling = Of(Tells::YearUneasy);
+    std::size_t most = kChurnsTold;
+    for (const auto& [house, events] : classes) {
+      if (events.size() <= kChurnsTold) continue;
+      for (const Annal* event : events) telling.By.push_back(ProofBy(world_, *event));
+      if (events.size() <= most) continue;
+      most = events.size();
+      telling.House = archive_.FullHouseName(house);
+    }
+    if (telling.By.empty()) return;
+    const bool isAlone = most == telling.By.size();
+    for (const auto& [house, events] : classes)
+      if (isAlone && events.size() == most)
+        return TellChurn(scribe_, archive_, telling.House, events);
+    telling.Count = TimesText(static_cast<int>(telling.By.size()));
+    telling.Tally = TimesText(static_cast<int>(most));
+    scribe_.Tell(telling);
   }
 
   void Crowns() {

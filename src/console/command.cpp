@@ -55,7 +55,7 @@ std::optional<std::string> Letters(const Line& line, std::string& why) {
 namespace {
 
 using A = Arguments;
-constexpr std::array<VerbRow, 20> kVerbs = {{
+constexpr std::array<VerbRow, 22> kVerbs = {{
     {Verb::Show, A::MaybeName, "show", "show [NAME]", "the top screen, or all of one control"},
     {Verb::Click, A::Caption, "click", "click NAME",
      "press a button, a picture or a box, by its name or by what it says"},
@@ -77,6 +77,8 @@ constexpr std::array<VerbRow, 20> kVerbs = {{
      "what the screen is for, its keys and words; with TERM the glossary"},
     {Verb::Share, A::Text, "share", "share markdown|html|bbcode",
      "what the top screen tells as a text for elsewhere"},
+    {Verb::Undo, A::None, "undo", "undo", "take back the last click of today"},
+    {Verb::Redo, A::None, "redo", "redo", "do again what was taken back last"},
     {Verb::Ok, A::None, "ok", "ok", "to a message: go on"},
     {Verb::Yes, A::None, "yes", "yes", "to a question"},
     {Verb::No, A::None, "no", "no", "to a question"},

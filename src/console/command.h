@@ -38,6 +38,8 @@ enum class Verb {
   Visit,
   Explain,
   Share,
+  Undo,
+  Redo,
   Ok,
   Yes,
   No,

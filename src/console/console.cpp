@@ -212,14 +212,22 @@ std::string Console::Visit(const std::string& number) {
   const auto place = ui::AsNumber(number);
   if (!place || *place < 1 || *place > std::ssize(found_))
     return "Nothing was found under \"" + number + "\"; \"find TEXT\" looks.";
-  const ui::Handler open = found_[static_cast<std::size_t>(*place - 1)].Open;
-  Event(open);
+  const ui::Finding found = found_[static_cast<std::size_t>(*place - 1)];
+  ui::Desk::Visit(found);
   return {};
 }
 
 std::string Console::Explain(const std::string& term) {
   const bool told = term.empty() ? OpenHelp() : OpenGlossary(term);
   return told ? "" : "There is no help here.";
+}
+
+std::string Console::TakeBack(const ui::Desk::TakingBack& back, const char* told,
+                              const char* none) {
+  const std::string what = Take(back);
+  if (what.empty()) return none;
+  answer_.Help = ToUtf8(told + what) + "\n";
+  return {};
 }
 
 void Console::Perform(const Command& command) {
@@ -245,6 +253,10 @@ void Console::Perform(const Command& command) {
       return Refuse(Visit(command.Text));
     case Verb::Explain:
       return Refuse(Explain(command.Text));
+    case Verb::Undo:
+      return Refuse(TakeBack(Undo, "Taken back: ", "Nothing was done today that can be undone."));
+    case Verb::Redo:
+      return Refuse(TakeBack(Redo, "Done again: ", "Nothing was undone."));
     default:
       return Refuse("No box is open.");
   }
@@ -263,18 +275,23 @@ std::optional<Command> Console::AnswerTo(Box box) {
 
 void Console::Say(const std::string& title, const std::string& text) {
   AnswerTo({Box::Kind::Ok, title, text});
+  Note({"ok"});
 }
 
 bool Console::Ask(const std::string& title, const std::string& text, ui::Default answer) {
   const auto command =
       AnswerTo({Box::Kind::YesNo, title, text, answer == ui::Default::Yes ? "yes" : "no"});
-  return command && command->Is == Verb::Yes;
+  const bool yes = command && command->Is == Verb::Yes;
+  Note({yes ? "yes" : "no"});
+  return yes;
 }
 
 std::string Console::Prompt(const std::string& title, const std::string& text,
                             const std::string& offered) {
   const auto command = AnswerTo({Box::Kind::Input, title, text, offered});
-  return command && command->Is == Verb::Enter ? command->Text : std::string();
+  std::string typed = command && command->Is == Verb::Enter ? command->Text : std::string();
+  Note({typed.empty() ? "cancel" : "enter " + typed});
+  return typed;
 }
 
 }  // namespace grapplemont::console

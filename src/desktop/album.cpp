@@ -24,6 +24,8 @@ constexpr std::string_view kFills = "cmdfill";
 /// What is taken rather than left, as a show cannot be held without a card.
 constexpr std::string_view kProposes = "frmFill";
 constexpr std::string_view kLeavesTheGame = "cmdquit";
+/// Its ways lead to another day, on which the walk would begin anew.
+constexpr std::string_view kLeavesTheDay = "frmMornings";
 /// A new game needs a name.
 constexpr std::string_view kAsksForAName = "txtname", kName = "Pat Lee";
 
@@ -42,6 +44,7 @@ constexpr int kBoxesEvery = 5;   // milliseconds
 
 /// The controls of a screen that lead on, in the order in which they are tried.
 std::vector<std::string> WaysOn(ui::Screen& screen) {
+  if (screen.Name() == kLeavesTheDay) return {};
   const ui::Button* const back = screen.Layout().Cancel;
   std::vector<std::string> ways, last;
   for (const ui::Control* control : screen.Controls()) {

@@ -3,11 +3,11 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
-#include <cmath>
 
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
 #include "desktop/views.h"
+#include "desktop/wordswidth.h"
 #include "ui/acts.h"
 
 namespace grapplemont::desktop {
@@ -36,10 +36,6 @@ void DrawEnterSign(QPainter& painter, const QRectF& where, const QColor& colour)
 }
 
 /// In whole pixels, so that words are not cut in the room that they have asked for.
-int WordsWidth(const QFont& font, const QString& words) {
-  return static_cast<int>(std::ceil(QFontMetricsF(font).horizontalAdvance(words)));
-}
-
 QFont BadgeFont() {
   return TextFont(11, QFont::DemiBold);
 }
@@ -64,7 +60,7 @@ void BareButton::keyPressEvent(QKeyEvent* event) {
 
 int BareButton::BadgeWidth() const {
   if (badge_.isEmpty()) return 0;
-  return std::max(Px(20), QFontMetrics(BadgeFont()).horizontalAdvance(badge_) + Px(12));
+  return std::max(Px(20), WordsWidth(BadgeFont(), badge_) + Px(12));
 }
 
 void BareButton::DrawBadge(QPainter& painter, double left) const {
@@ -120,9 +116,8 @@ void PushButton::paintEvent(QPaintEvent*) {
   const auto [fill, edge, ink] = PaintsNow();
   DrawBox(painter, rect(), fill, edge, Px(6));
 
-  const QFontMetrics metrics(CaptionFont());
   const int room = width() - 2 * Px(std::min(8, Side())) - TailWidth(enter_);
-  const QString caption = metrics.elidedText(text(), Qt::ElideRight, room);
+  const QString caption = WordsWithin(CaptionFont(), text(), room);
   const int words = WordsWidth(CaptionFont(), caption);
   double x = (width() - words - TailWidth(enter_)) / 2.0;
   painter.setFont(CaptionFont());

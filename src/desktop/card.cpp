@@ -144,6 +144,9 @@ void Veil::PlaceCard() {
       size() - 2 * QSize(MarginIn(width(), kRoomy.width()), MarginIn(height(), kRoomy.height()));
   QSize wanted = card_->sizeHint();
   if (wanted_.isValid()) wanted = wanted.expandedTo({Px(wanted_.width()), Px(wanted_.height())});
+  // What is too high scrolls, and its bar takes nothing from it.
+  else if (wanted.height() > most.height())
+    wanted.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   wanted = wanted.boundedTo(most);
   if (!wanted_.isValid() && card_->layout() && card_->layout()->hasHeightForWidth())
     wanted.setHeight(std::min(most.height(), card_->layout()->totalHeightForWidth(wanted.width())));

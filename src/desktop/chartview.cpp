@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
-#include <limits>
-#include <span>
 
+#include "desktop/chartscale.h"
 #include "desktop/dates.h"
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
@@ -16,20 +15,8 @@ namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kSteps = 4;        // about how many lines go across the chart
 constexpr int kFewPlaces = 24;   // so few are marked one by one
 constexpr int kLeastPlaces = 3;  // fewer make no line that says anything
-constexpr int kInset = 12;       // between the axis and the first of places that lie by date
-/// Part of the largest value that an axis spans at least, and how far one of whole numbers goes.
-constexpr double kLeastSpan = 0.1, kLeastWhole = 4;
-
-/// 1, 2 or 5 times a power of ten, at least `rough`.
-double RoundStep(double rough) {
-  const double power = std::pow(10, std::floor(std::log10(rough)));
-  for (const double times : {1.0, 2.0, 5.0})
-    if (rough <= times * power) return times * power;
-  return 10 * power;
-}
 
 QString Short(double value) {
   const double size = std::abs(value);
@@ -38,52 +25,11 @@ QString Short(double value) {
   return QString::number(value, 'g', 6);
 }
 
-/// The same with as many places as two lines of an axis that lie a step apart need to differ.
-QString OnAxis(double value, double step, double most) {
-  const auto [unit, letter] = most >= 1e6   ? std::pair(1e6, "m")
-                              : most >= 1e4 ? std::pair(1e3, "k")
-                                            : std::pair(1.0, "");
-  const int places = std::max(0, -static_cast<int>(std::floor(std::log10(step / unit) + 1e-9)));
-  return QString::number(value / unit, 'f', places) + (value == 0 ? "" : letter);
-}
-
 /// Lines differ by their strokes as well as by their colours.
 Qt::PenStyle StrokeOf(std::size_t line) {
   constexpr Qt::PenStyle kStrokes[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine};
   return kStrokes[line % std::size(kStrokes)];
 }
-
-/// Where a place and a value lie within the widget.
-struct Scale {
-  QRectF Plot;
-  int Count = 0;  // of places along the axis
-  double Low = 0, High = 1, Step = 1;
-  std::span<const double> Places;  // along the axis; empty: at equal distances
-
-  double Slot() const { return Plot.width() / std::max(1, Count); }
-  double X(int place) const {
-    if (Places.empty()) return Plot.left() + (place + 0.5) * Slot();
-    const double span = Places.back() - Places.front(), inset = Px(kInset);
-    const double part = (Places[static_cast<std::size_t>(place)] - Places.front()) / span;
-    return Plot.left() + inset + part * (Plot.width() - 2 * inset);
-  }
-  /// The place nearest to this spot.
-  int PlaceAt(double x) const {
-    int nearest = 0;
-    for (int place = 1; place < Count; ++place)
-      if (std::abs(X(place) - x) < std::abs(X(nearest) - x)) nearest = place;
-    return nearest;
-  }
-  double Y(double value) const {
-    return Plot.bottom() - (value - Low) / (High - Low) * Plot.height();
-  }
-  /// The values at which lines run across, from the lowest.
-  int Lines() const { return static_cast<int>(std::lround((High - Low) / Step)) + 1; }
-  double LineAt(int line) const { return Low + line * Step; }
-  QString Label(int line) const {
-    return OnAxis(LineAt(line), Step, std::max(std::abs(Low), std::abs(High)));
-  }
-};
 
 /// Lines or bars over time, with an axis, captions and the value under the pointer.
 class ChartView : public ViewOf<QWidget, ui::Chart> {
@@ -117,6 +63,8 @@ class ChartView : public ViewOf<QWidget, ui::Chart> {
   void DrawAxis(QPainter& painter, const Scale& scale) const;
   void DrawCaptions(QPainter& painter, const Scale& scale) const;
   void DrawBars(QPainter& painter, const Scale& scale) const;
+  void DrawBands(QPainter& painter, const Scale& scale) const;
+  void DrawLevels(QPainter& painter, const Scale& scale) const;
   void DrawLines(QPainter& painter, const Scale& scale) const;
   void DrawNames(QPainter& painter) const;
   void DrawHover(QPainter& painter, const Scale& scale) const;
@@ -131,17 +79,6 @@ int ChartView::Count() const {
   return static_cast<int>(count);
 }
 
-/// Makes room around values that lie close together: a small change is not to look like a plunge.
-void SpreadOut(double& low, double& high, bool whole) {
-  const double least =
-      std::max(kLeastSpan * std::max(std::abs(low), std::abs(high)), whole ? kLeastWhole : 0.0);
-  const double more = (least - (high - low)) / 2;
-  if (more <= 0) return;
-  const double down = low >= 0 ? std::min(more, low) : more;
-  low -= down;
-  high += 2 * more - down;
-}
-
 int ChartView::Told() const {
   int told = 0;
   for (std::size_t place = 0; place < static_cast<std::size_t>(Count()); ++place)
@@ -152,24 +89,7 @@ int ChartView::Told() const {
 }
 
 Scale ChartView::MakeScale() const {
-  double low = std::numeric_limits<double>::infinity(), high = -low;
-  bool whole = true;
-  for (const auto& series : control_.Lines.Get())
-    for (const double value : series.Values) {
-      if (!std::isfinite(value)) continue;
-      low = std::min(low, value);
-      high = std::max(high, value);
-      whole = whole && value == std::floor(value);
-    }
-  if (low > high) low = 0, high = 1;
-  if (control_.Bars) low = std::min(low, 0.0), high = std::max(high, 0.0);
-  if (!control_.Bars) SpreadOut(low, high, whole);
-  if (high - low < 1e-9) low -= 1, high += 1;
-  Scale scale;
-  scale.Step = RoundStep((high - low) / kSteps);
-  if (whole) scale.Step = std::max(scale.Step, 1.0);
-  scale.Low = std::floor(low / scale.Step) * scale.Step;
-  scale.High = std::ceil(high / scale.Step) * scale.Step;
+  Scale scale = ScaleOf(control_);
   scale.Count = Count();
   const std::vector<double>& places = control_.Places;
   if (std::ssize(places) == scale.Count && scale.Count > 1 && places.front() < places.back())
@@ -188,10 +108,12 @@ Scale ChartView::MakeScale() const {
 
 void ChartView::DrawAxis(QPainter& painter, const Scale& scale) const {
   const Colours& c = ColoursOf(this);
-  for (int line = 0; line < scale.Lines(); ++line) {
+  const bool measures = Told() > 0;  // without a value there is nothing to be read from the axis
+  for (int line = 0; line < (measures ? scale.Lines() : 1); ++line) {
     const double y = std::round(scale.Y(scale.LineAt(line))) + 0.5;
     painter.setPen(c.Line);
     painter.drawLine(QPointF(scale.Plot.left(), y), QPointF(scale.Plot.right(), y));
+    if (!measures) continue;
     painter.setPen(c.Muted);
     DrawFigures(painter, QRectF(0, y - Px(8), scale.Plot.left() - Px(8), Px(16)), Qt::AlignRight,
                 scale.Label(line));
@@ -252,6 +174,49 @@ void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
                   QRectF(bar.left(), bar.top() - small.height() - 1, bar.width(), small.height()),
                   Qt::AlignHCenter, number);
     }
+  }
+}
+
+/// Each run of places where both ends are known; bands that lie over each other grow stronger.
+void ChartView::DrawBands(QPainter& painter, const Scale& scale) const {
+  constexpr float kStrength = 0.16F;
+  for (const auto& band : control_.Bands.Get()) {
+    QColor fill = FillColour(ColoursOf(this), band.Colour);
+    fill.setAlphaF(kStrength);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(fill);
+    QPolygonF above, below;
+    const auto finish = [&] {
+      std::reverse(below.begin(), below.end());
+      painter.drawPolygon(above + below);
+      above.clear();
+      below.clear();
+    };
+    for (std::size_t place = 0; place < std::min(band.Low.size(), band.High.size()); ++place) {
+      if (!std::isfinite(band.Low[place]) || !std::isfinite(band.High[place])) {
+        finish();
+        continue;
+      }
+      const double x = scale.X(static_cast<int>(place));
+      above << QPointF(x, scale.Y(band.High[place]));
+      below << QPointF(x, scale.Y(band.Low[place]));
+    }
+    finish();
+  }
+  painter.setBrush(Qt::NoBrush);
+}
+
+void ChartView::DrawLevels(QPainter& painter, const Scale& scale) const {
+  const Colours& c = ColoursOf(this);
+  for (const auto& [at, words] : control_.Levels.Get()) {
+    if (at < scale.Low || at > scale.High) continue;
+    const double y = std::round(scale.Y(at)) + 0.5;
+    painter.setPen(QPen(c.Muted, 1, Qt::DotLine));
+    painter.drawLine(QPointF(scale.Plot.left(), y), QPointF(scale.Plot.right(), y));
+    painter.setPen(c.Muted);
+    const QFontMetrics small = fontMetrics();
+    const double above = y - scale.Plot.top() > small.height() ? y - Px(3) : y + small.height();
+    painter.drawText(QPointF(scale.Plot.left() + Px(6), above), Shown(words));
   }
 }
 
@@ -363,6 +328,8 @@ void ChartView::paintEvent(QPaintEvent*) {
   if (!control_.Bars && Told() < kLeastPlaces) return DrawWords(painter);
   DrawAxis(painter, scale);
   DrawCaptions(painter, scale);
+  DrawBands(painter, scale);
+  DrawLevels(painter, scale);
   control_.Bars ? DrawBars(painter, scale) : DrawLines(painter, scale);
   DrawNames(painter);
   if (hover_ >= 0 && hover_ < scale.Count) DrawHover(painter, scale);

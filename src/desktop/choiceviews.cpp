@@ -8,8 +8,12 @@
 #include <QSpinBox>
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
+#include <algorithm>
 
+#include "desktop/housestyle.h"
+#include "desktop/look.h"
 #include "desktop/pieces.h"
+#include "desktop/spoken.h"
 #include "desktop/views.h"
 #include "ui/acts.h"
 
@@ -158,6 +162,34 @@ class SliderView : public ViewOf<QWidget, ui::ScrollBar> {
   QSpinBox* value_;
 };
 
+/// How far something is: a bar that nobody moves.
+class DoneView : public ViewOf<QWidget, ui::ScrollBar> {
+ public:
+  DoneView(ui::ScrollBar& bar, Stage& stage, QWidget* parent) : ViewOf(bar, stage, parent) {
+    Means(*this, QAccessible::ProgressBar);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  }
+  QSize sizeHint() const override { return {Px(160), Px(16)}; }
+  QSize minimumSizeHint() const override { return {Px(60), Px(16)}; }
+
+ protected:
+  void Show() override {
+    setAccessibleDescription(QString("%1 of %2").arg(int(control_.Value)).arg(int(control_.Max)));
+    update();
+  }
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const Colours& c = ColoursOf(this);
+    const int most = std::max(1, control_.Max - control_.Min);
+    const double high = Px(6);
+    QRectF track(0, (height() - high) / 2.0, width(), high);
+    DrawBox(painter, track, c.Track, QColor(), high / 2);
+    track.setWidth(track.width() * (control_.Value - control_.Min) / most);
+    if (track.width() >= high) DrawBox(painter, track, c.GoldFill, QColor(), high / 2);
+  }
+};
+
 }  // namespace
 
 ControlView* NewView(ui::ComboBox& combo, Stage& stage, QWidget* parent) {
@@ -173,6 +205,7 @@ ControlView* NewView(ui::OptionButton& option, Stage& stage, QWidget* parent) {
 }
 
 ControlView* NewView(ui::ScrollBar& bar, Stage& stage, QWidget* parent) {
+  if (bar.Tells) return new DoneView(bar, stage, parent);
   return new SliderView(bar, stage, parent);
 }
 

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QTableView>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/look.h"
 
@@ -87,8 +88,10 @@ void DrawTear(const QRect& rect, bool toRight, QColor ground, QPainter& painter)
 
 }  // namespace
 
-void DrawBox(QPainter& painter, const QRectF& where, const QColor& fill, const QColor& edge,
-             double radius) {
+namespace {
+
+void DrawRounded(QPainter& painter, const QRectF& where, const QColor& fill, const QColor& edge,
+                 double radius) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
@@ -96,6 +99,50 @@ void DrawBox(QPainter& painter, const QRectF& where, const QColor& fill, const Q
   const QRectF inner = edge.isValid() ? where.adjusted(0.5, 0.5, -0.5, -0.5) : where;
   painter.drawRoundedRect(inner, radius, radius);
   painter.restore();
+}
+
+/// Whether a box lies on whole pixels and is so large that its corners are the least of it.
+bool IsLarge(const QPainter& painter, const QRectF& where, int corner) {
+  constexpr int kLarge = 64;
+  const QTransform& moved = painter.combinedTransform();
+  const auto isWhole = [](double at) { return at == std::floor(at); };
+  return std::min(where.width(), where.height()) > 2 * corner + kLarge &&
+         QRectF(where.toRect()) == where && moved.type() <= QTransform::TxTranslate &&
+         isWhole(moved.dx()) && isWhole(moved.dy()) && painter.device()->devicePixelRatioF() == 1;
+}
+
+/// All of it but the corners.
+void FillBetweenCorners(QPainter& painter, const QRect& box, const QColor& fill, const QColor& edge,
+                        int corner) {
+  if (fill.isValid()) {
+    painter.fillRect(box.adjusted(0, corner, 0, -corner), fill);
+    painter.fillRect(box.left() + corner, box.top(), box.width() - 2 * corner, corner, fill);
+    painter.fillRect(box.left() + corner, box.bottom() + 1 - corner, box.width() - 2 * corner,
+                     corner, fill);
+  }
+  if (!edge.isValid()) return;
+  for (const int y : {box.top(), box.bottom()})
+    painter.fillRect(box.left() + corner, y, box.width() - 2 * corner, 1, edge);
+  for (const int x : {box.left(), box.right()})
+    painter.fillRect(x, box.top() + corner, 1, box.height() - 2 * corner, edge);
+}
+
+}  // namespace
+
+/// Curves are slow to fill: of a large box the corners alone are drawn so.
+void DrawBox(QPainter& painter, const QRectF& where, const QColor& fill, const QColor& edge,
+             double radius) {
+  const int corner = static_cast<int>(std::ceil(radius)) + 1;
+  if (!IsLarge(painter, where, corner)) return DrawRounded(painter, where, fill, edge, radius);
+  const QRect box = where.toRect();
+  FillBetweenCorners(painter, box, fill, edge, corner);
+  for (const int x : {box.left(), box.right() + 1 - corner})
+    for (const int y : {box.top(), box.bottom() + 1 - corner}) {
+      painter.save();
+      painter.setClipRect(x, y, corner, corner, Qt::IntersectClip);
+      DrawRounded(painter, where, fill, edge, radius);
+      painter.restore();
+    }
 }
 
 void DrawFocus(QPainter& painter, const QRectF& where, double radius, const QPalette& palette) {

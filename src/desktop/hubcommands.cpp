@@ -178,7 +178,7 @@ void Window::OpenFinder() {
     Remember(taken);
     if (taken.Open) {
       Act([&] {
-        desk_.Event(taken.Open);
+        desk_.Visit({Keep(taken.Heading).Text, Keep(taken.Words).Text, {}, {}, taken.Open});
         return std::string();
       });
     } else if (taken.Run) {

@@ -1,7 +1,6 @@
 #include "desktop/layoutbuilder.h"
 
 #include <QScopedValueRollback>
-#include <QStackedWidget>
 #include <QTabBar>
 #include <algorithm>
 #include <utility>
@@ -262,6 +261,7 @@ void LayoutBuilder::AddCards(const Run& rows, QBoxLayout* into) {
   for (const Box* row : rows) AddColumns(*row, into);
 }
 
+/// As high and as wide as the page that is shown needs: the others have their turn.
 void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   auto* holder = new QWidget(holder_);
   auto* rows = NewLayout<QVBoxLayout>(holder, kWide);
@@ -269,23 +269,24 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   bar->setDrawBase(false);
   bar->setExpanding(false);
   bar->setFocusPolicy(Qt::TabFocus);
-  auto* pages = new QStackedWidget(holder);
   rows->addWidget(bar, 0, Qt::AlignLeft);
-  rows->addWidget(pages, 1);
   const QScopedValueRollback<QWidget*> within(holder_);
   bar->setAccessibleName(heading_);
+  std::vector<QWidget*> pages;
   for (const Box& part : box.Parts) {
     const QScopedValueRollback<QString> heading(heading_, Shown(part.Title));
-    auto* page = new QWidget(pages);
-    auto* inside = NewLayout<QVBoxLayout>(page, -1);
-    holder_ = page;
+    pages.push_back(holder_ = new QWidget(holder));
     Box untitled = part;
     untitled.Title.clear();
-    Build(untitled, inside);
-    pages->addWidget(page);
+    Build(untitled, NewLayout<QVBoxLayout>(holder_, -1));
+    rows->addWidget(holder_, 1);
+    holder_->setVisible(pages.size() == 1);
     bar->addTab(Shown(part.Title));
   }
-  QObject::connect(bar, &QTabBar::currentChanged, pages, &QStackedWidget::setCurrentIndex);
+  QObject::connect(bar, &QTabBar::currentChanged, holder, [pages](int shown) {
+    for (QWidget* page : pages) page->hide();
+    pages[static_cast<std::size_t>(shown)]->show();
+  });
   into->addWidget(holder, std::max(1, box.Stretch));
 }
 

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QIcon>
 #include <QMessageBox>
 #include <cstdlib>
@@ -19,6 +20,7 @@
 #include "session/build.h"
 #include "session/faultlog.h"
 #include "session/home.h"
+#include "session/screens/frmLoadGame.h"
 #include "ui/game.h"
 
 namespace {
@@ -28,6 +30,7 @@ using namespace grapplemont;
 /// What the program is started with; without arguments it is played.
 struct Wanted {
   std::optional<std::string> Home;  // the folder with the slots
+  std::string Import = {};          // a file with an exported game
   QString Pictures;                 // the folder for an album of all screens
 };
 
@@ -49,6 +52,8 @@ Wanted Read(int argc, char** argv) {
       "first slot that it finds; take a copy of your games for it.",
       "folder");
   parser.addOptions({home, pictures});
+  parser.addPositionalArgument("file", "An exported game to be put into an empty slot and played.",
+                               "[file]");
   for (const char* ofQt : {"platform", "style", "display", "qwindowgeometry"}) {
     QCommandLineOption option(ofQt, {}, "value");
     option.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -57,14 +62,15 @@ Wanted Read(int argc, char** argv) {
   const bool makesSense = parser.parse(words.arguments());
   if (parser.isSet("version")) parser.showVersion();
   if (parser.isSet("help") || parser.isSet("help-all")) parser.showHelp();
-  const QStringList surplus = parser.positionalArguments();
-  if (!makesSense || !surplus.isEmpty()) {
+  const QStringList files = parser.positionalArguments();
+  if (!makesSense || files.size() > 1) {
     const QString why =
-        makesSense ? "\"" + surplus.front() + "\" is one word too many" : parser.errorText();
+        makesSense ? "\"" + files.back() + "\" is one word too many" : parser.errorText();
     std::cerr << "grapplemont: " << why.toStdString() << "; --help lists what there is\n";
     std::exit(2);
   }
-  Wanted wanted{{}, parser.value(pictures)};
+  Wanted wanted{{}, {}, parser.value(pictures)};
+  if (!files.isEmpty()) wanted.Import = QFileInfo(files.front()).absoluteFilePath().toStdString();
   if (parser.isSet(home)) wanted.Home = parser.value(home).toStdString();
   return wanted;
 }
@@ -164,6 +170,10 @@ int Play(QApplication& app, const Started& started) {
   if (desk.Empty())
     throw std::runtime_error("The game could not start from the folder \"" + home.Folder +
                              "\": its pictures belong into \"" + home.Folder + "/gfx\".");
+  if (!wanted.Import.empty()) {
+    desk.Event([&] { OfferImport(game, wanted.Import); });
+    window.Sync();
+  }
   if (!wanted.Pictures.isEmpty()) return FillAlbum(window, desk, game, wanted.Pictures);
   const desktop::DesktopColours colours([&window](bool dark) { window.FollowDesktop(dark); });
   const int result = QApplication::exec();

@@ -17,7 +17,8 @@ namespace grapplemont::desktop {
 
 namespace {
 
-/// Widest that a picture asks for by itself; it takes more where it is given more.
+/// Widest that a picture asks for by itself, whatever the size of text: it takes more where it is
+/// given more, and words need the room first.
 constexpr QSize kAskedFor(480, 300);
 constexpr int kLarge = 90;          // high, of what is drawn
 constexpr double kWordsEnd = 0.89;  // of a backdrop's height
@@ -109,9 +110,8 @@ int PictureView::DrawnHeight() const {
 QSize PictureView::sizeHint() const {
   if (Drawn() > 0) return {static_cast<int>(DrawnHeight() * Drawn()), DrawnHeight()};
   if (!full_.isValid() || seeThrough_) return {Px(120), Px(80)};
-  const QSize most(Px(kAskedFor.width()), Px(kAskedFor.height()));
-  return full_.width() > most.width() || full_.height() > most.height()
-             ? full_.scaled(most, Qt::KeepAspectRatio)
+  return full_.width() > kAskedFor.width() || full_.height() > kAskedFor.height()
+             ? full_.scaled(kAskedFor, Qt::KeepAspectRatio)
              : full_;
 }
 

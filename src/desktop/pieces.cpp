@@ -4,6 +4,8 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "desktop/wordswidth.h"
+
 namespace grapplemont::desktop {
 
 namespace {
@@ -23,7 +25,7 @@ WrappedLabel::WrappedLabel(QWidget* parent, const QString& text, const QFont& fo
 int WrappedLabel::NaturalWidth() const {
   int widest = 0;
   for (const QString& line : text().split('\n'))
-    widest = std::max(widest, fontMetrics().horizontalAdvance(line));
+    widest = std::max(widest, WordsWidth(font(), line));
   return widest + 2;
 }
 
@@ -53,8 +55,7 @@ int ReadableWidth() {
   constexpr int kLetters = 75;
   static const QString kSample =
       "The crowd has waited all night for this, and it lets both hear it.";
-  const QFontMetrics prose(ProseFont());
-  return prose.horizontalAdvance(kSample) * kLetters / static_cast<int>(kSample.size());
+  return WordsWidth(ProseFont(), kSample) * kLetters / static_cast<int>(kSample.size());
 }
 
 bool TipWhatIsCut(QEvent& event, QWidget& widget, const QString& text, bool cut) {

@@ -78,6 +78,7 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
 ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
     : ViewOf(report, stage, parent) {
   setReadOnly(true);
+  document()->setUndoRedoEnabled(false);
   setLineWrapMode(QTextEdit::FixedPixelWidth);
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
@@ -96,6 +97,7 @@ void ReportView::Show() {
   links_.clear();
   const Colours& colours = ColoursOf(this);
   QTextCursor cursor(document());
+  cursor.beginEditBlock();  // it is laid out once, when all is written
   bool first = true;
   for (const auto& paragraph : control_.Paragraphs()) {
     const QTextBlockFormat block = BlockOf(paragraph.As, first);
@@ -109,6 +111,7 @@ void ReportView::Show() {
     Write(cursor, paragraph, letters);
     first = false;
   }
+  cursor.endEditBlock();
   moveCursor(QTextCursor::Start);  // a size that changes later keeps the cursor in sight
   verticalScrollBar()->setValue(0);
   FitWords();

@@ -18,7 +18,8 @@ constexpr int kPageSide = 20;
 constexpr int kCoverSide = 36;
 constexpr int kPartGap = 14;       // between head, body and foot
 constexpr int kWidestPage = 1160;  // of a page with nothing on it that would show more
-constexpr int kLeastTitle = 260;   // what the title has beside actions
+constexpr int kLeastTitle = 260;   // what the title and its facts have beside actions
+constexpr int kLeastName = 150;    // the same of a title alone
 constexpr int kAllThereIs = 1 << 16;
 
 bool IsBackdropFile(const std::string& file) {
@@ -143,34 +144,41 @@ void ScreenView::BuildWait() {
 }
 
 /// Title and facts; there is room for actions at their right, or below where they have none there.
+/// Beside a face much is said: the actions stand beside the title alone.
 QLayout* ScreenView::BuildHead() {
-  auto* head = new TurningLayout(12, kLeastTitle);
+  auto* head = new TurningLayout(12, page_.Face ? kLeastName : kLeastTitle);
   auto* words = NewLayout<QVBoxLayout>(nullptr, 1);
   title_ = new WrappedLabel(this, {}, TextFont(19, QFont::DemiBold));
   title_->setObjectName("title");
-  words->addWidget(title_);
+  auto* faced = page_.Face ? NewLayout<QHBoxLayout>(nullptr, kPartGap) : nullptr;
+  if (faced) {
+    faced->addWidget(Add(*page_.Face), 0, Qt::AlignTop);
+    faced->addLayout(words, 1);
+    head->addWidget(title_, 1);
+    words->addLayout(head);
+  } else {
+    words->addWidget(title_);
+    head->addLayout(words, 1);
+  }
+  AddFacts(*words);
+  if (screen_->Is() != ui::Role::Dialog) {
+    auto* tail = new TurningLayout(12);
+    tail->KeepRowsWhole();
+    head->addLayout(tail);
+    tail_ = tail;
+    head->KeepRowsWhole();
+  }
+  return faced ? static_cast<QLayout*>(faced) : head;
+}
+
+void ScreenView::AddFacts(QBoxLayout& words) {
   std::vector<ui::Label*> facts = page_.More;
   if (page_.Facts) facts.insert(facts.begin(), page_.Facts);
   for (ui::Label* fact : facts) {
     auto* line = dynamic_cast<LabelView*>(Add(*fact));
     line->SetUsual(fact == page_.Facts ? ui::Tone::Muted : ui::Tone::Plain);
-    words->addWidget(line);
+    words.addWidget(line);
   }
-  if (page_.Face) {
-    auto* faced = NewLayout<QHBoxLayout>(nullptr, kPartGap);
-    faced->addWidget(Add(*page_.Face), 0, Qt::AlignTop);
-    faced->addLayout(words, 1);
-    head->addLayout(faced, 1);
-  } else {
-    head->addLayout(words, 1);
-  }
-  if (screen_->Is() == ui::Role::Dialog) return head;
-  auto* tail = new TurningLayout(12);
-  tail->KeepRowsWhole();
-  head->addLayout(tail);
-  tail_ = tail;
-  head->KeepRowsWhole();
-  return head;
 }
 
 /// Main stands last. Main and Cancel are there even where the layout has no place for them.

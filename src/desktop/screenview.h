@@ -66,6 +66,7 @@ class ScreenView : public QWidget {
   QBoxLayout* BuildWhole(QMargins margins);
   void BuildWait();
   QLayout* BuildHead();
+  void AddFacts(QBoxLayout& words);
   void BuildBody(QBoxLayout* into);
   QLayout* BuildActions();
   bool IsMain(const ui::Control& control) const;

@@ -12,6 +12,7 @@
 #include "desktop/drawn/drawn.h"
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
+#include "desktop/wordswidth.h"
 
 namespace grapplemont::desktop {
 
@@ -50,9 +51,8 @@ QFont TagFont() {
 
 void DrawTag(QPainter& painter, const QRect& room, const QString& word, ui::Tone tone,
              const Colours& c) {
-  const QFontMetrics metrics(TagFont());
-  const QString words = metrics.elidedText(word, Qt::ElideRight, room.width() - 2 * Px(kTagSide));
-  const int width = metrics.horizontalAdvance(words) + 2 * Px(kTagSide);
+  const QString words = WordsWithin(TagFont(), word, room.width() - 2 * Px(kTagSide));
+  const int width = WordsWidth(TagFont(), words) + 2 * Px(kTagSide);
   const QRectF box(room.left(), room.center().y() - Px(kTagHeight) / 2.0 + 1, width,
                    Px(kTagHeight));
   DrawBox(painter, box, QColor(), EdgeColour(c, tone), Px(4));
@@ -62,7 +62,7 @@ void DrawTag(QPainter& painter, const QRect& room, const QString& word, ui::Tone
 }
 
 int TagWidth(const QString& words) {
-  return QFontMetrics(TagFont()).horizontalAdvance(words) + 2 * Px(kTagSide);
+  return WordsWidth(TagFont(), words) + 2 * Px(kTagSide);
 }
 
 /// What a word is drawn as in this column, and the number behind it: "Feud 71".
@@ -82,7 +82,7 @@ SignedWord SignedBy(const ui::Column& column, const QString& word) {
 int WordWidth(const QString& word, const ui::Column& column) {
   const SignedWord drawn = SignedBy(column, word);
   if (drawn.As == ui::Sign::None) return TagWidth(word);
-  const int number = QFontMetrics(TagFont()).horizontalAdvance(drawn.Number);
+  const int number = WordsWidth(TagFont(), drawn.Number);
   return Px(kSign) + (number > 0 ? Px(kSignGap) + number : 0);
 }
 
@@ -117,7 +117,10 @@ void DrawBar(QPainter& painter, const QRect& room, const ui::Cell& cell, const C
   DrawBox(painter, track, c.Track, QColor(), height / 2);
   QRectF bar = track;
   bar.setWidth(std::max(height, track.width() * std::clamp(cell.Number, 0.0, 100.0) / 100));
-  if (cell.Number > 0) DrawBox(painter, bar, PercentColour(c, cell.Number), QColor(), height / 2);
+  // What is gold or blue says whose it is, not how good it is.
+  const bool isSomebodys = cell.Colour == ui::Tone::Gold || cell.Colour == ui::Tone::Blue;
+  const QColor fill = isSomebodys ? FillColour(c, cell.Colour) : PercentColour(c, cell.Number);
+  if (cell.Number > 0) DrawBox(painter, bar, fill, QColor(), height / 2);
   if (cell.Tick >= 0)
     painter.fillRect(QRectF(track.left() + track.width() * std::min(cell.Tick, 100) / 100 - 1,
                             track.center().y() - Px(6), 2, Px(12)),
@@ -146,7 +149,7 @@ void DrawStar(QPainter& painter, const QPointF& centre, const Colours& c) {
 void DrawText(QPainter& painter, const QRect& room, const ui::Cell& cell, ColumnKind kind) {
   // A row has room for one line, however many the text has.
   const QString line = CellText(cell, kind).replace('\n', ' ');
-  const QString text = painter.fontMetrics().elidedText(line, Qt::ElideRight, room.width() + 1);
+  const QString text = WordsWithin(painter.font(), line, room.width() + 1);
   if (kind == ColumnKind::Number || kind == ColumnKind::Date) {
     DrawFigures(painter, room, AlignsRight(kind) ? Qt::AlignRight : Qt::AlignLeft, text);
   } else {
@@ -230,7 +233,7 @@ int CellWidth(const ui::Cell& cell, const ui::Column& column) {
   if (IsBar(cell, kind)) return Px(kBarWidth) + Px(8) + FiguresWidth(metrics, text) + sides;
   if (kind == ColumnKind::Number || kind == ColumnKind::Date)
     return FiguresWidth(metrics, text) + sides;
-  return metrics.horizontalAdvance(text) + sides + 1;
+  return WordsWidth(TextFont(), text) + sides + 1;
 }
 
 /// What opens is shown as a link: the first words of its row. Rows that have a button are worked by
@@ -280,6 +283,7 @@ void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option
   const int edge = view ? view->viewport()->width() - 1 : room.right();
   const bool cut = room.right() > edge;
   if (cut) room.setRight(edge);
+  if (cut && room.width() < Px(kSliver)) return;
   room.setLeft(room.left() +
                DrawSmall(&painter, room, column, model_.Table().RowAt(index.row()).Key));
   if (column.Under)

@@ -88,5 +88,6 @@ bool AlignsRight(ui::ColumnKind kind);
 /// In drawn pixels; rows with a sentence below a text are as high as cards.
 int RowHeight(const ui::ListBox& list);
 inline constexpr int kCellSide = 8;
+inline constexpr int kSliver = 28;  // of a column that the table's edge cuts: no words fit less
 
 }  // namespace grapplemont::desktop

@@ -6,6 +6,7 @@
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
 #include "desktop/tablegrid.h"
+#include "desktop/wordswidth.h"
 
 namespace grapplemont::desktop {
 
@@ -57,8 +58,7 @@ int TableHeading::MarksWidth(int column) const {
 
 int TableHeading::HeadingWidth(int column) const {
   const QString words = WordsOf(model_.Column(column));
-  return QFontMetrics(HeadingFont()).horizontalAdvance(words) + 2 * Px(kCellSide) + 2 +
-         MarksWidth(column);
+  return WordsWidth(HeadingFont(), words) + 2 * Px(kCellSide) + 2 + MarksWidth(column);
 }
 
 int TableHeading::ColumnAt(const QPoint& at) const {
@@ -97,12 +97,13 @@ void TableHeading::DrawHeading(QPainter& painter, const QRect& rect, int column)
   const int place = table.SortPlace(column);
   const bool filtered = !table.FilterOf(column).empty();
   const int marks = MarksWidth(column);
-  const QFontMetrics metrics(HeadingFont());
   QRect room = rect.adjusted(Px(kCellSide), 0, -Px(kCellSide), -1);
-  room.setRight(std::min(room.right(), viewport()->width() - 1));
+  const int edge = viewport()->width() - 1;
+  const bool sliver = room.right() > edge && edge - room.left() < Px(kSliver);
+  room.setRight(std::min(room.right(), edge));
   const QString title =
-      metrics.elidedText(WordsOf(shown), Qt::ElideRight, room.width() - marks + 1);
-  const int width = metrics.horizontalAdvance(title);
+      sliver ? QString() : WordsWithin(HeadingFont(), WordsOf(shown), room.width() - marks + 1);
+  const int width = WordsWidth(HeadingFont(), title);
   int x = AlignsRight(shown.Kind) ? room.right() + 1 - width - marks : room.left();
   painter.setFont(HeadingFont());
   painter.setPen(place > 0 ? c.Text : c.Soft);

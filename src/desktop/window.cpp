@@ -361,17 +361,21 @@ void Window::closeEvent(QCloseEvent* event) {
 
 void WindowDesk::Say(const std::string& title, const std::string& text) {
   if (window_) window_->AnswerOf(title, text, {"OK"}, 0);
+  Note({"ok"});
 }
 
 bool WindowDesk::Ask(const std::string& title, const std::string& text, ui::Default answer) {
   const int usual = answer == ui::Default::Yes ? 1 : 0;
-  return window_ && window_->AnswerOf(title, text, {"No", "Yes"}, usual) == 1;
+  const bool yes = window_ && window_->AnswerOf(title, text, {"No", "Yes"}, usual) == 1;
+  Note({yes ? "yes" : "no"});
+  return yes;
 }
 
 std::string WindowDesk::Prompt(const std::string& title, const std::string& text,
                                const std::string& offered) {
   std::string line = offered;
   const bool taken = window_ && window_->AnswerOf(title, text, {"Cancel", "OK"}, 1, &line) == 1;
+  Note({taken ? "enter " + line : "cancel"});
   return taken ? line : std::string();
 }
 

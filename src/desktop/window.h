@@ -31,6 +31,7 @@ class WindowDesk : public ui::Desk {
                          const std::string& offered, Use use) override;
   void Hear(ui::Sound sound) override;
   void Repaint() override;
+  bool HasClock() const override { return true; }
 
  private:
   friend class Window;
@@ -180,6 +181,7 @@ class Window : public QMainWindow, public Stage {
   /// The sign of the Enter key stands on what it presses, and nowhere else.
   void ShowEnter();
   void OpenHelp();
+  void TakeBack(const ui::Desk::TakingBack& back, const char* told);
   void OpenGlossary(const std::string& term);
   void TurnColours();
   void OpenOptions();

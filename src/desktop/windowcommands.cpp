@@ -41,6 +41,10 @@ std::vector<Window::OwnCommand> Window::KeyedCommands() {
       {"Window options", [this] { OpenOptions(); },
        "settings preferences theme text size sound volume language dates animation scale keys",
        kOptionsKeyId, kOptionsKey},
+      {"Undo the last click", [this] { TakeBack(desk_.Undo, "Taken back: "); }, "take back mistake",
+       "window.undo", "Ctrl+Z"},
+      {"Redo", [this] { TakeBack(desk_.Redo, "Done again: "); }, "do again undo", "window.redo",
+       "Ctrl+Shift+Z"},
       {"Full screen", [this] { TurnFullScreen(); }, "window maximise", "window.full", "F11"},
       {"Dark or light colours", [this] { TurnColours(); }, {}, "window.colours", "Ctrl+L", false},
       {"Larger text", zoomBy(1), kTextWords, "window.larger", "Ctrl++"},
@@ -83,6 +87,18 @@ std::vector<Window::OwnCommand> Window::SettingCommands() {
           [this, percent] { SetScale(percent); });
   add("Change keys", "shortcuts keyboard rebind hotkeys", [this] { OpenOptions(); });
   return commands;
+}
+
+void Window::TakeBack(const ui::Desk::TakingBack& back, const char* told) {
+  std::string what;
+  Act([&] {
+    what = desk_.Take(back);
+    return std::string();
+  });
+  Hint(*this,
+       what.empty() ? QString("There is nothing of today to take back or do again.")
+                    : told + Shown(what),
+       ui::Tone::Muted);
 }
 
 void Window::OpenHelp() {

@@ -191,6 +191,11 @@ bool DataFolder::Restore() {
   std::map<std::string, Bytes> files;
   for (auto& [name, bytes] : ReadWorldFiles(disk_, BackupFolder()))
     if (std::ranges::find(kDataSet, name) != kDataSet.end()) files.emplace(name, std::move(bytes));
+  // What the backup lacks would come from below once the data are read again.
+  if (!below_.empty())
+    for (auto& [name, bytes] : ReadWorldFiles(disk_, below_))
+      if (std::ranges::find(kDataSet, name) != kDataSet.end())
+        files.try_emplace(name, std::move(bytes));
   const auto before = FilesNow();
   const DataStep step = StepBetween(before, files);
   if (step.empty()) return false;

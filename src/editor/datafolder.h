@@ -52,6 +52,8 @@ class DataFolder {
   /// became of the change, and WorldFault when somebody else has changed the files meanwhile. The
   /// World then is to be rolled back: to what is on disk.
   void Commit();
+  /// What the folder is before the next commit becomes the backup, as it does before the first.
+  void KeepNext() { backedUp_ = false; }
   /// Takes back what has changed since the last commit.
   void Rollback() { world_.Rollback(); }
 

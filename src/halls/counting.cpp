@@ -34,6 +34,21 @@ std::size_t TeamSizeOf(int style) {
   return row && row->PerSide == 2 ? 2 : 1;
 }
 
+/// On the day `on`, in months; 0 for who has no age. A birthday is kept on the first of the month
+/// behind the birth month, once what came before it has been counted: the present age is that of
+/// the last day that counts.
+int MonthsOfAge(const Worker& worker, Day on, Day until) {
+  if (worker.Age == 0) return 0;
+  const Day last = until - std::chrono::days{1};
+  const auto months = [](Day day) { return YearOf(day) * 12 + MonthOf(day); };
+  const int sinceBirthday = (MonthOf(last) - worker.BirthMonth - 1 + 12) % 12;
+  return worker.Age * 12 + sinceBirthday - (months(last) - months(on));
+}
+
+HouseKey HouseIn(const TitleReign& reign) {
+  return {reign.Owner, reign.Initials.Str()};
+}
+
 constexpr std::string_view kShowNames[] = {"", "television", "an Event", "a house show"};
 
 }  // namespace
@@ -121,7 +136,7 @@ void Ledger::CountFor(const Bout& bout, std::size_t place, bool kept) {
   Career& career = Careers[static_cast<std::size_t>(at)];
   CountRow(career, outcome);
   if (bout.Rating >= kGreatRating) ++career.Great;
-  Tenure& tenure = With(at, bout.Promotion, bout.On);
+  Tenure& tenure = With(at, HouseOf(bout.Promotion), bout.On);
   ++(outcome > 0 ? tenure.Won : outcome < 0 ? tenure.Lost : tenure.Drawn);
   if (!bout.Title.empty()) ++tenure.ForTitles;
   if (bout.IsMain) ++tenure.MainEvents;
@@ -148,7 +163,7 @@ void Ledger::CountPairs(const Bout& bout) {
     if (Day(pair->First) == kNoTitleDate) pair->First = bout.On;
     pair->Last = bout.On;
     pair->Promotion = bout.Promotion;
-    pair->Initials = InitialsOf(bout.Promotion);
+    pair->Initials = HouseOf(bout.Promotion).Initials;
     if (KeptTitle(bout, first)) ++pair->Defences;
   }
 }
@@ -167,8 +182,8 @@ void Ledger::CountReigns(Day until) {
       const Day since = std::max(Day(reign.From), from);
       const int place = uid == 0 ? -1 : Meet(uid, since);
       if (place < 0) continue;
-      if (begins) BeginReignOf(reign, uid, place);
-      With(place, reign.Owner, since).Days += days;
+      if (begins) BeginReignOf(reign, uid, place, until);
+      With(place, HouseIn(reign), since).Days += days;
       Careers[static_cast<std::size_t>(place)].Renown +=
           days * (image == images.end() ? 0 : image->second);
     }
@@ -187,15 +202,15 @@ void Ledger::CountPairReign(const TitleReign& reign, bool begins, int days, Day 
   pair->Initials = reign.Initials;
 }
 
-/// A birthday is kept on the first of the month behind the birth month.
-void Ledger::BeginReignOf(const TitleReign& reign, int uid, int place) {
-  ++With(place, reign.Owner, reign.From).Reigns;
+void Ledger::BeginReignOf(const TitleReign& reign, int uid, int place, Day until) {
+  const HouseKey house = HouseIn(reign);
+  ++With(place, house, reign.From).Reigns;
   const Worker* worker = world_.FindWorker(uid);
-  if (!worker || worker->Age == 0) return;
-  const int months = worker->Age * 12 + (MonthOf(reign.From) - worker->BirthMonth - 1 + 12) % 12;
+  const int months = worker ? MonthsOfAge(*worker, reign.From, until) : 0;
+  if (months <= 0) return;
   for (const FeatKind kind : {kFeatYoungest, kFeatOldest}) {
-    if (!Wants(kind, reign.Owner, months)) continue;
-    Feat feat = NewFeat(kind, reign.From, reign.Owner, months);
+    if (!Wants(kind, house, months)) continue;
+    Feat feat = NewFeat(kind, reign.From, house, months);
     feat.Career = int(Careers[static_cast<std::size_t>(place)].Number);
     feat.Who = worker->Name;
     feat.What = reign.Title;
@@ -218,7 +233,7 @@ void Ledger::CountShow(const HistoryEntry& show) {
   const FeatKind reach = show.Kind == kPastEvent ? kFeatBuys : kFeatViewers;
   const std::pair<FeatKind, int> figures[] = {{kFeatGate, show.Attendance}, {reach, show.Viewers}};
   for (const auto& [kind, figure] : figures) {
-    Feat feat = NewFeat(kind, show.On, show.Promotion, figure);
+    Feat feat = NewFeat(kind, show.On, HouseOf(show.Promotion), figure);
     feat.Who = show.Name;
     if (figure > 0) Offer(feat);
   }
@@ -243,20 +258,20 @@ void Ledger::CountDeeds(Day until) {
       YearLine line = NewLine(tells, YearOf(deed.On), deed.Promotion, deed.Number, deed.Who.View(),
                               deed.Kind == kDeedBought ? "Bought by " + deed.Other.Str() : "");
       line.Initials = deed.House;
-      Lines.push_back(line);
+      AddLine(line);
     }
-    const bool isShow = deed.Kind == kDeedEventHeld || deed.Kind == kDeedTvHeld;
-    if (isShow && deed.Promotion != world_.PlayerUid()) CountRivalShow(deed);
+    if (deed.Kind == kDeedEventHeld || deed.Kind == kDeedTvHeld) CountRivalShow(deed);
   }
 }
 
+/// Deeds tell of rivals' shows alone, also of one that the player leads since.
 void Ledger::CountRivalShow(const Deed& deed) {
+  const HouseKey house{deed.Promotion, deed.House.Str()};
   const FeatKind reach = deed.Kind == kDeedEventHeld ? kFeatBuys : kFeatViewers;
   const std::pair<FeatKind, int> figures[] = {{kFeatGate, deed.People}, {reach, deed.Viewers}};
   for (const auto& [kind, figure] : figures) {
-    if (figure <= 0 || !Wants(kind, deed.Promotion, figure)) continue;
-    Feat feat = NewFeat(kind, deed.On, deed.Promotion, figure);
-    feat.Initials = deed.House;
+    if (figure <= 0 || !Wants(kind, house, figure)) continue;
+    Feat feat = NewFeat(kind, deed.On, house, figure);
     feat.Who = deed.Who;
     Offer(feat);
   }
@@ -266,28 +281,60 @@ void Ledger::CountRivalShow(const Deed& deed) {
   OfferLine(gate, kYearShows);
 }
 
-/// Those that are fought out grow with every month.
-void Ledger::CountFeuds() {
+std::vector<Feat> Ledger::FeudsNow() const {
+  std::vector<Feat> feuds;
+  const auto add = [&](Day since, int promotion, std::string who, std::string against) {
+    const auto days = static_cast<int>((world_.Today() - since).count());
+    if (days <= 0 || since <= kNoTitleDate) return;
+    Feat& feat = feuds.emplace_back(NewFeat(kFeatFeud, since, HouseOf(promotion), days));
+    feat.Who = who;
+    feat.Against = against;
+  };
   for (const Feud& feud : world_.Feuds()) {
     if (feud.Worker1 == 0 || feud.Worker2 == 0) continue;
     const bool pairs = !feud.Singles;
-    NoteFeud(
-        feud.Started, world_.PlayerUid(),
+    add(feud.Started, world_.PlayerUid(),
         pairs ? PairName(world_, feud.Worker1, feud.Worker2) : WorkerName(world_, feud.Worker1),
         pairs ? PairName(world_, feud.Worker3, feud.Worker4) : WorkerName(world_, feud.Worker2));
   }
   for (const Grudge& grudge : world_.Grudges())
-    NoteFeud(grudge.Since, grudge.Promotion, WorkerName(world_, grudge.One),
-             WorkerName(world_, grudge.Two));
+    add(grudge.Since, grudge.Promotion, WorkerName(world_, grudge.One),
+        WorkerName(world_, grudge.Two));
+  return feuds;
 }
 
-void Ledger::NoteFeud(Day since, int promotion, std::string_view who, std::string_view against) {
-  const auto days = static_cast<int>((world_.Today() - since).count());
-  if (days <= 0 || since <= kNoTitleDate || !Wants(kFeatFeud, promotion, days)) return;
-  Feat feat = NewFeat(kFeatFeud, since, promotion, days);
-  feat.Who = who;
-  feat.Against = against;
-  Offer(feat);
+/// Those that are fought out grow with every month.
+void Ledger::CountFeuds() {
+  const std::vector<Feat> feuds = FeudsNow();
+  for (const Feat& feud : feuds) {
+    const HouseKey house{feud.Promotion, feud.Initials.Str()};
+    if (!Wants(kFeatFeud, house, feud.Number)) continue;
+    if (Feat* known = FormerName(feud, feuds)) {
+      known->Who = feud.Who;
+      known->Against = feud.Against;
+    }
+    Offer(feud);
+  }
+}
+
+/// The feud as it is known under a name that one of its sides has given up since: it began on the
+/// same day, and nobody who is feuding is called so. Nullptr where it is known by its names or not
+/// at all.
+Feat* Ledger::FormerName(const Feat& feud, const std::vector<Feat>& all) {
+  const auto isCalled = [&](const auto& name) {
+    return std::ranges::any_of(
+        all, [&](const Feat& one) { return one.Who == name || one.Against == name; });
+  };
+  const auto held = feats_.find({kFeatFeud, {feud.Promotion, feud.Initials.Str()}});
+  if (held == feats_.end()) return nullptr;
+  for (const std::size_t at : held->second) {
+    Feat& known = Feats[at];
+    if (Day(known.On) != Day(feud.On)) continue;
+    if ((known.Who == feud.Who && !isCalled(known.Against)) ||
+        (known.Against == feud.Against && !isCalled(known.Who)))
+      return &known;
+  }
+  return nullptr;
 }
 
 }  // namespace grapplemont

@@ -1,10 +1,13 @@
 #include "halls/ledger.h"
 
 #include <algorithm>
+#include <cstring>
+#include <utility>
 
 #include "records/fields/fields.h"
 #include "records/modWresCheck.h"
 #include "records/segments.h"
+#include "storylines/lineages.h"
 
 namespace grapplemont {
 
@@ -19,23 +22,56 @@ long long KeyOfPair(int one, int two) {
   return (static_cast<long long>(one) << 32) | static_cast<unsigned>(two);
 }
 
+/// Most records stay as they are from month to month.
+template <class T>
+void KeepChanged(Records<T>& file, const std::vector<T>& records) {
+  const auto held = static_cast<std::size_t>(file.Count());
+  for (std::size_t i = 0; i < held; ++i) {
+    const int number = static_cast<int>(i) + 1;
+    if (std::memcmp(&std::as_const(file)[number], &records[i], sizeof(T)) != 0)
+      file.Change(number) = records[i];
+  }
+  for (std::size_t i = held; i < records.size(); ++i) file.Append(records[i]);
+}
+
+template <class T>
+bool Holds(const std::vector<T>& records) {
+  return static_cast<int>(records.size()) <= LayoutOf<T>().Limit;
+}
+
 }  // namespace
 
-Ledger::Ledger(const World& world)
-    : Careers(AllOf<Career>(world)),
-      Tenures(AllOf<Tenure>(world)),
-      Pairs(AllOf<Partnership>(world)),
-      Feats(AllOf<Feat>(world)),
-      Lines(AllOf<YearLine>(world)),
-      world_(world),
-      byUid_(FreeUids::kHighest + 1, -1) {
+Ledger::Ledger(const World& world) : world_(world), byUid_(FreeUids::kHighest + 1, -1) {
   const auto& states = world.Of<TotalsState>();
-  if (states.Count() > 0) State = states[1];
-  if (State.Version != kTotalsVersion) {
-    State.Version = kTotalsVersion;
-    State.Since = State.Counted = Day(world.Game().StartDate);
+  if (states.Count() == 0 || states[1].Version != kTotalsVersion) {
+    Begin();
+    return;
   }
-  began_ = State.Counted;
+  State = states[1];
+  Careers = AllOf<Career>(world);
+  Tenures = AllOf<Tenure>(world);
+  Pairs = AllOf<Partnership>(world);
+  Feats = AllOf<Feat>(world);
+  Lines = AllOf<YearLine>(world);
+  Index();
+}
+
+/// Nobody knows how far totals without their state had come: they would count again what is in
+/// them.
+void Ledger::Begin() {
+  const Day start = world_.Game().StartDate;
+  isFirst_ = true;
+  State.Version = kTotalsVersion;
+  State.Counted = start;
+  // A game that is past its first month is older than its totals.
+  const bool isNew =
+      world_.Today() <= start || world_.Today() <= NextFirst(start + std::chrono::days{1});
+  State.Since = isNew ? start : world_.Today();
+  for (const HallMember& member : world_.Of<HallMember>())
+    State.LastCareer = std::max<int>(State.LastCareer, member.Career);
+}
+
+void Ledger::Index() {
   std::ranges::stable_sort(Careers, {}, [](const Career& career) { return int(career.Number); });
   for (std::size_t i = 0; i < Careers.size(); ++i) {
     State.LastCareer = std::max<int>(State.LastCareer, Careers[i].Number);
@@ -51,7 +87,9 @@ Ledger::Ledger(const World& world)
   for (std::size_t i = 0; i < Pairs.size(); ++i)
     pairs_.emplace(KeyOfPair(Pairs[i].One, Pairs[i].Two), static_cast<int>(i));
   for (std::size_t i = 0; i < Feats.size(); ++i)
-    feats_[{Feats[i].Kind, Feats[i].Promotion}].push_back(i);
+    feats_[{Feats[i].Kind, {Feats[i].Promotion, Feats[i].Initials.Str()}}].push_back(i);
+  const auto year = [](const YearLine& line) { return int(line.Year); };
+  if (!std::ranges::is_sorted(Lines, {}, year)) std::ranges::stable_sort(Lines, {}, year);
 }
 
 int Ledger::PlaceOf(int career) const {
@@ -77,22 +115,29 @@ int Ledger::Meet(int uid, Day on) {
   career.Gender = bool(worker->Gender);
   career.First = SeenOn(on);
   career.Last = career.PeakOn = kNoTitleDate;
+  if (isFirst_) career.Elected = ElectedAs(worker->Name);
   Careers.push_back(career);
   lastTenure_.push_back(-1);
   return byUid_[static_cast<std::size_t>(uid)] = static_cast<int>(Careers.size()) - 1;
 }
 
-Tenure& Ledger::With(int career, int promotionUid, Day on) {
+/// Members of the hall outlast the careers that brought them there.
+int Ledger::ElectedAs(std::string_view name) const {
+  for (const HallMember& member : world_.Of<HallMember>())
+    if (member.Name == name) return YearOf(member.On);
+  return 0;
+}
+
+Tenure& Ledger::With(int career, const HouseKey& house, Day on) {
   const auto at = static_cast<std::size_t>(career);
-  const std::string initials = InitialsOf(promotionUid);
   for (int i = lastTenure_[at]; i >= 0; i = tenureBefore_[static_cast<std::size_t>(i)]) {
     Tenure& known = Tenures[static_cast<std::size_t>(i)];
-    if (known.Promotion == promotionUid && known.Initials == initials) return known;
+    if (known.Promotion == house.Uid && known.Initials == house.Initials) return known;
   }
   Tenure fresh{};
   fresh.Career = int(Careers[at].Number);
-  fresh.Promotion = promotionUid;
-  fresh.Initials = initials;
+  fresh.Promotion = house.Uid;
+  fresh.Initials = house.Initials;
   fresh.First = fresh.Last = SeenOn(on);
   tenureBefore_.push_back(lastTenure_[at]);
   lastTenure_[at] = static_cast<int>(Tenures.size());
@@ -117,26 +162,37 @@ Partnership* Ledger::PairOf(int uid, int otherUid, Day on) {
   return &pair;
 }
 
-/// Whoever is there when counting begins has been there before.
+/// Whoever is there when counting begins has been there before; what the files still tell of a time
+/// before that was seen when it was.
 Day Ledger::SeenOn(Day on) const {
-  return began_ == Day(State.Since) ? began_ : on;
+  return isFirst_ ? std::min(on, Day(State.Since)) : on;
 }
 
-/// Of one that has gone since, as it was called.
-std::string Ledger::InitialsOf(int promotionUid) const {
+Day Ledger::KnownFrom() const {
+  Day first = State.Since;
+  for (const Career& career : Careers)
+    if (Day(career.First) > kNoTitleDate) first = std::min(first, Day(career.First));
+  return first;
+}
+
+/// One that has gone since, as it was called.
+HouseKey Ledger::HouseOf(int promotionUid) const {
   if (const Promotion* promotion = world_.FindPromotion(promotionUid))
-    return promotion->Initials.Str();
+    return {promotionUid, promotion->Initials.Str()};
   for (auto tenure = Tenures.rbegin(); tenure != Tenures.rend(); ++tenure)
-    if (tenure->Promotion == promotionUid) return tenure->Initials.Str();
-  return {};
+    if (tenure->Promotion == promotionUid) return {promotionUid, tenure->Initials.Str()};
+  return {promotionUid, {}};
+}
+
+bool Ledger::Stands(const HouseKey& house) const {
+  const Promotion* promotion = world_.FindPromotion(house.Uid);
+  return promotion && promotion->Initials == house.Initials;
 }
 
 void Ledger::CountUntil(Day until) {
   for (const auto count : {&Ledger::CountCards, &Ledger::CountHeld, &Ledger::CountReigns,
-                           &Ledger::CountShows, &Ledger::CountDeeds}) {
+                           &Ledger::CountShows, &Ledger::CountDeeds})
     (this->*count)(until);
-    SortLines();
-  }
   CountFeuds();
   State.Counted = std::max(until, Day(State.Counted));
 }
@@ -155,7 +211,7 @@ void Ledger::CountMonth() {
       career.PeakOn = world_.Today();
     }
     if (worker.Employer == 0) continue;
-    Tenure& tenure = With(place, worker.Employer, world_.Today());
+    Tenure& tenure = With(place, HouseOf(worker.Employer), world_.Today());
     ++tenure.Months;
     tenure.Last = world_.Today();
     tenure.Wage = std::max<int>(tenure.Wage, worker.Wage);
@@ -187,13 +243,26 @@ void Ledger::CountYear() {
   }
 }
 
+bool Ledger::Fits() const {
+  return Holds(Careers) && Holds(Tenures) && Holds(Pairs) && Holds(Feats) && Holds(Lines);
+}
+
 void Ledger::Keep(World& world) {
+  if (!Fits()) Prune();
+  const bool whole = isFirst_ || isPruned_;
+  const auto keep = [&]<class T>(const std::vector<T>& records) {
+    Records<T>& file = world.Of<T>();
+    if (whole || static_cast<int>(records.size()) < file.Count())
+      file.Rewrite(records);
+    else
+      KeepChanged(file, records);
+  };
   world.Of<TotalsState>().Rewrite({State});
-  world.Of<Career>().Rewrite(Careers);
-  world.Of<Tenure>().Rewrite(Tenures);
-  world.Of<Partnership>().Rewrite(Pairs);
-  world.Of<Feat>().Rewrite(Feats);
-  world.Of<YearLine>().Rewrite(Lines);
+  keep(Careers);
+  keep(Tenures);
+  keep(Pairs);
+  keep(Feats);
+  keep(Lines);
 }
 
 Ledger PastOf(const World& world) {
@@ -203,6 +272,7 @@ Ledger PastOf(const World& world) {
 }
 
 void CountThePast(World& world) {
+  UpdateReigns(world);  // what the last day changed is not in them yet
   Ledger ledger(world);
   ledger.CountUntil(world.Today());
   ledger.CountMonth();

@@ -4,12 +4,12 @@
 
 namespace grapplemont {
 
-std::vector<Life> LivesOf(const Ledger& ledger, int promotionUid) {
+std::vector<Life> LivesOf(const Ledger& ledger, const HouseKey& house) {
   std::vector<Life> lives(ledger.Careers.size());
   for (std::size_t i = 0; i < lives.size(); ++i) lives[i].Of = &ledger.Careers[i];
   for (const Tenure& tenure : ledger.Tenures) {
     const int place = ledger.PlaceOf(tenure.Career);
-    if (place < 0 || (promotionUid != 0 && tenure.Promotion != promotionUid)) continue;
+    if (place < 0 || !IsOf(house, tenure.Promotion, tenure.Initials.View())) continue;
     Life& life = lives[static_cast<std::size_t>(place)];
     const std::pair<int Life::*, const Natural Tenure::*> sums[] = {
         {&Life::Months, &Tenure::Months},       {&Life::Won, &Tenure::Won},

@@ -21,7 +21,7 @@ struct Life {
 
 /// One a career, in the order of the ledger's. With a promotion, those who have not been there have
 /// neither months nor matches.
-std::vector<Life> LivesOf(const Ledger& ledger, int promotionUid = 0);
+std::vector<Life> LivesOf(const Ledger& ledger, const HouseKey& house = {});
 
 /// "2026 to 2041", "since 2026".
 std::string YearsOf(const Career& career);

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <set>
+#include <tuple>
+#include <utility>
 
 #include "halls/hall.h"
 #include "records/fields/fields.h"
@@ -18,12 +21,24 @@ namespace {
 using Book = RecordBook;
 using Places = std::vector<RecordLine>;
 
-/// The highest figures first; of those alike, as they come.
-Places Ranked(Places lines, bool lowestFirst = false) {
-  std::ranges::stable_sort(lines, [=](const RecordLine& a, const RecordLine& b) {
-    return lowestFirst ? a.Figure < b.Figure : a.Figure > b.Figure;
-  });
-  lines.resize(std::min(lines.size(), kPlaces));
+constexpr int kNoPlace = -1;
+
+/// The highest figures first; of those alike, as they come. Whatever has the figure kNoPlace stays
+/// out, and a line is written for those only that stand in the table.
+template <class T, class Figure, class Write>
+Places Ranked(const std::vector<T>& all, Figure figure, Write write, bool lowestFirst = false) {
+  std::vector<std::pair<int, std::size_t>> places;
+  for (std::size_t i = 0; i < all.size(); ++i)
+    if (const int number = figure(all[i]); number != kNoPlace)
+      places.emplace_back(lowestFirst ? number : -number, i);
+  const std::size_t shown = std::min(places.size(), kPlaces);
+  std::ranges::partial_sort(places, places.begin() + static_cast<std::ptrdiff_t>(shown));
+  Places lines;
+  for (std::size_t i = 0; i < shown; ++i) {
+    const T& one = all[places[i].second];
+    RecordLine& line = lines.emplace_back(write(one));
+    line.Figure = figure(one);
+  }
   return lines;
 }
 
@@ -46,10 +61,8 @@ std::string Wages(int thousands) {
   return Dollars(1000LL * thousands);
 }
 
-RecordLine LineOf(const Life& life, int figure, std::string shown, std::string more) {
-  return {life.Of->Name.Str(), static_cast<double>(figure),
-          std::move(shown),    std::move(more),
-          kNoTitleDate,        life.Of->Worker};
+RecordLine LineOf(const Life& life, std::string shown, std::string more) {
+  return {life.Of->Name.Str(), 0, std::move(shown), std::move(more), kNoTitleDate, life.Of->Worker};
 }
 
 // A table of careers: what each comes to, how that reads, what stands beside it.
@@ -68,11 +81,24 @@ std::string SpanAt(const Life& life) {
 /// Those whose measure is above 0.
 template <Measure measure, Reads says = Plain, Beside beside = Span>
 Places OfLives(const Book& book) {
-  Places lines;
-  for (const Life& life : book.Lives)
-    if (const int figure = life.Promotions == 0 ? 0 : measure(life); figure > 0)
-      lines.push_back(LineOf(life, figure, says(figure), beside(life)));
-  return Ranked(std::move(lines));
+  return Ranked(
+      book.Lives,
+      [](const Life& life) {
+        const int figure = life.Promotions == 0 ? 0 : measure(life);
+        return figure > 0 ? figure : kNoPlace;
+      },
+      [](const Life& life) { return LineOf(life, says(measure(life)), beside(life)); });
+}
+
+/// Of those who were there, what all they did anywhere is worth.
+Places AllTime(const Book& book) {
+  return Ranked(
+      book.House.Uid == 0 ? book.Lives : book.Whole,
+      [](const Life& life) {
+        const int points = life.Promotions == 0 ? 0 : PointsOf(life);
+        return points > 0 ? points : kNoPlace;
+      },
+      [](const Life& life) { return LineOf(life, Plain(PointsOf(life)), SpanAt(life)); });
 }
 
 template <int Life::*member>
@@ -117,72 +143,95 @@ std::string PeakOn(const Life& life) {
   return "First in " + MonthYear(life.Of->PeakOn);
 }
 
-int NeverChampion(const Life& life) {
-  return life.Reigns > 0 || life.Days > 0 || life.Matches() < kFewestMatches ? 0
-                                                                             : int(life.Of->Peak);
-}
 std::string TriedFor(const Life& life) {
   return Counted(life.ForTitles, "match", "matches") + " for a Title";
 }
 
+/// Reigns from before counting began are told of by the Titles alone; they name who has gone.
+Places NeverChampions(const Book& book) {
+  std::set<int> uids;
+  std::set<std::string, std::less<>> names;
+  for (const TitleReign* reign : book.Reigns) {
+    uids.insert({int(reign->Worker), int(reign->Partner)});
+    if (reign->Worker == 0) names.insert(reign->Holder.Str());
+  }
+  const auto figure = [&](const Life& life) {
+    const bool held = life.Reigns > 0 || life.Days > 0 ||
+                      (life.Of->Worker != 0 ? uids.contains(life.Of->Worker)
+                                            : names.contains(life.Of->Name.View()));
+    return held || life.Matches() < kFewestMatches || life.Of->Peak == 0 ? kNoPlace
+                                                                         : int(life.Of->Peak);
+  };
+  return Ranked(book.Lives, figure, [](const Life& life) {
+    return LineOf(life, Share(life.Of->Peak), TriedFor(life));
+  });
+}
+
 // Reigns.
+
+RecordLine LineOf(const TitleReign& reign, int figure) {
+  return {reign.Holder.Str(), 0,
+          Plain(figure),      reign.Title + " (" + reign.Initials.Str() + ")",
+          reign.From,         reign.Partner == 0 ? int(reign.Worker) : 0};
+}
 
 template <bool shortest>
 Places ByLength(const Book& book) {
-  Places lines;
-  for (const TitleReign& reign : book.Reigns) {
-    const int days = DaysOf(reign, book.Of().Today());
-    if (days < 0 || (shortest && reign.End != kReignLost)) continue;
-    lines.push_back({reign.Holder.Str(), static_cast<double>(days), Plain(days),
-                     reign.Title + " (" + reign.Initials.Str() + ")" +
-                         (reign.End == kReignLasts ? ", lasts" : ""),
-                     reign.From, reign.Partner == 0 ? int(reign.Worker) : 0});
-  }
-  return Ranked(std::move(lines), shortest);
+  const auto days = [&](const TitleReign* reign) {
+    return shortest && reign->End != kReignLost ? kNoPlace : DaysOf(*reign, book.Of().Today());
+  };
+  const auto write = [&](const TitleReign* reign) {
+    RecordLine line = LineOf(*reign, days(reign));
+    if (reign->End == kReignLasts) line.More += ", lasts";
+    return line;
+  };
+  return Ranked(book.Reigns, days, write, shortest);
 }
 
 Places ByDefences(const Book& book) {
-  Places lines;
-  for (const TitleReign& reign : book.Reigns)
-    if (reign.Defences > 0)
-      lines.push_back({reign.Holder.Str(), static_cast<double>(reign.Defences),
-                       Plain(reign.Defences), reign.Title + " (" + reign.Initials.Str() + ")",
-                       reign.From, reign.Partner == 0 ? int(reign.Worker) : 0});
-  return Ranked(std::move(lines));
+  return Ranked(
+      book.Reigns,
+      [](const TitleReign* reign) { return reign->Defences > 0 ? int(reign->Defences) : kNoPlace; },
+      [](const TitleReign* reign) { return LineOf(*reign, reign->Defences); });
 }
 
 Places RestlessTitles(const Book& book) {
-  std::map<std::pair<int, std::string>, RecordLine> titles;
-  for (const TitleReign& reign : book.Reigns) {
-    RecordLine& line = titles[{reign.Owner, reign.Title.Str()}];
-    line.Who = reign.Title.Str();
-    line.More = reign.Initials.Str();
-    ++line.Figure;
-  }
-  Places lines;
-  for (auto& [title, line] : titles) {
-    line.Shown = Plain(static_cast<int>(line.Figure));
-    lines.push_back(line);
-  }
-  return Ranked(std::move(lines));
+  using Key = std::tuple<int, std::string_view, std::string_view>;
+  std::map<Key, int> counts;
+  for (const TitleReign* reign : book.Reigns)
+    ++counts[{reign->Owner, reign->Initials.View(), reign->Title.View()}];
+  const std::string least = HaveReignsGone(book.Of()) ? "at least " : "";
+  return Ranked(
+      std::vector(counts.begin(), counts.end()), [](const auto& title) { return title.second; },
+      [&](const auto& title) {
+        const auto& [owner, initials, name] = title.first;
+        return RecordLine{std::string(name), 0, least + Plain(title.second), std::string(initials)};
+      });
 }
 
 // Feats.
 
 template <FeatKind kind, Reads says>
 Places OfFeats(const Book& book) {
-  Places lines;
-  for (const Feat& feat : book.Past.Feats) {
-    if (feat.Kind != kind || !book.Covers(feat.Promotion)) continue;
-    const int place = book.Past.PlaceOf(feat.Career);
-    const std::string what = feat.What.Str();
-    lines.push_back(
-        {feat.Who + (feat.Against.View().empty() ? "" : " vs " + feat.Against.Str()),
-         static_cast<double>(feat.Number), says(feat.Number),
-         what.empty() ? feat.Initials.Str() : what + " (" + feat.Initials.Str() + ")", feat.On,
-         place < 0 ? 0 : int(book.Past.Careers[static_cast<std::size_t>(place)].Worker)});
-  }
-  return Ranked(std::move(lines), kind == kFeatYoungest);
+  return Ranked(
+      book.Past.Feats,
+      [&](const Feat& feat) {
+        const bool counts = feat.Kind == kind && feat.Number >= 0 &&
+                            IsOf(book.House, feat.Promotion, feat.Initials.View());
+        return counts ? int(feat.Number) : kNoPlace;
+      },
+      [&](const Feat& feat) {
+        const int place = book.Past.PlaceOf(feat.Career);
+        const std::string what = feat.What.Str();
+        return RecordLine{
+            feat.Who + (feat.Against.View().empty() ? "" : " vs " + feat.Against.Str()),
+            0,
+            says(feat.Number),
+            what.empty() ? feat.Initials.Str() : what + " (" + feat.Initials.Str() + ")",
+            feat.On,
+            place < 0 ? 0 : int(book.Past.Careers[static_cast<std::size_t>(place)].Worker)};
+      },
+      kind == kFeatYoungest);
 }
 
 // Teams.
@@ -199,15 +248,18 @@ std::string TeamText(const Book& book, const Partnership& pair) {
 
 template <int (*measure)(const Partnership&)>
 Places OfPairs(const Book& book) {
-  Places lines;
-  for (const Partnership& pair : book.Past.Pairs) {
-    const int figure = book.Covers(pair.Promotion) ? measure(pair) : 0;
-    if (figure > 0)
-      lines.push_back({TeamText(book, pair), static_cast<double>(figure), Plain(figure),
-                       std::to_string(pair.Won) + " won, " + std::to_string(pair.Lost) + " lost",
-                       pair.First, 0});
-  }
-  return Ranked(std::move(lines));
+  return Ranked(
+      book.Past.Pairs,
+      [&](const Partnership& pair) {
+        const bool counts = IsOf(book.House, pair.Promotion, pair.Initials.View());
+        const int figure = counts ? measure(pair) : 0;
+        return figure > 0 ? figure : kNoPlace;
+      },
+      [&](const Partnership& pair) {
+        return RecordLine{TeamText(book, pair), 0, Plain(measure(pair)),
+                          std::to_string(pair.Won) + " won, " + std::to_string(pair.Lost) + " lost",
+                          pair.First};
+      });
 }
 int MatchesTogether(const Partnership& pair) {
   return pair.Won + pair.Lost + pair.Drawn;
@@ -222,7 +274,8 @@ int ReignsTogether(const Partnership& pair) {
 constexpr const char* kLives = "Career";
 constexpr RecordTable kRecordTables[] = {
     {"All time", "All-time ranking", "Points", kLives,
-     "What a career is worth by the rule of the hall of fame.", OfLives<PointsOf, Plain, SpanAt>},
+     "What the whole career is worth by the rule of the hall of fame, wherever they were.",
+     AllTime},
     {"Titles", "Longest reigns", "Days", "Title", "Reigns whose beginning is known.",
      ByLength<false>},
     {"Titles", "Shortest reigns", "Days", "Title", "Reigns that were lost in the ring.",
@@ -236,8 +289,8 @@ constexpr RecordTable kRecordTables[] = {
     {"Titles", "Most defences", "Defences", "Reigns", "Of all reigns.",
      OfLives<Sum<&Life::Defences>, Plain, InReigns>},
     {"Titles", "Best never to hold a Title", "Highest Over", "Tries",
-     "The highest Over of those with thirty matches and no reign.",
-     OfLives<NeverChampion, Share, TriedFor>},
+     "The highest Over, wherever they were, of those with thirty matches and no reign.",
+     NeverChampions},
     {"Titles", "Youngest champions", "Age", "Title", "On the day a reign began.",
      OfFeats<kFeatYoungest, InYears>},
     {"Titles", "Oldest champions", "Age", "Title", "On the day a reign began.",
@@ -277,19 +330,20 @@ constexpr RecordTable kRecordTables[] = {
      OfLives<Sum<&Life::Months>, InYears, SpanAt>},
     {"Careers", "Most promotions", "Promotions", kLives, "Under contract.",
      OfLives<Sum<&Life::Promotions>, Plain, SpanAt>},
-    {"Careers", "Longest at the top", "Time", kLives, "Months with Over at 80 or more.",
-     OfLives<Own<&Career::Top>, InYears>},
-    {"Careers", "Highest Over", "Over", "When", "At the first of a month.",
+    {"Careers", "Longest at the top", "Time", kLives,
+     "Months with Over at 80 or more, wherever they were.", OfLives<Own<&Career::Top>, InYears>},
+    {"Careers", "Highest Over", "Over", "When", "At the first of a month, wherever they were.",
      OfLives<Own<&Career::Peak>, Share, PeakOn>},
-    {"Careers", "Biggest rises", "Over", "When", "Of Over within a year.",
+    {"Careers", "Biggest rises", "Over", "When", "Of Over within a year, wherever they were.",
      OfLives<Own<&Career::Rise>, Share, RiseYear>},
-    {"Careers", "Biggest falls", "Over", "When", "Of Over within a year.",
+    {"Careers", "Biggest falls", "Over", "When", "Of Over within a year, wherever they were.",
      OfLives<Own<&Career::Fall>, Share, FallYear>},
     {"Careers", "Highest wages", "A month", kLives, "In all their contracts.",
      OfLives<Sum<&Life::Wage>, Wages, SpanAt>},
-    {"Careers", "Most time hurt", "Time", kLives, "Months injured.",
+    {"Careers", "Most time hurt", "Time", kLives, "Months injured, wherever they were.",
      OfLives<Own<&Career::Hurt>, InYears>},
-    {"Careers", "Most awards", "Awards", kLives, "Of the years.", OfLives<AwardsWon>},
+    {"Careers", "Most awards", "Awards", kLives, "Of the years, wherever they were.",
+     OfLives<AwardsWon>},
     {"Shows", "Biggest gates", "People", "Promotion", "At most fifteen of one promotion.",
      OfFeats<kFeatGate, Plain>},
     {"Shows", "Best television ratings", "Rating", "Promotion", "At most fifteen of one promotion.",
@@ -306,10 +360,16 @@ constexpr RecordTable kRecordTables[] = {
 
 }  // namespace
 
-RecordBook::RecordBook(const Ledger& ledger, int promotionUid)
-    : Past(ledger), Promotion(promotionUid), Lives(LivesOf(ledger, promotionUid)) {
+RecordBook::RecordBook(const Ledger& ledger, HouseKey house)
+    : Past(ledger), House(std::move(house)), Lives(LivesOf(ledger, House)) {
+  if (House.Uid != 0) {
+    std::vector<Life> whole = LivesOf(ledger);
+    for (std::size_t i = 0; i < whole.size(); ++i)
+      if (Lives[i].Promotions > 0) Whole.push_back(std::move(whole[i]));
+  }
   for (const TitleReign& reign : ledger.Of().Reigns())
-    if (!IsVacancy(reign) && Covers(reign.Owner)) Reigns.push_back(reign);
+    if (!IsVacancy(reign) && IsOf(House, reign.Owner, reign.Initials.View()))
+      Reigns.push_back(&reign);
 }
 
 std::span<const RecordTable> RecordTables() {
@@ -317,19 +377,19 @@ std::span<const RecordTable> RecordTables() {
 }
 
 std::vector<HouseOfRecords> HousesOf(const Ledger& ledger) {
-  std::map<int, HouseOfRecords> houses;
+  std::set<HouseKey> houses;
   const auto add = [&](int uid, std::string_view initials) {
     if (uid > 0 && !initials.empty() && initials != "None")
-      houses[uid] = {uid, std::string(initials), ledger.Of().FindPromotion(uid) != nullptr};
+      houses.insert({uid, std::string(initials)});
   };
   for (const Tenure& tenure : ledger.Tenures) add(tenure.Promotion, tenure.Initials.View());
   for (const TitleReign& reign : ledger.Of().Reigns()) add(reign.Owner, reign.Initials.View());
   for (const Promotion& promotion : ledger.Of().Promotions())
     add(promotion.Uid, promotion.Initials.View());
   std::vector<HouseOfRecords> list;
-  for (const auto& [uid, house] : houses) list.push_back(house);
+  for (const HouseKey& house : houses) list.push_back({house, ledger.Stands(house)});
   std::ranges::stable_sort(list, [](const HouseOfRecords& a, const HouseOfRecords& b) {
-    return a.Stands != b.Stands ? a.Stands : a.Name < b.Name;
+    return a.Stands != b.Stands ? a.Stands : a.Key.Initials < b.Key.Initials;
   });
   return list;
 }

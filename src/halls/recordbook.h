@@ -24,13 +24,13 @@ struct RecordLine {
 /// What the tables are made from, read once for all of them.
 struct RecordBook {
   const Ledger& Past;
-  int Promotion = 0;  // uid; 0 is the world
-  std::vector<Life> Lives;
-  std::vector<TitleReign> Reigns;
+  HouseKey House;           // uid 0 is the world
+  std::vector<Life> Lives;  // what they did there
+  std::vector<Life> Whole;  // of a promotion: what the same people did anywhere
+  std::vector<const TitleReign*> Reigns;
 
-  RecordBook(const Ledger& ledger, int promotionUid);
+  RecordBook(const Ledger& ledger, HouseKey house);
   const World& Of() const { return Past.Of(); }
-  bool Covers(int promotionUid) const { return Promotion == 0 || Promotion == promotionUid; }
 };
 
 struct RecordTable {
@@ -50,8 +50,7 @@ inline constexpr int kFewestMatches = 30;
 
 /// A promotion that records know, which may have closed.
 struct HouseOfRecords {
-  int Uid = 0;
-  std::string Name;
+  HouseKey Key;
   bool Stands = false;
 };
 /// Those that stand first, by their initials; then those of the past.

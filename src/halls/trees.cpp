@@ -25,12 +25,15 @@ std::vector<TreeReign> TreeOf(const World& world, const Lineage& lineage) {
   std::vector<TreeReign> tree;
   std::map<std::string, int> times;
   int number = 0;
-  std::string before;
+  const TitleReign* before = nullptr;
   for (const TitleReign* reign : ReignsOf(world, lineage) | std::views::reverse) {
     const std::string holder = reign->Holder.Str();
     const bool vacant = IsVacancy(*reign);
-    tree.push_back({reign, vacant ? 0 : ++number, vacant ? 0 : ++times[holder], before});
-    before = vacant ? std::string() : holder;
+    // Reigns that the file has dropped leave gaps.
+    const bool follows = before && !IsVacancy(*before) && Day(before->Until) == Day(reign->From);
+    tree.push_back({reign, vacant ? 0 : ++number, vacant ? 0 : ++times[holder],
+                    follows ? before->Holder.Str() : std::string()});
+    before = reign;
   }
   return tree;
 }

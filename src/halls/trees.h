@@ -13,11 +13,11 @@ namespace grapplemont {
 /// A holder of a Title in their turn.
 struct TreeReign {
   const TitleReign* Reign = nullptr;
-  int Number = 0;         // which reign of all, from 1; 0 for a vacancy
+  int Number = 0;         // which reign of those that are kept, from 1; 0 for a vacancy
   int OfTheirs = 0;       // which one of theirs
-  std::string TakenFrom;  // the holder before; empty where it was vacant
+  std::string TakenFrom;  // the holder before; empty where it was vacant or nobody knows
 };
-/// The oldest first.
+/// The oldest first. Where HaveReignsGone, there were as many or more.
 std::vector<TreeReign> TreeOf(const World& world, const Lineage& lineage);
 
 /// Two who teamed up, as one of them sees it.

@@ -26,13 +26,14 @@ class YearWriter {
     WriteMoves();
     WriteCareers();
     WriteRoster();
+    WriteChampions();
     for (const Promotion& promotion : world_.Promotions()) WriteStanding(promotion);
     for (const HallMember& member : world_.Of<HallMember>())
       if (YearOf(member.On) == year_) {
         YearLine line = NewLine(kYearElected, 0, PointsOf(member), member.Name.View());
         line.Initials = member.Initials;
         line.Career = int(member.Career);
-        ledger_.Lines.push_back(line);
+        ledger_.AddLine(line);
       }
   }
 
@@ -78,9 +79,10 @@ class YearWriter {
 
   /// Who came to the player and who went.
   void WriteRoster() {
+    const HouseKey own = ledger_.HouseOf(world_.PlayerUid());
     for (const Tenure& tenure : ledger_.Tenures) {
       const int place = ledger_.PlaceOf(tenure.Career);
-      if (tenure.Promotion != world_.PlayerUid() || place < 0) continue;
+      if (HouseKey{tenure.Promotion, tenure.Initials.Str()} != own || place < 0) continue;
       const Career& career = ledger_.Careers[static_cast<std::size_t>(place)];
       const Worker* worker = world_.FindWorker(career.Worker);
       const bool there = worker && worker->Employer == world_.PlayerUid();
@@ -93,7 +95,20 @@ class YearWriter {
   void Note(YearLineKind kind, const Career& career, int over) {
     YearLine line = NewLine(kind, world_.PlayerUid(), over, career.Name.View());
     line.Career = int(career.Number);
-    ledger_.Lines.push_back(line);
+    ledger_.AddLine(line);
+  }
+
+  /// The reigns themselves may be dropped one day.
+  void WriteChampions() {
+    for (const TitleReign& reign : world_.Reigns()) {
+      if (IsVacancy(reign) || reign.End != kReignLasts) continue;
+      YearLine line = NewLine(kYearChampion, reign.Owner, DaysOf(reign, world_.Today()),
+                              reign.Holder.View(), reign.Title.View());
+      line.Initials = reign.Initials;
+      const int place = reign.Partner == 0 ? ledger_.PlaceOfUid(reign.Worker) : -1;
+      if (place >= 0) line.Career = int(ledger_.Careers[static_cast<std::size_t>(place)].Number);
+      ledger_.AddLine(line);
+    }
   }
 
   void WriteStanding(const Promotion& promotion) {
@@ -101,7 +116,7 @@ class YearWriter {
     YearLine line = NewLine(isPlayers ? kYearPlayer : kYearStanding, promotion.Uid, promotion.Size,
                             promotion.Name.View(), Dollars(promotion.Money));
     line.Other = int(promotion.Image);
-    ledger_.Lines.push_back(line);
+    ledger_.AddLine(line);
   }
 
   Ledger& ledger_;
@@ -138,8 +153,14 @@ std::string ImageAndMoney(const YearLine& line) {
   return "Image " + std::to_string(line.Other) + "%, " + line.What.Str();
 }
 
+constexpr const char* kChampions = "Champions at the end";
 constexpr SectionRow kSections[] = {
     {kYearPlayer, "Your promotion", SizeOf, ImageAndMoney},
+    {kYearChampion, kChampions,
+     [](const YearLine& line) {
+       return line.Number < 0 ? std::string() : Counted(line.Number, "day");
+     },
+     [](const YearLine& line) { return line.What + " (" + line.Initials.Str() + ")"; }},
     {kYearMatch, "Best matches", Percentage, HouseAndWhat, true},
     {kYearShow, "Your best shows", Percentage, HouseAndWhat, true},
     {kYearGate, "Biggest gates",
@@ -170,9 +191,10 @@ constexpr SectionRow kSections[] = {
     {kYearStanding, "How the others stand", SizeOf, ImageAndMoney},
 };
 
+/// Pages that were written before champions stood on them.
 YearSection ChampionsOf(const World& world, int year) {
-  const Day end = std::min(Day{std::chrono::year{year} / 12 / 31}, world.Today());
-  YearSection section{"Champions at the end", {}};
+  const Day end{std::chrono::year{year} / 12 / 31};
+  YearSection section{kChampions, {}};
   for (const TitleReign& reign : world.Reigns()) {
     const bool over = reign.End != kReignLasts && Day(reign.Until) <= end;
     if (IsVacancy(reign) || Day(reign.From) > end || over) continue;
@@ -183,6 +205,10 @@ YearSection ChampionsOf(const World& world, int year) {
                             reign.Partner == 0 ? int(reign.Worker) : 0});
   }
   return section;
+}
+
+bool IsLastOfYear(Day day) {
+  return MonthOf(day) == 12 && DayOfMonth(day) == 31;
 }
 
 YearSection AwardRowsOf(const World& world, int year) {
@@ -214,6 +240,7 @@ YearSection SectionOf(const Ledger& ledger, const SectionRow& kind, int year) {
 }  // namespace
 
 void CloseTheYear(World& world) {
+  UpdateReigns(world);
   Ledger ledger(world);
   ledger.CountUntil(world.Today());
   ledger.CountYear();
@@ -241,9 +268,13 @@ std::vector<YearSection> PageOfYear(const Ledger& ledger, int year) {
                     });
   if (runs) YearWriter(now).Write();
   for (const SectionRow& kind : kSections) {
-    add(SectionOf(now, kind, year));
-    if (kind.Kind != kYearPlayer) continue;
-    add(ChampionsOf(ledger.Of(), year));
+    YearSection section = SectionOf(now, kind, year);
+    if (kind.Kind != kYearChampion) {
+      add(std::move(section));
+      continue;
+    }
+    if (runs && !IsLastOfYear(ledger.Of().Today())) section.Title = "Champions now";
+    add(section.Rows.empty() && !runs ? ChampionsOf(ledger.Of(), year) : std::move(section));
     add(AwardRowsOf(ledger.Of(), year));
   }
   return page;
@@ -255,16 +286,17 @@ namespace {
 struct StoryRow {
   const char* Section;
   const char* Says;
+  const char* SoFar = nullptr;  // while the year runs, where that reads otherwise
 };
 constexpr StoryRow kStory[] = {
-    {"Your promotion", "{who} was {figure} when it ended. {what}."},
+    {"Your promotion", "{who} was {figure} when it ended. {what}.", "{who} is {figure}. {what}."},
     {"Awards", "{figure}: {who}."},
     {"Best matches", "The best match was rated {figure}: {who} ({what})."},
     {"Biggest gates", "Nothing drew more than {who}, seen by {figure} ({what})."},
     {"Hall of fame", "{who} entered the hall of fame with {figure}."},
     {"Biggest rises", "Nobody rose further than {who} ({figure})."},
     {"Biggest falls", "Nobody fell deeper than {who} ({figure})."},
-    {"Newcomers", "The newcomer to watch was {who}."},
+    {"Newcomers", "The newcomer to watch was {who}.", "The newcomer to watch is {who}."},
     {"Retired", "{who} left the business."},
     {"Promotions founded", "{who} was founded."},
     {"Promotions closed", "{who} closed."},
@@ -272,14 +304,15 @@ constexpr StoryRow kStory[] = {
 
 }  // namespace
 
-std::string StoryOfYear(const std::vector<YearSection>& page, int year) {
+std::string StoryOfYear(const std::vector<YearSection>& page, int year, bool isOver) {
   std::string story;
   for (const StoryRow& line : kStory) {
     const auto section =
         std::ranges::find(page, std::string_view(line.Section), &YearSection::Title);
     if (section == page.end()) continue;
     const YearRow& row = section->Rows.front();
-    story += (story.empty() ? "" : " ") + FillHoles(line.Says, [&](std::string_view slot) {
+    const char* says = isOver || !line.SoFar ? line.Says : line.SoFar;
+    story += (story.empty() ? "" : " ") + FillHoles(says, [&](std::string_view slot) {
                return slot == "who" ? row.Who : slot == "figure" ? row.Figure : row.What;
              });
   }

@@ -27,6 +27,6 @@ std::vector<int> YearsOfBook(const Ledger& ledger);
 /// Sections without rows are left out.
 std::vector<YearSection> PageOfYear(const Ledger& ledger, int year);
 /// The same in a few sentences.
-std::string StoryOfYear(const std::vector<YearSection>& page, int year);
+std::string StoryOfYear(const std::vector<YearSection>& page, int year, bool isOver);
 
 }  // namespace grapplemont

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cctype>
-#include <limits>
+#include <cstdint>
+#include <span>
 #include <tuple>
 
 #include "business/networks.h"
@@ -46,12 +48,21 @@ std::string PlainWords(std::string_view text) {
   return plain;
 }
 
+/// Which letters are in it, a bit each.
+std::uint64_t LettersIn(std::string_view text) {
+  std::uint64_t letters = 0;
+  for (const char letter : text) letters |= std::uint64_t{1} << (letter & 63);
+  return letters;
+}
+
 /// The fewest letters to put in, leave out, exchange or swap until `word` begins `text`; `most` + 1
 /// for more than that.
 int WrongLetters(std::string_view word, std::string_view text, int most) {
   constexpr std::size_t kLongest = 24;
   if (word.size() > kLongest) return most + 1;
   text = text.substr(0, std::min(kLongest, word.size() + static_cast<std::size_t>(most)));
+  // Each letter that is not there at all is a wrong one, and most names are done with by that.
+  if (std::popcount(LettersIn(word) & ~LettersIn(text)) > most) return most + 1;
   std::array<std::array<int, kLongest + 1>, 3> rows{};
   for (std::size_t at = 0; at <= word.size(); ++at) rows[0][at] = static_cast<int>(at);
   int best = rows[0][word.size()];
@@ -189,9 +200,6 @@ std::string NameOf(const World& world, Kind kind, int number) {
   });
 }
 
-/// How well each kind fits at its best: the kind that fits best comes first.
-using BestOfKinds = std::array<int, kKindsOfFound>;
-
 }  // namespace
 
 std::string_view KindOfFound(Kind kind) {
@@ -258,24 +266,24 @@ std::vector<Found> NameSearch::Find(std::string_view typed, std::size_t most) co
   const bool isSure =
       std::any_of(hits.begin(), hits.end(), [](const Hit& hit) { return hit.Fit < kInside; });
   if (!isSure) hits = HitsFor(words, true);
-  BestOfKinds best;
-  best.fill(std::numeric_limits<int>::max());
-  const auto bestOf = [&best](const Hit& hit) -> int& {
-    return best[static_cast<std::size_t>(hit.Of->Is)];
-  };
-  for (const Hit& hit : hits) bestOf(hit) = std::min(bestOf(hit), hit.Fit);
-  std::stable_sort(hits.begin(), hits.end(), [&](const Hit& a, const Hit& b) {
-    return std::tuple(bestOf(a), a.Of->Is, a.Fit, a.Of->Standing) <
-           std::tuple(bestOf(b), b.Of->Is, b.Fit, b.Of->Standing);
-  });
+  // The names of a kind follow each other. The kind that fits best comes first.
+  std::vector<std::span<const Hit>> kinds;
+  for (auto first = hits.begin(); most > 0 && first != hits.end();) {
+    const auto last = std::find_if(first, hits.end(),
+                                   [&](const Hit& hit) { return hit.Of->Is != first->Of->Is; });
+    const auto end = first + std::min(static_cast<std::ptrdiff_t>(most), last - first);
+    std::partial_sort(first, end, last, [](const Hit& a, const Hit& b) {
+      return std::tuple(a.Fit, a.Of->Standing, a.Of) < std::tuple(b.Fit, b.Of->Standing, b.Of);
+    });
+    kinds.emplace_back(first, end);
+    first = last;
+  }
+  std::ranges::stable_sort(kinds, {}, [](const auto& kind) { return kind.front().Fit; });
   std::vector<Found> found;
-  std::size_t ofKind = 0;
-  for (const Hit& hit : hits) {
-    ofKind = !found.empty() && found.back().Is == hit.Of->Is ? ofKind : 0;
-    if (++ofKind <= most)
+  for (const auto& kind : kinds)
+    for (const Hit& hit : kind)
       found.push_back(
           {hit.Of->Is, hit.Of->Number, NameOf(world_, hit.Of->Is, hit.Of->Number), hit.Fit});
-  }
   return found;
 }
 

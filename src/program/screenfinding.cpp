@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
+#include <iterator>
 
 #include "calendar/events.h"
 #include "info/screens/glossary.h"
@@ -11,6 +13,7 @@
 #include "storylines/partners.h"
 #include "storylines/titles.h"
 #include "ui/acts.h"
+#include "ui/goingback.h"
 #include "ui/pictureof.h"
 
 namespace grapplemont {
@@ -172,6 +175,27 @@ void AddNames(Game& game, const NameSearch& names, std::string_view typed, std::
   }
 }
 
+/// "Go back to the morning of ..."; the days are told only to who looks for them.
+void AddMoments(Game& game, std::string_view typed, std::size_t most,
+                std::vector<ui::Finding>& findings) {
+  std::vector<ui::Finding> found;
+  for (const PastMoment& past : PastMoments(game)) {
+    std::string text = MomentText(past.Of);
+    text.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(text.front())));
+    const int fit = FitOfName("Go back to " + text, "undo earlier day", typed);
+    if (fit < 0 || found.size() >= most) continue;
+    found.push_back({"Back in time",
+                     "Go back to " + text,
+                     SinceText(game, past),
+                     {},
+                     [&game, past] {
+                       if (Enters(game.Desk())) AskAndGoBack(game, past);
+                     },
+                     fit});
+  }
+  std::ranges::move(found, std::back_inserter(findings));
+}
+
 void AddTerms(Game& game, std::string_view typed, std::size_t most,
               std::vector<ui::Finding>& findings) {
   for (const GlossaryTerm* term : TermsLike(typed, most))
@@ -192,6 +216,7 @@ void ConnectFinding(Game& game) {
       std::vector<ui::Finding> findings;
       AddPages(game, typed, most, findings);
       if (names && game.HasWorld()) AddNames(game, *names, typed, most, findings);
+      if (game.HasWorld()) AddMoments(game, typed, most, findings);
       AddTerms(game, typed, most, findings);
       return findings;
     };

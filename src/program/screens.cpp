@@ -3,6 +3,7 @@
 #include "calendar/screens/calendarscreens.h"
 #include "chronicle/screens/chroniclescreens.h"
 #include "editor/screens/screenpages.h"
+#include "futures/screens/futurescreens.h"
 #include "halls/screens/hallscreens.h"
 #include "info/screens/helpscreens.h"
 #include "info/screens/infoscreens.h"
@@ -64,6 +65,7 @@ namespace grapplemont {
   SCREEN(frmMainScreen)      \
   SCREEN(frmEvent)           \
   SCREEN(frmIncident)        \
+  SCREEN(frmFutures)         \
   SCREEN(frmChronicle)       \
   SCREEN(frmResults)         \
   SCREEN(frmReports)         \
@@ -92,6 +94,7 @@ namespace grapplemont {
   SCREEN(frmAbout)           \
   SCREEN(frmNewGame)         \
   SCREEN(frmLoadGame)        \
+  SCREEN(frmMornings)        \
   SCREEN(frmWait)            \
   SCREEN(frmLoadingScreens)
 
@@ -106,6 +109,7 @@ void RegisterScreens(Game& game) {
   ConnectRivals(game);
   ConnectHalls(game);
   ConnectCalendar(game);
+  ConnectFutures(game);
   ConnectChronicle(game);
   ConnectInfo(game);
   ConnectHelp(game);

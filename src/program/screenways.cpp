@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "business/tvtalks.h"
+#include "futures/futures.h"
 #include "info/search.h"
 #include "show/nightbook.h"
 #include "ui/acts.h"
@@ -39,6 +40,8 @@ struct PageRow {
   std::string (*WhyNot)(const World&) = nullptr;
 };
 constexpr PageRow kInGamePages[] = {
+    {"A Hundred Futures", "what if forecast simulate worlds ahead spread chances", "frmFutures",
+     nullptr, WhyNoFutures},
     {"Advertising", "promotion spending publicity", "frmFed", "cmdadvertising"},
     {"Awards", "prizes year best of", "frmAwards"},
     {"Career", "user jobs reputation player me", "frmUser"},

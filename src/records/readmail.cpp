@@ -135,9 +135,11 @@ class Reader {
     return body.starts_with(initials_ + "'s ") || body.find(" our ") != body.npos ||
            BeginsWithOne(shows_, body);
   }
+  bool LeavesUs(std::string_view body) const {
+    return body.find(" from " + initials_ + "!") != body.npos;
+  }
   bool IsOwnRetirement(std::string_view body) const {
-    const std::string leaves = " from " + initials_;
-    return body.find(leaves + "!") != body.npos || body.find(leaves + " in ") != body.npos ||
+    return LeavesUs(body) || body.find(" from " + initials_ + " in ") != body.npos ||
            BeginsWithOne(watched_, body);
   }
   bool IsOwnTakeover(std::string_view body) const {
@@ -183,7 +185,8 @@ bool Reader::IsOthersNews(const Mail& mail) const {
   const std::string_view from = mail.From.View();
   for (const Desk& desk : kDesks)
     if (from == desk.From) return !(this->*desk.IsOwn)(mail.Body.View());
-  return from.ends_with(kNews) && from != "Roster News" && from != initials_ + std::string(kNews);
+  return from.ends_with(kNews) && from != "Roster News" && from != initials_ + std::string(kNews) &&
+         !LeavesUs(mail.Body.View());
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "records/fields/fields.h"
 #include "records/keepannals.h"
@@ -32,18 +33,28 @@ int LossOf(const Title& title, TitleLoss loss) {
 /// The job offer among the incidents names a promotion.
 constexpr int kJobOfferIncident = 6;
 
+bool Names(const Word& place, int uid) {
+  return place == uid;
+}
+template <std::size_t N>
+bool Names(const std::array<Word, N>& places, int uid) {
+  return std::ranges::any_of(places, [=](const Word& place) { return place == uid; });
+}
+
 /// Nobody stands where they stood.
-template <class Places>
-void LeavePlaces(Places& places, int uid) {
-  std::replace_if(
-      places.begin(), places.end(), [=](const Word& place) { return place == uid; }, Word());
+void Leave(Word& place, int uid) {
+  if (place == uid) place = 0;
+}
+template <std::size_t N>
+void Leave(std::array<Word, N>& places, int uid) {
+  for (Word& place : places) Leave(place, uid);
 }
 
 /// What is booked with them is booked no more. A place that the style does not look at may still
 /// name them.
 void LeaveSegment(Segment& segment, int workerUid) {
   if (TakesPart(segment, workerUid)) segment = EmptySegment();
-  LeavePlaces(segment.Worker, workerUid);
+  Leave(segment.Worker, workerUid);
 }
 
 void EmptyChair(Show& show, int uid, bool isWorker) {
@@ -80,25 +91,26 @@ void LoseClients(World& world, const std::set<int>& managerUids) {
 
 namespace {
 
+/// These are long files that seldom name somebody: only what does is touched.
+template <class T, class... Places>
+void ForgetIn(Records<T>& table, int uid, Places T::*... places) {
+  for (int number = 1; number <= table.Count(); ++number) {
+    const T& told = std::as_const(table)[number];
+    if (!(Names(told.*places, uid) || ...)) continue;
+    T& record = table.Change(number);
+    (Leave(record.*places, uid), ...);
+  }
+}
+
 /// What tells of them keeps their name, since their uid may be another's one day.
 void ForgetInThePast(World& world, int uid) {
-  const auto clear = [uid](auto&... places) { ((places = places == uid ? 0 : int(places)), ...); };
-  world.Bouts().EditEach([=](HeldMatch& bout) {
-    LeavePlaces(bout.Worker, uid);
-    LeavePlaces(bout.Feud, uid);
-  });
-  world.Tallies().EditEach([=](MatchTally& tally) { clear(tally.Worker); });
-  world.Reigns().EditEach([=](TitleReign& reign) { clear(reign.Worker, reign.Partner); });
-  world.Awards().EditEach([=](YearAward& award) { clear(award.Worker, award.Partner); });
-  world.ShowNotes().EditEach([=](ShowNote& note) { clear(note.Worker); });
-  world.RivalCards().EditEach([=](CardMatch& match) {
-    LeavePlaces(match.Worker, uid);
-    clear(match.Champion);
-  });
-  world.Annals().EditEach([=](Annal& event) {
-    LeavePlaces(event.Who, uid);
-    LeavePlaces(event.Whom, uid);
-  });
+  ForgetIn(world.Bouts(), uid, &HeldMatch::Worker, &HeldMatch::Feud);
+  ForgetIn(world.Tallies(), uid, &MatchTally::Worker);
+  ForgetIn(world.Reigns(), uid, &TitleReign::Worker, &TitleReign::Partner);
+  ForgetIn(world.Awards(), uid, &YearAward::Worker, &YearAward::Partner);
+  ForgetIn(world.ShowNotes(), uid, &ShowNote::Worker);
+  ForgetIn(world.RivalCards(), uid, &CardMatch::Worker, &CardMatch::Champion);
+  ForgetIn(world.Annals(), uid, &Annal::Who, &Annal::Whom);
   world.Grudges().Keep(
       [=](const Grudge& grudge) { return grudge.One != uid && grudge.Two != uid; });
   const auto isOthers = [=](const auto& row) { return row.Worker != uid; };
@@ -106,11 +118,13 @@ void ForgetInThePast(World& world, int uid) {
   world.Months().Keep(isOthers);
   world.Moods().Keep(isOthers);
   world.RingNames().Keep(isOthers);
-  world.Of<Career>().EditEach([&](Career& career) {
-    if (career.Worker != uid) return;
+  Records<Career>& careers = world.Of<Career>();
+  for (int number = 1; number <= careers.Count(); ++number) {
+    if (std::as_const(careers)[number].Worker != uid) continue;
+    Career& career = careers.Change(number);
     career.Worker = 0;
     if (world.HasGame()) career.Last = world.Today();
-  });
+  }
 }
 
 }  // namespace
@@ -206,7 +220,7 @@ void ForgetWorker(World& world, const Worker& worker) {
   for (Segment& segment : world.Segments())
     if (segment.Rating == 0) LeaveSegment(segment, workerUid);
   if (!world.HasGame()) return;
-  LeavePlaces(world.Game().Shortlist, workerUid);
+  Leave(world.Game().Shortlist, workerUid);
   for (Incident& incident : world.Incidents())
     if (incident.Type != kJobOfferIncident && incident.Uid == workerUid) incident = Incident{};
 }

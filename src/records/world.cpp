@@ -73,6 +73,15 @@ void World::Load(const std::map<std::string, Bytes>& files) {
   }
 }
 
+void World::CopyFrom(const World& other) {
+  std::apply([](auto&... index) { (index.Numbers.clear(), ...); }, indices_);
+  const auto copy = [&]<class... Kept>(Kept&... table) {
+    (table.CopyFrom(std::get<Kept>(other.tables_)), ...);
+  };
+  std::apply(copy, tables_);
+  Session = other.Session;
+}
+
 std::vector<FileChange> World::Changes() const {
   std::vector<FileChange> changes;
   for (const Table* table : Tables())

@@ -226,6 +226,10 @@ class World {
 
   /// Takes over a folder's files and counts them as committed. Throws WorldFault.
   void Load(const std::map<std::string, Bytes>& files);
+  /// Becomes a copy of another world that was never committed. The draws stay its own. A world that
+  /// is copied into again and again uses its memory again; others may copy from the same one at the
+  /// same time.
+  void CopyFrom(const World& other);
   /// What differs from the last commit; the spans hold until the next change.
   std::vector<FileChange> Changes() const;
   void MarkCommitted() { MarkCommitted(Changes()); }

@@ -285,9 +285,11 @@ enum class Tells {
   AwardGiven,    // {tally} to {feud}
   FeudBegan,     // {F} and {S}
   FeudWon,       // by {F} over {S}, after {count}, by {tally}
+  FeudLast,      // the same by the last match, behind in matches
   FeudCold,      // {F} and {S}, after {count}
   FeudOn,        // {F} and {S}, since {since}
   FeudMatch,     // {F} beat {S}, rated {count}
+  FeudHeld,      // {F} and {S}, both of {promotion}
   Record,        // {F} for {promotion}: {count}, {tally}
   BestMatch,     // {F} against {S}, rated {count}
   CrownStands,   // {title} of {promotion}, image {count}
@@ -303,12 +305,16 @@ enum class Tells {
   HouseClosed,
   HouseBought,  // by {G}
   HouseOwner,   // {tally}
+  HouseUneasy,  // {promotion} changed class {count} {when}: {tally}, and ended as {feud}
+  HouseHands,   // {promotion} had {count} new owners {when}: {tally}
   HousePeak,    // {tally}, image {count}
   HouseShow,    // {tally}, rated {count}
   HouseMoves,   // {count} signed, {tally} gone
   YearMoves,    // {count}
   YearCrowns,   // {count}
   YearRetired,  // {count}: {tally}
+  YearUneasy,   // classes changed {count}, that of {promotion} alone {tally}
+  YearHands,    // {count} new owners
   BeforeAnnals
 };
 

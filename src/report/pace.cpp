@@ -14,13 +14,14 @@ namespace grapplemont {
 namespace {
 
 constexpr int kMiddle = 50;
-constexpr int kForLast = 7, kForTitle = 6, kForEvent = 3, kForCareer = 10;
-constexpr int kPerHeat = 12, kPerOver = 6;
-constexpr double kPerSpread = 24, kMostSpreads = 2, kLeastSpread = 4;
-constexpr int kBoutsToJudgeBy = 60, kFewBouts = 5;
+constexpr int kForLast = 6, kForTitle = 5, kForEvent = 3, kForCareer = 10;
+constexpr int kPerHeat = 14, kPerOver = 8;
+constexpr double kPerSpread = 26, kMostSpreads = 2, kLeastSpread = 4;
+/// Where fewer have been rated, so many are made up around the middle.
+constexpr int kBoutsToJudgeBy = 60, kFewBouts = 12, kMadeUp = 2, kMadeUpSpread = 15;
 
 /// What a match has to matter for more than its row, and how its room grows from there.
-constexpr int kMattersFrom = 54, kRoomFrom = 46, kSaysLittle = 48, kSaysMuch = 62;
+constexpr int kMattersFrom = 51, kRoomFrom = 42, kSaysLittle = 47, kSaysMuch = 62;
 constexpr double kRoomPerPoint = 1.9;
 constexpr double kMostPerStep = 3, kLeastPerStep = 0.05;
 constexpr int kShort = 9;  // steps more that a row of few may have
@@ -33,16 +34,17 @@ constexpr int kMomentum = 2, kSpent = 4;
 constexpr int kMostCrowds = 1;  // sentences about the hall in a match; one more in the greatest
 constexpr int kAlike = 8;       // of Over
 
-/// How the player's last matches were rated; the middle of everything while there are few.
+/// How the player's last matches were rated.
 struct Usual {
   double Mean = kMiddle, Spread = 10;
 };
 Usual UsualRating(const World& world) {
   const auto& bouts = world.Bouts();
   const int first = std::max(1, bouts.Count() - kBoutsToJudgeBy + 1);
-  const int count = bouts.Count() - first + 1;
-  if (count < kFewBouts) return {};
-  double sum = 0, squares = 0;
+  const int held = bouts.Count() - first + 1, madeUp = held < kFewBouts ? kMadeUp : 0;
+  const double count = held + madeUp;
+  double sum = madeUp * kMiddle;
+  double squares = madeUp * (kMiddle * kMiddle + kMadeUpSpread * kMadeUpSpread);
   for (int number = first; number <= bouts.Count(); ++number) {
     const double rating = bouts[number].Rating;
     sum += rating;
@@ -190,7 +192,9 @@ int Pace::Choose(Teller& teller, char step) const {
     fits.push_back(kWakes);
   else if (const int beat = CrowdBeat(teller); beat >= 0 && crowds_ > 0 && told_[kWakes] == 0)
     fits.push_back(beat);
-  if (part < kEarly && !isHard && hasRoom) fits.push_back(kFeeling);
+  // Nobody feels out who is being beaten, or who has just been covered.
+  const bool isEven = d && d->Trouble < kMomentum && step != '2';
+  if (part < kEarly && !isHard && hasRoom && isEven) fits.push_back(kFeeling);
   if (isTurned && a && a->Trouble >= kMomentum && !isLate && isFree) fits.push_back(kHope);
   if (!isTurned && d && d->Trouble >= kMomentum && hasRoom) fits.push_back(kInControl);
   if (isHard && isFree && d && d->Taken >= kMomentum) fits.push_back(kHurting);

@@ -139,7 +139,6 @@ void DriftOver(World& world, Worker& worker, int deserved) {
   step += mood == 1 ? 1 : mood == 2 ? -1 : 0;
   const int least = std::min<int>(worker.OverFloor, worker.Over);
   worker.Over = std::max(worker.Over + step, least);
-  worker.Potential = std::max<int>(worker.Potential, worker.Over);
 }
 
 void RiskInjury(World& world, Worker& worker) {

@@ -24,7 +24,7 @@ void Practise(World& world, Worker& worker, const Gift& gift);
 
 /// The Over that skill, charisma, looks, place on the card and the class of the employer deserve.
 int DeservedOver(const World& world, const Worker& worker, const Gift& gift);
-/// A month's drift towards it, with chance; never under OverFloor, and Potential goes with it.
+/// A month's drift towards it, with chance; never under OverFloor.
 void DriftOver(World& world, Worker& worker, int deserved);
 
 /// A month's chance of an injury for somebody fit on a rival's card; a long one may leave a mark.

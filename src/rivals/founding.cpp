@@ -162,12 +162,12 @@ void Employ(World& world, Promotion& promotion) {
   owner.Name =
       NumberedName(kStranger, [&](std::string_view name) { return !StaffNameFree(world, name); });
   owner.Gender = true;
-  owner.BirthMonth = world.RandomDraw(12);
+  owner.BirthMonth = world.Life().Draw(12);
   owner.Age = 44;
   owner.Employer = promotion.Uid;
   owner.ContractMonths = kNoEnd;
   owner.ContractType = "Non";
-  owner.Wage = world.RandomDraw(kYouth);
+  owner.Wage = world.Life().Draw(kYouth);
   owner.Position = kOwner;
   owner.Talent = 92;
   owner.Morale = 100;
@@ -193,7 +193,7 @@ void BuyStars(World& world, const Promotion& promotion) {
     if (bought == tuning::kStrangersStars) break;
     const int from = star->Employer;
     if (from != 0 && takenFrom[from] == tuning::kStarsFromOne) continue;
-    if (world.RandomDraw(tuning::kStarsAskedFor1) != 1) continue;
+    if (world.Life().Draw(tuning::kStarsAskedFor1) != 1) continue;
     ++takenFrom[from];
     ++bought;
     SignFor(world, promotion, *star);
@@ -264,7 +264,7 @@ void AwaitStranger(World& world) {
   if (game.EndCode != 0 || !IsAloneAtTheTop(world) || !HasLongBeenAlone(world) ||
       !IsRoomFor(world) || !FreeName(world))
     return;
-  if (world.RandomDraw(tuning::kStrangerIn) == 1) game.EndCode = kStrangerWaits;
+  if (world.Life().Draw(tuning::kStrangerIn) == 1) game.EndCode = kStrangerWaits;
 }
 
 std::string StrangersWords(const World& world) {

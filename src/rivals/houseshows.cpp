@@ -28,7 +28,7 @@ int HouseShowIncome(const Promotion& rival, int crew) {
   return sure + sure * rival.Image / 100;
 }
 
-void RivalHouseShows(World& world) {
+void HoldHouseShows(World& world) {
   std::map<int, int> crews = HouseShowCrews(world);
   for (Promotion& promotion : world.Promotions()) {
     if (!IsRival(world, promotion)) continue;
@@ -39,7 +39,7 @@ void RivalHouseShows(World& world) {
   for (Worker& worker : world.Workers()) {
     const Promotion* employer = world.FindPromotion(worker.Employer);
     if (employer && IsRival(world, *employer) && IsFit(worker) && IsEnough(crews[employer->Uid]))
-      worker.Condition -= world.RandomDraw(tuning::kHouseShowWear);
+      worker.Condition -= world.Life().Draw(tuning::kHouseShowWear);
   }
   for (const Promotion& promotion : world.Promotions())
     if (IsRival(world, promotion) && IsEnough(crews[promotion.Uid]))

@@ -12,5 +12,8 @@ namespace grapplemont {
 std::map<int, int> HouseShowCrews(const World& world);
 /// What a week's house show brings, in dollars; 0 where the crew is too small for one.
 int HouseShowIncome(const Promotion& rival, int crew);
+/// Every rival with a crew for it holds one: money comes in, the crew tires, a card is left. Draws
+/// of World::Life for each of the crew, and those of the card.
+void HoldHouseShows(World& world);
 
 }  // namespace grapplemont

@@ -37,9 +37,12 @@ bool AreWomenFew(const Census& now) {
   return IsBelow(now.Women, now.All, tuning::kWomenWanted);
 }
 
-/// One of every few newcomers is a woman; while women are few, every second.
+/// Their name says who is a woman; while women are few, men are often asked to wait.
 Worker DrawTalent(World& world, const Census& now) {
-  return NewTalent(world, world.Life().Draw(AreWomenFew(now) ? 2 : tuning::kWomanOneIn) == 1);
+  Worker talent = NewTalent(world);
+  for (int asked = 0; asked < tuning::kMenAskedToWait && talent.Gender && AreWomenFew(now); ++asked)
+    talent = NewTalent(world);
+  return talent;
 }
 
 /// Everybody who comes is free, so the share grows with both counts.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <set>
 
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -144,8 +145,11 @@ void FollowOwner(Promotion& rival, const Staff& owner) {
 }
 
 void OwnerlessPromotions(World& world) {
+  std::set<int> owned;
+  for (const Staff& staff : world.AllStaff())
+    if (staff.Position == kOwner) owned.insert(staff.Employer);
   for (Promotion& promotion : world.Promotions()) {
-    if (!IsAlive(promotion) || OwnerOf(world, promotion.Uid) ||
+    if (!IsAlive(promotion) || owned.contains(promotion.Uid) ||
         world.RandomDraw(kDaysBetweenOwners) != 1)
       continue;
     if (Staff* owner = FindOwnerFor(world, promotion.Size)) TakeOver(world, promotion, *owner);

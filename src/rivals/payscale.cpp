@@ -22,11 +22,12 @@ const tuning::SpendingHabit& HabitOf(Hand hand) {
 }
 
 /// What the main roster is worth in squares of Over, as if it were as full as it should be.
-long long SquaresOf(const World& world, const Promotion& promotion) {
+long long SquaresOf(const World& world, const Promotion& promotion, const Rosters& rosters) {
   long long squares = 0;
   int people = 0;
-  for (const Worker& worker : world.Workers()) {
-    if (worker.Employer != promotion.Uid || !IsOnMainRoster(worker)) continue;
+  for (const int number : rosters.NumbersOf(promotion.Uid)) {
+    const Worker& worker = world.Workers()[number];
+    if (!IsOnMainRoster(worker)) continue;
     squares += worker.Over * worker.Over;
     ++people;
   }
@@ -34,10 +35,9 @@ long long SquaresOf(const World& world, const Promotion& promotion) {
   return people > 0 && people < least ? squares * least / people : squares;
 }
 
-long long BillOf(const World& world, int promotionUid) {
+long long BillOf(const World& world, const std::vector<int>& numbers) {
   long long dollars = 0;
-  for (const Worker& worker : world.Workers())
-    if (worker.Employer == promotionUid) dollars += MonthlyWage(worker);
+  for (const int number : numbers) dollars += MonthlyWage(world.Workers()[number]);
   return dollars;
 }
 
@@ -72,19 +72,28 @@ Hand HandOf(const World& world, const Promotion& promotion) {
   return drawn > 100 - tuning::kCarefulIn100 ? Hand::Careful : Hand::Even;
 }
 
-long long WageBudget(const World& world, const Promotion& promotion) {
+namespace {
+
+long long BudgetOf(const World& world, const Promotion& promotion, long long squares) {
   return HasBooks(promotion) ? BudgetByBooks(promotion, HabitOf(HandOf(world, promotion)))
-                             : BudgetBySize(SquaresOf(world, promotion), promotion.Size);
+                             : BudgetBySize(squares, promotion.Size);
 }
 
-PayScale::PayScale(const World& world, const Promotion& promotion) {
-  const long long budget = WageBudget(world, promotion);
-  const long long squares = std::max(SquaresOf(world, promotion), 1LL);
+}  // namespace
+
+long long WageBudget(const World& world, const Promotion& promotion) {
+  return BudgetOf(world, promotion, SquaresOf(world, promotion, Rosters(world)));
+}
+
+PayScale::PayScale(const World& world, const Promotion& promotion, const Rosters& rosters) {
+  const long long worth = SquaresOf(world, promotion, rosters);
+  const long long budget = BudgetOf(world, promotion, worth);
+  const long long squares = std::max(worth, 1LL);
   const int usual = BySize(tuning::kTopWage, promotion.Size);
   top_ = static_cast<int>(std::clamp<long long>(budget / kThousand * kTopSquare / squares,
                                                 usual / tuning::kScaleSpan,
                                                 1LL * usual * tuning::kScaleSpan));
-  room_ = (budget - BillOf(world, promotion.Uid)) / kThousand;
+  room_ = (budget - BillOf(world, rosters.NumbersOf(promotion.Uid))) / kThousand;
 }
 
 int PayScale::For(int over) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "records/world.h"
+#include "rivals/rivals.h"
 
 // What a promotion can pay its workers, and what it thinks each of them worth.
 
@@ -20,7 +21,9 @@ long long WageBudget(const World& world, const Promotion& promotion);
 /// thousands of dollars a month.
 class PayScale {
  public:
-  PayScale(const World& world, const Promotion& promotion);
+  PayScale(const World& world, const Promotion& promotion, const Rosters& rosters);
+  PayScale(const World& world, const Promotion& promotion)
+      : PayScale(world, promotion, Rosters(world)) {}
   /// The wage thought fair for this Over, from 1 to the highest there is.
   int For(int over) const;
   /// What the budget has left over today's wages; below zero when they pass it.

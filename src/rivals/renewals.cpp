@@ -25,10 +25,10 @@ namespace {
 constexpr int kLastMonth = 1;
 
 /// The score below which a roster's least wanted stand.
-int ScoreToStay(const World& world, const Promotion& rival, Taste taste) {
+int ScoreToStay(const World& world, const std::vector<int>& numbers, Taste taste) {
   std::vector<int> scores;
-  for (const Worker& worker : world.Workers())
-    if (worker.Employer == rival.Uid && IsOnMainRoster(worker))
+  for (const int number : numbers)
+    if (const Worker& worker = world.Workers()[number]; IsOnMainRoster(worker))
       scores.push_back(RosterScore(worker, taste));
   if (scores.empty()) return 0;
   const auto at = scores.size() * tuning::kNotRenewed / 100;
@@ -47,11 +47,11 @@ struct Renewing {
 };
 
 /// Half of the way down from what they have to what they are worth there, or all of the way up;
-/// nobody who has to save pays more than before.
+/// who has to save pays nobody more than before or than that.
 int NextWage(const Worker& worker, const Renewing& terms) {
   const int fair = terms.Scale.For(worker.Over);
-  if (fair >= worker.Wage) return terms.How == Purse::Saving ? int(worker.Wage) : fair;
-  return (worker.Wage + fair + 1) / 2;
+  if (terms.How == Purse::Saving) return std::min<int>(worker.Wage, fair);
+  return fair >= worker.Wage ? fair : (worker.Wage + fair + 1) / 2;
 }
 
 void Renew(Worker& worker, const Renewing& terms) {
@@ -76,29 +76,30 @@ bool IsTempted(World& world, const Worker& worker, const Renewing& terms, const 
 
 /// Whoever earns less than the going rate gets closer to it every month, from those who need not
 /// save.
-void RaiseWages(World& world, const Promotion& rival) {
+void RaiseWages(World& world, const Promotion& rival, const Rosters& rosters) {
   if (PurseOf(rival) == Purse::Saving) return;
-  const PayScale scale(world, rival);
-  for (Worker& worker : world.Workers()) {
-    if (worker.Employer != rival.Uid || !IsOnMainRoster(worker) ||
-        worker.ContractMonths == kLastMonth)
-      continue;
+  const PayScale scale(world, rival, rosters);
+  for (const int number : rosters.NumbersOf(rival.Uid)) {
+    Worker& worker = world.Workers()[number];
+    if (!IsOnMainRoster(worker) || worker.ContractMonths == kLastMonth) continue;
     const int gap = scale.For(worker.Over) - worker.Wage;
     if (gap > 0) worker.Wage += (gap + tuning::kMonthsToRate - 1) / tuning::kMonthsToRate;
   }
 }
 
-void RenewWorkers(World& world, const Promotion& rival, const Suitors* suitors) {
+void RenewWorkers(World& world, const Promotion& rival, const Rosters& rosters,
+                  const Suitors* suitors) {
   const Taste taste = TasteOf(world, rival.Uid);
+  const std::vector<int>& numbers = rosters.NumbersOf(rival.Uid);
   Renewing terms{rival,
                  taste,
-                 ScoreToStay(world, rival, taste),
-                 PayScale(world, rival),
+                 ScoreToStay(world, numbers, taste),
+                 PayScale(world, rival, rosters),
                  PurseOf(rival),
-                 Rosters(world).Of(rival.Uid) - BySize(tuning::kRosters, rival.Size).Least};
-  for (Worker& worker : world.Workers()) {
-    if (worker.Employer != rival.Uid || worker.ContractMonths != kLastMonth || worker.RetiringSoon)
-      continue;
+                 rosters.Of(rival.Uid) - LeastRoster(world, rival)};
+  for (const int number : numbers) {
+    Worker& worker = world.Workers()[number];
+    if (worker.ContractMonths != kLastMonth || worker.RetiringSoon) continue;
     if (IsLetGo(worker, terms) || IsTempted(world, worker, terms, suitors))
       --terms.Spare;
     else
@@ -124,24 +125,12 @@ void RenewStaff(World& world, const Promotion& rival) {
   }
 }
 
-/// Whoever costs most more than the going rate.
-Worker* FindOverpaid(World& world, const Promotion& rival) {
-  const PayScale scale(world, rival);
-  const auto overpaid = [&](const Worker& worker) { return worker.Wage - scale.For(worker.Over); };
-  Worker* found = nullptr;
-  for (Worker& worker : world.Workers()) {
-    if (worker.Employer != rival.Uid || !IsOnMainRoster(worker) || worker.Unsackable) continue;
-    if (!found || overpaid(worker) > overpaid(*found)) found = &worker;
-  }
-  return found;
-}
-
 void Save(World& world, const Promotion& rival, Rosters& rosters) {
-  if (rosters.Of(rival.Uid) <= BySize(tuning::kRosters, rival.Size).Least) return;
-  Worker* worker = FindOverpaid(world, rival);
-  if (!worker) return;
-  rosters.Move(*worker, rival.Uid, 0);
-  FireFrom(world, rival, {worker});
+  if (rosters.Of(rival.Uid) <= LeastRoster(world, rival)) return;
+  const auto weakest = FindWeakest(world, rosters, rival.Uid, TasteOf(world, rival.Uid), 1);
+  if (weakest.empty() || weakest.front()->Unsackable) return;
+  rosters.Move(*weakest.front(), rival.Uid, 0);
+  FireFrom(world, rival, weakest);
 }
 
 bool HasTitles(const World& world, int promotionUid) {
@@ -150,10 +139,10 @@ bool HasTitles(const World& world, int promotionUid) {
 }
 
 /// Those who stand highest are asked first.
-void GoAfterTheFree(World& world) {
-  Rosters rosters(world);
+void GoAfterTheFree(World& world, Rosters& rosters) {
   for (const Promotion* promotion : PromotionsByStanding(world))
-    if (IsRival(world, *promotion) && IsFreeToSpend(world, *promotion))
+    if (IsRival(world, *promotion) && IsFreeToSpend(world, *promotion) &&
+        AimOf(world, *promotion, rosters) != Aim::StayBelow)
       GoAfterTalent(world, *promotion, tuning::kTalksAMonth, rosters);
 }
 
@@ -163,18 +152,24 @@ bool IsFreeToSpend(const World& world, const Promotion& promotion) {
   return PurseOf(promotion) != Purse::Saving || HandOf(world, promotion) == Hand::Reckless;
 }
 
+int LeastRoster(const World& world, const Promotion& promotion) {
+  const int least = BySize(tuning::kRosters, promotion.Size).Least;
+  return IsFreeToSpend(world, promotion) ? least : least * tuning::kLeastWhileSaving / 100;
+}
+
 void RenewContracts(World& world, const Promotion& promotion) {
-  RenewWorkers(world, promotion, nullptr);
+  RenewWorkers(world, promotion, Rosters(world), nullptr);
   RenewStaff(world, promotion);
 }
 
 void RivalContractRenewals(World& world) {
-  GoAfterTheFree(world);
-  const Suitors suitors(world);
+  Rosters rosters(world);
+  GoAfterTheFree(world, rosters);
+  const Suitors suitors(world, rosters);
   for (const Promotion& promotion : world.Promotions()) {
     if (!IsRival(world, promotion)) continue;
-    RenewWorkers(world, promotion, &suitors);
-    RaiseWages(world, promotion);
+    RenewWorkers(world, promotion, rosters, &suitors);
+    RaiseWages(world, promotion, rosters);
     RenewStaff(world, promotion);
   }
 }
@@ -185,9 +180,8 @@ void RosterSizeReview(World& world) {
     if (!IsRival(world, rival)) continue;
     const Purse purse = PurseOf(rival);
     if (!IsFreeToSpend(world, rival)) Save(world, rival, rosters);
-    if (purse == Purse::Spending) GoAfterTalent(world, rival, 1, rosters);
-    SignProspects(world, rival, tuning::kProspectsAWeek, rosters);
-    MindTheCard(world, rival, rosters);
+    if (purse == Purse::Spending && AimOf(world, rival, rosters) != Aim::StayBelow)
+      GoAfterTalent(world, rival, 1, rosters);
     if (rosters.Of(rival.Uid) >= tuning::kTitleRoster && !HasTitles(world, rival.Uid))
       FoundTitles(world, rival);
   }

@@ -1,7 +1,6 @@
 #include "rivals/rivals.h"
 
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 #include "business/sponsors.h"
@@ -27,20 +26,39 @@ bool IsOnMainRoster(const Worker& worker) {
   return IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
 }
 
-Rosters::Rosters(const World& world) {
-  for (const Worker& worker : world.Workers())
-    if (worker.Employer != 0 && IsOnMainRoster(worker)) ++counts_[worker.Employer];
+Rosters::Rosters(const World& world) : workers_(world.Workers()) {
+  for (int number = 1; number <= workers_.Count(); ++number) {
+    const Worker& worker = workers_[number];
+    if (worker.Employer == 0) continue;
+    House& house = houses_[worker.Employer];
+    house.Numbers.push_back(number);
+    house.OnMainRoster += IsOnMainRoster(worker);
+  }
 }
 
 int Rosters::Of(int promotionUid) const {
-  const auto found = counts_.find(promotionUid);
-  return found == counts_.end() ? 0 : found->second;
+  const auto found = houses_.find(promotionUid);
+  return found == houses_.end() ? 0 : found->second.OnMainRoster;
+}
+
+const std::vector<int>& Rosters::NumbersOf(int promotionUid) const {
+  static const std::vector<int> kNobody;
+  const auto found = houses_.find(promotionUid);
+  return found == houses_.end() ? kNobody : found->second.Numbers;
 }
 
 void Rosters::Move(const Worker& worker, int fromUid, int toUid) {
-  if (!IsOnMainRoster(worker)) return;
-  if (fromUid != 0) --counts_[fromUid];
-  if (toUid != 0) ++counts_[toUid];
+  const int number = static_cast<int>(&worker - &workers_[1]) + 1;
+  if (fromUid != 0) {
+    House& house = houses_[fromUid];
+    std::erase(house.Numbers, number);
+    house.OnMainRoster -= IsOnMainRoster(worker);
+  }
+  if (toUid != 0) {
+    House& house = houses_[toUid];
+    house.Numbers.insert(std::ranges::upper_bound(house.Numbers, number), number);
+    house.OnMainRoster += IsOnMainRoster(worker);
+  }
 }
 
 void PartWays(World& world, const std::vector<Worker*>& workers) {
@@ -69,20 +87,28 @@ bool FitsRival(const Sponsor& sponsor, const Promotion& rival) {
 
 namespace {
 
-/// One of those who are free and fit, by a draw of World::Life. Whoever has no sponsor at all takes
-/// the dearest of those who pay less than is usual; nullptr for nobody.
-Sponsor* DrawSponsor(World& world, const Promotion& rival, bool hasOne) {
+/// More than any sponsor pays, in thousands of dollars a show.
+constexpr int kSponsorPays = 1001;
+
+/// How far off what is usual for the class the pay is: less rather than more.
+int Oddness(const Sponsor& sponsor, int size) {
+  const tuning::PayBand& usual = BySize(tuning::kUsualPay, size);
+  return sponsor.Pay > usual.To ? kSponsorPays + sponsor.Pay - usual.To : usual.From - sponsor.Pay;
+}
+
+/// One of those who are free and fit, by a draw of World::Life; else, of those who are free and
+/// willing, who pays most like what is usual; nullptr for nobody.
+Sponsor* DrawSponsor(World& world, const Promotion& rival) {
   std::vector<Sponsor*> fitting;
-  Sponsor* dearest = nullptr;
+  Sponsor* nearest = nullptr;
   for (Sponsor& sponsor : world.Sponsors()) {
     if (sponsor.Promotion != 0 || !IsWilling(sponsor, rival)) continue;
     if (FitsRival(sponsor, rival))
       fitting.push_back(&sponsor);
-    else if (sponsor.Pay < BySize(tuning::kUsualPay, rival.Size).From &&
-             (!dearest || sponsor.Pay > dearest->Pay))
-      dearest = &sponsor;
+    else if (!nearest || Oddness(sponsor, rival.Size) < Oddness(*nearest, rival.Size))
+      nearest = &sponsor;
   }
-  if (fitting.empty()) return hasOne ? nullptr : dearest;
+  if (fitting.empty()) return nearest;
   const int drawn = world.Life().Draw(static_cast<int>(fitting.size()));
   return fitting[static_cast<std::size_t>(drawn - 1)];
 }
@@ -92,10 +118,9 @@ Sponsor* DrawSponsor(World& world, const Promotion& rival, bool hasOne) {
 void RivalSponsorSigning(World& world) {
   for (Promotion& rival : world.Promotions()) {
     if (!IsRival(world, rival)) continue;
-    bool hasOne = std::ranges::any_of(rival.Sponsor, [](int uid) { return uid != 0; });
     for (int slot = 1; slot <= static_cast<int>(rival.Sponsor.size()); ++slot) {
       if (SponsorAt(world, rival, slot)) continue;
-      Sponsor* sponsor = DrawSponsor(world, rival, std::exchange(hasOne, true));
+      Sponsor* sponsor = DrawSponsor(world, rival);
       if (!sponsor) break;
       SignSponsor(world, rival, *sponsor, slot);
       TellOf(world, world.Game().MailSponsor, rival,

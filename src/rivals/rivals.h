@@ -23,16 +23,24 @@ bool IsRival(const World& world, const Promotion& promotion);
 /// development or at the camp.
 bool IsOnMainRoster(const Worker& worker);
 
-/// How many people are on the main roster of each promotion: counted once, kept up to date by
-/// whoever moves them.
+/// Who works for each promotion, and how many are on its main roster: looked up once, kept up to
+/// date by whoever moves them.
 class Rosters {
  public:
   explicit Rosters(const World& world);
+  /// How many are on the main roster.
   int Of(int promotionUid) const;
+  /// The record numbers of everybody whom it employs, in the order of the file.
+  const std::vector<int>& NumbersOf(int promotionUid) const;
   void Move(const Worker& worker, int fromUid, int toUid);
 
  private:
-  std::map<int, int> counts_;
+  struct House {
+    int OnMainRoster = 0;
+    std::vector<int> Numbers;
+  };
+  const Records<Worker>& workers_;
+  std::map<int, House> houses_;
 };
 
 /// The workers leave their employers, and all that tied them there ends: Titles, feuds, corner,
@@ -47,22 +55,20 @@ void OwnerlessPromotions(World& world);
 void RivalWorkerHiring(World& world);
 void RivalStaffHiring(World& world);
 /// Each empty sponsor's place of a rival goes to one of the sponsors who are free, willing and fit
-/// its class.
+/// its class, else to who pays most like them.
 void RivalSponsorSigning(World& world);
 /// Whether the sponsor is willing and pays as is usual for the rival's class.
 bool FitsRival(const Sponsor& sponsor, const Promotion& rival);
 // Mondays.
 /// Everybody who works for a rival stands on the card where their popularity puts them.
 void RivalPositions(World& world);
-/// A house show a week.
-void RivalHouseShows(World& world);
 /// Teams, stables, managers and grudges come together and apart, Titles are made and rest, moves
 /// and names change.
 void RivalStories(World& world);
 /// Rivals advertise by their standing, those in debt not at all, and the rich put on campaigns.
 void RivalAdvertising(World& world);
-/// Rivals that save let somebody go, those that prosper go after somebody, those with too few
-/// people take what they can get, and those that have become big enough found Titles.
+/// Rivals that save let somebody go, those that prosper go after somebody, and those that have
+/// become big enough found Titles.
 void RosterSizeReview(World& world);
 // The first of a month.
 /// Whoever waits for work asks for less or gives up, and new talent comes (newtalent.h).

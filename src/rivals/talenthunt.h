@@ -12,17 +12,14 @@ namespace grapplemont {
 
 /// The promotion goes after the best who are free, or may be stolen and have a contract about to
 /// end, as far as its wage budget bears them: this many talks at most, each of which succeeds in
-/// one of two. Whoever comes gets the going rate. Draws of World::Life, two for each talk.
+/// one of two. Whoever comes gets the going rate where that is more than a signing brings them. A
+/// draw of World::Life for each talk.
 void GoAfterTalent(World& world, const Promotion& promotion, int talks, Rosters& rosters);
-
-/// A roster below its band takes the best of those who are free though not quite of its class, so
-/// many at most. No draws.
-void SignProspects(World& world, const Promotion& rival, int most, Rosters& rosters);
 
 /// Who would pay whom: what a promotion other than their own offers a worker.
 class Suitors {
  public:
-  explicit Suitors(const World& world);
+  Suitors(const World& world, const Rosters& rosters);
   /// The best offer of a rival of no lower class, in thousands a month; 0 for none.
   int BestOfferFor(const Worker& worker, const Promotion& employer) const;
 

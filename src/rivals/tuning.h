@@ -19,6 +19,8 @@ inline constexpr std::array<RosterBand, 6> kRosters = {
 /// A rival that has fewer months of wages in hand, and has lost money twice in a row, saves; one
 /// that has more, and has gained twice, spends.
 inline constexpr int kMonthsInHand = 6;
+/// While it saves, a roster of this many percent of the least is enough.
+inline constexpr int kLeastWhileSaving = 75;
 
 /// At the end of a contract the least wanted are let go, this many in a hundred.
 inline constexpr int kNotRenewed = 15;
@@ -34,7 +36,7 @@ inline constexpr int kWaitingDiscount = 5;
 inline constexpr int kLeastAsked = 2;
 
 /// A week's house show, in dollars: half of it is sure and the rest a matter of image.
-inline constexpr std::array<int, 6> kHouseShow = {120000, 50000, 40000, 120000, 70000, 800};
+inline constexpr std::array<int, 6> kHouseShow = {400000, 200000, 80000, 120000, 85000, 2500};
 /// Workers needed for one, and the most condition that it takes from each.
 inline constexpr int kHouseShowCrew = 8;
 inline constexpr int kHouseShowWear = 3;
@@ -114,9 +116,6 @@ inline constexpr int kMostOfRate = 250;
 /// in one of this many cases.
 inline constexpr int kTemptingOffer = 125;
 inline constexpr int kTemptedIn = 2;
-/// A roster below its band takes this many a week whose Over is no more than this below its class.
-inline constexpr int kProspectsAWeek = 3;
-inline constexpr int kBelowClass = 25;
 
 /// A wage below the going rate closes the gap by one part in this many a month.
 inline constexpr int kMonthsToRate = 6;
@@ -124,12 +123,13 @@ inline constexpr int kMonthsToRate = 6;
 /// From this image on a rise is near, up to that a fall.
 inline constexpr int kNearARise = 70;
 inline constexpr int kNearAFall = 35;
-/// This many places of the card change hands in a week to keep a rival in its class, and it keeps
-/// more than this many on the card.
-inline constexpr int kSwapsAWeek = 5;
-inline constexpr int kLeastCard = 10;
-/// Where there are no newcomers for the card, this many of the most popular go in a week.
-inline constexpr int kStarsAWeek = 2;
+/// What a week of house shows does for the image of a rival that would stay up, and costs one that
+/// would stay below; as much again for each show that it has on television.
+struct Tour {
+  int Gain;
+  int Loss;
+};
+inline constexpr std::array<Tour, 6> kTours = {{{2, 0}, {2, 2}, {1, 2}, {1, 2}, {1, 2}, {0, 2}}};
 /// A class with this many promotions is full.
 inline constexpr std::array<int, 6> kRoomInClass = {3, 4, 4, 6, 4, 30};
 /// The ten best of whoever wants to rise may be this much less popular than those of the class
@@ -154,9 +154,9 @@ inline constexpr int kStoriesIn = 12;
 inline constexpr int kStar = 10;
 /// The ages at which bodies start to fail, by the strongest skill, and after how many years more it
 /// goes twice as fast.
-inline constexpr int kFlyersFade = 36;
-inline constexpr int kBrawlersFade = 39;
-inline constexpr int kTechniciansFade = 41;
+inline constexpr int kFlyersFade = 35;
+inline constexpr int kBrawlersFade = 37;
+inline constexpr int kTechniciansFade = 39;
 inline constexpr int kHardYears = 14;
 
 /// Deserved Over is this many percent of talent, with what the class of the employer adds, and no
@@ -173,14 +173,14 @@ inline constexpr int kLookBonus = 5;
 /// By the place on the card, Main Event to Jobber.
 inline constexpr std::array<int, 6> kPlaceBonus = {4, 2, 0, -2, -3, -4};
 /// What a year costs a wrestler whose body fails them.
-inline constexpr int kPastIt = 3;
+inline constexpr int kPastIt = 4;
 /// A voice alone is worth this many fifths of what voice and ring are together.
 inline constexpr int kVoiceAlone = 4;
 /// What it costs not to be seen in a ring.
 inline constexpr int kOutOfSight = 8;
 /// A month closes the gap to what is deserved by one part in this many.
 inline constexpr int kMonthsToRise = 14;
-inline constexpr int kMonthsToFade = 12;
+inline constexpr int kMonthsToFade = 9;
 /// In one month of this many a crowd takes a fancy to somebody, in as many it tires of them.
 inline constexpr int kFancyIn = 8;
 
@@ -204,10 +204,10 @@ inline constexpr int kFreeToSpare = 30;
 inline constexpr int kGiveUpAMonth = 2;
 inline constexpr int kGivesUpFrom = 27;
 inline constexpr int kGivesUpBelow = 40;
-/// Women are few under this many of a hundred; with enough of them one newcomer in this many is
-/// one.
+/// Women are few under this many of a hundred; then this many men are passed over, one after the
+/// other, before one is taken.
 inline constexpr int kWomenWanted = 25;
-inline constexpr int kWomanOneIn = 5;
+inline constexpr int kMenAskedToWait = 3;
 /// From this many of a hundred on, lightweights alone give up.
 inline constexpr int kLightweightsEnough = 36;
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "business/finance.h"
+#include "records/houserules.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "rivals/founding.h"
@@ -73,11 +74,6 @@ bool IsTooPopular(const Worker& worker, int size) {
   return worker.Over > BySize(kLimits, size).OverAtMost;
 }
 
-bool IsProspect(const Worker& worker, int size) {
-  const MarketLimits& limits = BySize(kLimits, size);
-  return worker.Over <= limits.OverAtMost && worker.Over > limits.OverAbove - tuning::kBelowClass;
-}
-
 bool IsOpenTo(const World& world, const Worker& worker, int size) {
   if (worker.Employer == 0) return true;
   if (worker.ContractType == "Wri" || worker.Unsackable) return false;
@@ -85,12 +81,16 @@ bool IsOpenTo(const World& world, const Worker& worker, int size) {
   return !employer || employer->Size - LoyaltyInClasses(worker.Behaviour) > size;
 }
 
+bool MayHave(const World& world, const Promotion& promotion, const Worker& worker) {
+  return IsWithinLimits(worker, promotion.Size) && IsOpenTo(world, worker, promotion.Size) &&
+         (!IsPlayers(world, promotion) || WhyNotInThisHouse(world, worker).empty());
+}
+
 Worker* FindCandidate(World& world, const Promotion& rival, Taste taste) {
   Worker* best = nullptr;
   int bestScore = 0;
   for (Worker& worker : world.Workers()) {
-    if (worker.Employer == rival.Uid || world.RandomDraw(10) != 1 ||
-        !IsWithinLimits(worker, rival.Size) || !IsOpenTo(world, worker, rival.Size))
+    if (worker.Employer == rival.Uid || world.RandomDraw(10) != 1 || !MayHave(world, rival, worker))
       continue;
     const int score = WorkerScore(worker, taste);
     if (best && score <= bestScore) continue;
@@ -98,6 +98,10 @@ Worker* FindCandidate(World& world, const Promotion& rival, Taste taste) {
     bestScore = score;
   }
   return best;
+}
+
+int WageOnceSigned(const Worker& worker, int size) {
+  return std::min(worker.Wage + BySize(kWageRise, size), kHighestWage);
 }
 
 void SignFor(World& world, const Promotion& rival, Worker& worker) {
@@ -114,15 +118,17 @@ void SignFor(World& world, const Promotion& rival, Worker& worker) {
   worker.ContractMonths = ContractMonthsAt(rival.Size);
   worker.ContractType = rival.Size < kRegional ? "Wri" : "Non";
   worker.Morale += kMoodSwing;
-  worker.Wage = std::min(worker.Wage + BySize(kWageRise, rival.Size), kHighestWage);
+  worker.Wage = WageOnceSigned(worker, rival.Size);
 }
 
-std::vector<Worker*> FindWeakest(World& world, int promotionUid, Taste taste, int most) {
+std::vector<Worker*> FindWeakest(World& world, const Rosters& rosters, int promotionUid,
+                                 Taste taste, int most) {
   // Nobody's going changes the score of another, so one look at all ranks them. Pairs compare
   // places in the file where scores are equal.
   std::vector<std::pair<int, Worker*>> ranked;
-  for (Worker& worker : world.Workers()) {
-    if (worker.Employer != promotionUid || !IsOnMainRoster(worker)) continue;
+  for (const int number : rosters.NumbersOf(promotionUid)) {
+    Worker& worker = world.Workers()[number];
+    if (!IsOnMainRoster(worker)) continue;
     const int score = RosterScore(worker, taste);
     if (score < kAboveAllScores) ranked.emplace_back(score, &worker);
   }
@@ -145,13 +151,14 @@ void FireFrom(World& world, const Promotion& rival, const std::vector<Worker*>& 
 void FitRoster(World& world, const Promotion& rival, Rosters& rosters) {
   const tuning::RosterBand& band = BySize(tuning::kRosters, rival.Size);
   const int count = rosters.Of(rival.Uid);
-  if (count >= band.Least && count <= band.Most) return;
+  const int least = LeastRoster(world, rival);
+  if (count >= least && count <= band.Most) return;
   const Taste taste = TasteOf(world, rival.Uid);
-  const int signings = std::min(band.Least - count, kSigningsInARow);
+  const int signings = std::min(least - count, kSigningsInARow);
   for (int n = 0; n < signings; ++n)
     if (!SignOne(world, rival, taste, rosters)) break;
   if (count <= band.Most) return;
-  const auto weakest = FindWeakest(world, rival.Uid, taste, count - band.Most);
+  const auto weakest = FindWeakest(world, rosters, rival.Uid, taste, count - band.Most);
   for (const Worker* worker : weakest) rosters.Move(*worker, rival.Uid, 0);
   FireFrom(world, rival, weakest);
 }

@@ -266,10 +266,10 @@ void ReplaceByRookie(World& world, Worker& worker) {
   worker = rookie;
 }
 
-Worker NewTalent(World& world, bool isWoman) {
+Worker NewTalent(World& world) {
   Draws& life = world.Life();
   Worker talent;
-  DrawOwnNames(world, life, talent, isWoman ? kWomensFirstNames : kMensFirstNames);
+  DrawOwnNames(world, life, talent, kAllFirstNames);
   talent.Uid = NextWorkerUid(world);
   DrawRookie(life, talent);
   return talent;

@@ -21,7 +21,7 @@ Staff& NewFillerStaff(World& world, int position);
 /// A rookie takes the record of a worker who is gone: another name, another uid, nobody's employee.
 void ReplaceByRookie(World& world, Worker& worker);
 /// A rookie on the market whom nobody has replaced yet, drawn from the world's life; in no table.
-Worker NewTalent(World& world, bool isWoman);
+Worker NewTalent(World& world);
 /// Gives somebody invented, who bears their surname as short name, another one where that is
 /// taken: the first name, an initial beside either. Where all are, it stays, and the answer is no.
 bool TellApart(const World& world, Worker& worker);

@@ -28,14 +28,15 @@ const WorkerMonths* MonthsOf(const World& world, int uid) {
 
 void NoteMonths(World& world) {
   if (!IsFirstOfMonth(world.Today())) return;
-  std::vector<WorkerMonths> old(FreeUids::kHighest + 1);
+  std::vector<const WorkerMonths*> old(FreeUids::kHighest + 1);
   for (const WorkerMonths& row : world.Months())
-    if (row.Worker > 0) old[static_cast<std::size_t>(int(row.Worker))] = row;
+    if (row.Worker > 0) old[static_cast<std::size_t>(int(row.Worker))] = &row;
   std::vector<WorkerMonths> rows;
   const std::size_t month = PlaceOf(MonthOf(world.Today()));
   for (const Worker& worker : world.Workers()) {
     if (worker.Uid < 1) continue;
-    WorkerMonths& row = rows.emplace_back(old[static_cast<std::size_t>(int(worker.Uid))]);
+    const WorkerMonths* before = old[static_cast<std::size_t>(int(worker.Uid))];
+    WorkerMonths& row = before ? rows.emplace_back(*before) : rows.emplace_back();
     row.Worker = worker.Uid;
     row.Over[month] = int(worker.Over);
     row.Morale[month] = int(worker.Morale);

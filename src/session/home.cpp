@@ -1,7 +1,6 @@
 #include "session/home.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <stdexcept>
@@ -11,6 +10,8 @@
 #include "records/fields/wording.h"
 #include "records/houserules.h"
 #include "records/store/knownfiles.h"
+#include "records/store/machine.h"
+#include "records/store/mornings.h"
 #include "records/store/slotfolder.h"
 #include "records/store/slotrescue.h"
 #include "records/tables/worldreport.h"
@@ -28,15 +29,6 @@ bool HasWorldAndPictures(Disk& disk, const std::string& folder) {
          std::ranges::all_of(kProgramPictures, [&](const char* picture) {
            return disk.Look(folder + "/gfx/" + picture) == Disk::Kind::File;
          });
-}
-
-/// The game's folder in the base folder that the environment names, else in the user's home.
-std::string BaseFolder(const char* variable, const std::string& inHome) {
-  // A path that is not whole does not count, by the rules of the desktop's base folders.
-  if (const char* named = std::getenv(variable); named && *named == '/')
-    return std::string(named) + "/grapplemont";
-  const char* user = std::getenv("HOME");
-  return user && *user ? std::string(user) + "/" + inHome + "/grapplemont" : std::string();
 }
 
 /// Where what came with the program may lie: beside a program that was built or moved, and where
@@ -70,14 +62,8 @@ constexpr const char* kUnreadable = "Slot Cannot Be Read";
 }  // namespace
 
 Surroundings MachineSurroundings() {
-  Surroundings around;
-  std::error_code none;
-  around.Program = std::filesystem::read_symlink("/proc/self/exe", none).string();
-  around.Installed = kInstalledShare;
-  around.UserData = BaseFolder("XDG_DATA_HOME", ".local/share");
-  around.UserConfig = BaseFolder("XDG_CONFIG_HOME", ".config");
-  around.UserState = BaseFolder("XDG_STATE_HOME", ".local/state");
-  return around;
+  const UserFolders user = FoldersOfUser();
+  return {ProgramFile(), kInstalledShare, ".", user.Data, user.Config, user.State};
 }
 
 void MakeFolders(Disk& disk, const std::string& folder) {
@@ -106,6 +92,7 @@ Home FindHome(Disk& disk, const Surroundings& around) {
                              ". Install the game again, or name a folder that has data and gfx "
                              "with --home.");
   MakeFolders(disk, around.UserData);
+  if (!share.empty()) RemoveCopies(disk, around.UserData, share);
   return {around.UserData, share};
 }
 
@@ -160,6 +147,9 @@ void Describe(SlotSummary& summary, const GameInfo& game, const SlotContents& fi
   summary.Own = LastOf<Promotion>(files, [&](auto& held) { return held.Uid == uid; });
   const auto house = LastOf<HouseRules>(files, [](const HouseRules&) { return true; });
   if (house) summary.House = HouseRulesText(*house);
+  const auto moments = files.find(kMorningsName);
+  if (moments != files.end() && !Mornings(moments->second).Keeps())
+    summary.House += (summary.House.empty() ? "" : ", ") + std::string("no way back");
   const auto isShow = [&](const HistoryEntry& held) {
     return held.Promotion == uid && !held.CalledOff &&
            (held.Kind == kPastTv || held.Kind == kPastEvent);
@@ -170,15 +160,8 @@ void Describe(SlotSummary& summary, const GameInfo& game, const SlotContents& fi
 
 }  // namespace
 
-SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) try {
-  const std::string name(LayoutOf<GameInfo>().File);
-  const std::string standing = StandingFolder(disk, folder);
-  if (standing.empty()) return {};
-  const Disk::Kind kind = disk.Look(standing + "/" + name);
-  if (kind == Disk::Kind::Folder || kind == Disk::Kind::Other)
-    return NotPlayable(kUnreadable, name + " is not a plain file.");
-  const SlotContents files = ExamineSlot(disk, standing, KnownFiles()).Files;
-  if (!files.contains(name)) return {};
+SlotSummary SummaryOf(const SlotContents& files) {
+  if (!files.contains(std::string(LayoutOf<GameInfo>().File))) return {};
   const auto found = LastOf<GameInfo>(files, [](const GameInfo&) { return true; });
   const GameInfo game = found.value_or(GameInfo());
   if (game.Version != kVersion) return NotPlayable("Save Slot Not In 2.0 Format");
@@ -190,6 +173,16 @@ SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) try {
                       false, true};
   Describe(summary, game, files);
   return summary;
+}
+
+SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder) try {
+  const std::string name(LayoutOf<GameInfo>().File);
+  const std::string standing = StandingFolder(disk, folder);
+  if (standing.empty()) return {};
+  const Disk::Kind kind = disk.Look(standing + "/" + name);
+  if (kind == Disk::Kind::Folder || kind == Disk::Kind::Other)
+    return NotPlayable(kUnreadable, name + " is not a plain file.");
+  return SummaryOf(ExamineSlot(disk, standing, KnownFiles()).Files);
 } catch (const DiskError& fault) {
   return NotPlayable(kUnreadable, fault.what());
 }

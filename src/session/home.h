@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -62,6 +63,8 @@ struct SlotSummary {
   std::optional<Promotion> Own = {};                  // the player's
 };
 
+/// The same of files that lie nowhere yet.
+SlotSummary SummaryOf(const std::map<std::string, Bytes>& files);
 /// What loading the slot would find; a slot in use is exactly one that has a gameinfo.dat.
 SlotSummary ReadSlotSummary(Disk& disk, const std::string& folder);
 

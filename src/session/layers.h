@@ -23,4 +23,9 @@ std::map<std::string, Bytes> ReadDefaultData(Disk& disk, const Layers& folders);
 /// The files of the data set that no layer has, in their fixed order.
 std::vector<std::string> MissingDataFiles(Disk& disk, const Layers& folders);
 
+/// Removes from the player's folder what is there only as a copy of what came with the program, as
+/// earlier versions made them: it would hide each update. A picture counts for itself, the data set
+/// as a whole. What cannot be read or removed stays.
+void RemoveCopies(Disk& disk, const std::string& own, const std::string& came);
+
 }  // namespace grapplemont

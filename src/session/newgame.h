@@ -18,6 +18,7 @@ struct NewGameChoice {
   Day Start{};         // the first of a month
   std::string SaveName;
   HouseRules House = {};
+  bool NoWayBack = false;  // the slot keeps no moment to go back to
 };
 
 /// Turns a world of default data into a fresh game: its contracts, conditions, made-up people, the

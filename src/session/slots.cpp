@@ -2,13 +2,17 @@
 
 #include <algorithm>
 #include <cstring>
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <span>
 
+#include "records/checks/checkworld.h"
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
+#include "records/modVar.h"
 #include "records/store/knownfiles.h"
+#include "records/store/playedslot.h"
 #include "records/store/slotcare.h"
 #include "records/store/slotfolder.h"
 #include "records/world.h"
@@ -58,7 +62,7 @@ void MakeSlot(Disk& disk, const std::string& folder, const std::vector<NewFile>&
 
 std::string PathInHome(const std::string& home, std::string_view typed) {
   std::string path = ToUtf8(detail::Trimmed(typed));
-  if (!path.starts_with('/')) path = home + "/" + path;
+  if (!std::filesystem::path(path).is_absolute()) path = home + "/" + path;
   while (path.size() > 1 && path.ends_with('/')) path.pop_back();
   return path;
 }
@@ -90,9 +94,19 @@ void RememberPlayed(Disk& disk, const std::string& home, int slot) try {
   // The game is open; which one it was last is a convenience.
 }
 
+std::vector<NewFile> BeginningFiles(const World& world, bool records, bool goesBack) {
+  std::vector<NewFile> files = FilesOf(world);
+  if (!goesBack) files.push_back({kMorningsName, Mornings::NoWayBack()});
+  if (!records) return files;
+  Bytes beginning = PackSlot(files, "A game as it began.");
+  files.push_back({kBeginningName, std::move(beginning)});
+  files.push_back({kCommandsName, CommandLog::Empty()});
+  return files;
+}
+
 std::vector<std::string> RenameSlot(Disk& disk, const std::string& folder, std::string_view name) {
   const std::string file = GameFile();
-  Slot opened(disk, folder, KnownFiles());
+  PlayedSlot opened(disk, folder);
   const auto found = opened.Files().find(file);
   if (found == opened.Files().end()) throw DiskError(folder, "rename", "it holds no game");
   const Bytes before = found->second;
@@ -105,31 +119,83 @@ std::vector<std::string> RenameSlot(Disk& disk, const std::string& folder, std::
 
 void CopySlot(Disk& disk, const std::string& from, const std::string& to, std::string_view name,
               std::uint64_t worldId) {
-  std::vector<NewFile> files = ReadSlot(disk, from);
-  for (NewFile& file : files)
-    if (file.Name == GameFile()) SetSaveName(file.Contents, name);
-  MakeSlot(disk, to, files, worldId);
+  // Renamed as any game is, so that the copy can go back as the original can.
+  MakeSlot(disk, to, ReadSlot(disk, from), worldId);
+  RenameSlot(disk, to, name);
 }
 
-void ExportSlot(Disk& disk, const std::string& folder, const std::string& path) {
-  const Bytes packed = PackSlot(ReadSlot(disk, folder));
+namespace {
+
+bool IsHistory(const NewFile& file) {
+  return file.Name == kMorningsName && Mornings(file.Contents).Keeps();
+}
+
+std::map<std::string, Bytes> ByName(const std::vector<NewFile>& files) {
+  std::map<std::string, Bytes> contents;
+  for (const NewFile& file : files) contents.emplace(file.Name, file.Contents);
+  return contents;
+}
+
+/// "Save Game 1 ( Medium level, started ...). CWA, ..."
+std::string AboutGame(const SlotSummary& summary) {
+  std::string about = summary.Caption + " " + summary.Details;
+  if (summary.Own)
+    about += "\n" + summary.Own->Name.Str() + ", image " + std::to_string(summary.Own->Image) +
+             "%, " + Dollars(summary.Own->Money);
+  if (!summary.LastShow.empty()) about += "\nLast show: " + summary.LastShow;
+  if (!summary.House.empty()) about += "\nHouse rules: " + summary.House;
+  return about;
+}
+
+/// What is not in order, a line each; a world in order is not worth a word.
+std::string FaultsIn(const World& world) {
+  constexpr std::size_t kTold = 6;
+  const std::vector<Fault> faults = CheckWorld(world);
+  if (faults.empty()) return "\nEverything in it is in order.";
+  std::string text = "\nNot in order:";
+  for (std::size_t i = 0; i < std::min(kTold, faults.size()); ++i) text += "\n" + faults[i].Line();
+  if (faults.size() > kTold) text += "\nand " + std::to_string(faults.size() - kTold) + " more.";
+  return text;
+}
+
+}  // namespace
+
+bool HasHistory(Disk& disk, const std::string& folder) {
+  const auto moments = Slot::Peek(disk, folder, KnownFiles(), kMorningsName);
+  return moments && Mornings(*moments).Count() > 0;
+}
+
+void ExportSlot(Disk& disk, const std::string& folder, const std::string& path, bool withHistory) {
+  std::vector<NewFile> files = ReadSlot(disk, folder);
+  const std::string about =
+      "\nA saved game of Grapplemont: " + AboutGame(SummaryOf(ByName(files))) + "\n" +
+      (withHistory ? "With what it can go back to.\n" : "");
+  if (!withHistory) std::erase_if(files, IsHistory);
+  const Bytes packed = PackSlot(files, ToUtf8(about));
   WriteFile(disk, path, packed);
   disk.SyncFolder(ParentOf(path));
 }
 
-void ImportSlot(Disk& disk, const std::string& path, const std::string& folder,
-                std::uint64_t worldId, World& scratch) {
+Importable ReadExported(Disk& disk, const std::string& path, World& scratch) {
   if (disk.Look(path) != Disk::Kind::File) throw DiskError(path, "import", "there is no such file");
   const auto bytes = ReadWithin(disk, path, MostPackedBytes());
   if (!bytes) throw DiskError(path, "import", "it is longer than any game");
-  const std::vector<NewFile> files = UnpackSlot(*bytes, path);
+  Importable game{UnpackSlot(*bytes, path), {}};
   // What no game can be opened from is better refused here than on loading.
-  std::map<std::string, Bytes> contents;
-  for (const NewFile& file : files) contents.emplace(file.Name, file.Contents);
-  scratch.Load(std::move(contents));
+  const auto contents = ByName(game.Files);
+  scratch.Load(contents);
   if (!scratch.HasGame() || scratch.Game().Version != kVersion)
     throw WorldFault(ForScreen(path) + " holds no game of this version.");
-  MakeSlot(disk, folder, files, worldId);
+  const bool hasHistory = std::ranges::any_of(game.Files, IsHistory);
+  game.Preview = AboutGame(SummaryOf(contents)) +
+                 (hasHistory ? "\nIt brings along what it can go back to." : "") +
+                 FaultsIn(scratch);
+  return game;
+}
+
+void ImportSlot(Disk& disk, const Importable& game, const std::string& folder,
+                std::uint64_t worldId) {
+  MakeSlot(disk, folder, game.Files, worldId);
 }
 
 void DeleteSlot(Disk& disk, const std::string& folder, Day today) {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "records/fields/fields.h"
-#include "records/store/disk.h"
+#include "records/store/slot.h"
 
 // What a player does to saved games without playing them. Everything throws what the store throws:
 // SlotBusy while a game is being played, DiskError, WorldFault for a file that is not a game.
@@ -30,15 +30,28 @@ std::optional<int> FreeSlot(Disk& disk, const std::string& home);
 int LastPlayed(Disk& disk, const std::string& home);
 void RememberPlayed(Disk& disk, const std::string& home, int slot);
 
+/// The files of a game that begins in a slot. With `records` what the player does is recorded from
+/// here on; without `goesBack` the slot keeps no moment to go back to.
+std::vector<NewFile> BeginningFiles(const World& world, bool records, bool goesBack = true);
+
 /// Gives what was met and mended on the way, a line each.
 std::vector<std::string> RenameSlot(Disk& disk, const std::string& folder, std::string_view name);
 /// A second game that goes its own way from here. `worldId` is a number that no other world has.
 void CopySlot(Disk& disk, const std::string& from, const std::string& to, std::string_view name,
               std::uint64_t worldId);
-void ExportSlot(Disk& disk, const std::string& folder, const std::string& path);
+/// Whether the slot has moments to go back to that an export can take along.
+bool HasHistory(Disk& disk, const std::string& folder);
+void ExportSlot(Disk& disk, const std::string& folder, const std::string& path, bool withHistory);
+
+/// An exported game that was read and found to be one.
+struct Importable {
+  std::vector<NewFile> Files;
+  std::string Preview;  // what it is, in a few lines: the game, its day, its size, its faults
+};
 /// `scratch` is a world to try the files on: what no game can be opened from is refused.
-void ImportSlot(Disk& disk, const std::string& path, const std::string& folder,
-                std::uint64_t worldId, World& scratch);
+Importable ReadExported(Disk& disk, const std::string& path, World& scratch);
+void ImportSlot(Disk& disk, const Importable& game, const std::string& folder,
+                std::uint64_t worldId);
 
 /// A game that was deleted and can be brought back.
 struct DeletedSlot {

@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <optional>
 #include <ranges>
+#include <set>
+#include <string_view>
 #include <utility>
 
 #include "records/fields/fields.h"
@@ -51,6 +54,46 @@ std::pair<int, int> PeopleOf(const World& world, const Title& title, const Reign
 bool IsGreat(const TitleReign& reign) {
   return !IsVacancy(reign) &&
          (DaysOf(reign, reign.Until) >= kGreatDays || reign.Defences >= kGreatDefences);
+}
+
+/// So many stay of each promotion's longest, shortest and most defended, and of one that has
+/// closed.
+constexpr std::size_t kBestOfEach = 20, kBestOfClosed = 3;
+
+/// What a promotion's tables go by, the higher the better; nothing for who does not stand there.
+using Worth = std::optional<int> (*)(const TitleReign&);
+constexpr Worth kWorths[] = {
+    [](const TitleReign& reign) {
+      const int days = DaysOf(reign, reign.Until);
+      return days < 0 ? std::nullopt : std::optional(days);
+    },
+    [](const TitleReign& reign) {
+      const int days = DaysOf(reign, reign.Until);
+      return days < 0 || reign.End != kReignLost ? std::nullopt : std::optional(-days);
+    },
+    [](const TitleReign& reign) {
+      return reign.Defences > 0 ? std::optional(int(reign.Defences)) : std::nullopt;
+    }};
+
+/// The numbers of those that each promotion's tables begin with.
+std::set<int> BestOfEach(const World& world) {
+  using House = std::pair<int, std::string_view>;
+  std::set<int> best;
+  for (const Worth worth : kWorths) {
+    std::map<House, std::vector<std::pair<int, int>>> ranks;  // worth, and number
+    for (const TitleReign& reign : world.Reigns())
+      if (const auto value = worth(reign); value && !IsVacancy(reign) && reign.End != kReignLasts)
+        ranks[{reign.Owner, reign.Initials.View()}].emplace_back(-*value,
+                                                                 world.Reigns().NumberOf(reign));
+    for (auto& [house, rank] : ranks) {
+      const Promotion* promotion = world.FindPromotion(house.first);
+      const bool stands = promotion && promotion->Initials == house.second;
+      std::ranges::sort(rank);
+      rank.resize(std::min(rank.size(), stands ? kBestOfEach : kBestOfClosed));
+      for (const auto& [value, number] : rank) best.insert(number);
+    }
+  }
+  return best;
 }
 
 /// Walks over the Titles and their reigns once.
@@ -160,14 +203,28 @@ class Update {
           event.What == before.second)
         event.What = after;
     });
+    // Whoever looks for the reign of a match or a feat goes by the Title's name.
+    const auto rename = [&](auto& record, auto& title) {
+      if (record.Promotion == before.first && title == before.second) title = after;
+    };
+    world_.Bouts().EditEach([&](HeldMatch& match) { rename(match, match.Title); });
+    world_.RivalCards().EditEach([&](CardMatch& match) { rename(match, match.Title); });
+    world_.Of<Feat>().EditEach([&](Feat& feat) { rename(feat, feat.What); });
+    if (before.first != world_.PlayerUid()) return;
+    world_.Wishes().EditEach([&](OwnerWish& wish) {
+      if (wish.About == before.second) wish.About = after;
+    });
   }
 
   void Append(const TitleReign& reign) {
     for (const bool great : {true, false}) {  // those that records tell of go last
       int dropped = 0;
       if (!reigns_.Full()) break;
+      const std::set<int> best = great ? BestOfEach(world_) : std::set<int>();
       reigns_.Keep([&](const TitleReign& old) {
-        return old.End == kReignLasts || (great && IsGreat(old)) || ++dropped > kDropped;
+        return old.End == kReignLasts ||
+               (great && (IsGreat(old) || best.contains(reigns_.NumberOf(old)))) ||
+               ++dropped > kDropped;
       });
     }
     if (!reigns_.Full()) reigns_.Append(reign);
@@ -192,6 +249,10 @@ std::vector<const TitleReign*> ReignsWhere(const World& world, Test test) {
 
 void UpdateReigns(World& world) {
   Update(world).Run();
+}
+
+bool HaveReignsGone(const World& world) {
+  return world.Reigns().Count() >= LayoutOf<TitleReign>().Limit - kDropped;
 }
 
 namespace {
@@ -223,14 +284,14 @@ void CountDefence(World& world, const Title& title) {
 
 std::vector<Lineage> LineagesOf(const World& world) {
   std::vector<Lineage> lineages;
-  const auto add = [&](const Lineage& lineage) {
-    if (std::ranges::find(lineages, lineage) == lineages.end()) lineages.push_back(lineage);
-  };
+  std::set<std::pair<int, std::string_view>> known;
   for (const Title& title : world.Titles())
-    if (title.Owner > 0)
-      add({title.Name.Str(), title.Owner, PromotionInitials(world, title.Owner), true});
+    if (title.Owner > 0 && known.emplace(title.Owner, title.Name.View()).second)
+      lineages.push_back(
+          {title.Name.Str(), title.Owner, PromotionInitials(world, title.Owner), true});
   for (const TitleReign& reign : std::views::reverse(world.Reigns()))
-    add({reign.Title.Str(), reign.Owner, reign.Initials.Str(), false});
+    if (known.emplace(reign.Owner, reign.Title.View()).second)
+      lineages.push_back({reign.Title.Str(), reign.Owner, reign.Initials.Str(), false});
   return lineages;
 }
 

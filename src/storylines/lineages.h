@@ -14,8 +14,12 @@ namespace grapplemont {
 
 /// Brings the reigns up to the Titles as they stand: what has changed hands, been vacated, renamed,
 /// made or dissolved since the last time. A Title without a past begins with the five of its
-/// record. A full file drops its thousand oldest reigns that have ended.
+/// record. A full file drops its thousand oldest reigns that have ended, those that records tell of
+/// last.
 void UpdateReigns(World& world);
+/// Whether the file may have dropped reigns: whatever is counted in it is then the least there
+/// were.
+bool HaveReignsGone(const World& world);
 /// The champion has kept the Title in the ring.
 void CountDefence(World& world, const Title& title);
 

@@ -19,7 +19,7 @@ struct Command {
 // Worlds as tables and as files.
 extern const Command kBuild, kExport, kCheck;
 // Games without a window.
-extern const Command kNew, kRun, kTell, kBook, kSoak;
+extern const Command kNew, kRun, kTell, kBook, kSoak, kLivingWorld, kReplay;
 // Pages of docs/.
 extern const Command kFormats, kColumns, kBalance;
 

@@ -8,11 +8,15 @@
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
+#include "records/houserules.h"
 #include "report/report.h"
 #include "session/home.h"
 #include "session/newgame.h"
+#include "session/slots.h"
 #include "tools/commands.h"
+#include "tools/manyworlds.h"
 #include "tools/officework.h"
+#include "tools/runmany.h"
 #include "tools/soak.h"
 #include "tools/tool.h"
 
@@ -23,6 +27,7 @@ namespace {
 constexpr std::uint64_t kHighestSeed = ~std::uint64_t{0};
 // No career leaves the years of the calendar.
 constexpr std::uint64_t kMostDays = 100000;
+constexpr std::uint64_t kMostWorlds = 100000;
 constexpr int kFirstYear = 1900, kLastYear = 9000;
 
 Game::Options GameOptions(const Arguments& arguments, Disk& disk, const Shell& shell) {
@@ -111,7 +116,8 @@ int New(const Arguments& arguments, Shell& shell) {
   for (const Fault& fault : mended) shell.Out << ToUtf8(fault.Line()) << "\n";
   if (mended.Count > mended.First.size())
     shell.Out << "and " << mended.Count - mended.First.size() << " more\n";
-  Slot::Create(*disk, game.SlotFolder(slot), FilesOf(world), game.NewWorldId());
+  Slot::Create(*disk, game.SlotFolder(slot), BeginningFiles(world, game.HasSeed()),
+               game.NewWorldId());
   shell.Out << "Slot " << slot << ": " << ToUtf8(choice.PlayerName) << " takes over "
             << ToUtf8(world.Player().Name) << " (" << Says(kDifficulties, choice.Difficulty)
             << ") on " << LongDate(choice.Start) << ".\n";
@@ -133,18 +139,26 @@ void RequireGame(Game& game, int slot) {
     throw WorldFault("Slot " + std::to_string(slot) + ": " + summary.Caption + ".");
 }
 
-void TellEnd(const World& world, const CareerEnd& end, std::ostream& out) {
-  std::vector<std::string> reasons;
-  for (const auto& [reason, on] : end.Reasons)
-    reasons.push_back(std::to_string(reason) + " on " + IsoDate(on));
-  if (end.EndCode == 0 && !reasons.empty())
-    out << "Dismissed on the way (reason " << Joined(reasons) << ").\n";
-  const std::string days = Counted(end.Days, "day");
-  if (end.EndCode == 0)
-    out << "After " << days << " it is " << LongDate(world.Today()) << ".\n";
-  else
-    out << "The career ended after " << days << ", on " << LongDate(world.Today()) << " (reason "
-        << end.EndCode << ").\n";
+/// The slot's world as it is read, for nobody to write.
+World CopyOfSlot(Game& game, int slot) {
+  RequireGame(game, slot);
+  std::map<std::string, Bytes> files;
+  const auto known = KnownFiles();
+  for (const KnownFile& file : known)
+    if (auto contents = Slot::Peek(game.Disk(), game.SlotFolder(slot), known, file.Name))
+      files.emplace(file.Name, std::move(*contents));
+  World world(game.NewDraws(Game::kPlay), game.NewDraws(Game::kProse), game.NewDraws(Game::kLife));
+  world.Load(std::move(files));
+  return world;
+}
+
+int RunCopies(const Arguments& arguments, Game& game, RunPlan plan, Shell& shell) {
+  plan.Threads = ThreadsOf(arguments);
+  plan.Seed = arguments.Number("--seed", 0, kHighestSeed).value_or(MachineSeed());
+  const World start = CopyOfSlot(game, SlotOf(arguments));
+  std::optional<StatsFile> stats;
+  if (const auto path = arguments.Text("--stats")) stats.emplace(game.Disk(), *path);
+  return RunMany(start, plan, stats ? &*stats : nullptr, shell);
 }
 
 int Run(const Arguments& arguments, Shell& shell) {
@@ -155,29 +169,33 @@ int Run(const Arguments& arguments, Shell& shell) {
   const auto disk = RealDisk(arguments.Has("--no-sync") ? Syncs::None : Syncs::Real);
   EmptyDesk desk;
   Game game(desk, *disk, GameOptions(arguments, *disk, shell));
+  if (const auto worlds = arguments.Number("--worlds", 1, kMostWorlds))
+    return RunCopies(arguments, game, {static_cast<int>(*worlds), days, 0, {shows, after}, 1},
+                     shell);
+  if (arguments.Has("--jobs")) throw UsageError("--jobs needs --worlds: one game is played by one");
   RequireGame(game, slot);
   for (const std::string& remark : game.OpenSlot(slot)) shell.Errors << ToUtf8(remark) << "\n";
   std::optional<StatsFile> stats;
   if (const auto path = arguments.Text("--stats")) stats.emplace(*disk, *path);
   const World& world = game.World();
+  if (shows == Shows::Auto && Holds(world, HouseRule::NoAutoBooker))
+    throw WorldFault("Slot " + std::to_string(slot) +
+                     ": a rule of the house, every row is booked by hand. Run it with --shows "
+                     "cancel.");
+  ProgressLine line(shell);
   const auto dayPassed = [&](int day) {
     if (stats && IsFirstOfMonth(world.Today())) stats->Add(world);
-    if (shell.Terminal)
-      shell.Errors << "\r" << IsoDate(world.Today()) << ", day " << day << " of " << days
-                   << std::flush;
-  };
-  const auto clearLine = [&] {
-    if (shell.Terminal) shell.Errors << "\r\x1B[K" << std::flush;
+    line.Tell(IsoDate(world.Today()) + ", day " + std::to_string(day) + " of " +
+              std::to_string(days));
   };
   CareerEnd end;
   try {
     end = PlayDays(game, days, shows, dayPassed, after);
   } catch (const FieldOverflow& fault) {
-    clearLine();
     throw WorldFault(IsoDate(world.Today()) + ": " + game.Explain(fault));
   }
-  clearLine();
-  TellEnd(world, end, shell.Out);
+  line.Clear();
+  shell.Out << EndText(world, end);
   game.CloseSlot();
   return 0;
 }
@@ -197,22 +215,11 @@ constexpr OptionKind kRunOptions[] = {kHomeOption,
                                       {"--shows", "auto|cancel"},
                                       {"--no-sync", ""},
                                       {"--stats", "FILE"},
-                                      {"--go-on", ""}};
+                                      {"--go-on", ""},
+                                      {"--worlds", "W"},
+                                      kJobsOption};
 
 constexpr int kFarthest = 400;  // days; an Event may be a year away
-
-/// The slot's world as it is read, for nobody to write.
-World CopyOfSlot(Game& game, int slot) {
-  RequireGame(game, slot);
-  std::map<std::string, Bytes> files;
-  const auto known = KnownFiles();
-  for (const KnownFile& file : known)
-    if (auto contents = Slot::Peek(game.Disk(), game.SlotFolder(slot), known, file.Name))
-      files.emplace(file.Name, std::move(*contents));
-  World world(game.NewDraws(Game::kPlay), game.NewDraws(Game::kProse), game.NewDraws(Game::kLife));
-  world.Load(std::move(files));
-  return world;
-}
 
 /// Passes days without a show of the wanted kind, and books the first that can be held.
 DayKind GoToShow(World& world, bool onlyEvent) {
@@ -272,9 +279,25 @@ const Command kNew{
     "Begins a game in a slot, in place of one that is there, on the first of a month "
     "from the start on.",
     kNewOptions, New};
-const Command kRun{"run", "",
-                   "Plays days of a saved game; FILE gets a JSON object a line for each month.",
-                   kRunOptions, Run};
+const Command kRun{
+    "run", "",
+    "Plays days of a saved game; FILE gets a JSON object a line for each month. With "
+    "--worlds it plays W copies instead, on N cores, the first with the seed S, each "
+    "with one more, and leaves the game as it is.",
+    kRunOptions, Run};
+
+std::string EndText(const World& world, const CareerEnd& end) {
+  std::vector<std::string> reasons;
+  for (const auto& [reason, on] : end.Reasons)
+    reasons.push_back(std::to_string(reason) + " on " + IsoDate(on));
+  const std::string days = Counted(end.Days, "day"), today = LongDate(world.Today());
+  if (end.EndCode != 0)
+    return "The career ended after " + days + ", on " + today + " (reason " +
+           std::to_string(end.EndCode) + ").\n";
+  const std::string dismissed =
+      reasons.empty() ? "" : "Dismissed on the way (reason " + Joined(reasons) + ").\n";
+  return dismissed + "After " + days + " it is " + today + ".\n";
+}
 
 // The next show of a game, told.
 

@@ -1,15 +1,12 @@
-#include <unistd.h>
-
-#include <algorithm>
 #include <iostream>
-#include <string>
-#include <vector>
 
+#include "records/store/machine.h"
 #include "tools/tool.h"
 
 int main(int count, char** words) {
+  using namespace grapplemont;
   std::ios::sync_with_stdio(false);
-  const std::vector<std::string> arguments(words + std::min(count, 1), words + count);
-  return grapplemont::tools::RunWorldTool(
-      arguments, {std::cout, std::cerr, isatty(STDOUT_FILENO) && isatty(STDERR_FILENO)});
+  return tools::RunWorldTool(
+      WordsOf(count, words),
+      {std::cout, std::cerr, IsTerminal(Stream::Out) && IsTerminal(Stream::Errors)});
 }

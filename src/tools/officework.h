@@ -2,27 +2,20 @@
 
 #include <functional>
 #include <iosfwd>
-#include <utility>
-#include <vector>
 
-#include "calendar/advanceday.h"
+#include "futures/habits.h"
 #include "records/world.h"
 #include "ui/game.h"
 
 namespace grapplemont::tools {
 
-/// What a sensible player does beside the shows, once a day: fills the sponsors' places, looks
-/// after television, keeps the contracts of those they need, the roster and the posts as full as a
-/// rival's (where a rise is near, as those of the class above), and spends by the promotion's
-/// standing, less when in debt.
-void WorkInTheOffice(World& world);
-
-/// What a sensible player does for their place on television, once a day: takes what networks
-/// offer, asks for more weeks in time, and sends a tape a month until they have a show.
-void WorkOnTelevision(World& world);
-
-/// What becomes of the player's shows while nobody watches.
-enum class Shows { Auto, Cancel };
+// Games are played by the habits of futures/habits.h.
+using grapplemont::AfterTheEnd;
+using grapplemont::CareerEnd;
+using grapplemont::EndCodeOf;
+using grapplemont::PlayDay;
+using grapplemont::Shows;
+using grapplemont::WorkInTheOffice;
 
 /// A desk where nobody sits: every question is answered yes, every text by what is offered.
 class EmptyDesk : public ui::Desk {
@@ -34,24 +27,7 @@ class EmptyDesk : public ui::Desk {
   }
 };
 
-/// How far a career went.
-struct CareerEnd {
-  int Days = 0;     // that passed
-  int EndCode = 0;  // 1 to 9: why it is over; 0: it goes on
-  /// The EndCode of each end on the way, and its day.
-  std::vector<std::pair<int, Day>> Reasons;
-};
-
-/// 1 to 9: why the career is over; 0: it goes on.
-int EndCodeOf(const World& world);
-/// The day as "Next Day" would take it; `watcher` as in AdvanceDay. Nothing is committed.
-void PlayDay(World& world, Shows shows, const StepWatcher& watcher = {});
-
-/// Whether whoever is dismissed looks for another job in the same world.
-enum class AfterTheEnd { Stop, AnotherJob };
-
-/// Plays a number of days of the open game, a commit each; a day is over when the next one's
-/// routines are. `dayPassed` hears of each.
+/// Plays a number of days of the open game, a commit each. `dayPassed` hears of each.
 CareerEnd PlayDays(Game& game, int days, Shows shows, const std::function<void(int day)>& dayPassed,
                    AfterTheEnd after = AfterTheEnd::Stop);
 

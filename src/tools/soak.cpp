@@ -10,6 +10,7 @@
 #include "records/fields/wording.h"
 #include "session/newgame.h"
 #include "tools/commands.h"
+#include "tools/manyworlds.h"
 #include "tools/officework.h"
 #include "tools/tool.h"
 
@@ -95,66 +96,62 @@ struct Plan {
   int Days;
 };
 
-World Begin(const World& data, const Plan& plan) {
-  World world(std::make_unique<SeededDraws>(plan.Seed),
-              std::make_unique<SeededDraws>(plan.Seed + 1),
-              std::make_unique<SeededDraws>(plan.Seed + 2));
-  std::map<std::string, Bytes> files;
-  for (NewFile& file : FilesOf(data)) files[file.Name] = std::move(file.Contents);
-  world.Load(files);
+void Begin(World& world, const World& data, const Plan& plan) {
+  world.CopyFrom(data);
+  world.SetChance(std::make_unique<SeededDraws>(plan.Seed));
+  world.ExchangeProse(std::make_unique<SeededDraws>(plan.Seed + 1));
+  world.SetLife(std::make_unique<SeededDraws>(plan.Seed + 2));
   NewGame(world, {.PlayerName = "Nobody",
                   .PromotionUid = plan.PromotionUid,
                   .Difficulty = kEasy + static_cast<int>(plan.Seed % 4),
                   .Start = kStart,
                   .SaveName = "Soak"});
-  return world;
 }
 
-/// Plays careers and counts what they come to.
-class Soaking {
- public:
-  Soaking(const World& data, Shell& shell) : data_(data), shell_(shell) {}
+/// What a career came to.
+struct Soaked {
+  std::string Who;
+  std::string Told = {};  // its faults, a line each
+  int Days = 0, Faults = 0;
+  bool Ended = false;
 
-  void Play(const Plan& plan) {
-    World world = Begin(data_, plan);
-    const std::string name = world.Player().Initials + ", seed " + std::to_string(plan.Seed) +
-                             (plan.Do == Shows::Auto ? ", auto" : ", cancel");
-    ++careers_;
-    try {
-      for (int day = 0; day < plan.Days && EndCodeOf(world) == 0; ++day) {
-        PlayDay(world, plan.Do);
-        ++days_;
-        if (IsFirstOfMonth(world.Today())) Look(world, name);
-      }
-    } catch (const FieldOverflow& fault) {
-      Tell(world, name, world.Explain(fault));
-    } catch (const std::exception& fault) {
-      Tell(world, name, fault.what());
-    }
-    Look(world, name);
-    ended_ += EndCodeOf(world) != 0;
+  void Tell(const World& world, const std::string& what) {
+    ++Faults;
+    Told += ToUtf8(Who) + ", " + IsoDate(world.Today()) + ": " + ToUtf8(what) + "\n";
   }
-
-  int Close() {
-    shell_.Out << Counted(careers_, "career") << ", " << Counted(days_, "day") << ", " << ended_
-               << " ended early, " << Counted(faults_, "fault") << ".\n";
-    return faults_ == 0 ? 0 : 1;
+  void Look(const World& world) {
+    for (const Fault& fault : CheckWorld(world)) Tell(world, fault.Line());
   }
-
- private:
-  void Look(const World& world, const std::string& name) {
-    for (const Fault& fault : CheckWorld(world)) Tell(world, name, fault.Line());
-  }
-  void Tell(const World& world, const std::string& name, const std::string& what) {
-    ++faults_;
-    shell_.Out << ToUtf8(name) << ", " << IsoDate(world.Today()) << ": " << ToUtf8(what) << "\n";
-  }
-
-  const World& data_;
-  Shell& shell_;
-  int careers_ = 0, ended_ = 0, faults_ = 0;
-  long days_ = 0;
 };
+
+Soaked Play(World& world, const World& data, const Plan& plan) {
+  Begin(world, data, plan);
+  Soaked soaked{world.Player().Initials + ", seed " + std::to_string(plan.Seed) +
+                (plan.Do == Shows::Auto ? ", auto" : ", cancel")};
+  try {
+    LiveOn(world, plan.Days, {.Do = plan.Do}, [&](int day) {
+      soaked.Days = day;
+      if (IsFirstOfMonth(world.Today())) soaked.Look(world);
+      return true;
+    });
+  } catch (const FieldOverflow& fault) {
+    soaked.Tell(world, world.Explain(fault));
+  } catch (const std::exception& fault) {
+    soaked.Tell(world, fault.what());
+  }
+  soaked.Look(world);
+  soaked.Ended = EndCodeOf(world) != 0;
+  return soaked;
+}
+
+std::vector<Plan> PlansOf(const World& data, std::uint64_t seeds, int days) {
+  std::vector<Plan> plans;
+  for (std::uint64_t seed = 1; seed <= seeds; ++seed)
+    for (const Promotion& promotion : data.Promotions())
+      for (const Shows shows : {Shows::Auto, Shows::Cancel})
+        plans.push_back({promotion.Uid, seed, shows, days});
+  return plans;
+}
 
 int Soak(const Arguments& arguments, Shell& shell) {
   const auto disk = RealDisk();
@@ -163,15 +160,26 @@ int Soak(const Arguments& arguments, Shell& shell) {
     throw WorldFault(arguments.Place(0) + " holds a saved game, no default data.");
   const std::uint64_t seeds = arguments.Number("--seeds", 1, kMostSeeds).value_or(1);
   const int days = static_cast<int>(arguments.Number("--days", 1, kMostSoakDays).value_or(365));
-  Soaking soaking(data, shell);
-  for (std::uint64_t seed = 1; seed <= seeds; ++seed)
-    for (const Promotion& promotion : data.Promotions())
-      for (const Shows shows : {Shows::Auto, Shows::Cancel})
-        soaking.Play({promotion.Uid, seed, shows, days});
-  return soaking.Close();
+  const std::vector<Plan> plans = PlansOf(data, seeds, days);
+  long played = 0;
+  int ended = 0, faults = 0;
+  PlayInOrder<Soaked>(
+      shell, {static_cast<int>(plans.size()), ThreadsOf(arguments), "careers"},
+      [&](World& world, int number) {
+        return Play(world, data, plans[static_cast<std::size_t>(number - 1)]);
+      },
+      [&](const Soaked& soaked) {
+        shell.Out << soaked.Told;
+        played += soaked.Days;
+        ended += soaked.Ended;
+        faults += soaked.Faults;
+      });
+  shell.Out << Counted(std::ssize(plans), "career") << ", " << Counted(played, "day") << ", "
+            << ended << " ended early, " << Counted(faults, "fault") << ".\n";
+  return faults == 0 ? 0 : 1;
 }
 
-constexpr OptionKind kSoakOptions[] = {{"--seeds", "N"}, {"--days", "D"}};
+constexpr OptionKind kSoakOptions[] = {{"--seeds", "N"}, {"--days", "D"}, kJobsOption};
 
 }  // namespace
 
@@ -196,13 +204,20 @@ StatsFile::StatsFile(Disk& disk, const std::string& path) : disk_(disk), file_(d
   disk_.Resize(file_, 0);
 }
 
-void StatsFile::Add(const World& world) {
+Json MonthSummaries::Next(const World& world) {
   watch_.Look(world);
   Json month = SummaryOf(world);
   month["since"] = watch_.Figures();
-  const std::string text = month.dump() + "\n";
-  disk_.WriteAt(file_, end_, std::as_bytes(std::span(text)));
-  end_ += static_cast<std::int64_t>(text.size());
+  return month;
+}
+
+void StatsFile::Add(const World& world) {
+  AddLines(months_.Next(world).dump() + "\n");
+}
+
+void StatsFile::AddLines(const std::string& lines) {
+  disk_.WriteAt(file_, end_, std::as_bytes(std::span(lines)));
+  end_ += static_cast<std::int64_t>(lines.size());
 }
 
 // Many careers that nobody watches, looked at for faults month by month.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 
 #include "records/world.h"
@@ -8,11 +9,9 @@
 
 namespace grapplemont::tools {
 
-/// A file of summaries, one a line, that grows month by month.
-class StatsFile {
+/// What a world is month by month.
+class MonthSummaries {
  public:
-  /// Begins a new file.
-  StatsFile(Disk& disk, const std::string& path);
   /// How the world stands at the beginning of a month, as one JSON object; those of all months, in
   /// their order:
   /// {"date":"2026-04-01","economy":58,
@@ -24,14 +23,28 @@ class StatsFile {
   /// "meanOver" is of the employed, to two places; null when nobody is. "shows" are those on
   /// television; "won" counts the reigns that began since the first of the month before,
   /// "tagVacant" the Titles of teams that nobody holds. "player" is null when their promotion is
-  /// gone. The last three are of worldwatch.h, "since" from the first of these lines on.
+  /// gone. The last three are of worldwatch.h, "since" from the first of these objects on.
+  nlohmann::ordered_json Next(const World& world);
+
+ private:
+  WorldWatch watch_;
+};
+
+/// A file of summaries, one a line, that grows month by month.
+class StatsFile {
+ public:
+  /// Begins a new file.
+  StatsFile(Disk& disk, const std::string& path);
+  /// The next of MonthSummaries.
   void Add(const World& world);
+  /// Lines that were made elsewhere.
+  void AddLines(const std::string& lines);
 
  private:
   Disk& disk_;
   OpenedFile file_;
   std::int64_t end_ = 0;
-  WorldWatch watch_;
+  MonthSummaries months_;
 };
 
 }  // namespace grapplemont::tools

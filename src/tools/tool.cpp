@@ -19,9 +19,9 @@ namespace {
 
 constexpr std::string_view kProgram = "grapplemont-world";
 
-std::array<const Command*, 11> Commands() {
-  return {&kBuild, &kExport, &kCheck,   &kNew,     &kRun,    &kTell,
-          &kBook,  &kSoak,   &kFormats, &kColumns, &kBalance};
+std::array<const Command*, 13> Commands() {
+  return {&kBuild, &kExport,      &kCheck,  &kNew,     &kRun,     &kTell,   &kBook,
+          &kSoak,  &kLivingWorld, &kReplay, &kFormats, &kColumns, &kBalance};
 }
 
 std::string UsageOf(const Command& command) {

@@ -97,6 +97,8 @@ void WorldWatch::Look(const World& world) {
   if (!hasLooked_)
     for (const Promotion& promotion : world.Promotions()) starters_.insert(promotion.Uid);
   CountClosures(world);
+  CompareClasses(world);
+  honoured_ = world.Of<HallMember>().Count();
   for (const Worker& worker : world.Workers()) LookAt(world, worker);
   hasLooked_ = true;
 }
@@ -130,11 +132,17 @@ void WorldWatch::CountClosures(const World& world) {
   }
 }
 
+void WorldWatch::CompareClasses(const World& world) {
+  for (const Promotion& promotion : world.Promotions()) {
+    const auto [place, isNew] = sizes_.try_emplace(promotion.Uid, promotion.Size);
+    classChanges_ += std::abs(promotion.Size - place->second);
+    place->second = promotion.Size;
+  }
+}
+
 Json WorldWatch::Figures() const {
-  return {{"rises", rises_},
-          {"rivalYears", rivalYears_},
-          {"stillYears", stillYears_},
-          {"startersLost", startersLost_}};
+  return {{"rises", rises_},           {"classChanges", classChanges_}, {"rivalYears", rivalYears_},
+          {"stillYears", stillYears_}, {"startersLost", startersLost_}, {"honoured", honoured_}};
 }
 
 Json PeopleFigures(const World& world) {

@@ -9,15 +9,17 @@
 namespace grapplemont::tools {
 
 /// What only shows over months and years: who rises, whom nothing moves, which of the first
-/// promotions go under.
+/// promotions go under, how often promotions change class.
 class WorldWatch {
  public:
   /// Looks at the first of a month; those of every month, in their order.
   void Look(const World& world);
-  /// {"rises":3,"rivalYears":410,"stillYears":277,"startersLost":1}, all since the first look:
-  /// workers who have come from under 50 Over to 80; years (any twelve months in a row) that
-  /// somebody worked for rivals, and those of them without a change of Over on any first of a
-  /// month; promotions of the first look that have gone bankrupt.
+  /// {"rises":3,"classChanges":9,"rivalYears":410,"stillYears":277,"startersLost":1,
+  /// "honoured":11}, all since the first look: workers who have come from under 50 Over to 80;
+  /// classes that promotions have crossed from one first of a month to the next; years (any twelve
+  /// months in a row) that somebody worked for rivals, and those of them without a change of Over
+  /// on any first of a month; promotions of the first look that have gone bankrupt; and who is in
+  /// the hall of fame.
   nlohmann::ordered_json Figures() const;
 
  private:
@@ -28,10 +30,13 @@ class WorldWatch {
   };
   void LookAt(const World& world, const Worker& worker);
   void CountClosures(const World& world);
+  void CompareClasses(const World& world);
 
   std::map<int, Year> years_;  // by uid
+  std::map<int, int> sizes_;   // by uid of the promotion
   std::set<int> low_, risen_, starters_;
-  int rises_ = 0, rivalYears_ = 0, stillYears_ = 0, startersLost_ = 0;
+  int rises_ = 0, classChanges_ = 0, rivalYears_ = 0, stillYears_ = 0, startersLost_ = 0,
+      honoured_ = 0;
   bool hasLooked_ = false;
 };
 

@@ -12,6 +12,27 @@ std::string Quoted(std::string_view text) {
   return "\"" + std::string(text) + "\"";
 }
 
+/// A text of several lines on one, as the console takes it.
+std::string OnOneLine(std::string_view text) {
+  std::string line;
+  for (const char letter : text)
+    line += letter == '\n' ? "\\n" : letter == '\\' ? "\\\\" : std::string(1, letter);
+  return line;
+}
+
+/// Tells the desk what is about to be done; `words` stand behind the control's name.
+void Note(Desk& desk, const Screen& screen, const Control& control, std::string_view verb,
+          std::string_view words = {}) {
+  const std::string on = desk.Top() == &screen ? "" : "on " + screen.Name() + " ";
+  const bool goesOn = control.Is() == Kind::TextBox || control.Is() == Kind::ScrollBar;
+  const bool says = control.Is() == Kind::Button || control.Is() == Kind::CheckBox ||
+                    control.Is() == Kind::OptionButton;
+  const std::string caption = says ? control.Text.Get() : std::string();
+  desk.Note({on + std::string(verb) + " " + control.Name() +
+                 (words.empty() ? "" : " " + std::string(words)),
+             (caption.empty() ? "" : caption + ", ") + screen.Title.Get(), goesOn});
+}
+
 /// Does an act to a control that is there for the player; else why it cannot be done.
 std::string OnControl(Screen& screen, std::string_view name,
                       const std::function<std::string(Control&)>& act) {
@@ -79,6 +100,7 @@ std::string PickRow(Desk& desk, Screen& screen, std::string_view name, const Wan
     if (!combo && !list) return CannotBe(control, "picked from");
     const int row = combo ? wanted.In(*combo) : wanted.In(*list);
     if (row == 0) return NoRow(control, wanted);
+    Note(desk, screen, control, "pick", std::to_string(row));
     if (combo) {
       combo->Select(row);
     } else {
@@ -102,6 +124,7 @@ std::string PickToo(Desk& desk, Screen& screen, std::string_view name, const Wan
   return ReachMany(screen, name, [&](ListBox& list) -> std::string {
     const int row = wanted.In(list);
     if (row == 0) return NoRow(list, wanted);
+    Note(desk, screen, list, "also", std::to_string(row));
     list.Toggle(row);
     desk.Event(list.OnPick);
     return {};
@@ -113,6 +136,7 @@ std::string OpenRow(Desk& desk, Screen& screen, std::string_view name, const Wan
     if (!list.OnOpen) return CannotBe(list, "opened");
     const int row = wanted.In(list);
     if (row == 0) return NoRow(list, wanted);
+    Note(desk, screen, list, "open", std::to_string(row));
     list.Select(row);
     desk.Event([&list] {
       if (list.OnPick) list.OnPick();
@@ -132,6 +156,8 @@ std::string Click(Desk& desk, Screen& screen, std::string_view name) {
       return Check(desk, screen, name, !box->Checked);
     if (control.Is() == Kind::OptionButton) return Check(desk, screen, name, true);
     if (!button && !(picture && picture->OnClick)) return CannotBe(control, "clicked");
+    // What a clock presses by itself is no act of the player's.
+    if (!button || button->Every == 0) Note(desk, screen, control, "click");
     desk.Event(button ? button->OnClick : picture->OnClick);
     return {};
   });
@@ -140,6 +166,7 @@ std::string Click(Desk& desk, Screen& screen, std::string_view name) {
 std::string Type(Desk& desk, Screen& screen, std::string_view name, std::string_view text) {
   return ReachA<TextBox>(screen, name, "typed into", [&](TextBox& box) -> std::string {
     if (box.MaxLength > 0) text = text.substr(0, static_cast<std::size_t>(box.MaxLength));
+    Note(desk, screen, box, "type", OnOneLine(text));
     box.Text = text;
     desk.Event(box.OnChange);
     return {};
@@ -160,6 +187,9 @@ std::string PickToo(Desk& desk, Screen& screen, std::string_view name, int row) 
 }
 std::string PickRows(Desk& desk, Screen& screen, std::string_view name, std::vector<int> rows) {
   return ReachMany(screen, name, [&](ListBox& list) -> std::string {
+    std::string words;
+    for (const int row : rows) words += (words.empty() ? "" : " ") + std::to_string(row);
+    Note(desk, screen, list, "rows", words);
     list.SelectRows(rows);
     desk.Event(list.OnPick);
     return {};
@@ -178,6 +208,7 @@ std::string MoveRow(Desk& desk, Screen& screen, std::string_view name, int row, 
     for (const int wanted : {row, to})
       if (wanted < 1 || wanted > list.Count()) return NoRow(list, {std::to_string(wanted), false});
     const auto keyOf = [&](int at) { return list.Rows()[static_cast<std::size_t>(at - 1)].Key; };
+    Note(desk, screen, list, "move", std::to_string(row) + " " + std::to_string(to));
     desk.Event([&, from = keyOf(row), onto = keyOf(to)] { list.OnMove(from, onto); });
     return {};
   });
@@ -190,6 +221,7 @@ std::string Check(Desk& desk, Screen& screen, std::string_view name, bool on) {
     if (!box && !option) return CannotBe(control, "checked");
     if (option && !on) return Quoted(name) + " is left by checking another of its group.";
     if ((box ? box->Checked : option->Checked) == on) return {};
+    Note(desk, screen, control, "check", on ? "on" : "off");
     if (box) {
       box->Checked = on;
     } else {
@@ -206,6 +238,7 @@ std::string Slide(Desk& desk, Screen& screen, std::string_view name, int value) 
       return Quoted(name) + " goes from " + std::to_string(bar.Min) + " to " +
              std::to_string(bar.Max) + ".";
     if (bar.Value == value) return {};
+    Note(desk, screen, bar, "slide", std::to_string(value));
     bar.Value = value;
     desk.Event(bar.OnChange);
     return {};
@@ -239,6 +272,7 @@ std::string Follow(Desk& desk, Screen& screen, std::string_view words) {
   for (const Control* control : screen.Controls()) {
     if (!control->Visible || words.empty()) continue;
     if (const Handler open = LinkIn(desk, *control, words)) {
+      desk.Note({"follow " + OnOneLine(words), std::string(words)});
       desk.Event(open);
       return {};
     }

@@ -163,6 +163,7 @@ class ScrollBar : public Control {
       : ScrollBar(screen, std::move(name), min, max, Bind(screen, change)) {}
   Property<int> Min, Max, Value;
   Handler OnChange;
+  bool Tells = false;  // how far something is; nobody moves it
 };
 
 /// A picture of the folder gfx/, named by its file, or one that is drawn; it may be clicked when it
@@ -344,11 +345,20 @@ class Chart : public Control {
     Tone Colour = Tone::Blue;
     friend bool operator==(const Series&, const Series&) = default;
   };
+  /// What lies between two values a place, behind the lines; where they are no numbers, nothing.
+  struct Band {
+    std::vector<double> Low, High;
+    Tone Colour = Tone::Blue;
+    friend bool operator==(const Band&, const Band&) = default;
+  };
   Chart(Screen& screen, std::string name, bool bars = false);
   bool Bars;
   bool Thin = false;  // one line from 0 to 100 without an axis, as high as a line of words
   Property<std::vector<std::string>> Captions{Changes(), {}};  // one a value, below the axis
   Property<std::vector<Series>> Lines{Changes(), {}};
+  Property<std::vector<Band>> Bands{Changes(), {}};
+  /// Values that mean something, and what: lines across the chart where they lie within.
+  Property<std::vector<std::pair<double, std::string>>> Levels{Changes(), {}};
   /// Where a value stands along the axis, such as a day's number, one a value and none below the
   /// one before; empty: all at equal distances.
   Property<std::vector<double>> Places{Changes(), {}};

@@ -91,17 +91,33 @@ NameSearch Desk::NewSearch() const {
   return [](std::string_view, std::size_t) { return std::vector<Finding>(); };
 }
 
+void Desk::Visit(const Finding& found) {
+  Note({"visit " + found.Heading + ": " + found.Words, found.Words});
+  const Handler open = found.Open;
+  Event(open);
+}
+
+std::string Desk::Take(const TakingBack& back) {
+  std::string what = back.What ? back.What() : std::string();
+  if (what.empty() || (Top() && Top()->Is() == Role::Wait)) return {};
+  Note({&back == &Undo ? "undo" : "redo"});
+  Event(back.Do);
+  return what;
+}
+
 bool Desk::OpenHelp() {
   Screen* const top = Top();
   if (!Help.About || !top || top->Is() == Role::Wait) return false;
   std::unique_ptr<Screen> page = Help.About(*top);
   if (!page) return false;
+  Note({"explain"});
   Open(std::move(page));
   return true;
 }
 
 bool Desk::OpenGlossary(std::string_view term) {
   if (!Help.Glossary) return false;
+  Note({"explain " + std::string(term)});
   Open(Help.Glossary(term));
   return true;
 }

@@ -50,6 +50,13 @@ enum class Default { Yes, No };
 /// What is heard in a hall.
 enum class Sound { Bell, Crowd };
 
+/// What a player does, as the console has it, and how they are told of it.
+struct Act {
+  std::string Line;       // "click cmdsign"; "on frmMainScreen click ..." where another lies on top
+  std::string Name = {};  // "Sign, Contract Talks"; empty for an answer to a box
+  bool GoesOn = false;    // with the act before it, of the same name: a letter more
+};
+
 /// What an event is a transaction of. Commit and Rollback bring the world to a committed state or
 /// throw.
 class Work {
@@ -91,6 +98,9 @@ class Desk {
   virtual void Hear(Sound) {}
   /// Shows the present state during a long handler.
   virtual void Repaint() {}
+  /// Whether the shell presses by itself what is to be pressed every so often (Button::Every).
+  /// Without, a screen that waits for something waits within its handler.
+  virtual bool HasClock() const { return false; }
 
   // Screens that need no argument are opened by name, once the program has said how they are made.
   void Register(std::string name, Factory make);
@@ -118,6 +128,8 @@ class Desk {
 
   /// Begins a search of all that has a name, a page or a meaning; set once there are pages.
   std::function<NameSearch()> BeginSearch;
+  /// Opens what a search has found; an act of the player.
+  void Visit(const Finding& found);
   /// One that finds nothing until BeginSearch has been set.
   NameSearch NewSearch() const;
 
@@ -129,6 +141,22 @@ class Desk {
   std::function<void(const std::string& fault)> NoteFault;
 
   HelpPages Help;
+  /// Hears of each act on a control before it is done, and of each answer to a box. Must not throw.
+  std::function<void(Act act)> NoteAct;
+  void Note(Act act) {
+    if (NoteAct) NoteAct(std::move(act));
+  }
+
+  /// The last click taken back, and one that was taken back done again: how it is told, empty for
+  /// none, and the doing.
+  struct TakingBack {
+    std::function<std::string()> What;
+    Handler Do;
+  };
+  TakingBack Undo, Redo;
+  /// Does it and gives what it was; empty where there is none.
+  std::string Take(const TakingBack& back);
+
   /// Opens the help for the top screen; false where there is none.
   bool OpenHelp();
   /// Opens the glossary at a term; false where there is none.

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <cctype>
+#include <utility>
 
 #include "records/checks/checkworld.h"
-#include "records/store/slot.h"
+#include "records/store/playedslot.h"
 #include "records/store/slotcare.h"
 #include "records/store/slotfolder.h"
 #include "records/world.h"
+#include "ui/goingback.h"
 
 namespace grapplemont {
 
@@ -28,17 +30,31 @@ void TellMended(const std::vector<Fault>& mended, std::vector<std::string>& rema
 Game::Game(ui::Desk& desk, grapplemont::Disk& disk, Options options)
     : desk_(desk), disk_(disk), options_(std::move(options)) {
   desk_.SetWork(this);
+  ConnectGoingBack(*this);
+  desk_.NoteAct = [this](ui::Act act) {
+    if (slot_ && slot_->Records()) step_.Commands += act.Line + "\n";
+    if (act.Name.empty()) return;
+    step_.Is = PlayedStep::Click;
+    step_.Name = std::move(act.Name);
+    step_.GoesOn = act.GoesOn;
+  };
 }
 
 Game::~Game() {
+  desk_.NoteAct = {};
+  desk_.Undo = desk_.Redo = {};
   desk_.SetWork(nullptr);
 }
 
 std::unique_ptr<Draws> Game::NewDraws(Stream stream) {
+  return options_.Seed ? DrawsOf(*options_.Seed, stream)
+                       : std::make_unique<SeededDraws>(MachineSeed());
+}
+
+std::unique_ptr<Draws> Game::DrawsOf(std::uint64_t seed, Stream stream) {
   // Streams of one seed lie far apart, and no stream of a seed is another's of the next seed.
   constexpr std::uint64_t kApart = 0x9E3779B97F4A7C15;
-  return std::make_unique<SeededDraws>(options_.Seed ? *options_.Seed ^ (kApart * stream)
-                                                     : MachineSeed());
+  return std::make_unique<SeededDraws>(seed ^ (kApart * stream));
 }
 
 std::uint64_t Game::NewWorldId() {
@@ -47,11 +63,21 @@ std::uint64_t Game::NewWorldId() {
 
 std::vector<std::string> Game::OpenSlot(int slot, bool dropDamaged) {
   CloseSlot();
-  auto files = std::make_unique<Slot>(disk_, SlotFolder(slot), KnownFiles(),
-                                      dropDamaged ? Damage::Drop : Damage::Refuse);
+  SlotOptions options;
+  options.Contents = [this](const std::string& file) { return CommittedOf(file); };
+  auto files = std::make_unique<PlayedSlot>(disk_, SlotFolder(slot),
+                                            dropDamaged ? Damage::Drop : Damage::Refuse, options);
+  // What is recorded is played again with the same chance.
+  const auto seed = options_.Seed;
+  if (files->Records() && !seed) options_.Seed = MachineSeed();
+  step_ = {.Commands = files->Records() ? "session " + std::to_string(*options_.Seed) + " " +
+                                              IsoDate(PresentDay()) + "\n"
+                                        : std::string()};
   auto world =
       std::make_unique<grapplemont::World>(NewDraws(kPlay), NewDraws(kProse), NewDraws(kLife));
+  options_.Seed = seed;
   world->Load(files->Files());
+  RequireKnownTotals(*world);
   files->Forget();
   world->Session.StartSize = world->Player().Size;
   slot_ = std::move(files);
@@ -77,15 +103,29 @@ std::string Game::PageFile(int slot) const {
 void Game::CloseSlot() {
   if (!slot_) return;
   if (KeepPage) KeepPage(PageFile(slotNumber_));
-  const std::unique_ptr<Slot> closing = std::move(slot_);
-  world_.reset();
+  const std::unique_ptr<PlayedSlot> closing = std::move(slot_);
+  std::string gone;
+  try {
+    if (closing->Records()) closing->Record(std::exchange(step_.Commands, {}));
+  } catch (const DiskError&) {
+    // Clicks that changed nothing are all that is lost.
+  }
   try {
     closing->Checkpoint();
   } catch (const SlotGone& fault) {
-    desk_.Say("Error!", fault.what());
+    gone = fault.what();
   } catch (const DiskError&) {
     // The journal still holds every commit; the next opening replays it.
   }
+  world_.reset();
+  if (!gone.empty()) desk_.Say("Error!", gone);
+}
+
+std::optional<Bytes> Game::CommittedOf(const std::string& file) const {
+  if (world_)
+    for (const Table* table : std::as_const(*world_).Tables())
+      if (table->File() == file && table->CommittedExists()) return table->Committed();
+  return std::nullopt;
 }
 
 World& Game::World() {
@@ -93,20 +133,31 @@ World& Game::World() {
   return *world_;
 }
 
+PlayedSlot& Game::OpenedSlot() {
+  if (!slot_) throw std::logic_error("No game is open.");
+  return *slot_;
+}
+
 void Game::Commit() {
+  const PlayedStep step = std::exchange(step_, {.Commands = step_.Commands});
   if (joined_) joined_->Commit();
   if (!world_) return;
-  if (Watch && !isOver_) Watch();
+  // What was gone back to is just what it was.
+  if (Watch && !isOver_ && step.Is == PlayedStep::Click) Watch();
   const auto changes = world_->Changes();
   if (changes.empty()) return;
   if (!MayChange(changes)) throw std::logic_error(kCareerIsOver);
   try {
-    slot_->Commit(changes);
+    slot_->Commit(changes, step);
   } catch (const DiskError&) {
-    if (slot_->Committed()) MarkCommitted(changes);
+    if (slot_->Committed()) {
+      MarkCommitted(changes);
+      step_.Commands.clear();
+    }
     throw;
   }
   MarkCommitted(changes);
+  step_.Commands.clear();  // those of an event that kept nothing belong to the next
   if (Kept) Kept(changes);
 }
 
@@ -124,6 +175,7 @@ bool Game::MayChange(const std::vector<FileChange>& changes) const {
 }
 
 void Game::Rollback() {
+  step_ = {.Commands = std::move(step_.Commands)};
   if (joined_) joined_->Rollback();
   if (world_) world_->Rollback();
 }

@@ -10,13 +10,15 @@
 
 #include "records/fields/outside.h"
 #include "records/store/disk.h"
+#include "records/store/playedstep.h"
 #include "ui/desk.h"
 
 namespace grapplemont {
 
-class Slot;
+class PlayedSlot;
 class World;
 struct FileChange;
+struct WhatIf;
 
 /// Why a player whose career has ended can change nothing any more.
 inline constexpr const char* kCareerIsOver = "Your career is over: the world can be read.";
@@ -32,6 +34,7 @@ class Game : public ui::Work {
     std::optional<std::uint64_t> Seed = {};  // none: from the operating system
     std::string Share = {};   // data/ and gfx/ as they came with the program; empty for none
     std::string Faults = {};  // the file where faults are noted; empty for none
+    int Worlds = 100;         // copies of the world that are played for a look ahead
   };
   Game(ui::Desk& desk, Disk& disk, Options options);
   ~Game() override;
@@ -55,6 +58,7 @@ class Game : public ui::Work {
   /// The picture of the page that was seen last in a slot; it need not be there.
   std::string PageFile(int slot) const;
   Day PresentDay() const { return options_.Today(); }
+  int Worlds() const { return options_.Worlds; }
   /// What chance is for; each has a stream of its own.
   enum Stream : std::uint64_t {
     kPlay,
@@ -67,6 +71,11 @@ class Game : public ui::Work {
   };
   /// A source of chance: from the seed if one was given, else from the operating system.
   std::unique_ptr<Draws> NewDraws(Stream stream);
+  /// The stream of a seed.
+  static std::unique_ptr<Draws> DrawsOf(std::uint64_t seed, Stream stream);
+
+  /// Chance comes from a number that was named: what is played can be played again.
+  bool HasSeed() const { return options_.Seed.has_value(); }
 
   /// A number that no other world has, for a slot that is made.
   std::uint64_t NewWorldId();
@@ -101,6 +110,9 @@ class Game : public ui::Work {
   /// Opens the mailbox at the mail of a number.
   std::function<void(int number)> OpenMail;
 
+  /// Plays both answers to a question in copies of the world and shows what becomes of them.
+  std::function<void(WhatIf asked)> OpenWhatIf;
+
   /// Opens the chronicle at a chapter: of "Workers" or "Promotions" by uid, of "Titles" by the
   /// promotion's uid and the name.
   std::function<void(std::string_view kind, int number, std::string_view name)> OpenChapter;
@@ -127,6 +139,10 @@ class Game : public ui::Work {
   OpenGame Opened() const { return HasWorld() ? opened_ : OpenGame(); }
   /// Requires an open world.
   grapplemont::World& World();
+  /// The slot of the open world, with what can be gone back to.
+  PlayedSlot& OpenedSlot();
+  /// Says what the commit at the end of this event is, where it is no click.
+  void CommitAs(PlayedStep::Kind kind) { step_.Is = kind; }
 
   /// What else every event is a transaction of, while a room keeps something of its own open (the
   /// editor the default data); nullptr for nothing.
@@ -142,11 +158,13 @@ class Game : public ui::Work {
   bool MayChange(const std::vector<FileChange>& changes) const;
   std::string Path(const std::string& name) const { return options_.Home + "/" + name; }
   std::vector<std::string> Layers(const std::string& name) const;
+  std::optional<Bytes> CommittedOf(const std::string& file) const;
 
   ui::Desk& desk_;
   grapplemont::Disk& disk_;
   Options options_;
-  std::unique_ptr<Slot> slot_;
+  std::unique_ptr<PlayedSlot> slot_;
+  PlayedStep step_;  // what the next commit is
   OpenGame opened_;
   int slotNumber_ = 0;  // of slot_
   std::unique_ptr<grapplemont::World> world_;

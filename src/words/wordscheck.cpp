@@ -140,6 +140,30 @@ std::string WhyNotForOne(std::string_view text) {
   return "";
 }
 
+/// The second verb of "{F} take{F:s} a bow and goes", which has to go by number as well; empty for
+/// none.
+std::string_view VerbLeftAlone(std::string_view text) {
+  constexpr std::string_view kEndings[] = {":s}", ":es}", ":ies}"};
+  constexpr std::string_view kJoints[] = {" and ", " or ", " but ", " then "};
+  constexpr std::string_view kNoVerbs[] = {"his", "its", "this", "as", "less", "always", "perhaps"};
+  for (const std::string_view ending : kEndings)
+    for (auto at = text.find(ending); at != text.npos; at = text.find(ending, at + 1)) {
+      if (at == 0 || text[at - 1] < 'A' || text[at - 1] > 'Z') continue;
+      auto clause = text.substr(at + ending.size());
+      clause = clause.substr(0, clause.find_first_of("{.!?;\""));
+      for (const std::string_view joint : kJoints) {
+        const auto from = clause.find(joint);
+        if (from == clause.npos) continue;
+        auto word = clause.substr(from + joint.size());
+        word = word.substr(0, word.find_first_of(" ,:"));
+        const bool isVerb =
+            std::find(std::begin(kNoVerbs), std::end(kNoVerbs), word) == std::end(kNoVerbs);
+        if (word.size() > 2 && word.ends_with('s') && isVerb) return word;
+      }
+    }
+  return {};
+}
+
 /// "himself" is right for half of all workers.
 bool HasSexedWord(std::string_view text) {
   return text.find(" himself") != text.npos || text.find(" herself") != text.npos;
@@ -199,6 +223,9 @@ std::string WhyNotSaid(std::string_view text, const Heading& heading) {
   if (heading.IsReport && HasSexedWord(text))
     return "write {a:himself}, with the letter of whoever it is: it goes by sex and number";
   if (heading.IsReport && LetsLoserWin(text)) return "{l} or {L} has lost, and wins here";
+  if (const auto verb = VerbLeftAlone(text); heading.IsReport && !verb.empty())
+    return "\"" + std::string(verb) +
+           "\" goes by number as the verb before it does: end it in braces";
   if (std::string why = WhyNotForOne(text); !heading.IsReport && !why.empty()) return why;
   Reading reading(heading);
   ReadHoles(

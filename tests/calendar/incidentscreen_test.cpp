@@ -120,7 +120,7 @@ TEST(IncidentScreen, GoesOnWhereItWasClosed) {
   const std::string hurt = "Cal Drift has sustained an injury!\nBroken Arm, out for 4 months.";
   EXPECT_EQ(play.Desk.Text("lblleft"), "And 2 more.");
   const std::string answers = play.Desk.Text("txtchoices");
-  EXPECT_NE(answers.find("Suspend 3 Months: not to be booked for so long, and " +
+  EXPECT_NE(answers.find("Suspend 3 Months: not to be booked in that time, and " +
                          Dollars(3LL * MonthlyWage(backstage.Who("Bram Okafor"))) + " paid"),
             std::string::npos)
       << answers;

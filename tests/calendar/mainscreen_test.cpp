@@ -151,7 +151,7 @@ TEST(MainScreen, LeadsToEveryScreenOfTheSideBar) {
       EXPECT_EQ(play.Desk.TopName(), "frmMainScreen") << button;
       ++screens;
     }
-  EXPECT_EQ(screens, 20);
+  EXPECT_EQ(screens, 21);
 }
 
 TEST(MainScreen, MovesAPlainDayAndKeepsItOnDisk) {

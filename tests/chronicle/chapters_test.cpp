@@ -146,6 +146,8 @@ TEST_F(Chronicles, TellOfFeudsHousesAndYears) {
   EXPECT_TRUE(Says(feud, "60 days")) << feud;
   const std::string own = TextOf(Read(About::Feud, "Bram Okafor and Ilya Marsh", kTolland));
   EXPECT_TRUE(Says(own, "170 days")) << own;
+  EXPECT_NE(own.find("CWA Crown"), std::string::npos) << "what went from one to the other: " << own;
+  EXPECT_EQ(own.find("He "), std::string::npos) << "which of the two: " << own;
   const std::string house =
       TextOf(Read(About::Promotion, Named(World_.Promotions(), "NEW").Name, kTolland));
   EXPECT_TRUE(Says(house, "regional")) << house;
@@ -153,6 +155,25 @@ TEST_F(Chronicles, TellOfFeudsHousesAndYears) {
   const std::string year = TextOf(Read(About::Year, "2026", kTolland));
   EXPECT_NE(year.find("Ilya Marsh"), std::string::npos) << year;
   EXPECT_TRUE(Says(year, "one contract")) << year;
+}
+
+TEST_F(Chronicles, SumUpWhoGoesToAndFro) {
+  const Promotion& rival = Named(World_.Promotions(), "NEW");
+  for (int times = 0; times < 2; ++times) {
+    Pass(20);
+    NoteDeed(World_, kDeedRisen, &rival, rival.Name, {}, kRegional);
+    Pass(20);
+    NoteDeed(World_, kDeedFallen, &rival, rival.Name, {}, kSmall);
+  }
+  for (int voice = kLamplighter; voice <= kQvd; ++voice) {
+    const std::string house = TextOf(Read(About::Promotion, rival.Name, voice));
+    EXPECT_TRUE(Says(house, "twice up, twice down")) << house;
+    EXPECT_TRUE(Says(house, "small")) << house;
+    EXPECT_FALSE(Says(house, "regional")) << "nor one by one: " << house;
+    const std::string year = TextOf(Read(About::Year, "2026", voice));
+    EXPECT_TRUE(Says(year, "twice up, twice down")) << year;
+    EXPECT_FALSE(Says(year, "regional")) << year;
+  }
 }
 
 TEST_F(Chronicles, AreTheSameWheneverTheyAreReadAndDifferByVoice) {

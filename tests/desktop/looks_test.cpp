@@ -199,7 +199,7 @@ TEST(TheCards, AreLeftOutWhereThePageHasNoRoomToSpare) {
   }
 }
 
-/// The guide stands on it beside all else.
+/// The guide stands on it beside all else, and names keys as the player has set them.
 TEST(TheDesk, IsSeenWholeInTheFirstWeek) {
   HomeFolder home(RichWorld().Build());
   home.StartNewGame();
@@ -219,6 +219,14 @@ TEST(TheDesk, IsSeenWholeInTheFirstWeek) {
   for (const auto* scroller : play.See("frmMainScreen")->findChildren<desktop::Scroller*>())
     scrolls += scroller->verticalScrollBar()->maximum();
   EXPECT_EQ(scrolls, 0);
+  const auto guide = [&] { return play.Desk.Top()->Find("txtguide")->Text.Get(); };
+  EXPECT_NE(guide().find("Open Roster (F2)."), std::string::npos) << guide();
+  play.Window.Kept().SetKey({"cmdroster", "Roster", "Side bar", "F2"}, "Ctrl+R");
+  play.Key(Qt::Key_R, Qt::ControlModifier);
+  ASSERT_EQ(play.Top(), "frmRoster");
+  game.World().Guides()[1].Done[0] = false;
+  play.Key(Qt::Key_Escape);
+  EXPECT_NE(guide().find("Open Roster (Ctrl+R)."), std::string::npos) << guide();
   play.Desk.CloseAll();
   play.Window.Sync();
   game.CloseSlot();

@@ -32,7 +32,7 @@ const std::vector<Expected> kRoles = {
     {ui::Kind::ComboBox, {QAccessible::ComboBox}},
     {ui::Kind::CheckBox, {QAccessible::CheckBox}},
     {ui::Kind::OptionButton, {QAccessible::RadioButton}},
-    {ui::Kind::ScrollBar, {QAccessible::Slider}},
+    {ui::Kind::ScrollBar, {QAccessible::Slider, QAccessible::ProgressBar}},
     {ui::Kind::Picture, {QAccessible::Graphic, QAccessible::Button}},
     {ui::Kind::Chart, {QAccessible::Chart}},
     {ui::Kind::Report, {QAccessible::EditableText}}};
@@ -74,8 +74,14 @@ void ExpectValue(const ui::Control& control, QAccessibleInterface& told) {
     EXPECT_EQ(told.state().checked, box->Checked.Get() ? 1U : 0U);
   }
   if (const auto* bar = dynamic_cast<const ui::ScrollBar*>(&control)) {
-    ASSERT_TRUE(told.valueInterface());
-    EXPECT_EQ(told.valueInterface()->currentValue().toInt(), bar->Value.Get());
+    if (bar->Tells) {
+      EXPECT_EQ(told.role(), QAccessible::ProgressBar);
+      EXPECT_TRUE(told.text(QAccessible::Description)
+                      .startsWith(QString::number(bar->Value.Get()) + " of "));
+    } else {
+      ASSERT_TRUE(told.valueInterface());
+      EXPECT_EQ(told.valueInterface()->currentValue().toInt(), bar->Value.Get());
+    }
   }
   if (control.Is() == ui::Kind::ComboBox || control.Is() == ui::Kind::TextBox) {
     EXPECT_EQ(told.text(QAccessible::Value), desktop::Shown(control.Text.Get()));

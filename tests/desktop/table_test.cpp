@@ -446,7 +446,9 @@ TEST_F(RowButtons, AListMayShrinkWhileItsNeighbourGrows) {
 }
 
 ui::Sign SignOfMark(std::string_view word) {
-  return word.starts_with("Feud") ? ui::Sign::Flame : ui::Sign::None;
+  return word.starts_with("Feud")       ? ui::Sign::Flame
+         : word.starts_with("Champion") ? ui::Sign::Crown
+                                        : ui::Sign::None;
 }
 
 /// A table with the same marks in words and in signs.
@@ -454,6 +456,7 @@ class MarkedPage : public ui::Screen {
  public:
   explicit MarkedPage(ui::Desk& desk) : Screen(desk, "frmMarked", "Marked") {
     lstmarks.Add({"Bram", "Feud 71, Late", "Feud 71, Late"}, 1);
+    lstmarks.Add({"Lena", "Champion of the coast, Feud 71", "Champion of the coast, Feud 71"}, 2);
   }
   ui::Page Layout() override { return {.Body = ui::Group("", {ui::Grow(lstmarks)})}; }
 
@@ -468,9 +471,11 @@ TEST(SignsInATable, TakeLittleRoomAndAreReadOutAsWords) {
   Player play;
   play.Open(std::make_unique<MarkedPage>(play.Desk));
   const ui::ListBox& list = dynamic_cast<MarkedPage&>(*play.Desk.Top()).lstmarks;
-  const ui::Cell& cell = list.Rows()[0].Cells[1];
-  EXPECT_LT(desktop::CellWidth(cell, list.Columns()[2]),
-            desktop::CellWidth(cell, list.Columns()[1]));
+  const auto width = [&](std::size_t row, std::size_t column) {
+    return desktop::CellWidth(list.Rows()[row].Cells[column], list.Columns()[column]);
+  };
+  EXPECT_LT(width(0, 2), width(0, 1)) << "one word of the two has no sign";
+  EXPECT_LT(width(1, 2), width(1, 1) / 2) << "signs alone, and a number";
   const QModelIndex shown = play.Grid("lstmarks").model()->index(0, 2);
   EXPECT_EQ(shown.data(Qt::AccessibleTextRole), "Feud 71, Late");
   const auto pictureOf = [&](int column) {

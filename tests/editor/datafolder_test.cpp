@@ -131,6 +131,18 @@ TEST(TheDataFolder, LeavesWhatCameWithTheProgramAloneAndOwnsAllOnceOneFileIsChan
   EXPECT_EQ(BytesOf(update), Found(disk, kBackup));
 }
 
+TEST(TheDataFolder, RestoresFromBelowWhatTheBackupLacks) {
+  const World before = SmallData();
+  CutDisk disk = DiskBelow(before);
+  DataFolder data(disk, kData, kBelow);
+  Edit(data.World());
+  data.Commit();
+  disk.Remove(std::string(kBackup) + "/belt.dat");
+  EXPECT_TRUE(data.Restore());
+  EXPECT_EQ(BytesOf(before), BytesOf(data.World())) << "as whoever opens it again would see it";
+  EXPECT_EQ(BytesOf(before), Found(disk));
+}
+
 TEST(PowerCutsInTheEditor, LeaveTheWorldThatCameWithTheProgramOrTheOwnOne) {
   const World before = SmallData();
   const Files old = BytesOf(before), fresh = Edited(before);

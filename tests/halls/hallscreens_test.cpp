@@ -2,6 +2,7 @@
 
 #include "halls/hall.h"
 #include "halls/recordbook.h"
+#include "pastworld.h"
 #include "storylines/lineages.h"
 #include "support/gameonworld.h"
 #include "words/segments.h"
@@ -82,6 +83,24 @@ TEST(frmHall, ShowsTheRuleTheMembersAndWhoIsNext) {
   EXPECT_EQ(play.Desk.Selected("lstmembers"), std::vector<int>{});
   play.Desk.Click("cmdpage");
   EXPECT_EQ(play.Desk.TopName(), "frmWorker");
+}
+
+TEST(frmHall, SaysWhoOnlyWaitsForOthers) {
+  GameOnWorld play(CountedMonth());
+  Ledger ledger(play.World());
+  for (Worker& worker : play.World().Workers()) {
+    worker.Age = kHallAge;
+    MakeCareer(ledger, play.World(), worker.Name, kHallBar);
+  }
+  ledger.Keep(play.World());
+  play.Desk.Open("frmHall");
+  for (int place = 1; place <= 4; ++place) {
+    play.Desk.Pick("lstnext", place);
+    EXPECT_EQ(play.Desk.Text("txtmember").find("if two others") != std::string::npos,
+              place > kElectedAYear)
+        << place;
+    EXPECT_NE(play.Desk.Text("txtmember").find("Would be elected today"), std::string::npos);
+  }
 }
 
 TEST(frmYearbook, TurnsItsPagesAndLeavesOneSection) {

@@ -217,6 +217,8 @@ TEST(Mails, AreThePlayersOwnOrNewsOfOthers) {
       {"New Promotion", "A new promotion, Fresh, has opened.", false},
       {"Roster News", "Old Hand has returned from injury.", true},
       {"CWA News", "Owner Bo Crane has quit CWA.", true},
+      {"NEW News", "NEW have stolen Dan Dale from CWA!", true},
+      {"NEW News", "NEW have stolen Dan Dale from OLD!", false},
       {"NEW News", "NEW have risen to Cult level.", false}};
   SmallWorld small;
   small.Network("Nine").Promotion("CWA").Show("Fire", "Friday", "Nine").Promotion("NEW");

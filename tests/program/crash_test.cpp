@@ -2,6 +2,7 @@
 
 #include "program/screens.h"
 #include "records/segments.h"
+#include "records/store/playedslot.h"
 #include "records/store/slot.h"
 #include "records/store/slotfolder.h"
 #include "records/world.h"
@@ -84,11 +85,14 @@ CutDisk FreshHome() {
   return disk;
 }
 
-/// What stands in the slot, read by the real code; empty where there is no slot.
+/// The world that stands in the slot, read by the real code; empty where there is no slot.
 std::map<std::string, Bytes> Found(CutDisk& disk) {
   if (StandingFolder(disk, kSlot).empty()) return {};
-  const Slot slot(disk, kSlot, KnownFiles());
-  return slot.Files();
+  const PlayedSlot slot(disk, kSlot);
+  auto files = slot.Files();
+  for (const std::string_view own : {kMorningsName, kBeginningName, kCommandsName})
+    files.erase(std::string(own));
+  return files;
 }
 
 /// A run that was recorded, and the world after each of its clicks; world 0 is not a slot at all.

@@ -115,6 +115,9 @@ TEST(Glossary, FillsEveryFigureFromItsRule) {
       {"Production", "$1,000 to $22,000 a point"},
       {"Ticket price", "more at each step: 5, 15, 30."},
       {"Loan", "up to 8% of the whole sum"},
+      {"Loan", "whoever has 25% of it in hand"},
+      {"Pay", "brings 25% or 10% of it"},
+      {"Standing", "100 a class, and the image"},
       {"OverFloor", "to 30 for whoever has an Over of 51"}};
   for (const auto& [term, words] : kTold)
     EXPECT_NE((FindTerm(term)->Means + FindTerm(term)->Moves).find(words), std::string::npos)
@@ -130,7 +133,8 @@ TEST(Guide, WatchesTheFirstWeekAndIsClosedForGood) {
   const auto isDone = [&](int step) -> bool {
     return world.Guides()[1].Done[static_cast<std::size_t>(step - 1)];
   };
-  EXPECT_TRUE(desk.Text("txtguide").starts_with("Step 1 of 8: See who draws\nOpen Roster"));
+  EXPECT_TRUE(desk.Text("txtguide").starts_with("Step 1 of 8: See who draws\nOpen Roster."))
+      << desk.Text("txtguide");
   EXPECT_FALSE(isDone(1));
   desk.Click("cmdstep");
   ASSERT_EQ(desk.TopName(), "frmRoster") << "the step leads to the page that it is about";

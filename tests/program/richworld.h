@@ -41,7 +41,7 @@ inline constexpr const char* kInGame[] = {
     "frmReigns",     "frmChronicle",    "frmResults",    "frmReports",   "frmAwards",
     "frmTalk",       "frmMorning",      "frmInternet",   "frmGlossary",  "frmDrafts",
     "frmProspect",   "frmPlayOn",       "frmMonth",      "frmGodMode",   "frmRecords",
-    "frmHall",       "frmYearbook",     "frmFamilyTree"};
+    "frmHall",       "frmYearbook",     "frmFamilyTree", "frmMornings",  "frmFutures"};
 
 /// Those that come before one, and the editor's.
 inline constexpr const char* kBeforeGame[] = {

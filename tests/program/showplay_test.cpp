@@ -283,7 +283,10 @@ TEST(AShowToldLive, AppearsSentenceBySentenceAndItsPercentagesLast) {
       const std::string text = desk.Text("txtreport");
       for (const char* name : {"txtoverall", "txtcrowd", "lblwinner", "txtroad", "cmdwhy(3)"})
         EXPECT_FALSE(desk.Visible(name)) << name << " before the end";
-      EXPECT_EQ(desk.Text("txtwhy"), "");
+      EXPECT_TRUE(desk.Text("txtwhy").ends_with("\nThe percentages come when it has been told."))
+          << desk.Text("txtwhy");
+      for (const auto& cells : desk.Rows("lstcast"))
+        EXPECT_EQ(cells.back(), "") << cells.front() << " before the end";
       EXPECT_EQ(text.substr(0, told.size()), told);
       EXPECT_TRUE(desk.Visible("chthall"));
       told = text;
@@ -294,6 +297,9 @@ TEST(AShowToldLive, AppearsSentenceBySentenceAndItsPercentagesLast) {
     EXPECT_EQ(told, KeptWords(play.World(), row));
     EXPECT_EQ(detail::Trimmed(desk.Text("txtreport")), told);
     EXPECT_TRUE(desk.Visible("txtoverall"));
+    const bool isMatch = play.World().Segments()[row].Kind == kMatch;
+    const auto cast = desk.Rows("lstcast");
+    EXPECT_EQ(!cast.empty() && !cast.front().back().empty(), isMatch);
   }
   EXPECT_GT(breaths, 0) << "no count was waited for";
   ChooseLive(desk, false);

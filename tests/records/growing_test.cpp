@@ -130,6 +130,16 @@ TEST(AGrowingFile, WritesItsEndAndWhatWasChangedAndNothingElse) {
   EXPECT_EQ(290'000 / kJournalBlock * kJournalBlock, change->Ranges[1].Offset);
 }
 
+TEST(AGrowingFile, GivesBackTheMemoryOfWhatHasGone) {
+  std::vector<Mail> mails(1000);
+  GrowingPast<Mail> past;
+  past.Commit(mails, {});
+  past.NoteGone(mails, mails.size());
+  EXPECT_GE(past.Held(), 1000 * sizeof(Mail));
+  past.Commit(mails, {});
+  EXPECT_EQ(0u, past.Held());
+}
+
 TEST(AGrowingFile, TellsOfAllThatHappensToItsRecordsButAnAppend) {
   Records<Mail> mails;
   mails.Append({});

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "records/fields/fields.h"
+#include "records/store/mornings.h"
 #include "records/store/table.h"
 #include "support/smallworld.h"
 
@@ -131,11 +132,12 @@ TEST(Layouts, Title) {
   ExpectLayout<Title>(pieces);
 }
 
-TEST(KnownFiles, AreTheTablesInTheirOrder) {
+TEST(KnownFiles, AreTheTablesInTheirOrderAndTheMoments) {
   const World world;
   const auto tables = world.Tables();
   const auto& known = KnownFiles();
-  ASSERT_EQ(known.size(), tables.size());
+  ASSERT_EQ(known.size(), tables.size() + 3);
+  EXPECT_EQ(kMorningsName, known[tables.size()].Name);
   for (std::size_t i = 0; i < tables.size(); ++i) {
     EXPECT_EQ(tables[i]->File(), known[i].Name);
     EXPECT_EQ(tables[i]->MaxBytes(), known[i].MaxBytes);

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "records/store/journalfile.h"
 #include "records/store/slotfolder.h"
 #include "support/storeworld.h"
+#include "support/thrown.h"
 
 // Slots as earlier versions left them, whose digests are those of whole files: they open, go on in
 // the present form, and lose nothing whenever the power is cut on the way.
@@ -68,6 +71,23 @@ TEST(OldSlots, TellWhichFileWasChangedFromOutside) {
     std::string why;
     EXPECT_EQ(-1, FoundWorld(disk, worlds, 0, 0, SmallJournal(), &why));
     EXPECT_NE(why.find("Not as the game last kept them: " + name + ";"), why.npos) << why;
+  }
+}
+
+TEST(NewerSlots, AreRefusedInASentenceAndLeftAsTheyAre) {
+  const auto worlds = RandomWorlds(1, 317);
+  for (const std::int64_t block : {0, 1}) {
+    CutDisk disk = OldSlot(worlds, 0);
+    Bytes journal = ReadFile(disk, In(kJournalName));
+    const Bytes marker = PackMarker({kStoreId, 7, 0, 0, static_cast<DigestForm>(3)});
+    std::ranges::copy(marker, journal.begin() + block * kJournalBlock);
+    WriteFile(disk, In(kJournalName), journal);
+    for (const Damage damage : {Damage::Refuse, Damage::Drop}) {
+      const std::string why =
+          ThrownBy<DiskError>([&] { Slot(disk, kStore, StoreFiles(), damage, SmallJournal()); });
+      EXPECT_NE(why.find("newer version of the game. Update the game"), why.npos) << why;
+    }
+    EXPECT_EQ(ReadFile(disk, In(kJournalName)), journal);
   }
 }
 

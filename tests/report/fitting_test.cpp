@@ -120,24 +120,79 @@ TEST_P(Fitting, IsKindOnlyBehindACleanWin) {
         << lines[line].Text;
 }
 
+constexpr int kAnyVoice = -1;
+
+/// Whether a line of the family says this, in this voice or in any.
+bool Says(int voice, Family family, std::string_view words) {
+  for (const int each : {kLamplighter, kTolland, kQvd}) {
+    if (voice != kAnyVoice && voice != each) continue;
+    const BandRange& bands = RowOf(family).Bands;
+    for (int band = bands.First; band <= bands.Last; ++band)
+      for (const TaggedLine& line : ReadLinesOf(each, family, band))
+        if (line.Text.find(words) != std::string_view::npos) return true;
+  }
+  return false;
+}
+
 /// Words that the reports have had from their first day.
 TEST(Words, KeepTheOldLines) {
+  using enum Family;
   struct Old {
     int Voice;
     Family Of;
-    std::string_view Says;
+    std::vector<std::string_view> Says;
   };
-  for (const Old& old :
-       {Old{kLamplighter, Family::ThreeCount, "1 - 2 - 3. "},
-        {kQvd, Family::ThreeCount, "Cover! 1....2....3! Ring the bell. "},
-        {kQvd, Family::ThreeCount, "Pin : 1....2....3! "},
-        {kLamplighter, Family::TwoCount, "1 - 2 - shoulder up."},
-        {kTolland, Family::RefBump, "goes down after accidentally getting caught"}}) {
-    const auto lines = ReadLinesOf(old.Voice, old.Of, 0);
-    EXPECT_TRUE(std::any_of(lines.begin(), lines.end(), [&](const TaggedLine& line) {
-      return line.Text.find(old.Says) != std::string_view::npos;
-    })) << old.Says;
-  }
+  for (const Old& old : std::initializer_list<Old>{
+           {kAnyVoice, OffenceA, {" uses a neckbreaker on ", "Forearm to the face from "}},
+           {kAnyVoice,
+            OffenceA,
+            {" gets hip tossed by ", " takes a chop from ", ", executed well"}},
+           {kAnyVoice, OffenceC, {" hits a bulldog off the ropes. ", "Big clothesline from "}},
+           {kAnyVoice, OffenceC, {"Messed up bodyslam by "}},
+           {kAnyVoice, OffenceD, {"Side suplex from ", ", looked crap", "Powerbomb on "}},
+           {kAnyVoice, OffenceE, {"Kick from ", "Right hand from ", " strikes "}},
+           {kAnyVoice, Counter, {" counters a backdrop with a kick to the face."}},
+           {kAnyVoice, Counter, {" ducks a clothesline attempt."}},
+           {kLamplighter, TwoCount, {"1 - 2 - shoulder up.", "Hooks the leg for a two count."}},
+           {kAnyVoice, NearFall, {"1 - 2 - 2.999", "Pinfall attempt gets a 2.9999."}},
+           {kLamplighter, ThreeCount, {"1 - 2 - 3. ", " defeats "}},
+           {kQvd, ThreeCount, {"Cover! 1....2....3! Ring the bell.", "Pin : 1....2....3!"}},
+           {kAnyVoice, PinNoRef, {"Hooks the leg, but the referee is still out."}},
+           {kLamplighter, RefBump, {" runs into the referee. ", "Hah, die referee scum!"}},
+           {kTolland,
+            RefBump,
+            {"We have our mandatory ref bump, as he goes down after "
+             "accidentally getting caught"}},
+           {kAnyVoice,
+            RefBump,
+            {"The referee bumps after catching a wild right hand and is down."}},
+           {kAnyVoice, DoubleTeam, {", then hit a double suplex."}},
+           {kAnyVoice, DoubleTeam, {" into the ropes and hit a double clothesline."}},
+           {kAnyVoice, DoubleDq, {"calls for the bell. This is a double DQ."}},
+           {kAnyVoice, LadderSpot, {" drives the ladder into ", "Whip into the ladder by "}},
+           {kAnyVoice, WeaponSpot, {"Frying pan shot by ", " with a plastic dinosaur."}},
+           {kLamplighter, OffenceB, {"Yeah! Violence rules."}},
+           {kLamplighter, TableSpot, {"Running table shot by ", " through the table!"}},
+           {kAnyVoice, TagOut, {"Tag between ", " tags out to "}},
+           {kAnyVoice, EliminationTry, {" tried to eliminate ", " held onto the ropes."}},
+           {kAnyVoice, Elimination, {" got thrown over the top rope by ", " was eliminated by "}},
+           {kAnyVoice, Elimination, {"(Elimination #"}},
+           {kAnyVoice, RumbleStart, {"Entry #", " are the first two competitors."}},
+           {kLamplighter,
+            TurnCosts,
+            {"partner with a right hand to the jaw, then drops down off t",
+             " leaves the ring with the chair in hand. ",
+             " scores with a quick small package on "}}})
+    for (const std::string_view words : old.Says)
+      EXPECT_TRUE(Says(old.Voice, old.Of, words)) << words;
+}
+
+/// A draw of three picks one; the lowest band has two.
+TEST(Words, RateWithThreeLinesABand) {
+  const BandRange& bands = RowOf(Family::Verdict).Bands;
+  for (int band = bands.First; band <= bands.Last; ++band)
+    EXPECT_EQ(ReadLinesOf(kTolland, Family::Verdict, band).size(), band == bands.First ? 2U : 3U)
+        << kVerdictsUpTo[band];
 }
 
 }  // namespace

@@ -58,15 +58,14 @@ void MakeSpending(World& world) {
   for (std::size_t i = 0; i < 3; ++i) rival.MoneyBefore[i] = 900000 - 1000 * static_cast<int>(i);
 }
 
-TEST(RosterSizeReview, LetsTheMostOverpaidGoWhileItSaves) {
-  const int least = tuning::kRosters[kBackyard - 1].Least;
+TEST(RosterSizeReview, LetsTheLowestScoreGoWhileItSaves) {
+  const int least = tuning::kRosters[kBackyard - 1].Least * tuning::kLeastWhileSaving / 100;
   World world = Backyard(least + 1);
   MakeSaving(world);
   Named(world.Workers(), "XWF Hand 4").Wage = 40;
-  Named(world.Workers(), "XWF Hand 5").Wage = 50;
-  Named(world.Workers(), "XWF Hand 5").Unsackable = true;
+  Named(world.Workers(), "XWF Hand 6").Unsackable = true;
   RosterSizeReview(world);
-  EXPECT_EQ(Named(world.Workers(), "XWF Hand 4").Employer, 0);
+  EXPECT_EQ(Named(world.Workers(), "XWF Hand 5").Employer, 0) << "of 40 there, not who costs most";
   EXPECT_EQ(Rosters(world).Of(2), least);
   RosterSizeReview(world);
   EXPECT_EQ(Rosters(world).Of(2), least) << "not below its band";
@@ -126,7 +125,9 @@ TEST(RivalContractRenewals, KeepAllButTheLeastWantedTheOutgrownAndTheRetiring) {
         const Worker& worker = Named(world.Workers(), "Hand " + std::to_string(i));
         const bool stays = i > 3 && i < 18;
         EXPECT_EQ(worker.ContractMonths, stays ? 13 : i == 18 ? 2 : 1) << i;
-        const int renewed = wage == 20 ? (20 + 9 + 1) / 2 : saves ? 3 : 9;
+        const int going = 9;
+        const int renewed =
+            !saves ? (wage == 20 ? (20 + going + 1) / 2 : going) : std::min(wage, going);
         const int runningOn = wage == 3 && !saves ? 3 + 1 : wage;
         EXPECT_EQ(worker.Wage, stays ? renewed : i == 18 ? runningOn : wage) << i;
         EXPECT_EQ(worker.ContractType.Str(), stays ? "Non" : "Wri") << i;

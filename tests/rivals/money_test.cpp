@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "records/houserules.h"
 #include "rivals/ambition.h"
 #include "rivals/faults.h"
 #include "rivals/payscale.h"
@@ -98,17 +99,19 @@ TEST(RivalSponsorSigning, DrawsAmongTheWillingThatFitTheClass) {
                     .Sponsor("Fine A", pays(usual.To))
                     .Sponsor("Too Moral", pays(usual.To, 51))
                     .Sponsor("Fine B", pays(usual.From))
+                    .Sponsor("Cheaper", pays(usual.From - 20))
                     .Sponsor("Too Cheap", pays(usual.From - 1))
                     .Sponsor("Fine C", pays(usual.From))
                     .Game("CWA");
-  ScriptDraws(world, {{18, 1}, {18, 1}, {18, 1}});  // how long they sign for
+  ScriptDraws(world, {{18, 1}, {18, 1}, {18, 1}, {18, 1}});  // how long they sign for
   ScriptLife(world, {{3, 2}, {2, 2}, {1, 1}});
+  RivalOf(world).Sponsor[0] = 900;  // a sponsor who is no more
   RivalSponsorSigning(world);
   const auto& places = RivalOf(world).Sponsor;
   EXPECT_EQ(places[0], Named(world.Sponsors(), "Fine B").Uid);
   EXPECT_EQ(places[1], Named(world.Sponsors(), "Fine C").Uid);
   EXPECT_EQ(places[2], Named(world.Sponsors(), "Fine A").Uid);
-  EXPECT_EQ(places[3], 0) << "nobody else fits";
+  EXPECT_EQ(places[3], Named(world.Sponsors(), "Too Cheap").Uid) << "nearest to them";
 }
 
 Change<Worker> Star(int over, int wage = 10, std::string_view contract = "Non", int months = 0) {
@@ -142,8 +145,9 @@ TEST(TalentHunt, AsksTheBestWithinTheBudgetAtTheGoingRate) {
                     .Worker("Good", Star(60))
                     .Worker("Better", Star(70))
                     .Worker("Best", Star(75))
-                    .Worker("Above It All", Star(90))
-                    .Worker("Greedy", Star(72, 250))
+                    .Worker("Above It All", Star(81))
+                    .Worker("Beneath It", Star(40))
+                    .Worker("Greedy", Star(72, 81))
                     .Worker("Leaving", Star(74))
                     .Game("CWA");
   Named(world.Workers(), "Leaving").RetiringSoon = true;
@@ -204,21 +208,29 @@ TEST(TalentHunt, AFullRosterWantsOnlyWhoeverIsBetterThanItsWeakest) {
   EXPECT_EQ(rosters.Of(3), most + 1) << "tomorrow the weakest goes";
 }
 
-TEST(TalentHunt, AShortRosterTakesTheBestOfWhoIsLeft) {
-  const int least = tuning::kRosters[kCult - 1].Least;
-  SmallWorld small;
-  small.Promotion("CWA").Promotion("SML", kSmall).Promotion("XWF", kCult).Crew(least - 2);
-  small.OnTheMarket().Worker("Green", Star(40 - tuning::kBelowClass));
-  for (const int over : {30, 40, 35}) small.Worker("Hope " + std::to_string(over), Star(over));
-  World world = small.Game("CWA");
-  ScriptDraws(world, std::vector<int>{});
+TEST(TalentHunt, KeepsTheRulesOfTheHouseForThePlayer) {
+  World world = SmallWorld()
+                    .Promotion("SML", kBackyard)
+                    .Worker("Taken", Star(70, 10, "Non", 1))
+                    .Promotion("XWF", kCult)
+                    .Crew(20)
+                    .OnTheMarket()
+                    .Worker("Old", Star(75))
+                    .Worker("Young", Star(60))
+                    .Game("XWF");
+  Named(world.Workers(), "Taken").Age = Named(world.Workers(), "Young").Age = 23;
+  Named(world.Workers(), "Old").Age = 24;
+  HouseRules rules{};
+  rules.On[static_cast<std::size_t>(HouseRule::Homegrown)] = true;
+  world.Of<HouseRules>().Rewrite({rules});
+  Earn(RivalOf(world), 2000000, 1200000);
   Rosters rosters(world);
-  SignProspects(world, RivalOf(world), 1, rosters);
-  EXPECT_EQ(Newcomers(world).substr(0, 7), "Hope 40");
-  SignProspects(world, RivalOf(world), 9, rosters);
-  EXPECT_EQ(rosters.Of(3), least);
-  EXPECT_EQ(Named(world.Workers(), "Hope 30").Employer, 0);
-  EXPECT_EQ(FaultsOf(world), "");
+  ScriptDraws(world, {{10, 1}, {10, 1}, {10, 1}});
+  EXPECT_EQ(FindCandidate(world, RivalOf(world), kAllRound)->Name.Str(), "Young");
+  ScriptLife(world, {{tuning::kTalksFor1, 1}});
+  GoAfterTalent(world, RivalOf(world), 9, rosters);
+  EXPECT_EQ(Named(world.Workers(), "Young").Employer, 2);
+  EXPECT_EQ(rosters.Of(2), 21);
 }
 
 TEST(RivalContractRenewals, LeaveTheBandFullAndLoseTheTempted) {
@@ -238,64 +250,76 @@ TEST(RivalContractRenewals, LeaveTheBandFullAndLoseTheTempted) {
     }
 }
 
-/// A Cult rival on air with an image, and free people for the end of its card and below it.
+TEST(RivalContractRenewals, GoDownToTheRateAtOnceWhereMoneyIsShort) {
+  for (const bool isShort : {false, true}) {
+    World world = SmallWorld()
+                      .Promotion("CWA")
+                      .Promotion("XWF", kRegional)
+                      .Worker("Dear", Star(50, 60, "Non", 1))
+                      .Game("CWA");
+    if (isShort) RivalOf(world).Money = -1;
+    const int fair = PayScale(world, RivalOf(world)).For(50);
+    EXPECT_LT(fair, 60);
+    RivalContractRenewals(world);
+    EXPECT_EQ(Named(world.Workers(), "Dear").Wage, isShort ? fair : (60 + fair + 1) / 2);
+  }
+}
+
+/// A Cult rival with an image and a crew from 30 to 80, beside a star of a National one and those
+/// of others of its own class.
 World NearTheEdge(int image, int others) {
   SmallWorld small;
-  small.Network("Nine").Promotion("CWA");
+  small.Promotion("CWA");
   for (int i = 0; i < others; ++i)
     small.Promotion("P" + std::to_string(i), i == 0 ? kNational : kCult)
         .Worker("Star " + std::to_string(i), Star(85, 10, "Wri", 9));
   small.Promotion("XWF", kCult, [=](Promotion& p) { p.Image = image; }).Crew(24);
-  small.Show("Slam", "Monday", "Nine").OnTheMarket();
-  for (int i = 0; i < 9; ++i)
-    small.Worker("Low " + std::to_string(i), Star(25))
-        .Worker("Deep " + std::to_string(i), Star(15));
-  World world = small.Game("CWA");
-  ScriptDraws(world, std::vector<int>{});
-  ScriptLife(world, {});
-  return world;
+  return small.Game("CWA");
 }
 
-/// How many free people of a kind the rival takes in a week.
-int Taken(World& world, std::string_view kind) {
-  Rosters rosters(world);
-  const int uid = RivalOf(world).Uid, before = rosters.Of(uid);
-  MindTheCard(world, RivalOf(world), rosters);
-  EXPECT_EQ(rosters.Of(uid), before);
-  return static_cast<int>(std::ranges::count_if(world.Workers(), [&](const Worker& worker) {
-    return worker.Employer == uid && worker.Name.View().starts_with(kind);
-  }));
+Aim RivalsAim(const World& world) {
+  return AimOf(world, Named(world.Promotions(), "XWF"), Rosters(world));
 }
 
-TEST(RivalAmbition, LowersTheCardNearARiseItIsNotReadyFor) {
-  World calm = NearTheEdge(tuning::kNearARise - 1, 1);
-  EXPECT_EQ(Taken(calm, "Low"), 0);
+TEST(RivalAmbition, StaysBelowNearARiseItIsNotReadyFor) {
+  EXPECT_EQ(RivalsAim(NearTheEdge(tuning::kNearARise - 1, 1)), Aim::None);
   World near = NearTheEdge(tuning::kNearARise, 1);
-  EXPECT_FALSE(IsReadyToRise(near, RivalOf(near)));
-  for (const char* name : {"XWF Hand 6", "XWF Hand 12"}) Named(near.Workers(), name).Over = 12;
-  EXPECT_EQ(Taken(near, "Low"), 2 + tuning::kStarsAWeek) << "two from below, then the stars";
-  EXPECT_EQ(Named(near.Workers(), "XWF Hand 1").Employer, 0);
-  EXPECT_EQ(FaultsOf(near), "");
+  EXPECT_EQ(RivalsAim(near), Aim::StayBelow);
 
   RivalOf(near).Money = FairSum(kNational);
   Named(near.Workers(), "Star 0").Over = 60;
-  EXPECT_TRUE(IsReadyToRise(near, RivalOf(near))) << "rich and as good as they are";
+  EXPECT_TRUE(IsReadyToRise(near, RivalOf(near), Rosters(near))) << "rich and as good as they are";
+  EXPECT_EQ(RivalsAim(near), Aim::None);
   RivalOf(near).Money -= 1;
-  EXPECT_FALSE(IsReadyToRise(near, RivalOf(near)));
+  EXPECT_FALSE(IsReadyToRise(near, RivalOf(near), Rosters(near)));
   Named(near.Promotions(), "P0").Size = kCult;
-  EXPECT_TRUE(IsReadyToRise(near, RivalOf(near))) << "nobody is up there";
+  EXPECT_TRUE(IsReadyToRise(near, RivalOf(near), Rosters(near))) << "nobody is up there";
 }
 
-TEST(RivalAmbition, KeepsTheCardToItsNamesNearAFallWhereItIsAtHome) {
-  World weak = NearTheEdge(tuning::kNearAFall, 2);
-  EXPECT_FALSE(IsAtHome(weak, RivalOf(weak)));
-  EXPECT_EQ(Taken(weak, "Deep"), 0);
-  World calm = NearTheEdge(tuning::kNearAFall + 1, 1);
-  EXPECT_EQ(Taken(calm, "Deep"), 0);
+TEST(RivalAmbition, StaysUpNearAFallWhereItIsAtHome) {
+  EXPECT_EQ(RivalsAim(NearTheEdge(tuning::kNearAFall, 2)), Aim::None) << "its peers are better";
+  EXPECT_EQ(RivalsAim(NearTheEdge(tuning::kNearAFall + 1, 1)), Aim::None);
   World home = NearTheEdge(tuning::kNearAFall, 1);
-  EXPECT_TRUE(IsAtHome(home, RivalOf(home)));
-  EXPECT_EQ(Taken(home, "Deep"), std::min(8, tuning::kSwapsAWeek)) << "for those of 40 and 30";
-  EXPECT_EQ(FaultsOf(home), "");
+  EXPECT_EQ(RivalsAim(home), Aim::StayUp);
+  RivalOf(home).Size = kBackyard;
+  EXPECT_EQ(RivalsAim(home), Aim::None) << "there is nothing to fall to";
+}
+
+TEST(TalentHunt, IsNotForWhoeverWouldStayBelow) {
+  for (const bool isReady : {false, true}) {
+    SmallWorld small;
+    small.Promotion("CWA")
+        .Promotion("BIG", kNational, [](Promotion& p) { p.Money = -1; })
+        .Worker("Star", Star(85, 10, "Wri", 9));
+    small.Promotion("XWF", kCult, [](Promotion& p) { p.Image = tuning::kNearARise; }).Crew(24);
+    World world = small.OnTheMarket().Worker("Free", Star(70)).Game("CWA");
+    Earn(RivalOf(world), 2000000, 1200000);
+    if (isReady) RivalOf(world).Image -= 1;
+    ScriptLife(world, isReady ? std::vector<ScriptedDraw>{{tuning::kTalksFor1, 1}}
+                              : std::vector<ScriptedDraw>{});
+    RivalContractRenewals(world);
+    EXPECT_EQ(Named(world.Workers(), "Free").Employer == RivalOf(world).Uid, isReady);
+  }
 }
 
 TEST(RivalAdvertising, SpendsRichesOnCampaignsAndNothingInDebt) {

@@ -15,6 +15,10 @@
 namespace grapplemont::test {
 namespace {
 
+void ScriptLife(World& world, const std::vector<ScriptedDraw>& script) {
+  world.SetLife(std::make_unique<ScriptedDraws>(script));
+}
+
 std::string Initials(int number) {
   return "P" + std::to_string(number);
 }
@@ -127,10 +131,10 @@ World AloneAtTheTop() {
 
 TEST(Challenge, ComesToWhoeverHasLongBeenAloneAtTheTop) {
   World world = AloneAtTheTop();
-  ScriptDraws(world, {{6, 2}});
+  ScriptDraws(world, std::vector<int>{});
+  ScriptLife(world, {{6, 2}, {6, 1}});
   AwaitStranger(world);
   EXPECT_EQ(world.Game().EndCode, 0);
-  ScriptDraws(world, {{6, 1}});
   AwaitStranger(world);
   EXPECT_EQ(world.Game().EndCode, kStrangerWaits);
 
@@ -145,7 +149,7 @@ TEST(Challenge, ComesToWhoeverHasLongBeenAloneAtTheTop) {
     World quiet = AloneAtTheTop();
     change(quiet);
     const int code = quiet.Game().EndCode;
-    ScriptDraws(quiet, std::vector<int>{});
+    ScriptLife(quiet, {});
     AwaitStranger(quiet);
     EXPECT_EQ(quiet.Game().EndCode, code) << why;
   }
@@ -155,8 +159,8 @@ TEST(Challenge, FoundsARivalOfTheStrangersOwn) {
   World world = AloneAtTheTop();
   for (int visits = 1; visits <= 4; ++visits) {
     world.Game().EndCode = kStrangerWaits;
-    ScriptDraws(world, visits <= 3 ? std::vector<ScriptedDraw>{{12, 4}, {6, 6}}
-                                   : std::vector<ScriptedDraw>{});
+    ScriptLife(world, visits <= 3 ? std::vector<ScriptedDraw>{{12, 4}, {6, 6}}
+                                  : std::vector<ScriptedDraw>{});
     MeetStranger(world);
     EXPECT_EQ(world.Game().EndCode, 0);
     EXPECT_EQ(world.Promotions().Count(), 2 + std::min(visits, 3));
@@ -184,10 +188,8 @@ TEST(Challenge, BuysStarsWhereverTheyWork) {
   World world = small.Game("CWA");
   world.Game().EndCode = kStrangerWaits;
   // The owner; whom the new promotion may sign by itself, which is nobody bound; then the stars.
-  std::vector<ScriptedDraw> draws{{12, 1}, {6, 1}};
-  draws.insert(draws.end(), 10, ScriptedDraw(10, 2));
-  draws.insert(draws.end(), {{4, 1}, {4, 2}, {4, 1}, {4, 1}, {4, 1}, {4, 4}});
-  ScriptDraws(world, draws);
+  ScriptDraws(world, std::vector<ScriptedDraw>(10, {10, 2}));
+  ScriptLife(world, {{12, 1}, {6, 1}, {4, 1}, {4, 2}, {4, 1}, {4, 1}, {4, 1}, {4, 4}});
   MeetStranger(world);
   const int uid = world.Promotions()[3].Uid;
   for (const char* name : {"Mine 95", "Mine 93", "Mine 92", "Theirs"})

@@ -39,7 +39,7 @@ Promotion& Rival(World& world) {
 /// Who would go, in their order.
 std::string Weakest(World& world, int most) {
   std::string names;
-  for (const Worker* worker : FindWeakest(world, Rival(world).Uid, kBrawlers, most))
+  for (const Worker* worker : FindWeakest(world, Rosters(world), Rival(world).Uid, kBrawlers, most))
     names += worker->Name.Str() + ";";
   return names;
 }

@@ -113,5 +113,32 @@ TEST_F(AHome, ShowsTheOwnFilesFirstAndOfTheRestWhatAnUpdateBrings) {
             (std::vector<std::string>{"VXM_Set2_01.jpg", "VXM_Set2_03.jpg"}));
 }
 
+TEST_F(AHome, KeepsNoCopiesOfWhatCameWithTheProgram) {
+  const Surroundings around = In("usr/games/grapplemont");
+  Fill("usr/share/games/grapplemont");
+  Fill("user/games");
+  Touch("user/games/gfx/VXM_Set2_01.jpg", "mine");
+  Touch("user/games/gfx/vxm_title.jpg", "mine");
+  Touch("user/games/data/tv.dat", "mine");
+  const auto there = [&](const std::string& file) {
+    return fs::exists(root_ / ("user/games/" + file));
+  };
+  Found(around);
+  EXPECT_FALSE(there("gfx/vxm_back.jpg")) << "it says nothing of its own and hides an update";
+  EXPECT_TRUE(there("gfx/vxm_title.jpg")) << "changed";
+  EXPECT_TRUE(there("gfx/VXM_Set2_01.jpg"));
+  EXPECT_TRUE(there("data/belt.dat")) << "the files of a world refer to each other: all or none";
+  Touch("user/games/data/tv.dat");
+  Touch("user/games/gfx/vxm_title.jpg");
+  Found(around);
+  EXPECT_FALSE(there("data"));
+  EXPECT_FALSE(there("gfx/vxm_title.jpg"));
+  EXPECT_TRUE(there("gfx/VXM_Set2_01.jpg"));
+  fs::remove_all(root_ / "user/games");
+  fs::create_symlink(root_ / "usr/share/games/grapplemont", root_ / "user/games");
+  Found(around);
+  EXPECT_TRUE(there("gfx/vxm_back.jpg")) << "installed where the games are kept";
+}
+
 }  // namespace
 }  // namespace grapplemont::test

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "booking/sheet.h"
+#include "booking/showstart.h"
 #include "calendar/advanceday.h"
 #include "calendar/image.h"
 #include "calendar/wishes.h"
@@ -163,6 +164,33 @@ TEST(HouseRules, OneTalkAShowKeepsTheSheetShutAndNoAutoBookerTakesTheButton) {
   EXPECT_FALSE(MayStart(world, false));
   SetRule(world, HouseRule::NoAutoBooker);
   EXPECT_EQ(WhyNoAutoBooker(world), "A rule of the house: every row is booked by hand.");
+}
+
+TEST(HouseRules, OneTalkAShowBindsTheAutoBookerToo) {
+  World world = SmallWorld()
+                    .Network("Nine")
+                    .Promotion("CWA", kCult)
+                    .Crew(12)
+                    .Worker("Corner", kManager, 60, [](Worker& w) { w.Speaks = true; })
+                    .Show("Sunday Slam", "Sunday", "Nine")
+                    .Game("CWA", std::chrono::year{2026} / 3 / 1);
+  const int corner = Named(world.Workers(), "Corner").Uid;
+  for (Worker& worker : world.Workers()) {
+    worker.Speaks = true;
+    if (worker.Uid != corner) worker.Manager = corner;
+  }
+  const auto books = [&](int seed) {
+    world.SetChance(std::make_unique<SeededDraws>(seed));
+    EXPECT_TRUE(BookAutoShow(world, false)) << seed;
+    const World before = CopyOf(world);
+    SetRule(world, HouseRule::OneTalk);
+    const bool isKept = WhyNotInThisHouse(world).empty();
+    world = CopyOf(before);
+    return isKept;
+  };
+  EXPECT_FALSE(books(1)) << "one manager talks for two";
+  SetRule(world, HouseRule::OneTalk);
+  for (int seed = 1; seed <= 20; ++seed) EXPECT_TRUE(books(seed)) << seed;
 }
 
 TEST(GodMode, ChangesTheRunningGameAndMarksItForGood) {

@@ -2,13 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <sstream>
 
+#include "records/store/playedslot.h"
 #include "records/store/slotcare.h"
 #include "records/world.h"
 #include "session/home.h"
+#include "session/screens/frmLoadGame.h"
+#include "support/checkout.h"
 #include "support/cutdisk.h"
 #include "support/homefolder.h"
 #include "support/smallworld.h"
@@ -88,22 +92,27 @@ TEST_F(SavedGames, AreRenamedByOneStepThatIsKept) {
 
 TEST_F(SavedGames, GoToAFileAndComeBackFromIt) {
   home_.Desk.ExpectPrompt("Export", kAnyText, "First.grapplemont", "First.grapplemont");
+  home_.Desk.ExpectAsk("Export", kAnyText, false, ui::Default::No);
   home_.Desk.Click("cmdexport1");
   const std::string packed = Read("First.grapplemont");
+  EXPECT_NE(packed.find("A saved game of Grapplemont: First"), std::string::npos);
   for (const bool over : {false, true}) {
     home_.Desk.ExpectPrompt("Export", kAnyText, "First.grapplemont");
     home_.Desk.ExpectAsk("Replace?", kAnyText, over, ui::Default::No);
+    if (over) home_.Desk.ExpectAsk("Export", kAnyText, false);
     home_.Desk.Click("cmdexport1");
   }
   EXPECT_EQ(packed, Read("First.grapplemont"));
-  std::string longer = packed + "x", changed = packed;
+  std::string longer = packed + "x", changed = packed, newer = packed;
   changed[packed.size() / 2] ^= 1;
+  ++newer[8];
   const std::pair<std::string, const char*> kBad[] = {
       {"", "not an exported saved game"},
       {"a diary", "not an exported saved game"},
       {packed.substr(0, packed.size() / 2), "spoiled"},
       {longer, "spoiled"},
-      {changed, "spoiled"}};
+      {changed, "spoiled"},
+      {newer, "). Update the game to read it."}};
   for (const auto& [bytes, why] : kBad) {
     home_.Write("bad.grapplemont", bytes);
     home_.Desk.ExpectPrompt("Import", kAnyText, "bad.grapplemont");
@@ -112,14 +121,94 @@ TEST_F(SavedGames, GoToAFileAndComeBackFromIt) {
     EXPECT_NE(home_.Desk.Boxes().back().Text.find(why), std::string::npos) << why;
     EXPECT_FALSE(home_.Desk.Enabled("cmdload2"));
   }
-  home_.Desk.ExpectPrompt("Import", kAnyText, "First.grapplemont");
-  home_.Desk.Click("cmdimport");
+  for (const bool sure : {false, true}) {
+    home_.Desk.ExpectPrompt("Import", kAnyText, "First.grapplemont");
+    home_.Desk.ExpectAsk("Import", kAnyText, sure);
+    home_.Desk.Click("cmdimport");
+    EXPECT_EQ(home_.Desk.Enabled("cmdload2"), sure);
+  }
+  const std::string preview = home_.Desk.Boxes().back().Text;
+  for (const char* told : {"First ( Medium level", "image ", "order", "slot 2?"})
+    EXPECT_NE(preview.find(told), std::string::npos) << told << " in " << preview;
   EXPECT_EQ(home_.Desk.Text("cmdload2"), "First");
   EXPECT_EQ(Over(2), 77);
   EXPECT_FALSE(home_.Desk.Visible("cmdbring2"));
   home_.Desk.ExpectPrompt("Import", kAnyText, "First.grapplemont");
+  home_.Desk.ExpectAsk("Import", kAnyText, true, ui::Default::Yes);
   home_.Desk.Click("cmdbring5");
   EXPECT_EQ(home_.Desk.Text("cmdload5"), "First");
+  for (const bool yes : {false, true}) {
+    home_.Desk.ExpectAsk("Import?", kAnyText, yes, ui::Default::Yes);
+    home_.Desk.Event([&] { OfferImport(home_.Play, home_.Path("First.grapplemont")); });
+    EXPECT_EQ(home_.Desk.TopName(), yes ? "frmMainScreen" : "frmLoadGame");
+  }
+  EXPECT_EQ(home_.Play.Opened().Slot, 3) << "the first slot that is empty";
+}
+
+TEST_F(SavedGames, TakeAlongWhatTheyCanGoBackToOnRequest) {
+  const auto moments = [this](int slot) {
+    home_.Play.OpenSlot(slot);
+    const std::size_t count = home_.Play.OpenedSlot().Moments().Count();
+    home_.Play.CloseSlot();
+    return count;
+  };
+  for (const bool along : {false, true}) {
+    const std::string name = along ? "with" : "without";
+    home_.Desk.ExpectPrompt("Export", kAnyText, name);
+    home_.Desk.ExpectAsk("Export", kAnyText, along);
+    home_.Desk.Click("cmdexport1");
+    home_.Desk.ExpectPrompt("Import", kAnyText, name);
+    home_.Desk.ExpectAsk("Import", kAnyText, true, ui::Default::Yes);
+    home_.Desk.Click("cmdimport");
+    const bool told = home_.Desk.Boxes().back().Text.find("can go back to") != std::string::npos;
+    EXPECT_EQ(told, along);
+  }
+  EXPECT_EQ(moments(2), 0u);
+  EXPECT_EQ(moments(3), moments(1));
+  EXPECT_GT(moments(1), 0u);
+}
+
+TEST(ExportedGames, NameEveryFaultThatTheyHave) {
+  const auto refused = [](const std::vector<NewFile>& files, std::size_t changed = 0) {
+    Bytes packed = PackSlot(files, "about");
+    if (changed > 0) packed[changed] ^= std::byte{8};
+    try {
+      UnpackSlot(packed, "game");
+    } catch (const WorldFault& fault) {
+      return std::string(fault.what());
+    }
+    return std::string();
+  };
+  const Bytes some(40), many(std::size_t{3} << 20);
+  const std::pair<std::string, const char*> kFaults[] = {
+      {refused({{"notes.dat", some}}), ""},
+      {refused({{"notes.dat", some}}, 8), "newer version"},
+      {refused({{"notes.dat", some}}, 24), "spoiled"},
+      {refused({{"../diary", some}}), "../diary in it is no file"},
+      {refused({{"notes.dat", many}}), "notes.dat in it is longer"},
+      {refused({{"notes.dat", some}, {"notes.dat", some}}), "notes.dat is in it twice"}};
+  for (const auto& [told, wanted] : kFaults) {
+    EXPECT_NE(told.find(wanted), std::string::npos) << wanted << " in " << told;
+    EXPECT_EQ(told.empty(), *wanted == '\0') << told;
+  }
+}
+
+/// A game of each version is kept as that version exported it.
+TEST(ReleasedVersions, LeaveGamesThatStillOpen) {
+  int games = 0;
+  for (const auto& file : std::filesystem::directory_iterator(Checkout("/tests/versions"))) {
+    SCOPED_TRACE(file.path().filename().string());
+    HomeFolder home(Data());
+    World scratch;
+    const Importable game = ReadExported(home.Play.Disk(), file.path().string(), scratch);
+    EXPECT_NE(game.Preview.find("in order"), std::string::npos) << game.Preview;
+    ImportSlot(home.Play.Disk(), game, home.Play.SlotFolder(3), 5);
+    EXPECT_TRUE(home.Play.OpenSlot(3).empty());
+    EXPECT_EQ(home.Play.World().Game().PlayerName.View(), "Pat Lee");
+    home.Play.CloseSlot();
+    ++games;
+  }
+  EXPECT_GE(games, 1);
 }
 
 TEST_F(SavedGames, AreKeptForAWeekOnceTheyAreDeleted) {
@@ -156,7 +245,11 @@ TEST_F(SavedGames, AreLeftAloneWhileTheyArePlayedElsewhere) {
   const std::pair<const char*, std::function<void()>> kActs[] = {
       {"cmdcopy1", [&] { home_.Desk.ExpectPrompt("Duplicate", kAnyText, "Second"); }},
       {"cmdrename1", [&] { home_.Desk.ExpectPrompt("Rename", kAnyText, "Second"); }},
-      {"cmdexport1", [&] { home_.Desk.ExpectPrompt("Export", kAnyText, "out"); }},
+      {"cmdexport1",
+       [&] {
+         home_.Desk.ExpectPrompt("Export", kAnyText, "out");
+         home_.Desk.ExpectAsk("Export", kAnyText, false);
+       }},
       {"cmddelete1", [&] { home_.Desk.ExpectAsk("Delete?", kAnyText, true); }}};
   for (const auto& [button, expect] : kActs) {
     expect();

@@ -172,6 +172,40 @@ TEST(Lineages, DropTheOldestThatHaveEndedWhenTheFileIsFull) {
   EXPECT_NE(PastOf(world, "Great Crown", "NEW"), "") << "what records tell of stays";
 }
 
+TEST(Lineages, SpareTheBestOfEachPromotion) {
+  World world = Belts();
+  EXPECT_FALSE(HaveReignsGone(world));
+  std::vector<TitleReign> reigns(world.Reigns().begin(), world.Reigns().end());
+  TitleReign old = reigns[0];  // a rival's
+  old.End = kReignLost;
+  old.From = kGameStart;
+  old.Until = kGameStart + days{30};
+  const auto add = [&](int owner, const char* title, int length, int defences) {
+    TitleReign& reign = reigns.emplace_back(old);
+    reign.Owner = owner;
+    reign.Title = title;
+    reign.Until = kGameStart + days{length};
+    reign.Defences = defences;
+  };
+  add(old.Owner, "Long Crown", 90, 0);
+  add(old.Owner, "Kept Crown", 30, 9);
+  add(old.Owner, "Brief Crown", 1, 0);
+  for (int length = 40; length < 44; ++length)
+    add(30000, ("Closed " + std::to_string(length)).c_str(), length, 0);
+  reigns.resize(static_cast<std::size_t>(LayoutOf<TitleReign>().Limit), old);
+  world.Reigns().Rewrite(reigns);
+  Crown(world, Named(world.Titles(), "CWA Crown"), UidOf(world, "Cal Drift"), 0);
+  PassDays(world, 1);
+  for (const char* title : {"Long Crown", "Kept Crown", "Brief Crown"})
+    EXPECT_NE(PastOf(world, title, "NEW"), "") << title;
+  std::string closed;
+  for (const TitleReign& reign : world.Reigns())
+    if (reign.Owner == 30000) closed += reign.Title + ", ";
+  EXPECT_EQ(closed, "Closed 40, Closed 41, Closed 42, Closed 43, ")
+      << "the three longest, and the three shortest";
+  EXPECT_TRUE(HaveReignsGone(world));
+}
+
 TEST(Lineages, MendThemselvesWhenTheirFileWasDamaged) {
   World world = Belts();
   world.Reigns().Change(1).Holder = "\x01 rubbish";

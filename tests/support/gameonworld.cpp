@@ -14,6 +14,7 @@ Game::Options OptionsIn(const std::string& home) {
   options.Home = home;
   options.Today = [] { return kGameStart; };
   options.Seed = 1;
+  options.Worlds = 4;
   return options;
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <unistd.h>
-
 #include <filesystem>
+#include <random>
 #include <string>
 
 namespace grapplemont::test {
@@ -11,9 +10,12 @@ namespace grapplemont::test {
 class ScratchFolder {
  public:
   ScratchFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "grapplemont-XXXXXX").string();
-    if (!::mkdtemp(name.data())) throw std::filesystem::filesystem_error("mkdtemp", name, {});
-    path_ = name;
+    std::random_device any;
+    std::filesystem::path folder;
+    do {
+      folder = std::filesystem::temp_directory_path() / ("grapplemont-" + std::to_string(any()));
+    } while (!std::filesystem::create_directory(folder));
+    path_ = folder.generic_string();
   }
   ~ScratchFolder() {
     std::error_code ignored;

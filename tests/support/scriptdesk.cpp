@@ -121,21 +121,26 @@ std::optional<ScriptDesk::Expected> ScriptDesk::Meet(const std::string& kind,
 
 void ScriptDesk::Say(const std::string& title, const std::string& text) {
   Meet("Say", title, text);
+  Note({"ok"});
 }
 
 bool ScriptDesk::Ask(const std::string& title, const std::string& text, ui::Default answer) {
   const auto met = Meet("Ask", title, text);
-  if (!met) return answer == ui::Default::Yes;
-  EXPECT_EQ(met->Button.value_or(answer), answer) << "the default of \"" << text << "\"";
-  return met->Yes;
+  if (met) {
+    EXPECT_EQ(met->Button.value_or(answer), answer) << "the default of \"" << text << "\"";
+  }
+  const bool yes = met ? met->Yes : answer == ui::Default::Yes;
+  Note({yes ? "yes" : "no"});
+  return yes;
 }
 
 std::string ScriptDesk::Prompt(const std::string& title, const std::string& text,
                                const std::string& offered) {
   const auto met = Meet("Prompt", title, text);
-  if (!met) return {};
-  ExpectWords("offered text", met->Offered, offered);
-  return met->Answer;
+  const std::string typed = met ? met->Answer : std::string();
+  Note({typed.empty() ? "cancel" : "enter " + typed});
+  if (met) ExpectWords("offered text", met->Offered, offered);
+  return typed;
 }
 
 void ScriptDesk::Repaint() {

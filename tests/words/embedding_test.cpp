@@ -69,6 +69,8 @@ TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
       {"{T} is in.  Camera on.", "two blanks in a row"},
       {"{T} talks to himself.",
        "write {a:himself}, with the letter of whoever it is: it goes by sex and number"},
+      {"{T} nod{T:s}, smile{T:s} and goes.",
+       "\"goes\" goes by number as the verb before it does: end it in braces"},
       {"{T} \xE2\x98\x85.", "the program has no such letter: \xE2\x98\x85"},
   };
   const std::string heading = "== TalkOpening, SingleTalk\n", same = "{T} backstage. Mic on.";

@@ -4,10 +4,12 @@
 #include <iterator>
 
 #include "booking/auto/autobooker.h"
+#include "booking/wizard/interviews.h"
 #include "booking/wizard/objections.h"
 #include "booking/wizard/refusals.h"
 #include "booking/wizard/roster.h"
 #include "booking/wizard/segmentcheck.h"
+#include "records/houserules.h"
 #include "show/matchscore.h"
 #include "storylines/feuds.h"
 #include "storylines/storynames.h"
@@ -173,8 +175,23 @@ void PlanMatch(AutoPlan& plan, const Segment& match) {
   CountIn(plan, match);
 }
 
+namespace {
+
+/// Whether the house lets everybody talk once and somebody would a second time.
+bool SpeaksAgain(const AutoPlan& plan, const Segment& talk) {
+  if (talk.Kind != kInterview || !Holds(plan.World, HouseRule::OneTalk)) return false;
+  const std::vector<int> speakers = SpeakersOf(talk);
+  return IsOnCard(plan, [&](const Segment& other) {
+    return other.Kind == kInterview && std::ranges::any_of(SpeakersOf(other), [&](int uid) {
+             return uid != 0 && std::ranges::count(speakers, uid) > 0;
+           });
+  });
+}
+
+}  // namespace
+
 bool PlanTalk(AutoPlan& plan, const Segment& talk, int weight) {
-  if (!Stands(plan, talk)) return false;
+  if (!Stands(plan, talk) || SpeaksAgain(plan, talk)) return false;
   plan.Talks.push_back({talk, weight, plan.Because});
   CountIn(plan, talk);
   return true;

@@ -121,7 +121,7 @@ class frmBookWinner : public MatchStepScreen {
             *this, form_.Losers > 1 ? "cmbloser" + std::to_string(box) : "cmbloser",
             &frmBookWinner::cmbloser_Click);
       }};
-  ui::ListBox lstring{*this, "lstring", PeopleColumns(), [this] { lstring_Click(); },
+  ui::ListBox lstring{*this, "lstring", PeopleColumns(2), [this] { lstring_Click(); },
                       [this] { GoOn(); }};
 };
 
@@ -238,7 +238,7 @@ class frmBookEnding : public MatchStepScreen {
                       [this] { GoOn(); }};
   ui::Array<ui::ListBox> lstrun{"lstrun", runIns_, [this](const std::string&, int list) {
                                   return std::make_unique<ui::ListBox>(
-                                      *this, "lstrun" + std::to_string(list), PeopleColumns(),
+                                      *this, "lstrun" + std::to_string(list), PeopleColumns(2),
                                       [this] { ShowPicks(); }, [this] { GoOn(); });
                                 }};
 };

@@ -41,10 +41,8 @@ class frmBooking : public SheetScreen {
            std::to_string(TermsOf(world(), false).OpenRows) + " rows";
   }
 
-  bool Begin() override {
-    if (!desk().Ask("Sure?", "Are you sure you wish to start this show?")) return false;
-    StartShow(world(), false, Team());
-    return true;
+  std::function<void(World&)> Beginning() override {
+    return [team = Team()](World& world) { StartShow(world, false, team); };
   }
 
  private:
@@ -109,7 +107,7 @@ class frmPPVBooking : public SheetScreen {
                            ui::Columns({ui::Field("Extra", cmbspecial).Grow(), lblcost})})};
   }
 
-  bool Begin() override {
+  bool MayBegin() override {
     const CommentaryTeam team = Team();
     if ((team.Announcer == 0 || team.Colour == 0) &&
         !desk().Ask("Continue?",
@@ -119,12 +117,16 @@ class frmPPVBooking : public SheetScreen {
       desk().Say("Error!", "The same person cannot be announcer and colour commentator");
       return false;
     }
-    if (!desk().Ask("Sure?", "Are you sure you wish to start this show?")) return false;
-    world().Session.EventAnnouncer = team.Announcer;
-    world().Session.EventColour = team.Colour;
-    world().Session.EventColourIsWorker = team.ColourIsWorker;
-    StartEvent(world(), ChosenExtra());
-    return true;
+    return SheetScreen::MayBegin();
+  }
+
+  std::function<void(World&)> Beginning() override {
+    return [team = Team(), extra = ChosenExtra()](World& world) {
+      world.Session.EventAnnouncer = team.Announcer;
+      world.Session.EventColour = team.Colour;
+      world.Session.EventColourIsWorker = team.ColourIsWorker;
+      StartEvent(world, extra);
+    };
   }
 
  private:

@@ -39,7 +39,7 @@ class frmDraft : public SheetScreen {
         return {show.Announcer, show.Colour, show.ColourIsWorker};
     return {};
   }
-  bool Begin() override { return false; }
+  std::function<void(World&)> Beginning() override { return {}; }
   bool IsDraft() const override { return true; }
   std::string Heading() override { return "Draft For " + Called(); }
   std::string Called() override { return show_.Owner.Show; }

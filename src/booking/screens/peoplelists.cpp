@@ -12,7 +12,9 @@ namespace {
 
 using K = ui::ColumnKind;
 
-constexpr int kNarrowName = 4, kWideName = 6;
+/// What a list is: the only one of its step, one of two abreast, one of more. The name's share of
+/// the width tells.
+enum Abreast { kAmongMany = 4, kOneOfTwo = 5, kAlone = 6 };
 
 /// A number of the record, and what it is called.
 struct Skill {
@@ -31,7 +33,8 @@ constexpr Skill kCharisma = {"Charisma", "Char.", "Ch", "Charisma: what talk is 
 constexpr Skill kCondition = {"Condition", "Cond.", "Con", "", &Worker::Condition};
 constexpr Skill kMorale = {"Morale", "Mor.", "Mor", "", &Worker::Morale};
 
-CellColumn<Worker> ColumnOf(const Skill& skill, bool narrow) {
+CellColumn<Worker> ColumnOf(const Skill& skill, Abreast room) {
+  const bool narrow = room != kAlone;
   return {{.Title = skill.Title,
            .Kind = K::Number,
            .Width = narrow ? 1 : 2,
@@ -40,7 +43,8 @@ CellColumn<Worker> ColumnOf(const Skill& skill, bool narrow) {
           [is = skill.Is](const Worker& worker) { return ui::Cell(int(worker.*is)); }};
 }
 
-CellColumn<Worker> MarksColumn(bool narrow, const RosterMarks* marks) {
+CellColumn<Worker> MarksColumn(Abreast room, const RosterMarks* marks) {
+  const bool narrow = room != kAlone;
   ui::Column heading{"Marks", K::Tags, narrow ? 3 : 5,
                      "Champion, feuds with their heat, Tag Team, rows of this card that they are "
                      "booked in; Hot: has won the last three matches; Tired: condition under 60; "
@@ -61,10 +65,10 @@ ui::Sign DispositionSign(std::string_view word) {
 }
 
 /// What the choice is made on comes first: lists abreast have no room for all.
-CellColumns<Worker> TableOf(int kind, bool narrow, const RosterMarks* marks) {
+CellColumns<Worker> TableOf(int kind, Abreast room, const RosterMarks* marks) {
+  const bool narrow = room != kAlone;
   CellColumns<Worker> table = {
-      {{"Name", K::Text, narrow ? kNarrowName : kWideName},
-       [](const Worker& worker) { return worker.Name.View(); }},
+      {{"Name", K::Text, room}, [](const Worker& worker) { return worker.Name.View(); }},
       {{.Title = "Disposition",
         .Kind = K::Tag,
         .Width = narrow ? 1 : 3,
@@ -72,14 +76,14 @@ CellColumns<Worker> TableOf(int kind, bool narrow, const RosterMarks* marks) {
         .SignOf = narrow ? DispositionSign : nullptr,
         .Short = narrow ? "D." : "Disp."},
        [](const Worker& worker) { return DispositionCell(worker); }},
-      ColumnOf({"Over", "Over", "Ov", "Popularity.", &Worker::Over}, narrow)};
+      ColumnOf({"Over", "Over", "Ov", "Popularity.", &Worker::Over}, room)};
   // Talk stands or falls with one skill.
-  if (kind != kMatch) table.push_back(ColumnOf(kCharisma, narrow));
-  table.push_back(MarksColumn(narrow, marks));
-  table.push_back(ColumnOf(kCondition, narrow));
-  if (kind == kMatch && !narrow)
-    for (const Skill& skill : kRingSkills) table.push_back(ColumnOf(skill, narrow));
-  table.push_back(ColumnOf(kMorale, narrow));
+  if (kind != kMatch) table.push_back(ColumnOf(kCharisma, room));
+  table.push_back(MarksColumn(room, marks));
+  if (kind == kMatch && room != kAmongMany)
+    for (const Skill& skill : kRingSkills) table.push_back(ColumnOf(skill, room));
+  table.push_back(ColumnOf(kCondition, room));
+  table.push_back(ColumnOf(kMorale, room));
   return table;
 }
 
@@ -117,12 +121,16 @@ ui::Sign MarkSign(std::string_view mark) {
 }
 
 std::vector<ui::Column> PeopleColumns(int kind, int listsAbreast) {
-  return HeadingsOf(TableOf(kind, listsAbreast > 2, nullptr));
+  return HeadingsOf(TableOf(kind,
+                            listsAbreast > 2    ? kAmongMany
+                            : listsAbreast == 2 ? kOneOfTwo
+                                                : kAlone,
+                            nullptr));
 }
 
 void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, int kind,
                 const RosterMarks& marks, bool none) {
-  const auto table = TableOf(kind, list.Columns().front().Width == kNarrowName, &marks);
+  const auto table = TableOf(kind, static_cast<Abreast>(list.Columns().front().Width), &marks);
   std::vector<ui::ListBox::Row> rows;
   if (none) rows.push_back({std::vector<ui::Cell>(table.size(), ui::Cell("")), 0});
   if (none) rows.back().Cells.front() = "None";

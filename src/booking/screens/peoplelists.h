@@ -8,8 +8,8 @@
 namespace grapplemont {
 
 /// The columns of a list of people to book a Segment of this kind from: disposition, Over and what
-/// the kind asks for beside the name, and the marks; in short words where more than two lists stand
-/// side by side.
+/// the kind asks for beside the name, and the marks; in short words and signs where lists
+/// stand side by side.
 std::vector<ui::Column> PeopleColumns(int kind, int listsAbreast = 1);
 /// Fills such a list, in the order given. `none` puts "None" on top, preselected.
 void FillPeople(ui::ListBox& list, const std::vector<const Worker*>& people, int kind,

@@ -6,8 +6,8 @@
 #include "records/fields/wording.h"
 #include "records/houserules.h"
 #include "records/segments.h"
+#include "records/whatif.h"
 #include "show/holdshow.h"
-#include "show/titlechange.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -29,42 +29,6 @@ std::string OfLeast(int count, int least, const char* what) {
 }
 
 }  // namespace
-
-CellColumns<SheetRow> SheetTable(const World& world, const CellColumn<SheetRow>& first) {
-  using K = ui::ColumnKind;
-  return {first,
-          {{"Segment", K::Text, 1},
-           [&](const SheetRow& row) {
-             const bool empty = row.Segment.Kind == kEmptySegment;
-             return ui::Cell(DescribeSegment(world, row.Segment),
-                             empty ? ui::Tone::Muted : ui::Tone::Plain);
-           }},
-          {{"Kind", K::Tag}, [](const SheetRow& row) { return KindOfRow(row.Segment); }},
-          {{"Title", K::Tag},
-           [&](const SheetRow& row) {
-             if (TitleTip(row.Segment).empty()) return ui::Cell("");
-             return ui::Cell(NewChampions(world, row.Segment).empty() ? "Title" : "New champion",
-                             ui::Tone::Gold);
-           }},
-          {{"Feud", K::Tag},
-           [&](const SheetRow& row) {
-             return ui::Cell(FeudOfRow(world, row.Segment), ui::Tone::Gold);
-           }},
-          {{"Forecast", K::Number, 0, "What its rating may come to."}, [](const SheetRow& row) {
-             return ui::Cell(0, ForecastOfRow(row.Forecast, row.Record));
-           }}};
-}
-
-std::vector<ui::Report::Paragraph> ToldOf(const World& world, const Segment& segment,
-                                          bool isEvent) {
-  using Style = ui::Report::Style;
-  std::vector<ui::Report::Paragraph> told{{Style::Strong, DescribeSegment(world, segment)}};
-  for (std::string& line : SummaryOfRow(world, segment, isEvent))
-    told.push_back({Style::Line, std::move(line)});
-  for (std::string& change : ChangesBy(world, segment))
-    told.push_back({Style::Strong, std::move(change)});
-  return told;
-}
 
 SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
     : GameScreen(game, std::move(name), SheetHeading(game.World(), isEvent)),
@@ -96,7 +60,7 @@ ui::Page SheetScreen::Layout() {
   std::vector<ui::Button*> buttons;
   for (int record = 1; record <= cmdbook.Count(); ++record) buttons.push_back(&cmdbook(record));
   std::vector<ui::Button*> actions = FirstActions();
-  actions.insert(actions.end(), {&cmdfill, &cmdcancel, &cmdnextrow});
+  actions.insert(actions.end(), {&cmdwhatif, &cmdfill, &cmdcancel, &cmdnextrow});
   std::vector<ui::Box> left{
       ui::Group("", {ui::WithButtons(lstrows, buttons).Grow(),
                      ui::Columns({cmdedit, cmdup, cmddown, cmdlast, cmdundo, cmdredo}), lblwarn,
@@ -221,6 +185,8 @@ void SheetScreen::ShowCounts() {
                           : terms.OpenRows == 0                    ? "There is no show today."
                           : !house.empty()                         ? house
                                            : "Not enough yet: " + lblcount.Text.Get());
+  cmdwhatif.Visible = !IsDraft();
+  EnableUnless(cmdwhatif, cmddoshow.Enabled ? "" : cmddoshow.Tip.Get());
   EnableUnless(cmdfill, EmptyRow() == 0                           ? "No row is empty."
                         : Holds(world(), HouseRule::NoAutoBooker) ? WhyNoAutoBooker(world())
                                                                   : "");
@@ -367,8 +333,20 @@ void SheetScreen::cmdfill_Click() {
                                   [this, full] { Seat(full); }}));
 }
 
+bool SheetScreen::MayBegin() {
+  return desk().Ask("Sure?", "Are you sure you wish to start this show?");
+}
+
+/// By habit the auto booker empties the sheet and books its own.
+void SheetScreen::cmdwhatif_Click() {
+  game_.OpenWhatIf({"Hold " + Called() + " as it stands on the sheet?",
+                    {"the show is held as it is booked", Beginning()},
+                    {"the auto booker books the show", {}}});
+}
+
 void SheetScreen::cmddoshow_Click() {
-  if (!Begin()) return;
+  if (!MayBegin()) return;
+  Beginning()(world());
   desk().Open("frmMatchOutput");
   Close();
 }

@@ -41,8 +41,10 @@ class SheetScreen : public GameScreen {
   virtual std::string Facts() = 0;
   /// Rows of the table that are not Segments, above them all.
   virtual std::string TopRow() = 0;
-  /// Asks, and begins the show in the world; false when it does not come to that.
-  virtual bool Begin() = 0;
+  /// Asks whether the show is to begin; false when it does not come to that.
+  virtual bool MayBegin();
+  /// What begins the show that stands on the sheet, in this world or a copy of it.
+  virtual std::function<void(World& world)> Beginning() = 0;
   /// How many rows it has and what it asks for.
   virtual SheetTerms Terms() { return TermsOf(world(), isEvent_); }
   virtual std::string Heading() { return SheetHeading(world(), isEvent_); }
@@ -96,6 +98,7 @@ class SheetScreen : public GameScreen {
   void cmdundo_Click();
   void cmdredo_Click();
   void cmdfill_Click();
+  void cmdwhatif_Click();
   void cmdcancel_Click();
 
   using K = ui::ColumnKind;
@@ -133,6 +136,7 @@ class SheetScreen : public GameScreen {
   ui::Button cmdturns{*this, "cmdturns", "Turns", Opens("frmTurn")};
   ui::Button cmdnotepad{*this, "cmdnotepad", "Notepad", Opens("frmNotepad")};
   ui::Button cmdfill{*this, "cmdfill", "Fill The Rest", &SheetScreen::cmdfill_Click};
+  ui::Button cmdwhatif{*this, "cmdwhatif", "What If", &SheetScreen::cmdwhatif_Click};
   /// What is to be done while the show may not start.
   ui::Button cmdnextrow{*this, "cmdnextrow", "Book Row 1",
                         [this] { OpenWizardAtOnce(game_, At(EmptyRow())); }};

@@ -16,12 +16,15 @@ bool AreDifferentPeople(std::vector<int> uids) {
   return uids.front() != 0 && std::adjacent_find(uids.begin(), uids.end()) == uids.end();
 }
 
-/// The manager and who is spoken for.
+}  // namespace
+
 std::vector<int> SpeakersOf(const Segment& interview) {
   std::vector<int> speakers = SeatedAs(interview, kSpeaker);
   for (const int manager : SeatedAs(interview, kManages)) speakers.push_back(manager);
   return speakers;
 }
+
+namespace {
 
 /// All who would turn must be waiting to. Whoever speaks without a manager may then turn on
 /// anybody, liked or not; where a manager is there, nothing is offered that could not come off.

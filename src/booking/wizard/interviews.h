@@ -10,6 +10,8 @@
 
 namespace grapplemont {
 
+/// The uids of those who are to speak in it, the manager behind them; 0 for an empty seat.
+std::vector<int> SpeakersOf(const Segment& interview);
 bool ManagesAll(const World& world, int manager, const std::vector<int>& workers);
 /// What stands against these speakers, against these targets; empty for nothing.
 std::string WhyNotSpeakers(const World& world, const Segment& interview);

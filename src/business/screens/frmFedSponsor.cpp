@@ -5,6 +5,7 @@
 #include "business/sponsors.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "records/whatif.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -89,13 +90,13 @@ class frmFedSponsor : public GameScreen {
   explicit frmFedSponsor(Game& game)
       : GameScreen(game, "frmFedSponsor", "Sponsors", {.Manages = true}) {
     txtwhy.Brief = true;
-    BackBefore(cmd1);
+    BackBefore(cmdwhatif);
   }
 
   ui::Page Layout() override {
     return {
         .Facts = &lblfacts,
-        .Actions = {&cmdback, &cmd2, &cmd1},
+        .Actions = {&cmdback, &cmdwhatif, &cmd2, &cmd1},
         .Main = &cmd1,
         .Cancel = &cmdback,
         .Body = ui::Columns(
@@ -154,6 +155,7 @@ class frmFedSponsor : public GameScreen {
     cmd2.Text = place == 0 ? "Offer Minor Sponsorship" : "End Sponsorship Deal";
     EnableUnless(cmd1, WhyNotFirst(sponsor, place));
     EnableUnless(cmd2, WhyNotSecond(sponsor, place));
+    EnableUnless(cmdwhatif, WhyNoWhatIf(sponsor, place));
     ShowDeal(sponsor, place);
   }
 
@@ -192,6 +194,25 @@ class frmFedSponsor : public GameScreen {
     if (std::string why = WhyNoTalk(sponsor, place); !why.empty()) return why;
     return place == 0 && MinorPlace() == 0 ? "We have three minor sponsors already."
                                            : std::string();
+  }
+
+  std::string WhyNoWhatIf(const Sponsor* sponsor, int place) {
+    if (std::string why = WhyNoTalk(sponsor, place); !why.empty()) return why;
+    if (place != 0) return "They are a sponsor of ours already.";
+    return FreeSponsorPlace(world(), player()) == 0 ? "All our places are taken." : std::string();
+  }
+
+  void cmdwhatif_Click() {
+    const Sponsor& sponsor = *chosen();
+    const int place = FreeSponsorPlace(world(), player());
+    const auto sign = [uid = int(sponsor.Uid), place](World& copy) {
+      SignSponsor(copy, copy.Player(), *copy.FindSponsor(uid), place);
+    };
+    game_.OpenWhatIf({"Sign " + sponsor.Name + " as " +
+                          (place == kMainSponsor ? "our main sponsor?" : "a minor sponsor?"),
+                      {"they sign", sign},
+                      {"the office fills the place by habit", {}},
+                      "That they would say yes."});
   }
 
   int MinorPlace() { return FreeSponsorPlace(world(), player(), kMainSponsor + 1); }
@@ -275,6 +296,7 @@ class frmFedSponsor : public GameScreen {
   ui::Label lblslogan{*this, "lblslogan"};
   ui::Label lbldeal{*this, "lbldeal"};
   ui::Report txtwhy{*this, "txtwhy"};  // of their answer
+  ui::Button cmdwhatif{*this, "cmdwhatif", "What If", &frmFedSponsor::cmdwhatif_Click};
   ui::Button cmd1{*this, "cmd1", "Offer Main Sponsorship", &frmFedSponsor::cmd1_Click};
   ui::Button cmd2{*this, "cmd2", "Offer Minor Sponsorship", &frmFedSponsor::cmd2_Click};
 };

@@ -5,6 +5,7 @@
 #include "business/screens/frmTelevision.h"
 #include "business/tvshows.h"
 #include "records/modVar.h"
+#include "records/whatif.h"
 
 namespace grapplemont {
 
@@ -66,14 +67,14 @@ class frmTvOffer : public GameScreen {
   explicit frmTvOffer(Game& game)
       : GameScreen(game, "frmTvOffer", "Television Offer",
                    {.Is = ui::Role::Dialog, .Back = "Decide Later"}) {
-    BackBefore(cmdreject);
+    BackBefore(cmdwhatif);
     txtname.Hint = "Name of the new show";
     txtwhy.Brief = true;
   }
 
   ui::Page Layout() override {
     return {.Facts = &lblfacts,
-            .Actions = {&cmdback, &cmdreject, &cmdaccept},
+            .Actions = {&cmdback, &cmdwhatif, &cmdreject, &cmdaccept},
             .Main = &cmdaccept,
             .Cancel = &cmdback,
             .Body = ui::Group(
@@ -92,7 +93,7 @@ class frmTvOffer : public GameScreen {
  private:
   void ShowNone() {
     lblfacts.Text = "No network has made us an offer.";
-    EnableUnless({cmdaccept, cmdreject}, "There is no offer on the table.");
+    EnableUnless({cmdaccept, cmdreject, cmdwhatif}, "There is no offer on the table.");
   }
 
   /// The offer, as long as there is a day for it; without one the network takes it back.
@@ -143,6 +144,21 @@ class frmTvOffer : public GameScreen {
     Close();
   }
 
+  void cmdwhatif_Click() {
+    const auto offer = OfferThatHolds();
+    if (!offer) return;
+    if (desk().Objects(WhyNoMoreShows(world()))) return;
+    const std::string& typed = txtname.Text.Get();
+    const std::string name = WhyNoShowName(world(), typed, "Taken.").empty() ? typed : "A New Show";
+    const auto accept = [name, day = cmbdays.Key()](World& copy) {
+      AcceptOffer(copy, *OfferOnTheTable(copy), day, name);
+    };
+    game_.OpenWhatIf({"Go on the air with " + offer->From->Name + ", " + cmbdays.Text.Get() + ", " +
+                          std::string(SlotName(offer->Slot)) + "?",
+                      {"you accept for " + std::to_string(offer->Weeks) + " weeks", accept},
+                      {"you turn it down", DropOffer}});
+  }
+
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Label txtnetwork{*this, "txtnetwork"};
   ui::Label txtlength{*this, "txtlength"};
@@ -152,6 +168,7 @@ class frmTvOffer : public GameScreen {
   ui::TextBox txtname{*this, "txtname"};
   ui::Button cmdwhy{*this, "cmdwhy", "Why?", [this] { txtwhy.WriteLines(WhyOfTape(world())); }};
   ui::Report txtwhy{*this, "txtwhy"};
+  ui::Button cmdwhatif{*this, "cmdwhatif", "What If", &frmTvOffer::cmdwhatif_Click};
   ui::Button cmdreject{*this, "cmdreject", "Reject", &frmTvOffer::cmdreject_Click};
   ui::Button cmdaccept{*this, "cmdaccept", "Accept", &frmTvOffer::cmdaccept_Click};
 };

@@ -5,6 +5,7 @@
 #include "business/finance.h"
 #include "records/modVar.h"
 #include "records/notes.h"
+#include "records/whatif.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -163,7 +164,7 @@ class frmTicket : public GameScreen {
   ui::Page Layout() override {
     return PageOf(ui::Group("", {ui::Field("New price in dollars", hsticket),
                                  ui::Field("What people say", lblopinion), lblfair}),
-                  &lblprice, {}, &cmddoit);
+                  &lblprice, {&cmdwhatif}, &cmddoit);
   }
 
   void Load() override {
@@ -183,7 +184,19 @@ class frmTicket : public GameScreen {
 
   void ShowChoice() {
     lblopinion.Text = std::string(TicketOpinion(player().Size, hsticket.Value));
-    EnableUnless(cmddoit, hsticket.Value == player().TicketPrice ? "That is the price now." : "");
+    EnableUnless({cmdwhatif, cmddoit},
+                 hsticket.Value == player().TicketPrice ? "That is the price now." : "");
+  }
+
+  /// By habit the price would be the usual one from the next month on.
+  static Answer At(const std::string& words, int dollars) {
+    const auto set = [dollars](World& copy) { copy.Player().TicketPrice = dollars; };
+    return {words + Dollars(dollars) + " in any case", set, set};
+  }
+
+  void cmdwhatif_Click() {
+    game_.OpenWhatIf({"Ask " + Dollars(hsticket.Value) + " for a ticket?",
+                      At("from today ", hsticket.Value), At("stay at ", player().TicketPrice)});
   }
 
   void cmddoit_Click() {
@@ -196,6 +209,7 @@ class frmTicket : public GameScreen {
   ui::ScrollBar hsticket{*this, "hsticket", 0, kDearestTicket, &frmTicket::ShowChoice};
   ui::Label lblopinion{*this, "lblopinion"};
   ui::Label lblfair{*this, "lblfair"};
+  ui::Button cmdwhatif{*this, "cmdwhatif", "What If", &frmTicket::cmdwhatif_Click};
   ui::Button cmddoit{*this, "cmddoit", "Change Price", &frmTicket::cmddoit_Click};
 };
 

@@ -72,7 +72,7 @@ class frmIncident : public ui::Screen {
       return text + "Continue: the place is kept, and the wage of " + Dollars(wage) +
              " a month paid.";
     for (const int months : kSuspensions)
-      text += "Suspend " + Counted(months, "Month") + ": not to be booked for so long, and " +
+      text += "Suspend " + Counted(months, "Month") + ": not to be booked in that time, and " +
               Dollars(1LL * months * wage) + " paid for nothing.\n";
     return text + "Ignore: nothing changes.";
   }

@@ -38,7 +38,7 @@ struct Command {
   const char* Also;
   Reach Into = Reach::Company;
 };
-constexpr std::array<Command, 20> kCommands = {{
+constexpr std::array<Command, 21> kCommands = {{
     {"cmdroster", "Roster", "frmRoster", "People", "F2", "people workers own wrestlers"},
     {"cmdstaff", "Staff", "frmStaff", "People", "F3", "writers medics agents", Reach::Today},
     {"cmdtag", "Tag Teams", "frmTagTeams", "People", "", "partners pairs"},
@@ -61,6 +61,8 @@ constexpr std::array<Command, 20> kCommands = {{
     {"cmdresults", "Results", "frmResults", "Desk", "", "past shows history", Reach::Tells},
     {"cmdmeeting", "Meeting", "frmTalk", "Desk", "", "staff advice talk", Reach::Today},
     {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "Ctrl+N", "notes", Reach::Tells},
+    {"cmdmornings", "Back In Time", "frmMornings", "Desk", "",
+     "mornings undo redo go back earlier day return road what if"},
     {"cmdoptions", "Options", "frmOptions", "Desk", "F12", "settings mail reporter"},
 }};
 
@@ -78,7 +80,7 @@ class frmMainScreen : public ui::Screen {
   explicit frmMainScreen(Game& game)
       : Screen(game.Desk(), "frmMainScreen", "Today", ui::Role::Hub), game_(game) {
     CommandNamed("cmdfed").Tip = "Click for promotional matters.";
-    lstahead.EmptyText = "No show in sight. Television (F6) finds a network, Events plans a night.";
+    lstahead.EmptyText = "No show in sight. Television finds a network, Events plans a night.";
     lstahead.Room = 3;
     lstahead.Least = 2;
     lbltonight.Colour = ui::Tone::Gold;
@@ -96,7 +98,7 @@ class frmMainScreen : public ui::Screen {
     page.Side.push_back({"", {{&cmdquit, "", Reach::Away}}});
     page.Top = {&txtdate, &lblpromotion, &lblimage, &lblmoney};
     page.TopActions = {&txtname, &cmduntil, &cmdnext};
-    page.Actions = {&cmdmonth, &cmdmorning};
+    page.Actions = {&cmdfutures, &cmdmonth, &cmdmorning};
     page.Main = &cmdnext;
     page.First = &cmdbook;
     page.Cancel = &cmdquit;
@@ -223,6 +225,7 @@ class frmMainScreen : public ui::Screen {
     lbltonight.Visible = isDue;
     lbltonight.Text = TonightText(world());
     cmdmorning.Visible = !isOver && HasAnyNight(world());
+    cmdfutures.Visible = !isOver;
     cmdmonth.Visible = !isOver && world().Player().Size >= kSmall;
     if (WhyNoMeeting(world()).empty())
       today += (today.empty() ? "" : ", ") + std::string("the staff meeting");
@@ -343,6 +346,8 @@ class frmMainScreen : public ui::Screen {
   ui::Button cmdbook{*this, "cmdbook", "Book", &frmMainScreen::cmdnext_Click};
   ui::Button cmdmorning{*this, "cmdmorning", "Morning After",
                         [this] { desk().Open("frmMorning"); }};
+  ui::Button cmdfutures{*this, "cmdfutures", "A Hundred Futures",
+                        [this] { desk().Open("frmFutures"); }};
   /// Small promotions have months of their own.
   ui::Button cmdmonth{*this, "cmdmonth", "This Month", [this] { desk().Open("frmMonth"); }};
   DeskCards cards_{*this, game_};
@@ -365,7 +370,9 @@ void ConnectCalendar(Game& game) {
     for (const auto& screen : game.Desk().Screens()) screens.push_back(screen->Name());
     WatchGuide(game.World(), screens);
   };
-  game.NoteOn = [&game](std::string_view screen) { return GuideOnPage(game.World(), screen); };
+  game.NoteOn = [&game](std::string_view screen) {
+    return WithKeys(game.Desk(), GuideOnPage(game.World(), screen));
+  };
   game.Kept = [&game](const std::vector<FileChange>& changes) {
     // What was kept may be a world that cannot be played.
     const World& world = game.World();

@@ -63,8 +63,8 @@ DeskCards::DeskCards(ui::Screen& screen, Game& game)
                    [this] { OpenWorkerOf(lstcontracts); }),
       chtimage(screen, "chtimage"),
       chtmoney(screen, "chtmoney") {
-  lstchampions.EmptyText = "Nobody holds a Title. Titles (F4) names a champion or opens one.";
-  lstfeuds.EmptyText = "No feud is on. Feuds (F5) begins one.";
+  lstchampions.EmptyText = "Nobody holds a Title. Titles names a champion or opens one.";
+  lstfeuds.EmptyText = "No feud is on. Feuds begins one.";
   lsthurt.EmptyText = "Everybody is fit.";
   lstunhappy.EmptyText = "Nobody is unhappy.";
   lstcontracts.EmptyText = "No contract ends within half a year.";

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "calendar/guide.h"
+#include "records/fields/wording.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -31,7 +32,7 @@ void GuideCard::Show() {
     txtguide.Write(
         {{Style::Strong, "Step " + std::to_string(next - lines.begin() + 1) + " of " +
                              std::to_string(lines.size()) + ": " + std::string(next->Title)},
-         {Style::Body, std::string(next->Says)}});
+         {Style::Body, WithKeys(game_.Desk(), next->Says)}});
   else
     txtguide.Write("All of it is done. The house is yours.");
   txtguide.Visible = cmdguide.Visible = !lines.empty();
@@ -48,6 +49,22 @@ void GuideCard::ShowWay() {
 void GuideCard::Close() {
   CloseGuide(game_.World());
   Show();
+}
+
+std::string WithKeys(const ui::Desk& desk, std::string_view text) {
+  const auto hub = std::ranges::find(desk.Screens(), ui::Role::Hub, &ui::Screen::Is);
+  std::vector<std::string> lines;
+  if (desk.Help.Keys && hub != desk.Screens().end()) lines = desk.Help.Keys(**hub);
+  return FillHoles(text, [&](std::string_view command) {
+    const auto* button = hub == desk.Screens().end()
+                             ? nullptr
+                             : dynamic_cast<const ui::Button*>((*hub)->Find(command));
+    const std::string told = ": " + (button ? button->Text.Get() : std::string(command));
+    const auto line = std::ranges::find_if(
+        lines, [&](const std::string& keyed) { return keyed.ends_with(told); });
+    return line == lines.end() ? std::string()
+                               : " (" + line->substr(0, line->size() - told.size()) + ")";
+  });
 }
 
 }  // namespace grapplemont

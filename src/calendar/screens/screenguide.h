@@ -4,6 +4,10 @@
 
 namespace grapplemont {
 
+/// The text with the keys of the hub's and the window's commands in place of their names, as the
+/// player has set them: "Roster{cmdroster}" becomes "Roster (F2)", or "Roster" where there is none.
+std::string WithKeys(const ui::Desk& desk, std::string_view text);
+
 /// The card on the desk that leads to the first show; it is there while the guide is open.
 class GuideCard {
  public:

@@ -23,8 +23,7 @@ DeskMail::DeskMail(ui::Screen& screen, Game& game)
         const std::vector<Digest> digests = DigestsOf(world(), 1);
         if (!digests.empty()) Open(digests.front().Mails.front());
       }) {
-  lstmail.EmptyText =
-      "No unread mail. What is meant for you arrives here; News (F10) has all of it.";
+  lstmail.EmptyText = "No unread mail. What is meant for you arrives here; News has all of it.";
   lstmail.Room = 5;
   lstmail.Least = 2;
   lblworld.Colour = ui::Tone::Muted;

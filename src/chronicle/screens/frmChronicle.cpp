@@ -7,7 +7,7 @@
 #include "records/fields/wording.h"
 #include "records/store/disk.h"
 #include "report/report.h"
-#include "session/slots.h"
+#include "session/screens/screenfiletowrite.h"
 #include "storylines/lineages.h"
 #include "storylines/screens/screenpeople.h"
 
@@ -139,18 +139,8 @@ class frmChronicle : public GameScreen {
     desk().Open(ProofScreen(game_, sentence.Words, sentence.By));
   }
 
-  /// Where the book is to be written; empty for nowhere.
   std::string FileFor(const char* ending) {
-    const std::string typed(detail::Trimmed(
-        desk().ChooseFile("The book", "The file to write, in the game's folder or a whole path:",
-                          "chronicle." + std::string(ending), ui::Desk::Use::Write)));
-    if (typed.empty()) return {};
-    const std::string path = PathInHome(game_.Home(), typed);
-    const bool replaces = game_.Disk().Look(path) != Disk::Kind::Nothing;
-    const bool may =
-        !replaces || desk().Ask("Replace?", ForScreen(path) + " is there already. Write over it?",
-                                ui::Default::No);
-    return may ? path : std::string();
+    return FileToWrite(game_, "The book", "chronicle." + std::string(ending));
   }
 
   void cmdbook_Click() {

@@ -145,6 +145,7 @@ class frmEditMerge : public GameScreen {
                                   " Merge them into the data? What these are now is kept as a "
                                   "backup."))
       return;
+    EditedData(game_).KeepNext();
     arrivals_ = MergeNewRecords(data(), coming_, names_);
     ShowRows();
     for (ui::Button* button : {&cmdrename, &cmdmerge})
@@ -320,6 +321,7 @@ class frmEditImport : public GameScreen {
                                    " Import them into the data, without employment? What these are "
                                    "now is kept as a backup."))
       return;
+    EditedData(game_).KeepNext();
     const std::string done = Tally(ImportWorkers(data(), file_.Records, lstworkers.Keys()));
     ChooseAll(false);
     ShowWorkers();

@@ -188,6 +188,7 @@ class frmEditMaintain : public GameScreen {
                                      "? What they are now is kept as a backup."))
       return;
     DataFolder& data = EditedData(game_);
+    data.KeepNext();
     const std::size_t done = Maintain(data.World(), UnreadableFaults(data)).Count;
     ShowPlan("Cleaned up in " + Counted(done, "step") + ". ");
   }

@@ -25,7 +25,6 @@ class frmFamilyTree : public GameScreen {
     lstreigns.EmptyText = "Nobody has held it yet.";
     lstpeople.EmptyText = "Nobody has wrestled in a team yet.";
     lsttree.EmptyText = "Choose somebody to see their partners.";
-    lstpeople.Room = lsttree.Room = 20;
   }
 
   ui::Page Layout() override {
@@ -65,9 +64,9 @@ class frmFamilyTree : public GameScreen {
     FillPlaces(lstreigns, reignTable_, reigns_);
     const int last =
         reigns_.empty() ? 0 : std::ranges::max_element(reigns_, {}, &TreeReign::Number)->Number;
-    lblfacts.Text = Counted(last, "reign") + " of this Title. " +
-                    Counted(static_cast<int>(people_.size()), "person", "people") +
-                    " wrestled in teams.";
+    lblfacts.Text =
+        (HaveReignsGone(world()) ? "At least " : "") + Counted(last, "reign") + " of this Title. " +
+        Counted(static_cast<int>(people_.size()), "person", "people") + " wrestled in teams.";
     ShowButtons();
   }
 
@@ -137,13 +136,14 @@ class frmFamilyTree : public GameScreen {
   std::vector<const Career*> people_;
   std::vector<TreePair> tree_;
   const CellColumns<TreeReign> reignTable_ = {
-      {{"No.", K::Number}, [](const TreeReign& tree) { return NumberOrNothing(tree.Number); }},
+      {{"No.", K::Number, 0, "Which one of the reigns that are kept."},
+       [](const TreeReign& tree) { return NumberOrNothing(tree.Number); }},
       {{.Title = "Holder", .Width = 5, .Draws = [this](int key) { return FaceIn(HolderAt(key)); }},
        [](const TreeReign& tree) {
          return ui::Cell(tree.Reign->Holder.View(),
                          IsVacancy(*tree.Reign) ? ui::Tone::Muted : ui::Tone::Plain);
        }},
-      {{"Theirs", K::Number, 0, "Which one of their reigns."},
+      {{"Their", K::Number, 0, "Which one of their reigns."},
        [](const TreeReign& tree) { return NumberOrNothing(tree.OfTheirs); }},
       {{"From", K::Date, 3},
        [](const TreeReign& tree) { return DateCell(tree.Reign->From, kBeforeTheGame); }},

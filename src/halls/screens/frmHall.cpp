@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <memory>
 
 #include "halls/hall.h"
@@ -29,7 +30,7 @@ class frmHall : public GameScreen {
         ui::Columns({ui::Rows({ui::Group("Members", {ui::Grow(lstmembers)}).Grow(3),
                                ui::Group("Nearest to the hall", {ui::Grow(lstnext)}).Grow(2)})
                          .Grow(5),
-                     ui::Rows({ui::Group("What it was for", {ui::Grow(txtmember)}).Grow(2),
+                     ui::Rows({ui::Group("What counts for them", {ui::Grow(txtmember)}).Grow(2),
                                ui::Group("The rule", {ui::Grow(txtrule)}).Grow(3)})
                          .Grow(3)}),
         &lblfacts, {&cmdpage});
@@ -38,8 +39,11 @@ class frmHall : public GameScreen {
   void Load() override {
     WriteRule();
     Return();
-    if (lstmembers.Count() > 0) lstmembers.Select(1);
-    ShowMember();
+    if (lstmembers.Count() > 0)
+      lstmembers.Select(1);
+    else if (lstnext.Count() > 0)
+      lstnext.Select(1);
+    lstnext.Selected() != 0 ? ShowNext() : ShowMember();
   }
 
   void Return() override {
@@ -56,13 +60,13 @@ class frmHall : public GameScreen {
  private:
   void WriteRule() {
     std::vector<ui::Report::Paragraph> words = {
-        {Style::Body, "On 31 December up to " + std::to_string(kElectedAYear) +
+        {Style::Line, "On 31 December up to " + std::to_string(kElectedAYear) +
                           " are elected: those with the most points, and at least " +
                           std::to_string(kHallBar) + "."},
-        {Style::Body, "They must have retired or be " + std::to_string(kHallAge) +
+        {Style::Line, "They must have retired or be " + std::to_string(kHallAge) +
                           " or older, and must have been under contract for " +
                           Counted(kHallYears, "year") + " since the game began."},
-        {Style::Heading, "Points"}};
+        {Style::Strong, "Points"}};
     for (const HallMerit& merit : Merits())
       words.push_back({Style::Line, std::string(merit.Name) + ": " + merit.Rule + "."});
     txtrule.Write(std::move(words));
@@ -77,7 +81,7 @@ class frmHall : public GameScreen {
 
   void ShowMember() {
     if (lstmembers.Selected() != 0) lstnext.Select(0);
-    std::vector<ui::Report::Paragraph> words;
+    std::vector<ui::Report::Paragraph> words = {{Style::Muted, "Choose somebody to see it."}};
     if (const HallMember* member = Chosen()) {
       words = {{Style::Heading, member->Name.Str()},
                {Style::Muted, std::to_string(member->From) + " to " + std::to_string(member->To) +
@@ -88,15 +92,22 @@ class frmHall : public GameScreen {
     ShowButtons();
   }
 
+  /// Of the one in this place among the next.
+  std::string ChanceOf(int place) const {
+    const auto behind = next_.begin() + place - 1;
+    if (!behind->WhyNot.empty()) return behind->WhyNot;
+    const auto before =
+        std::count_if(next_.begin(), behind, [](const Nominee& one) { return one.WhyNot.empty(); });
+    return before < kElectedAYear ? "Would be elected today."
+                                  : "Would be elected today, if two others were not worth more.";
+  }
+
   void ShowNext() {
     lstmembers.Select(0);
     std::vector<ui::Report::Paragraph> words;
     if (const int key = lstnext.Key(); key >= 1 && key <= static_cast<int>(next_.size())) {
       const Nominee& nominee = next_[static_cast<std::size_t>(key - 1)];
-      words = {{Style::Heading, nominee.Of.Of->Name.Str()},
-               {Style::Muted, nominee.WhyNot.empty()
-                                  ? "Would be elected today, if two others were not worth more."
-                                  : nominee.WhyNot}};
+      words = {{Style::Heading, nominee.Of.Of->Name.Str()}, {Style::Muted, ChanceOf(key)}};
       for (const HallMerit& merit : Merits())
         if (const int count = merit.Count(nominee.Of); count > 0)
           words.push_back({Style::Line, std::string(merit.Name) + ": " + std::to_string(count) +

@@ -38,8 +38,9 @@ class frmRecords : public GameScreen {
     lsttables.Select(1);
     Read();
     cmbfeds.Add("The world", 0);
-    for (const HouseOfRecords& house : HousesOf(*past_))
-      cmbfeds.Add(house.Name + (house.Stands ? "" : " (closed)"), house.Uid);
+    houses_ = HousesOf(*past_);
+    for (const HouseOfRecords& house : houses_)
+      cmbfeds.Add(house.Key.Initials + (house.Stands ? "" : " (closed)"), cmbfeds.Count());
     cmbfeds.Select(1);
     ShowHouse();
   }
@@ -52,7 +53,9 @@ class frmRecords : public GameScreen {
   void Read() { past_ = std::make_unique<Ledger>(PastOf(world())); }
 
   void ShowHouse() {
-    book_ = std::make_unique<RecordBook>(*past_, cmbfeds.Key());
+    const int house = cmbfeds.Key();
+    book_ = std::make_unique<RecordBook>(
+        *past_, house == 0 ? HouseKey() : houses_[static_cast<std::size_t>(house - 1)].Key);
     ShowTable();
   }
 
@@ -73,7 +76,9 @@ class frmRecords : public GameScreen {
     }
     lstplaces.Fill(std::move(rows), false);
     lbltip.Text = table.Tip;
-    lblfacts.Text = "Counted since " + PlainDate(past_->State.Since) + ". " +
+    const bool isOlder = past_->KnownFrom() < Day(past_->State.Since);
+    lblfacts.Text = "Counted since " + PlainDate(past_->State.Since) +
+                    (isOlder ? "; of before that, what was still known then. " : ". ") +
                     Counted(static_cast<int>(RecordTables().size()), "table") + ".";
     ShowButtons();
   }
@@ -108,6 +113,7 @@ class frmRecords : public GameScreen {
 
   std::unique_ptr<Ledger> past_;
   std::unique_ptr<RecordBook> book_;
+  std::vector<HouseOfRecords> houses_;  // a key of cmbfeds is a place here, from 1
   std::vector<RecordLine> lines_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lsttables{

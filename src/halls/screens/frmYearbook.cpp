@@ -71,9 +71,9 @@ class frmYearbook : public GameScreen {
     }
     lstpage.Fill(std::move(rows), false);
     const int year = cmbyear.Key();
-    txtyear.Write(StoryOfYear(page_, year));
-    lblfacts.Text = year == YearOf(world().Today()) ? "The year is not over yet."
-                                                    : "The year " + std::to_string(year) + ".";
+    const bool isOver = year < YearOf(world().Today());
+    txtyear.Write(StoryOfYear(page_, year, isOver));
+    lblfacts.Text = isOver ? "The year " + std::to_string(year) + "." : "The year is not over yet.";
     EnableUnless(cmdolder, cmbyear.Selected() < cmbyear.Count() ? "" : "There is no older page.");
     EnableUnless(cmdnewer, cmbyear.Selected() > 1 ? "" : "There is no newer page.");
     ShowButtons();

@@ -6,7 +6,9 @@
 #include <vector>
 
 #include "business/finance.h"
+#include "business/sponsors.h"
 #include "calendar/advanceday.h"
+#include "calendar/birthdays.h"
 #include "calendar/image.h"
 #include "records/arithmetic.h"
 #include "records/fields/fields.h"
@@ -18,6 +20,7 @@
 #include "roster/invented.h"
 #include "roster/leaving.h"
 #include "roster/postings.h"
+#include "roster/staff.h"
 #include "roster/talks.h"
 #include "show/aftermatch.h"
 #include "show/overchange.h"
@@ -100,6 +103,28 @@ std::string Raises() {
   return Joined(steps, ", ");
 }
 
+/// The share of a loan, in percent, that the bank wants to see in hand.
+int ShareInHand() {
+  Promotion promotion{};
+  int percent = 0;
+  for (; !BankAccepts(promotion, 1); ++percent) promotion.Money += kLoanStep / kFull;
+  return percent;
+}
+
+/// What a show on television brings of what a sponsor pays for an Event, in percent.
+std::string TelevisionShare(bool isMain) {
+  Sponsor sponsor{};
+  sponsor.Pay = kFull;
+  return std::to_string(SponsorPayForTv(sponsor, isMain));
+}
+
+int StandingAt(int size, int image) {
+  Promotion promotion{};
+  promotion.Size = size;
+  promotion.Image = image;
+  return StandingScore(promotion);
+}
+
 struct FigureRow {
   std::string_view Slot;
   std::string (*Is)();
@@ -113,6 +138,7 @@ std::string Is() {
 // By slot.
 constexpr FigureRow kGlossaryFigures[] = {
     {"advertising.cost", [] { return Dollars(AdvertisingCost(1)); }},
+    {"birthday", Is<kBirthdayDraw - 1>},
     {"camp.basics", Is<kCampBasics>},
     {"camp.most", [] { return std::to_string(MostOfCamp()); }},
     {"camp.stiff", Is<kTooStiff - 1>},
@@ -145,6 +171,7 @@ constexpr FigureRow kGlossaryFigures[] = {
     {"image.steps", [] { return SpanText(ImageSteps()); }},
     {"lesson.charismatic", Is<kCharismatic>},
     {"lesson.most", [] { return std::to_string(MostOfLesson()); }},
+    {"loan.hand", [] { return std::to_string(ShareInHand()); }},
     {"loan.interest", [] { return std::to_string(HighestInterest()); }},
     {"loan.least", [] { return Dollars(kLoanStep); }},
     {"loan.most", [] { return Dollars(1LL * kLoanStep * kMostLoanSteps); }},
@@ -153,6 +180,7 @@ constexpr FigureRow kGlossaryFigures[] = {
     {"match.won", Is<kWinnersJoy>},
     {"merchandise.cost", [] { return Dollars(MerchandisingCost(1)); }},
     {"merchandise.sales", [] { return Dollars(MerchandiseCap(1)); }},
+    {"middleaged", Is<kMiddleAged>},
     {"move.down", [] { return std::to_string(-MoraleOfMove(kMainEvent, kMidcard)); }},
     {"move.up", [] { return std::to_string(MoraleOfMove(kMidcard, kMainEvent)); }},
     {"outgrown", Is<kOutgrownBehaviour>},
@@ -172,6 +200,12 @@ constexpr FigureRow kGlossaryFigures[] = {
     {"showcase.second", Is<kShowcases[1].QualityFrom>},
     {"showcase.second.below", Is<kShowcases[1].OverBelow>},
     {"showcase.second.gain", Is<kShowcases[1].Gain>},
+    {"sponsor.main", [] { return TelevisionShare(true); }},
+    {"sponsor.other", [] { return TelevisionShare(false); }},
+    {"staff.wage.most", [] { return Dollars(1000LL * kHighestStaffWage); }},
+    {"standing.class",
+     [] { return std::to_string(StandingAt(kNational, 0) - StandingAt(kCult, 0)); }},
+    {"standing.most", [] { return std::to_string(StandingAt(kGlobal, kFull)); }},
     {"strain.hurts", [] { return std::to_string(HurtingStrain()); }},
     {"talk.below", Is<kTalkBelow>},
     {"talk.gain", Is<kSensationalTalk>},

@@ -114,6 +114,15 @@ std::vector<Fault> MendWorld(World& world, const WantFault& wanted) {
   return mended;
 }
 
+void RequireKnownTotals(const World& world) {
+  const auto& totals = world.Of<TotalsState>();
+  if (totals.Count() == 0 || totals[1].Version <= kTotalsVersion) return;
+  throw WorldFault(
+      std::string(totals.File()) +
+      ": the past was added up by a newer version of the game. Update the game to play "
+      "on; nothing was changed.");
+}
+
 std::vector<Fault> MendNumbers(World& world) {
   std::vector<Fault> mended;
   Inspection inspection(world, Inspection::Purpose::MendGame,

@@ -54,6 +54,8 @@ std::vector<Fault> CheckWorld(const World& world);
 FaultList MendWorld(World& world);
 /// The same for those faults alone to which `wanted` says yes; all others stay.
 std::vector<Fault> MendWorld(World& world, const WantFault& wanted);
+/// Throws WorldFault where a newer version of the game has added up the past in a form of its own.
+void RequireKnownTotals(const World& world);
 /// Brings back into its range every number of a running game that rules count with, so that no day
 /// stumbles over it.
 std::vector<Fault> MendNumbers(World& world);

@@ -113,12 +113,13 @@ constexpr Term kYearLines[] = {{kYearMatch, "", "Best match"},
                                {kYearFallen, "", "Fallen a size class"},
                                {kYearStanding, "", "Standing"},
                                {kYearPlayer, "", "The player's year"},
-                               {kYearElected, "", "Hall of fame"}};
+                               {kYearElected, "", "Hall of fame"},
+                               {kYearChampion, "", "Champion"}};
 
 #define YEAR(member) GM_FIELD(YearLine, member)
 constexpr Field kYearFields[] = {
     YEAR(Year).In(0, 9999).Means("The year."),
-    YEAR(Kind).In(kYearMatch, kYearElected).From(kYearLines).Means("What the line tells."),
+    YEAR(Kind).In(kYearMatch, kYearChampion).From(kYearLines).Means("What the line tells."),
     YEAR(Promotion).In(0, 32767).Means("Uid of the promotion, which may be gone."),
     YEAR(Initials).Means("Initials of the promotion."),
     YEAR(Number).Means("How much, in the unit of the kind."),
@@ -153,8 +154,8 @@ GM_LAYOUT(Tenure, "tenures.dat", 60000, kTenureFields)
 GM_LAYOUT(Partnership, "pairs.dat", 10000, kPairFields)
 // Fifty of each kind in the world and ten in each promotion.
 GM_LAYOUT(Feat, "feats.dat", 8000, kFeatFields)
-// Two hundred years.
-GM_LAYOUT(YearLine, "yearbook.dat", 20000, kYearFields)
+// A hundred and fifty years of some two hundred lines.
+GM_LAYOUT(YearLine, "yearbook.dat", 40000, kYearFields)
 GM_LAYOUT(HallMember, "hall.dat", 2000, kHallFields)
 
 }  // namespace grapplemont

@@ -139,7 +139,8 @@ enum YearLineKind {
   kYearFallen,
   kYearStanding,  // a promotion: Number size, Other image; What: money
   kYearPlayer,    // the player's: Number money, Other image
-  kYearElected    // points
+  kYearElected,   // points
+  kYearChampion   // a Title at the end: Number days, below 0 where nobody knows; What: the Title
 };
 
 /// A line of the page of a year: a record of yearbook.dat.

@@ -34,11 +34,21 @@ class GrowingPast {
 
   /// Forgets the past: the file is what it is now.
   void Commit(const std::vector<T>& records, const Bytes& surplus) {
-    gone_ = {};
+    std::vector<T>().swap(gone_);  // a file that was written as a whole is twice in memory
     were_.clear();
     stays_ = records.size();
     surplus_ = surplus;
   }
+  /// The file has no past: all that it is will have changed.
+  void Forget() {
+    ++moves_;
+    std::vector<T>().swap(gone_);
+    were_.clear();
+    stays_ = 0;
+    surplus_.clear();
+  }
+  /// Bytes of memory held for records that have gone.
+  std::size_t Held() const { return gone_.capacity() * sizeof(T); }
   /// Makes the file what it was.
   void Restore(std::vector<T>& records, Bytes& surplus) {
     ++moves_;
@@ -103,6 +113,7 @@ template <class T>
 struct NoPast {
   void NoteChange(std::size_t, const T&) {}
   void NoteGone(const std::vector<T>&, std::size_t) {}
+  void Forget() {}
 };
 
 }  // namespace grapplemont

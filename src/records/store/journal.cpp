@@ -122,6 +122,15 @@ std::optional<JournalMarker> UnpackMarker(ByteSpan block) {
   return marker;
 }
 
+bool IsOfNewerVersion(ByteSpan block) {
+  if (std::ssize(block) < kJournalBlock) return false;
+  const ByteSpan whole = block.first(kJournalBlock);
+  Unpacker in(whole);
+  return in.Get<std::uint64_t>() == kMarkerMagic &&
+         in.Get<std::uint32_t>() > static_cast<std::uint32_t>(DigestForm::Blocks) &&
+         in.Get<std::uint64_t>() == Checksum(whole.subspan(kChecked));
+}
+
 Bytes PackSeal(std::uint64_t world, std::uint64_t sequence, const WorldDigest& files) {
   Packer out = Begun(kSealMagic, files.Form(), kJournalBlock);
   out.Put(world);

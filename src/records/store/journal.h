@@ -83,6 +83,9 @@ const KnownFile* FindFile(const std::vector<KnownFile>& known, std::string_view 
 Bytes PackMarker(const JournalMarker& marker);
 /// Nothing where the block is not a whole marker.
 std::optional<JournalMarker> UnpackMarker(ByteSpan block);
+/// Whether it is a whole marker of a version that this program does not know yet. Magic, version
+/// and checksum stand where they do in all versions.
+bool IsOfNewerVersion(ByteSpan block);
 
 /// Whole blocks.
 Bytes PackSeal(std::uint64_t world, std::uint64_t sequence, const WorldDigest& files);

@@ -1,5 +1,8 @@
 #include "records/store/knownfiles.h"
 
+#include "records/store/commandlog.h"
+#include "records/store/mornings.h"
+
 namespace grapplemont {
 
 #define GM_HERE(T) template class Records<T>;
@@ -15,6 +18,9 @@ const std::vector<KnownFile>& KnownFiles() {
                        table.File() == LayoutOf<Incident>().File});
     };
     std::apply([&](const auto&... table) { (add(table), ...); }, AllTables());
+    known.push_back({kMorningsName, kMostMornings});
+    known.push_back({kBeginningName, kMostBeginning});
+    known.push_back({kCommandsName, kMostCommands});
     return known;
   }();
   return files;

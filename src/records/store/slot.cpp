@@ -81,6 +81,9 @@ struct Slot::Insides {
   bool TryRecover();
   void Require(const std::vector<FileChange>& changes) const;
   void MakeRoom(const std::vector<FileChange>& changes, ByteSpan record);
+  void ApplyToFiles(const std::vector<FileChange>& changes);
+  std::string Lost();
+  std::vector<NewFile> Restored();
   void Checkpoint();
 };
 
@@ -250,7 +253,8 @@ void Slot::Insides::Require(const std::vector<FileChange>& changes) const {
 }
 
 void Slot::Insides::MakeRoom(const std::vector<FileChange>& changes, ByteSpan record) {
-  if (!Journal.Fits(record)) Checkpoint();
+  // Where a file cannot be restored the journal must not be emptied; it grows.
+  if (!Journal.Fits(record) && Lost().empty()) Checkpoint();
   try {
     Journal.MakeRoom(record);
     for (const FileChange& change : changes) {
@@ -266,11 +270,41 @@ void Slot::Insides::MakeRoom(const std::vector<FileChange>& changes, ByteSpan re
   }
 }
 
+/// A file that somebody else has cut short gets more than its changes: they would leave a hole.
+void Slot::Insides::ApplyToFiles(const std::vector<FileChange>& changes) {
+  for (const FileChange& change : changes) {
+    FilePatch patch = PatchOf(change);
+    if (change.ExistsAfter && !Records.IsAsLeft(change.Name)) patch.Ranges = {{0, change.After}};
+    Records.Apply(patch);
+  }
+}
+
+/// A file that has been cut short and of which nobody knows the whole; empty for none.
+std::string Slot::Insides::Lost() {
+  for (const std::string& name : Records.NotAsLeft())
+    if (!Options.Contents || !Options.Contents(name)) return name;
+  return {};
+}
+
+/// The files that have been cut short since, as they ought to be: what the journal holds of them is
+/// not all.
+std::vector<NewFile> Slot::Insides::Restored() {
+  if (const std::string lost = Lost(); !lost.empty())
+    throw DiskError(Path(lost), "keep", "another program changed it while the game was open");
+  std::vector<NewFile> files;
+  for (const std::string& name : Records.NotAsLeft())
+    files.push_back({name, Options.Contents(name).value()});
+  return files;
+}
+
 void Slot::Insides::Checkpoint() {
   if (Broken) return Recover();
   if (Journal.IsEmpty()) return;
   RequireInPlace();
+  const std::vector<NewFile> restored = Restored();
   try {
+    for (const NewFile& file : restored)
+      Records.Apply({file.Name, true, std::ssize(file.Contents), {{0, file.Contents}}});
     const JournalMarker marker{World, Sequence, Promised};
     if (Options.Quirks.EmptyBeforeFiles) Journal.Empty(marker);
     Records.Sync();
@@ -352,7 +386,7 @@ void Slot::Commit(const std::vector<FileChange>& changes) {
     ahead.Reach();
     in.Committed = true;
     in.WriteSeal();
-    for (const FilePatch& patch : record.Files) in.Records.Apply(patch);
+    in.ApplyToFiles(changes);
   } catch (const DiskError& fault) {
     // What the disk holds now is unknown: only reading it again tells.
     if (written) in.TryRecover();

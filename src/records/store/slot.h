@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -41,6 +42,9 @@ enum class Damage { Refuse, Drop };
 struct SlotOptions {
   std::int64_t JournalBytes = 4 << 20;
   JournalQuirks Quirks = {};
+  /// A file's bytes as of the last commit, nothing where nobody knows them: a file that somebody
+  /// else has cut short while the slot was open is written from them.
+  std::function<std::optional<Bytes>(const std::string& file)> Contents = {};
 };
 
 /// The folder of a running world and its journal. Every commit is all or nothing across all its
@@ -85,7 +89,8 @@ class Slot {
   void Commit(const std::vector<FileChange>& changes);
   bool Committed() const;
   /// Brings the record files themselves up to date and empties the journal. Throws DiskError; no
-  /// commit is lost then.
+  /// commit is lost then. One is a file that was cut short from outside and cannot be written
+  /// again: the journal stays, and the next opening asks.
   void Checkpoint();
 
  private:

@@ -20,10 +20,11 @@ inline std::string PageOf(const std::string& folder) {
 /// something up is a DiskError.
 std::vector<NewFile> ReadSlot(Disk& disk, const std::string& folder);
 
-/// A whole slot as the bytes of one file, for another home.
-Bytes PackSlot(const std::vector<NewFile>& files);
-/// The files in such bytes. Throws WorldFault, naming `path`, for bytes that are invalid or are
-/// spoiled.
+/// A whole slot as the bytes of one file, for another home. `about` is what whoever looks into the
+/// file reads at its beginning.
+Bytes PackSlot(const std::vector<NewFile>& files, const std::string& about);
+/// The files in such bytes, of this version or an earlier one. Throws WorldFault, naming `path` and
+/// what is wrong with it, for others.
 std::vector<NewFile> UnpackSlot(ByteSpan bytes, const std::string& path);
 /// No packed slot is longer.
 std::int64_t MostPackedBytes();

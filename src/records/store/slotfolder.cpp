@@ -215,9 +215,15 @@ SlotFiles::Opened& SlotFiles::Open(const std::string& name) {
     open_[name] = reserved->second;
     reserved_.erase(reserved);
   } else {
-    const Disk::Handle handle = disk_.Open(Path(name), true);  // throws before there is an entry
-    Opened& file = open_[name] = {handle, 0, 0};
-    file.Length = disk_.Size(handle);
+    const Disk::Handle handle = disk_.Open(Path(name), true);
+    std::int64_t length = 0;
+    try {
+      length = disk_.Size(handle);
+    } catch (const DiskError&) {  // an entry of a length that nobody knows would be believed
+      disk_.Close(handle);
+      throw;
+    }
+    open_[name] = {handle, 0, length};
   }
   return open_[name];
 }
@@ -247,6 +253,18 @@ std::string SlotFiles::Displaced() {
   for (const auto& [name, file] : open_)
     if (!disk_.IsAt(file.Handle, Path(name))) return Path(name);
   return {};
+}
+
+bool SlotFiles::IsAsLeft(const std::string& name) {
+  const auto open = open_.find(name);
+  return open == open_.end() || disk_.Size(open->second.Handle) == open->second.Length;
+}
+
+std::vector<std::string> SlotFiles::NotAsLeft() {
+  std::vector<std::string> names;
+  for (const auto& [name, file] : open_)
+    if (!IsAsLeft(name)) names.push_back(name);
+  return names;
 }
 
 void SlotFiles::GiveBack() {

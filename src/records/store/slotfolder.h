@@ -87,6 +87,10 @@ class SlotFiles {
   void ReserveNew(const std::string& name, std::int64_t size);
   /// The path of an open file that no longer leads to it; empty where all do.
   std::string Displaced();
+  /// Whether a file is as long as what was done to it has left it.
+  bool IsAsLeft(const std::string& name);
+  /// The open ones that are not: somebody else has cut or lengthened them.
+  std::vector<std::string> NotAsLeft();
   /// Takes back what ReserveNew made and nobody used; never throws.
   void GiveBack();
   /// Brings a file to what the patch says, without syncing; however much of it stands there

@@ -6,6 +6,7 @@
 
 #include "records/fields/fields.h"
 #include "records/fields/gameinfo.h"
+#include "records/store/mornings.h"
 #include "records/store/slotfolder.h"
 
 namespace grapplemont {
@@ -49,13 +50,23 @@ std::string DayOf(const Files& files) {
   return game ? " (" + LongDate(game->Today) + ")" : "";
 }
 
+/// The last day that these files know of: a game that has gone back keeps the day that it left.
+Day LatestOf(const Files& files, Day today) {
+  const auto kept = files.find(kMorningsName);
+  if (kept == files.end()) return today;
+  const Mornings moments(kept->second);
+  for (std::size_t i = 0; i < moments.Count(); ++i) today = std::max(today, moments[i].On);
+  return today;
+}
+
 /// Whether both are of one game, and `files` of a later day. What a power cut leaves of a block
 /// that was being written does not begin with the names of this game.
 bool IsLater(const Files& files, const Files& than) {
   const auto game = GameOf(files), other = GameOf(than);
   if (!game || !other) return false;
   return game->PlayerName == other->PlayerName && game->SaveName == other->SaveName &&
-         Day(game->StartDate) == Day(other->StartDate) && Day(game->Today) > Day(other->Today);
+         Day(game->StartDate) == Day(other->StartDate) && Day(game->Today) > Day(other->Today) &&
+         Day(game->Today) > LatestOf(than, other->Today);
 }
 
 class Examination {
@@ -224,6 +235,15 @@ class Examination {
   bool hasSurplus_ = false;  // a file is too long, and nothing writes it again
 };
 
+/// What a later version of the game means by its files nobody here knows: taken for damage, they
+/// would be mended to death.
+void RefuseNewer(const std::string& folder, ByteSpan journal) {
+  for (const std::int64_t at : {std::int64_t{0}, kJournalBlock})
+    if (std::ssize(journal) > at && IsOfNewerVersion(journal.subspan(static_cast<std::size_t>(at))))
+      throw DiskError(folder, "open",
+                      "it was played with a newer version of the game. Update the game to play on");
+}
+
 }  // namespace
 
 SlotFinding Examine(const StoredSlot& stored, const std::vector<KnownFile>& known,
@@ -233,6 +253,7 @@ SlotFinding Examine(const StoredSlot& stored, const std::vector<KnownFile>& know
 
 StoredSlot ReadStoredSlot(Disk& disk, const std::string& folder,
                           const std::vector<KnownFile>& known, Bytes journal) {
+  RefuseNewer(folder, journal);
   StoredSlot stored;
   for (const KnownFile& each : known) {
     const std::string path = folder + "/" + each.Name;

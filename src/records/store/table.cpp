@@ -54,6 +54,12 @@ void TextFile::Load(ByteSpan bytes) {
   exists_ = true;
 }
 
+void TextFile::CopyFrom(const TextFile& other) {
+  ForgetCommitted();
+  text_ = other.text_;
+  exists_ = other.exists_;
+}
+
 void TextFile::Set(std::string_view text) {
   text_ = text.substr(0, static_cast<std::size_t>(MaxBytes()));
   exists_ = true;

@@ -70,6 +70,11 @@ class Table {
   }
   virtual void TakeOver(const std::vector<JournalRange>& changed);
   virtual void Restore() { Load(image_); }
+  /// Nothing of it has ever been committed.
+  void ForgetCommitted() {
+    image_.clear();
+    committedExists_ = false;
+  }
 
  private:
   bool committedExists_ = false;
@@ -86,6 +91,8 @@ class TextFile : public Table {
   void Remove() override;
   void Load(ByteSpan bytes) override;
   const std::string& Text() const { return text_; }
+  /// Becomes what the other is, as a file that was never committed.
+  void CopyFrom(const TextFile& other);
   void Set(std::string_view text);
 
  private:
@@ -206,6 +213,9 @@ class Records : public Table {
     return static_cast<std::int64_t>(LayoutOf<T>().Limit) * LayoutOf<T>().Size + sizeof(T) - 1;
   }
   void Load(ByteSpan bytes) override;
+  /// Becomes what the other is, as a file that was never committed. Memory that it has is used
+  /// again.
+  void CopyFrom(const Records& other);
   Bytes Committed() const override {
     if constexpr (kIsGrowing)
       return past_.Contents(records_);
@@ -271,6 +281,16 @@ void Records<T>::Load(ByteSpan bytes) {
   records_.resize(count);
   if (count > 0) std::memcpy(records_.data(), bytes.data(), count * sizeof(T));
   surplus_.assign(bytes.begin() + static_cast<std::ptrdiff_t>(count * sizeof(T)), bytes.end());
+}
+
+template <class T>
+void Records<T>::CopyFrom(const Records& other) {
+  ForgetCommitted();
+  past_.Forget();
+  if (other.exists_) Begin();
+  exists_ = other.exists_;
+  records_.assign(other.records_.begin(), other.records_.end());
+  surplus_ = other.surplus_;
 }
 
 /// Appends to a file that need not keep everything: a full one loses `oldest` of its oldest records

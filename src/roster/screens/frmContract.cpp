@@ -16,6 +16,7 @@ namespace grapplemont {
 namespace {
 
 constexpr int kOfferedMonths = 24;
+constexpr const char* kIfTheyAgree = "That they agree to these terms.";
 
 /// Talks with a worker of the player's: staying, being let go, being thrown out.
 class frmWresContract : public TalkWith<Worker> {
@@ -54,12 +55,26 @@ class frmWresContract : public TalkWith<Worker> {
     EnableUnless({chkcreative, cmdoffer}, closed_);
   }
 
+  std::variant<WhatIf, std::string> Weighed() override {
+    const ContractOffer offer = Offered();
+    const auto renew = [uid = uid_, offer](World& copy) { Renew(*copy.FindWorker(uid), offer); };
+    return WhatIf{"Keep " + Who()->Name + " for " + TermsText(offer) + "?",
+                  {"the contract is renewed on these terms", renew},
+                  {"the contract runs on, and the office renews it by habit or not", {}},
+                  kIfTheyAgree};
+  }
+
  private:
+  ContractOffer Offered() const {
+    ContractOffer offer = offer_.Offer();
+    offer.CreativeControl = chkcreative.Checked;
+    return offer;
+  }
+
   void cmdoffer_Click() {
     if (!GoesOn()) return;
     Worker& worker = *Who();
-    ContractOffer offer = offer_.Offer();
-    offer.CreativeControl = chkcreative.Checked;
+    const ContractOffer offer = Offered();
     const RenewalAnswer answer = JudgeRenewal(worker, RenewalTermsOf(world(), worker), offer);
     if (!answer.Accepted) return Refuse(answer.Remarks, answer.Why);
     SayAll(answer.Remarks);
@@ -159,6 +174,18 @@ class frmOtherContract : public TalkWith<Worker> {
     EnableUnless({cmdoffer, cmbnewposition, cmbnewdispo, txtnewname, txtnewname2}, closed_);
   }
 
+  std::variant<WhatIf, std::string> Weighed() override {
+    const SigningOffer offer = Offered();
+    if (std::string why = WhyNotAsOffered(world(), *Who(), offer); !why.empty()) return why;
+    const auto sign = [uid = uid_, offer](World& copy) {
+      Sign(copy, *copy.FindWorker(uid), offer);
+    };
+    return WhatIf{"Sign " + Who()->Name + " for " + TermsText(offer) + "?",
+                  {"they come on these terms", sign},
+                  {"you make no offer, and the office signs whom it would by habit", {}},
+                  kIfTheyAgree};
+  }
+
  private:
   std::string FactsOf(const Worker& worker) {
     if (worker.Employer == 0) return "A free agent.";
@@ -239,6 +266,18 @@ class StaffTalk : public TalkWith<Staff> {
     ShowFacts(FactsOf(staff));
     offer_.Allow(closed_);
     EnableUnless(cmdoffer, closed_);
+  }
+
+  std::variant<WhatIf, std::string> Weighed() override {
+    const ContractOffer offer = offer_.Offer();
+    const auto hire = [uid = uid_, offer, own = own_](World& copy) {
+      Staff& staff = *copy.FindStaff(uid);
+      own ? PutInto(staff, offer) : HireStaff(copy, staff, offer);
+    };
+    return WhatIf{(own_ ? "Keep " : "Hire ") + Who()->Name + " for " + TermsText(offer) + "?",
+                  {"they agree to these terms", hire},
+                  {"you make no offer, and the office fills its posts by habit", {}},
+                  kIfTheyAgree};
   }
 
  private:

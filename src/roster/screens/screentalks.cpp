@@ -74,6 +74,7 @@ void TalkScreen::Load() {
   closed_ = said_ = refusal.Text;
   Begin();
   Show();
+  EnableUnless(cmdwhatif, closed_);
   ShowWhyNot();
   if (!closed_.empty()) desk().Say(refusal.Title, refusal.Text);
 }
@@ -99,7 +100,7 @@ ui::Page TalkScreen::TalkPage(std::vector<ui::Box> beside, std::vector<ui::Butto
 }
 
 std::vector<ui::Box> TalkScreen::WhyParts() {
-  return {ui::Columns({cmdwhy, cmdwhynot, ui::Spacer()}), txtwhy};
+  return {ui::Columns({cmdwhy, cmdwhynot, cmdwhatif, ui::Spacer()}), txtwhy};
 }
 
 void TalkScreen::ShowWhyNot() {
@@ -117,6 +118,21 @@ void TalkScreen::Refuse(const std::vector<Remark>& remarks, Decision why) {
 void TalkScreen::cmdwhy_Click() {
   const NumberWriter inDollars = [](long long thousands) { return Dollars(thousands * 1000); };
   if (GoesOn()) txtwhy.WriteLines(WhyText("a month", WageSteps(), inDollars));
+}
+
+void TalkScreen::cmdwhatif_Click() {
+  if (!GoesOn()) return;
+  auto weighed = Weighed();
+  if (const auto* why = std::get_if<std::string>(&weighed)) {
+    desk().Objects(*why);
+    return;
+  }
+  game_.OpenWhatIf(std::get<WhatIf>(std::move(weighed)));
+}
+
+std::string TalkScreen::TermsText(const ContractOffer& offer) {
+  return std::string(Says(kContractLengths, offer.Months)) + " at " + WageText(offer.Wage) +
+         " a month";
 }
 
 void TalkScreen::ShowFacts(const std::string& facts) {

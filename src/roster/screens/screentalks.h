@@ -2,10 +2,12 @@
 
 #include <string>
 #include <type_traits>
+#include <variant>
 #include <vector>
 
 #include "records/fields/people.h"
 #include "records/score.h"
+#include "records/whatif.h"
 #include "records/world.h"
 #include "roster/talks.h"
 #include "ui/game.h"
@@ -80,6 +82,10 @@ class TalkScreen : public GameScreen {
   virtual void Begin() = 0;
   /// Shows them as they are, and opens or closes the table.
   virtual void Show() = 0;
+  /// Whether to agree on what lies on the table; or, as a text, why that cannot be asked.
+  virtual std::variant<WhatIf, std::string> Weighed() = 0;
+  /// "2 Years at $40,000 a month".
+  static std::string TermsText(const ContractOffer& offer);
 
   /// Otherwise says why not and closes.
   bool GoesOn();
@@ -109,8 +115,10 @@ class TalkScreen : public GameScreen {
   std::string said_;  // in which words; empty while there was none
   ui::Button cmdwhy{*this, "cmdwhy", "Why?", &TalkScreen::cmdwhy_Click};
   ui::Button cmdwhynot{*this, "cmdwhynot", "Why Not?", &TalkScreen::cmdwhynot_Click};
+  ui::Button cmdwhatif{*this, "cmdwhatif", "What If", &TalkScreen::cmdwhatif_Click};
   ui::Report txtwhy{*this, "txtwhy"};
   void cmdwhy_Click();
+  void cmdwhatif_Click();
   void cmdwhynot_Click() { txtwhy.WriteLines(WhyText(said_, why_)); }
 };
 

@@ -32,6 +32,21 @@ bool Open(Game& game, int slot) {
   return true;
 }
 
+constexpr const char* kNoGame = "No game is kept in this slot.";
+constexpr const char* kAllInUse = "All slots are in use. Delete a game first.";
+constexpr const char* kExportEnding = ".grapplemont";
+
+/// Shows what the file is and asks; false where the player says no.
+bool ImportInto(Game& game, int slot, const std::string& path, const std::string& title,
+                const std::string& question) {
+  World scratch(game.NewDraws(Game::kWorldMaking), game.NewDraws(Game::kWorldProse),
+                game.NewDraws(Game::kWorldLife));
+  const Importable found = ReadExported(game.Disk(), path, scratch);
+  if (!game.Desk().Ask(title, found.Preview + "\n" + question, ui::Default::Yes)) return false;
+  ImportSlot(game.Disk(), found, game.SlotFolder(slot), game.NewWorldId());
+  return true;
+}
+
 }  // namespace
 
 void EnterSlot(Game& game, int slot) {
@@ -47,11 +62,16 @@ void EnterSlot(Game& game, int slot) {
   RememberPlayed(game.Disk(), game.Home(), slot);
 }
 
-namespace {
+void OfferImport(Game& game, const std::string& path) {
+  const auto slot = FreeSlot(game.Disk(), game.Home());
+  if (!slot)
+    return game.Desk().Say("Import", ForScreen(path) + " cannot be imported. " + kAllInUse);
+  if (ImportInto(game, *slot, path, "Import?",
+                 "Put it into slot " + std::to_string(*slot) + ", which is empty, and play it?"))
+    EnterSlot(game, *slot);
+}
 
-constexpr const char* kNoGame = "No game is kept in this slot.";
-constexpr const char* kAllInUse = "All slots are in use. Delete a game first.";
-constexpr const char* kExportEnding = ".grapplemont";
+namespace {
 
 /// "1 more day", "4 more days".
 std::string MoreDays(int days) {
@@ -108,8 +128,8 @@ class frmLoadGame : public SlotScreen {
     return "A new game, a copy of another slot or a file goes here.";
   }
   std::vector<ui::Box> Acts(int slot) override {
-    return {cmdcopy(slot),   cmdrename(slot), cmdexport(slot),
-            cmddelete(slot), cmdnew(slot),    cmdbring(slot)};
+    return {cmdcopy(slot),     cmdrename(slot), cmdexport(slot), cmddelete(slot),
+            cmdmornings(slot), cmdnew(slot),    cmdbring(slot)};
   }
   void cmdload_Click(int slot) override { EnterSlot(game_, slot); }
 
@@ -155,14 +175,16 @@ class frmLoadGame : public SlotScreen {
         room ? "Puts a game that was exported to a file into the first empty slot." : kAllInUse;
     for (int slot = 1; slot <= kSlots; ++slot) {
       const SlotSummary& summary = In(slot);
-      for (ui::Button* act : {&cmdcopy(slot), &cmdrename(slot), &cmdexport(slot), &cmddelete(slot)})
+      for (ui::Button* act : {&cmdcopy(slot), &cmdrename(slot), &cmdexport(slot), &cmddelete(slot),
+                              &cmdmornings(slot)})
         act->Visible = !summary.Empty;
       for (ui::Button* act : {&cmdnew(slot), &cmdbring(slot)}) act->Visible = summary.Empty;
       cmdbring(slot).Enabled = IsFree(game_.Disk(), game_.Home(), slot);
       cmdbring(slot).Tip = cmdbring(slot).Enabled
                                ? "Puts a game that was exported to a file into this slot."
                                : "Its folder is not empty.";
-      for (ui::Button* act : {&cmdcopy(slot), &cmdrename(slot), &cmdexport(slot)}) {
+      for (ui::Button* act :
+           {&cmdcopy(slot), &cmdrename(slot), &cmdexport(slot), &cmdmornings(slot)}) {
         act->Enabled = summary.Playable;
         act->Tip = summary.Playable ? "" : "This slot can't be loaded.";
       }
@@ -233,11 +255,22 @@ class frmLoadGame : public SlotScreen {
         !desk().Ask("Replace?", ForScreen(path) + " is there already. Write over it?",
                     ui::Default::No))
       return;
-    ExportSlot(game_.Disk(), game_.SlotFolder(slot), path);
+    const bool withHistory =
+        HasHistory(game_.Disk(), game_.SlotFolder(slot)) &&
+        desk().Ask("Export",
+                   "Take along what this game can go back to? The file is larger then, and whoever "
+                   "opens it can go back too.",
+                   ui::Default::No);
+    ExportSlot(game_.Disk(), game_.SlotFolder(slot), path, withHistory);
     lblfacts.Text = "Wrote " + In(slot).Caption + " to " + ForScreen(path) + ".";
   }
 
   void New(int) { cmdnewgame_Click(); }
+
+  void GoBack(int slot) {
+    EnterSlot(game_, slot);
+    if (desk().Top() && desk().Top()->Name() == "frmMainScreen") desk().Open("frmMornings");
+  }
 
   void cmdimport_Click() {
     if (const auto free = FreeSlot(game_.Disk(), game_.Home())) Import(*free);
@@ -248,9 +281,8 @@ class frmLoadGame : public SlotScreen {
         AskFile("Import", "The file to read, in the game's folder or a whole path:", "",
                 ui::Desk::Use::Read);
     if (path.empty()) return;
-    World scratch(game_.NewDraws(Game::kWorldMaking), game_.NewDraws(Game::kWorldProse),
-                  game_.NewDraws(Game::kWorldLife));
-    ImportSlot(game_.Disk(), path, game_.SlotFolder(slot), game_.NewWorldId(), scratch);
+    if (!ImportInto(game_, slot, path, "Import", "Put it into slot " + std::to_string(slot) + "?"))
+      return;
     Return();
     lblfacts.Text = "Slot " + std::to_string(slot) + " now holds " + In(slot).Caption + ".";
   }
@@ -305,6 +337,7 @@ class frmLoadGame : public SlotScreen {
   ui::Array<ui::Button> cmdrename = EachAct("cmdrename", "Rename", &frmLoadGame::Rename);
   ui::Array<ui::Button> cmdexport = EachAct("cmdexport", "Export", &frmLoadGame::Export);
   ui::Array<ui::Button> cmddelete = EachAct("cmddelete", "Delete", &frmLoadGame::Delete);
+  ui::Array<ui::Button> cmdmornings = EachAct("cmdmornings", "Go Back", &frmLoadGame::GoBack);
   ui::Array<ui::Button> cmdnew = EachAct("cmdnew", "New Game", &frmLoadGame::New);
   ui::Array<ui::Button> cmdbring = EachAct("cmdbring", "Import", &frmLoadGame::Import);
   ui::Button cmdimport{*this, "cmdimport", "Import A File", &frmLoadGame::cmdimport_Click};

@@ -94,6 +94,8 @@ class frmNewGame : public GameScreen {
       boxes.emplace_back(chkhouse(number));
       boxes.emplace_back(lblrule(number));
     }
+    boxes.emplace_back(chknoway);
+    boxes.emplace_back(lblnoway);
     boxes.push_back(ui::Spacer());
     return boxes;
   }
@@ -189,7 +191,8 @@ class frmNewGame : public GameScreen {
                                             .Difficulty = cmbdifficulty.Key(),
                                             .Start = NextFirst(game_.PresentDay()),
                                             .SaveName = {},
-                                            .House = ChosenHouse()}));
+                                            .House = ChosenHouse(),
+                                            .NoWayBack = chknoway.Checked}));
   }
 
   using K = ui::ColumnKind;
@@ -253,6 +256,10 @@ class frmNewGame : public GameScreen {
         label->Colour = ui::Tone::Muted;
         return label;
       }};
+  ui::CheckBox chknoway{*this, "chknoway", "No way back"};
+  ui::Label lblnoway{*this, "lblnoway",
+                     "No click is taken back and no morning is gone back to: what happens has "
+                     "happened."};
   ui::Button cmdbegin{*this, "cmdbegin", "Begin", &frmNewGame::cmdbegin_Click};
 };
 

@@ -53,7 +53,8 @@ void SlotScreen::Show(int slot) {
   imgfed(slot).Visible = own.has_value();
   if (own) imgfed(slot).Drawn = CrestOf(*own);
   lblfed(slot).Text = "Slot " + std::to_string(slot) + (own ? ", " + own->Name.Str() : "");
-  lblday(slot).Text = summary.Today;
+  // A card has no room for the day of the week.
+  lblday(slot).Text = summary.Today.substr(summary.Today.find(' ') + 1);
   lblworth(slot).Text = own ? std::to_string(own->Image) + "%, " + Dollars(own->Money) : "";
   lbllast(slot).Text = summary.LastShow;
   lblhouse(slot).Text = summary.House.empty() ? "" : "House rules: " + summary.House;

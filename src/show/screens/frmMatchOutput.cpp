@@ -5,6 +5,7 @@
 
 #include "report/live.h"
 #include "report/report.h"
+#include "roster/workerform.h"
 #include "show/holdshow.h"
 #include "show/livetelling.h"
 #include "show/recap.h"
@@ -158,6 +159,7 @@ class frmMatchOutput : public ui::Screen {
 
   /// As much as has been told by now: nothing that gives the end away before it.
   void ShowTold() {
+    if (shown_ == 1 || IsThrough()) ShowCast(world().Segments()[run().Current]);
     ShowProse();
     ShowFigures();
     ShowRatings(world(), chtshow, IsThrough());
@@ -200,21 +202,25 @@ class frmMatchOutput : public ui::Screen {
     for (ui::Label* label : {&txtstyle, &txttype, &txtbelt})
       label->Visible = !label->Text.Get().empty();
     txtstip.Write({{ui::Report::Style::Heading, details.Names}});
-    ShowCast(world().Segments()[run().Current]);
   }
 
-  /// As they are after it, the winners first.
+  /// As they are after it, the winners first; until it is through by their names alone.
   void ShowCast(const Segment& segment) {
     const std::vector<int> winners = WinnersOf(segment);
     const auto hasWon = [&](int uid) { return std::ranges::find(winners, uid) != winners.end(); };
     std::vector<int> people = PeopleOf(segment);
-    std::ranges::stable_partition(people, hasWon);
+    if (IsThrough()) std::ranges::stable_partition(people, hasWon);
     std::vector<ui::ListBox::Row> rows;
-    for (const int uid : people)
-      if (const Worker* worker = world().FindWorker(uid))
+    for (const int uid : people) {
+      const Worker* worker = world().FindWorker(uid);
+      if (!worker) continue;
+      if (IsThrough())
         rows.push_back({{worker->Name.View(), DispositionCell(*worker), int(worker->Over),
                          int(worker->Condition), OutcomeIn(segment, hasWon(uid))},
                         uid});
+      else
+        rows.push_back({{worker->Name.View(), "", "", "", ""}, uid});
+    }
     lstcast.Fill(std::move(rows), false);
   }
 
@@ -236,8 +242,8 @@ class frmMatchOutput : public ui::Screen {
 
   void ShowFigures() {
     const bool isMatch = told_ && world().Segments()[run().Current].Kind == kMatch;
-    lblanalysis.Text = isMatch ? "Match Analysis" : "Analysis";
-    lblanalysis.Visible = told_ && IsThrough();
+    lblanalysis.Text = !IsThrough() ? "Who is in it" : isMatch ? "Match Analysis" : "Analysis";
+    lblanalysis.Visible = told_.has_value();
     for (int i = 1; i <= kFigureCount; ++i) {
       const bool shown = told_ && IsThrough() && (isMatch || i != 1);
       txtfigures(i).Visible = shown;
@@ -253,9 +259,25 @@ class frmMatchOutput : public ui::Screen {
   }
 
   void cmdwhy_Click(int i) {
-    if (!told_ || !IsThrough()) return txtwhy.Write("");
+    if (!told_)
+      return txtwhy.Write({{ui::Report::Style::Muted, "The next Segment's figures stand here."}});
+    if (!IsThrough()) return ShowPeople();
     const ToldFigure& figure = FigureAt(i);
     txtwhy.WriteLines(WhyText(figure.Name, (*told_).*figure.Of));
+  }
+
+  /// While their Segment is told: nothing that the Segment changes.
+  void ShowPeople() {
+    using Style = ui::Report::Style;
+    std::vector<ui::Report::Paragraph> words;
+    for (const int uid : PeopleOf(world().Segments()[run().Current])) {
+      const Worker* worker = world().FindWorker(uid);
+      if (!worker) continue;
+      words.push_back({Style::Strong, worker->Name.Str()});
+      words.push_back({Style::Line, WhoLine(*worker) + ". " + FinishersLine(*worker)});
+    }
+    words.push_back({Style::Muted, "The percentages come when it has been told."});
+    txtwhy.Write(std::move(words));
   }
 
   void Finish() {

@@ -1,0 +1,116 @@
+#include <algorithm>
+
+#include "futures/screens/futurescreens.h"
+#include "futures/screens/screenspread.h"
+#include "storylines/screens/screenpeople.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr int kThreeMonths = 91;
+const std::vector<std::string> kYesAndNo{"Yes", "No"};
+
+/// A question, answered both ways in a hundred worlds.
+class frmWhatIf : public GameScreen {
+ public:
+  frmWhatIf(Game& game, WhatIf asked)
+      : GameScreen(game, "frmWhatIf", "What If", {.Is = ui::Role::Dialog, .Back = "Close"}),
+        asked_(std::move(asked)) {
+    lblquestion.Large = true;
+    lblfacts.Text =
+        "Three months from this morning, each answer played in the same hundred worlds.";
+    lblassumes.Text = (asked_.Assumes.empty() ? "" : asked_.Assumes + " ") + HabitsText();
+    lblassumes.Colour = ui::Tone::Muted;
+    spread_.SetAnswers(kYesAndNo);
+    lstsizes.SetColumns(ChanceColumns("Class in three months", kYesAndNo));
+    lstchances.SetColumns(ChanceColumns("Until then", kYesAndNo));
+    for (ui::ListBox* list : {&lstsizes, &lstchances}) {
+      list->EmptyText = "Worlds are being played.";
+      list->Room = 5;
+    }
+  }
+
+  ui::Page Layout() override {
+    ui::Page page = PageOf(
+        ui::Rows(
+            {ui::Group("", {lblquestion, lblanswers, playing_.Layout()}),
+             ui::Columns({spread_.Picture().Grow(3),
+                          ui::Rows({ui::Group("Size class", {ui::Grow(lstsizes)}).Grow(1),
+                                    ui::Group("What can happen", {ui::Grow(lstchances)}).Grow(1)})
+                              .Grow(2)})
+                 .Grow(3),
+             spread_.Table().Grow(2), lblpairs, lblassumes}),
+        &lblfacts, {&cmdexport, &playing_.Stop()});
+    page.Large = true;
+    return page;
+  }
+
+  void Load() override {
+    lblquestion.Text = asked_.Question;
+    lblanswers.Text = "Yes: " + asked_.Yes.Words + ". No: " + asked_.No.Words + ".";
+    playing_.Begin({asked_.Yes, asked_.No}, kThreeMonths);
+  }
+  void Return() override {}
+
+ private:
+  PlayedWorlds Worlds() const {
+    const Futures& played = *playing_.Played();
+    return {played.Morning(), played.Days(), kYesAndNo, played.Lives()};
+  }
+
+  void ShowWorlds() {
+    PlayedWorlds worlds = Worlds();
+    const bool any = !worlds.Lives.front().empty();
+    EnableUnless(cmdexport, any ? "" : "No world is through yet.");
+    FillChances(lstsizes, SizesAtLast(worlds.Lives));
+    std::vector<std::vector<Chance>> chances;
+    for (const auto& lives : worlds.Lives) chances.push_back(ChancesOf(lives, *worlds.Morning));
+    if (any) FillChances(lstchances, chances);
+    lblpairs.Text = any ? PairsText(worlds) : std::string();
+    spread_.Show(std::move(worlds));
+  }
+
+  /// Who is ahead where chance was the same.
+  static std::string PairsText(const PlayedWorlds& worlds) {
+    const auto of = std::to_string(worlds.Lives.front().size());
+    const auto [image, noImage] = PairsWon(worlds.Lives, Measure::Image, *worlds.Morning);
+    const auto [money, noMoney] = PairsWon(worlds.Lives, Measure::Money, *worlds.Morning);
+    return "At last Yes has the higher image in " + std::to_string(image) + " of " + of +
+           " pairs of worlds and No in " + std::to_string(noImage) + "; more money Yes in " +
+           std::to_string(money) + " and No in " + std::to_string(noMoney) + ".";
+  }
+
+  void cmdexport_Click() {
+    const std::string wrote = ExportWorlds(game_, Worlds(), "What If", "what-if.csv");
+    if (!wrote.empty()) lblfacts.Text = wrote;
+  }
+
+  const WhatIf asked_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::Label lblquestion{*this, "lblquestion"};
+  ui::Label lblanswers{*this, "lblanswers"};
+  PlayingCard playing_{*this, game_, [this] { ShowWorlds(); }};
+  SpreadCard spread_{*this};
+  ui::ListBox lstsizes{*this, "lstsizes"};
+  ui::ListBox lstchances{*this, "lstchances"};
+  ui::Label lblpairs{*this, "lblpairs"};
+  ui::Label lblassumes{*this, "lblassumes"};
+  ui::Button cmdexport{*this, "cmdexport", "Export", &frmWhatIf::cmdexport_Click};
+};
+
+}  // namespace
+
+std::unique_ptr<ui::Screen> MakefrmWhatIf(Game& game, WhatIf asked) {
+  return std::make_unique<frmWhatIf>(game, std::move(asked));
+}
+
+void ConnectFutures(Game& game) {
+  game.OpenWhatIf = [&game](WhatIf asked) {
+    if (const std::string why = WhyNoFutures(game.World()); !why.empty())
+      return game.Desk().Say("What If", why);
+    game.Desk().Open(MakefrmWhatIf(game, std::move(asked)));
+  };
+}
+
+}  // namespace grapplemont

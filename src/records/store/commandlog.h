@@ -1,0 +1,44 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "records/store/changes.h"
+
+// What the player has done in a game that was begun with a seed: the world as it began, and every
+// command since, a line each. Both lie in the slot as files of it.
+
+namespace grapplemont {
+
+inline constexpr const char* kBeginningName = "beginning";
+inline constexpr const char* kCommandsName = "commands";
+/// A game of some hundred thousand clicks; who does more is recorded no further.
+inline constexpr std::int64_t kMostCommands = 8 << 20;
+/// The default world packs to a fortieth of it.
+inline constexpr std::int64_t kMostBeginning = 8 << 20;
+/// Where nothing more is recorded.
+inline constexpr std::string_view kCommandsFull = "full";
+
+/// The commands of a slot, in memory, with what the commit that is being made adds.
+class CommandLog {
+ public:
+  /// As it was stored; nothing for a game that records none.
+  explicit CommandLog(std::optional<Bytes> file = std::nullopt);
+  /// Of a game that begins.
+  static Bytes Empty();
+
+  bool Records() const { return records_; }
+  /// Each change belongs to a commit: Reach when that stands, PutBack when it does not.
+  void Add(std::string_view lines);
+  std::optional<FileChange> Change() const;
+  void Reach() { stored_ = file_.size(); }
+  void PutBack() { file_.resize(stored_); }
+
+ private:
+  Bytes file_;
+  std::size_t stored_ = 0;
+  bool records_ = false;
+};
+
+}  // namespace grapplemont

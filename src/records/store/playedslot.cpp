@@ -1,0 +1,255 @@
+#include "records/store/playedslot.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "records/fields/gameinfo.h"
+#include "records/store/knownfiles.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr const char* kMomentsSpoiled =
+    "What this game could go back to was spoiled from outside and is gone; the game itself is "
+    "whole.";
+
+std::vector<KnownFile> WithMoments(std::vector<KnownFile> known) {
+  if (FindFile(known, kMorningsName)) return known;
+  known.push_back({kMorningsName, kMostMornings});
+  known.push_back({kBeginningName, kMostBeginning});
+  known.push_back({kCommandsName, kMostCommands});
+  return known;
+}
+
+/// Of the one record of gameinfo.dat; the first day where it is none.
+Day DayIn(ByteSpan gameInfo) {
+  GameInfo game{};
+  if (gameInfo.size() < sizeof(game)) return Day{};
+  std::memcpy(&game, gameInfo.data(), sizeof(game));
+  return game.Today;
+}
+
+std::string_view GameFile() {
+  return LayoutOf<GameInfo>().File;
+}
+
+std::optional<Bytes> Stored(const std::map<std::string, Bytes>& files, const char* name) {
+  const auto found = files.find(name);
+  return found == files.end() ? std::nullopt : std::optional(found->second);
+}
+
+}  // namespace
+
+PlayedSlot::PlayedSlot(Disk& disk, std::string folder, Damage damage, const SlotOptions& options)
+    : PlayedSlot(disk, std::move(folder), KnownFiles(), damage, options) {}
+
+PlayedSlot::PlayedSlot(Disk& disk, std::string folder, std::vector<KnownFile> known, Damage damage,
+                       const SlotOptions& options, const PlayedQuirks& quirks)
+    : disk_(disk),
+      folder_(folder),
+      known_(WithMoments(std::move(known))),
+      slot_(disk, std::move(folder), known_, damage, options),
+      remarks_(slot_.Remarks()),
+      mornings_(Stored(slot_.Files(), kMorningsName)),
+      commands_(Stored(slot_.Files(), kCommandsName)),
+      quirks_(quirks) {
+  for (const auto& [name, contents] : slot_.Files())
+    if (!IsOwn(name)) digest_.Set(name, contents);
+  if (const auto game = slot_.Files().find(std::string(GameFile())); game != slot_.Files().end())
+    today_ = DayIn(game->second);
+  if (mornings_.WasSpoiled()) remarks_.push_back(kMomentsSpoiled);
+}
+
+/// What the slot keeps about its world is not of it.
+bool PlayedSlot::IsOwn(const std::string& name) {
+  return name == kMorningsName || name == kBeginningName || name == kCommandsName;
+}
+
+/// What a commit changes here is put back unless it comes to stand.
+class PlayedSlot::Ahead {
+ public:
+  explicit Ahead(PlayedSlot& slot, const std::vector<FileChange>& changes)
+      : slot_(slot), digest_(slot.digest_, changes) {}
+  ~Ahead() {
+    if (isReached_) return;
+    slot_.mornings_.PutBack();
+    slot_.commands_.PutBack();
+  }
+  Ahead(const Ahead&) = delete;
+  Ahead& operator=(const Ahead&) = delete;
+  void Reach() {
+    isReached_ = true;
+    slot_.mornings_.Reach();
+    slot_.commands_.Reach();
+    digest_.Reach();
+  }
+
+ private:
+  PlayedSlot& slot_;
+  DigestAhead digest_;
+  bool isReached_ = false;
+};
+
+/// The record files hold what was committed last, and the changes say where they will not. Nothing
+/// where they were changed from outside: then no moment leads on from here.
+std::optional<WayBack> PlayedSlot::WayBefore(const std::vector<FileChange>& changes) {
+  WayBack way;
+  for (const FileChange& change : changes) {
+    if (!change.ExistsBefore || change.LengthBefore == 0) {
+      way.push_back({change.Name, change.ExistsBefore, {}});
+      continue;
+    }
+    const OpenedFile file(disk_, folder_ + "/" + change.Name, false);
+    if (disk_.Size(file) != change.LengthBefore) return std::nullopt;
+    const KnownFile* known = FindFile(known_, change.Name);
+    way.push_back(BackFrom(change, known ? known->RecordBytes : 1,
+                           [&](std::int64_t offset, std::span<std::byte> buffer) {
+                             disk_.ReadAt(file, offset, buffer);
+                           }));
+  }
+  return way;
+}
+
+void PlayedSlot::Keep(const PlayedStep& step, const std::optional<WayBack>& way, Moment before,
+                      Day after, std::uint64_t digest) {
+  if (!mornings_.Keeps()) return;
+  if (!way) {
+    redo_.clear();
+    return mornings_.Clear();
+  }
+  const std::size_t count = mornings_.Count();
+  const bool wasClick = IsLastOfToday();
+  if (step.Is == PlayedStep::Undo && wasClick && mornings_[count - 1].Digest == digest) {
+    redo_.push_back({mornings_[count - 1].Name, *way, before.Digest});
+    return mornings_.DropLast();
+  }
+  if (step.Is == PlayedStep::Redo && !redo_.empty()) {
+    redo_.pop_back();
+  } else {
+    redo_.clear();
+  }
+  if (step.GoesOn && wasClick && mornings_[count - 1].Name == before.Name && after == before.On) {
+    if (const auto last = mornings_.WayTo(count - 1)) {
+      if (auto both = Joined(*way, *last)) {
+        before.Digest = mornings_[count - 1].Digest;
+        mornings_.DropLast();
+        return mornings_.Add(std::move(before), *both, after);
+      }
+    }
+  }
+  mornings_.Add(std::move(before), *way, after);
+}
+
+void PlayedSlot::Write(const std::vector<FileChange>& changes) {
+  try {
+    slot_.Commit(changes);
+  } catch (const DiskError&) {
+    unsure_ = true;
+    committed_ = slot_.Committed();
+    throw;
+  }
+  committed_ = true;
+}
+
+void PlayedSlot::WriteWithMoments(std::vector<FileChange> changes) {
+  if (quirks_.Apart) Write(std::exchange(changes, {}));
+  if (auto change = mornings_.Change()) changes.push_back(*std::move(change));
+  if (auto change = commands_.Change()) changes.push_back(*std::move(change));
+  Write(changes);
+}
+
+/// Whether the last moment is the one before a click of today.
+bool PlayedSlot::IsLastOfToday() const {
+  if (mornings_.Count() == 0) return false;
+  const Moment& last = mornings_[mornings_.Count() - 1];
+  return last.On == today_ && (last.Is == MomentKind::Click || last.Is == MomentKind::Morning);
+}
+
+void PlayedSlot::Commit(const std::vector<FileChange>& changes, const PlayedStep& step) {
+  committed_ = false;
+  if (changes.empty()) return Write(changes);
+  // After a fault the record files are what the journal says only once they have been mended. And
+  // of a journal that leads to an earlier day than files have, only the last road left may tell.
+  if (unsure_ || step.Is == PlayedStep::Left) {
+    slot_.Checkpoint();
+    unsure_ = false;
+  }
+  Moment before{MomentKind::Click, today_, digest_.Value(), step.Name, {}};
+  const auto way = mornings_.Keeps() ? WayBefore(changes) : std::nullopt;
+  Ahead ahead(*this, changes);
+  redoBefore_ = redo_;
+  Day after = today_;
+  for (const FileChange& change : changes)
+    if (change.Name == GameFile()) after = DayIn(change.After);
+  if (step.Is == PlayedStep::Left) {
+    before.Is = MomentKind::Left;
+    before.Target = after;
+  }
+  Keep(step, way, std::move(before), after, digest_.Value());
+  commands_.Add(step.Commands);
+  const auto reach = [&] {
+    ahead.Reach();
+    today_ = after;
+  };
+  try {
+    WriteWithMoments(changes);
+  } catch (const DiskError&) {
+    if (committed_)
+      reach();
+    else
+      redo_ = redoBefore_;
+    throw;
+  }
+  reach();
+}
+
+void PlayedSlot::Name(const std::string& name) {
+  if (!mornings_.Keeps()) return;
+  Ahead ahead(*this, {});
+  mornings_.Add({MomentKind::Named, today_, digest_.Value(), name, {}}, {}, today_);
+  WriteOwn(ahead);
+}
+
+void PlayedSlot::Record(const std::string& commands) {
+  Ahead ahead(*this, {});
+  commands_.Add(commands);
+  WriteOwn(ahead);
+}
+
+void PlayedSlot::WriteOwn(Ahead& ahead) {
+  committed_ = false;
+  try {
+    WriteWithMoments({});
+  } catch (const DiskError&) {
+    if (committed_) ahead.Reach();
+    throw;
+  }
+  ahead.Reach();
+}
+
+std::string PlayedSlot::WhatToUndo() const {
+  return IsLastOfToday() ? mornings_[mornings_.Count() - 1].Name : std::string();
+}
+
+std::string PlayedSlot::WhatToRedo() const {
+  return redo_.empty() ? std::string() : redo_.back().Name;
+}
+
+bool PlayedSlot::Restore(const WayBack& way, std::uint64_t digest,
+                         std::map<std::string, Bytes>& files) const {
+  if (!GoBack(way, files, [this](const std::string& name) {
+        const KnownFile* known = FindFile(known_, name);
+        return known ? known->MaxBytes : 0;
+      }))
+    return false;
+  std::map<std::string, FileDigest> all = digest_.Files();
+  WorldDigest restored;
+  for (const FileBack& file : way) all.erase(file.Name);
+  for (const auto& [name, digested] : all) restored.Set(name, digested.Value());
+  for (const auto& [name, contents] : files)
+    if (std::ranges::find(way, name, &FileBack::Name) != way.end()) restored.Set(name, contents);
+  return restored.Value() == digest;
+}
+
+}  // namespace grapplemont

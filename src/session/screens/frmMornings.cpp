@@ -1,0 +1,118 @@
+#include <algorithm>
+
+#include "records/fields/wording.h"
+#include "records/store/playedslot.h"
+#include "records/world.h"
+#include "storylines/screens/screenpeople.h"
+#include "ui/game.h"
+#include "ui/goingback.h"
+
+namespace grapplemont {
+
+namespace {
+
+constexpr std::size_t kLongestName = 40;
+
+std::string_view KindOf(const Moment& moment) {
+  switch (moment.Is) {
+    case MomentKind::Named:
+      return "Named";
+    case MomentKind::Left:
+      return "A road left";
+    default:
+      return "Morning";
+  }
+}
+
+/// What the game can go back to.
+class frmMornings : public GameScreen {
+ public:
+  explicit frmMornings(Game& game) : GameScreen(game, "frmMornings", "Back In Time") {
+    lstmornings.EmptyText = "Nothing yet: the first morning is kept with the first click.";
+    lblkept.Text =
+        "Kept are the mornings of the last week, the firsts of the last twelve months, what you "
+        "name, and each road that you leave. The oldest go when 4 MB are full.";
+    lblkept.Colour = ui::Tone::Muted;
+  }
+
+  ui::Page Layout() override {
+    return PageOf(ui::Rows({ui::Grow(lstmornings), lblkept}), &lblfacts,
+                  {&cmdundo, &cmdredo, &cmdname}, &cmdgo);
+  }
+
+  void Return() override {
+    past_ = PastMoments(game_);
+    lstmornings.Clear();
+    for (std::size_t i = 0; i < past_.size(); ++i) Add(past_[i], static_cast<int>(i) + 1);
+    const std::string why = WhyNoWayBack(game_);
+    lblfacts.Text = why.empty() ? "Choose where to go back to. What you leave is kept, and you can "
+                                  "return to it."
+                                : why;
+    EnableUnless(cmdname, why);
+    ShowClick(cmdundo, "Undo", desk().Undo, "Nothing was done today that can be taken back.");
+    ShowClick(cmdredo, "Redo", desk().Redo, "Nothing was taken back.");
+    lstmornings_Click();
+  }
+
+ private:
+  void Add(const PastMoment& past, int key) {
+    const int day = static_cast<int>((past.Of.On - kDayZero).count());
+    lstmornings.Add({ui::Cell(day, LongDate(past.Of.On)), ui::Cell(std::string(KindOf(past.Of))),
+                     past.Of.Is == MomentKind::Named ? past.Of.Name : std::string(),
+                     std::string(past.OnOtherRoad ? "another" : "this"), ui::Cell(past.Image),
+                     SinceText(game_, past)},
+                    key);
+  }
+
+  static void ShowClick(ui::Button& button, const std::string& caption,
+                        const ui::Desk::TakingBack& back, const char* none) {
+    const std::string what = back.What ? back.What() : std::string();
+    button.Text = what.empty() ? caption : caption + ": " + what;
+    EnableUnless(button, what.empty() ? none : "");
+  }
+
+  const PastMoment* Chosen() const {
+    const auto place = static_cast<std::size_t>(lstmornings.Key());
+    return place >= 1 && place <= past_.size() ? &past_[place - 1] : nullptr;
+  }
+
+  void lstmornings_Click() { EnableUnless(cmdgo, Chosen() ? "" : "Choose a morning first."); }
+
+  void cmdgo_Click() {
+    if (const PastMoment* chosen = Chosen()) AskAndGoBack(game_, PastMoment(*chosen));
+  }
+
+  void cmdname_Click() {
+    std::string name(detail::Trimmed(
+        desk().Prompt("Name This Moment", "What is it to be called?", "before the Event")));
+    if (name.empty()) return;
+    game_.Commit();
+    game_.OpenedSlot().Name(name.substr(0, kLongestName));
+    Return();
+  }
+
+  using K = ui::ColumnKind;
+  std::vector<PastMoment> past_;
+  ui::Label lblfacts{*this, "lblfacts"};
+  ui::ListBox lstmornings{*this,
+                          "lstmornings",
+                          {{"Day", K::Number},
+                           {"Kind", K::Tag},
+                           {"Name"},
+                           {"Road", K::Tag, 0, "Another is one that you left for an earlier day."},
+                           {"Image", K::Percent},
+                           {.Title = "What has happened since", .Width = 4}},
+                          &frmMornings::lstmornings_Click,
+                          &frmMornings::cmdgo_Click};
+  ui::Label lblkept{*this, "lblkept"};
+  ui::Button cmdundo{*this, "cmdundo", "Undo", [this] { desk().Take(desk().Undo); }};
+  ui::Button cmdredo{*this, "cmdredo", "Redo", [this] { desk().Take(desk().Redo); }};
+  ui::Button cmdname{*this, "cmdname", "Name This Moment", &frmMornings::cmdname_Click};
+  ui::Button cmdgo{*this, "cmdgo", "Go Back", &frmMornings::cmdgo_Click};
+};
+
+}  // namespace
+
+SCREEN(frmMornings)
+
+}  // namespace grapplemont

@@ -1,0 +1,296 @@
+#include "tools/replay.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <deque>
+#include <filesystem>
+#include <ostream>
+
+#include "program/screens.h"
+#include "records/fields/charset.h"
+#include "records/fields/fields.h"
+#include "records/fields/wording.h"
+#include "records/store/commandlog.h"
+#include "records/store/mornings.h"
+#include "records/store/slotcare.h"
+#include "tools/commands.h"
+#include "ui/acts.h"
+#include "ui/asnumber.h"
+
+namespace grapplemont::tools {
+
+namespace {
+
+constexpr int kReplaySlot = 1;
+
+/// Takes the first word and the blank behind it off the front.
+std::string NextWord(std::string_view& line) {
+  const std::string word(line.substr(0, line.find(' ')));
+  line.remove_prefix(std::min(line.size(), word.size() + 1));
+  return word;
+}
+
+/// What was put on one line.
+std::string Lines(std::string_view typed) {
+  std::string text;
+  for (std::size_t i = 0; i < typed.size(); ++i) {
+    const bool escaped = typed[i] == '\\' && i + 1 < typed.size();
+    if (escaped) ++i;
+    text += escaped && typed[i] == 'n' ? '\n' : typed[i];
+  }
+  return text;
+}
+
+/// A desk where a record sits: it answers boxes, and a box that it has no answer to is a fault.
+class RecordedDesk : public ui::Desk {
+ public:
+  explicit RecordedDesk(std::string_view commands) {
+    for (std::size_t at = 0; at < commands.size();) {
+      const std::size_t end = std::min(commands.find('\n', at), commands.size());
+      lines_.emplace_back(commands.substr(at, end - at));
+      at = end + 1;
+    }
+    if (!lines_.empty()) lines_.pop_front();  // says what the file is
+  }
+  void Say(const std::string&, const std::string& text) override { Answer("ok", text); }
+  bool Ask(const std::string&, const std::string& text, ui::Default) override {
+    return Answer("yes|no", text) == "yes";
+  }
+  std::string Prompt(const std::string&, const std::string& text, const std::string&) override {
+    const std::string answer = Answer("enter|cancel", text);
+    return answer.starts_with("enter ") ? answer.substr(6) : std::string();
+  }
+
+  /// The next line; nothing at the end or at a fault.
+  std::optional<std::string> Next() {
+    if (lines_.empty() || !Fault.empty()) return std::nullopt;
+    ++Done;
+    std::string line = std::move(lines_.front());
+    lines_.pop_front();
+    return line;
+  }
+  void Wrong(const std::string& why) {
+    if (Fault.empty()) Fault = "command " + std::to_string(Done) + ": " + why;
+  }
+
+  int Done = 0;
+  std::string Fault;
+
+ private:
+  std::string Answer(std::string_view wanted, const std::string& text) {
+    const auto line = Next();
+    if (!line) return {};
+    const std::string first = line->substr(0, line->find(' '));
+    for (std::size_t at = 0; at <= wanted.size();) {
+      const std::size_t end = std::min(wanted.find('|', at), wanted.size());
+      if (wanted.substr(at, end - at) == first) return *line;
+      at = end + 1;
+    }
+    Wrong("\"" + *line + "\" is no answer to \"" + text + "\"");
+    return {};
+  }
+
+  std::deque<std::string> lines_;
+};
+
+class Player {
+ public:
+  Player(Disk& disk, RecordedDesk& desk, std::string home, std::string share)
+      : disk_(disk), desk_(desk), home_(std::move(home)), share_(std::move(share)) {}
+  ~Player() { Leave(); }
+  Player(const Player&) = delete;
+  Player& operator=(const Player&) = delete;
+
+  void Do(std::string_view line) {
+    const std::string whole(line);
+    std::string verb = NextWord(line);
+    if (verb == "session") return Begin(line);
+    if (verb == kCommandsFull) return desk_.Wrong("nothing more was recorded");
+    if (!game_ || !desk_.Top())
+      return desk_.Wrong("\"" + whole + "\" stands where no game is open");
+    ui::Screen* screen = desk_.Top();
+    if (verb == "on") {
+      const std::string name = NextWord(line);
+      for (const auto& open : desk_.Screens())
+        if (open->Name() == name) screen = open.get();
+      verb = NextWord(line);
+    }
+    if (const std::string why = Act(*screen, verb, line); !why.empty())
+      desk_.Wrong("\"" + whole + "\" on " + screen->Name() + ": " + why);
+  }
+  void Leave() {
+    if (!game_) return;
+    desk_.CloseAll();
+    game_->CloseSlot();
+    game_.reset();
+  }
+
+ private:
+  void Begin(std::string_view line) {
+    Leave();
+    const std::string seed = NextWord(line);
+    const auto today = ParseIsoDate(std::string(line));
+    if (seed.empty() || seed.size() > 20 || !std::ranges::all_of(seed, IsDigit) || !today)
+      return desk_.Wrong("a session without a seed and a day");
+    Game::Options options;
+    options.Home = home_;
+    options.Share = share_;
+    options.Seed = std::stoull(seed);
+    options.Worlds = 1;  // a look ahead changes nothing
+    options.Today = [day = *today] { return day; };
+    game_ = std::make_unique<Game>(desk_, disk_, options);
+    RegisterScreens(*game_);
+    game_->OpenSlot(kReplaySlot);
+    desk_.Open("frmMainScreen");
+  }
+  static bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
+
+  std::string Act(ui::Screen& screen, const std::string& verb, std::string_view rest) {
+    if (verb == "undo" || verb == "redo")
+      return desk_.Take(verb == "undo" ? desk_.Undo : desk_.Redo).empty() ? "nothing to take" : "";
+    if (verb == "explain")
+      return (rest.empty() ? desk_.OpenHelp() : desk_.OpenGlossary(rest)) ? "" : "no help";
+    if (verb == "follow") return ui::Follow(desk_, screen, Lines(rest));
+    if (verb == "visit") return Visit(rest);
+    const std::string name = NextWord(rest);
+    if (verb == "click") return ui::Click(desk_, screen, name);
+    if (verb == "type") return ui::Type(desk_, screen, name, Lines(rest));
+    if (verb == "check") return ui::Check(desk_, screen, name, rest == "on");
+    std::vector<int> numbers;
+    while (!rest.empty()) {
+      const auto number = ui::AsNumber(NextWord(rest));
+      if (!number) return "no number stands there";
+      numbers.push_back(*number);
+    }
+    if (verb == "rows") return ui::PickRows(desk_, screen, name, numbers);
+    const std::size_t wanted = verb == "move" ? 2 : 1;
+    if (numbers.size() != wanted) return "a number is missing or too many";
+    if (verb == "pick") return ui::Pick(desk_, screen, name, numbers[0]);
+    if (verb == "also") return ui::PickToo(desk_, screen, name, numbers[0]);
+    if (verb == "open") return ui::OpenRow(desk_, screen, name, numbers[0]);
+    if (verb == "slide") return ui::Slide(desk_, screen, name, numbers[0]);
+    if (verb == "move") return ui::MoveRow(desk_, screen, name, numbers[0], numbers[1]);
+    return "there is no such command";
+  }
+
+  std::string Visit(std::string_view what) {
+    constexpr std::size_t kMost = 10000;
+    const std::size_t colon = what.find(": ");
+    if (colon == what.npos) return "it does not say what";
+    const std::string_view words = what.substr(colon + 2);
+    for (const ui::Finding& found : desk_.NewSearch()(words, kMost))
+      if (found.Heading == what.substr(0, colon) && found.Words == words) {
+        desk_.Visit(ui::Finding(found));
+        return {};
+      }
+    return "nothing is called so";
+  }
+
+  Disk& disk_;
+  RecordedDesk& desk_;
+  std::string home_, share_;
+  std::unique_ptr<Game> game_;
+};
+
+const NewFile* FileNamed(const std::vector<NewFile>& files, std::string_view name) {
+  const auto found = std::ranges::find(files, name, &NewFile::Name);
+  return found == files.end() ? nullptr : &*found;
+}
+
+World WorldOf(const std::vector<NewFile>& files) {
+  std::map<std::string, Bytes> contents;
+  for (const NewFile& file : files) contents.emplace(file.Name, file.Contents);
+  World world;
+  world.Load(contents);
+  return world;
+}
+
+/// The first record and field that differ; where none does, the first file that does.
+std::string DifferenceOf(const World& played, const World& kept) {
+  if (const std::string field = FirstDifference(played, kept); !field.empty()) return field;
+  const auto ofPlayed = played.Tables(), ofKept = kept.Tables();
+  for (std::size_t i = 0; i < ofPlayed.size(); ++i)
+    if (ofPlayed[i]->Exists() != ofKept[i]->Exists() ||
+        !std::ranges::equal(ofPlayed[i]->Contents(), ofKept[i]->Contents()))
+      return std::string(ofPlayed[i]->File()) + " is not the same.";
+  return {};
+}
+
+}  // namespace
+
+Replayed Replay(Disk& disk, const std::vector<NewFile>& files, const std::string& home,
+                const std::string& share) {
+  const NewFile* const beginning = FileNamed(files, kBeginningName);
+  const NewFile* const commands = FileNamed(files, kCommandsName);
+  if (!beginning || !commands)
+    throw WorldFault(
+        "Nothing was recorded in this game: only a game that was begun with a seed can be played "
+        "again.");
+  auto start = UnpackSlot(beginning->Contents, kBeginningName);
+  start.push_back({kBeginningName, beginning->Contents});
+  start.push_back({kCommandsName, CommandLog::Empty()});
+  const std::string slot = home + "/s" + std::to_string(kReplaySlot);
+  Slot::Create(disk, slot, start, 1);
+  RecordedDesk desk(
+      {reinterpret_cast<const char*>(commands->Contents.data()), commands->Contents.size()});
+  {
+    Player player(disk, desk, home, share);
+    while (const auto line = desk.Next()) player.Do(*line);
+  }
+  Replayed replayed{desk.Done, desk.Fault, {}};
+  if (desk.Fault.empty())
+    replayed.Difference = DifferenceOf(WorldOf(ReadSlot(disk, slot)), WorldOf(files));
+  return replayed;
+}
+
+namespace {
+
+/// A folder for as long as a career is played again.
+class PassingFolder {
+ public:
+  PassingFolder()
+      : path_((std::filesystem::temp_directory_path() /
+               ("grapplemont-replay-" + std::to_string(getpid())))
+                  .string()) {
+    std::filesystem::create_directory(path_);
+  }
+  ~PassingFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  PassingFolder(const PassingFolder&) = delete;
+  PassingFolder& operator=(const PassingFolder&) = delete;
+  const std::string& Path() const { return path_; }
+
+ private:
+  std::string path_;
+};
+
+int ReplayFile(const Arguments& arguments, Shell& shell) {
+  const auto disk = RealDisk(Syncs::None);
+  const std::string& path = arguments.Place(0);
+  const auto bytes = ReadWithin(*disk, path, MostPackedBytes());
+  if (!bytes) throw WorldFault(path + " is longer than any game.");
+  const auto files = UnpackSlot(*bytes, path);
+  const PassingFolder home;
+  const Home share = HomeAt(*disk, home.Path(), shell.Where);
+  const Replayed replayed = Replay(*disk, files, home.Path(), share.Share);
+  if (!replayed.Fault.empty()) throw WorldFault("It cannot be played again: " + replayed.Fault);
+  if (!replayed.Difference.empty())
+    throw WorldFault("Played again it comes out differently: " + replayed.Difference);
+  shell.Out << path << ": " << Counted(static_cast<std::size_t>(replayed.Commands), "command")
+            << " played again, and every byte of the world is the same.\n";
+  return 0;
+}
+
+}  // namespace
+
+const Command kReplay{"replay",
+                      "FILE",
+                      "Plays a game that was begun with a seed again from its exported file, and "
+                      "says whether it comes to the same bytes or what the first difference is.",
+                      {},
+                      ReplayFile};
+
+}  // namespace grapplemont::tools

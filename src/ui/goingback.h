@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "records/store/mornings.h"
+#include "ui/game.h"
+
+// Back in time within a game that is being played. What is done here is kept by the commit at the
+// end of the event.
+
+namespace grapplemont {
+
+struct Promotion;
+
+/// A moment of the open slot, and what became of the player's promotion since.
+struct PastMoment {
+  std::size_t Number;  // of the slot's moments
+  Moment Of;
+  bool OnOtherRoad = false;  // of days that were left to go back to an earlier one
+  int Image = 0;             // of the promotion that the player had
+  long long Money = 0;       // dollars
+  std::string Promotion;     // its name
+};
+
+/// What the open game can go back to, the latest first: mornings, what the player has named, and
+/// where a road was left. Empty for a game that never goes back.
+std::vector<PastMoment> PastMoments(Game& game);
+/// "The morning of Tuesday, 05 May 2026", "before the Event (...)", "The road you left on ...".
+std::string MomentText(const Moment& moment);
+/// What has happened since, in a line: how image and money have moved, the shows held.
+std::string SinceText(Game& game, const PastMoment& moment);
+/// Why there is no way back in this game; empty where there is one.
+std::string WhyNoWayBack(Game& game);
+
+/// Takes the world to the moment of this number, and the player to the main screen. What the world
+/// is now becomes a moment itself. Throws WorldFault where the moment cannot be made of the files.
+void GoBackTo(Game& game, std::size_t moment);
+/// Asks first; false when the player would rather stay.
+bool AskAndGoBack(Game& game, const PastMoment& moment);
+
+/// Tells the desk how clicks of today are taken back and done again.
+void ConnectGoingBack(Game& game);
+
+}  // namespace grapplemont
