@@ -60,9 +60,8 @@ std::vector<Hand::Way> Hand::WaysOn(const ui::Screen& screen) {
 }
 
 /// What was done least is liked most.
-std::string Hand::OneOf(ui::Screen& screen, const std::vector<Way>& ways) {
+std::string Hand::OneOf(const ui::Page& page, const std::vector<Way>& ways) {
   constexpr std::uint64_t kUnit = 1000;
-  const ui::Page page = screen.Layout();
   std::vector<std::uint64_t> sums;
   std::uint64_t sum = 0;
   for (const Way& way : ways) {
@@ -113,25 +112,20 @@ std::string Hand::Visit(ui::Desk& desk) {
 std::string Hand::Aside(ui::Desk& desk) {
   constexpr const char* kForms[] = {"share markdown", "share html", "share bbcode"};
   constexpr int kRare = 12;  // percent
-  const std::string on = desk.Top()->Name() + " ";
-  const auto done = [&](const char* what, std::string line) {
-    ++covered_.Of(on + "anywhere " + what).Done;
-    return line;
-  };
-  if (Percent(kRare)) return Percent(50) ? done("session", "session") : done("killed", "killed");
+  if (Percent(kRare)) return Percent(50) ? "session" : "killed";
   switch (Pick(chance_, 6)) {
     case 0:
-      return done("undo", "undo");
+      return "undo";
     case 1:
-      return done("redo", "redo");
+      return "redo";
     case 2:
-      return done("explain", "explain");
+      return "explain";
     case 3:
-      return done("follow", Follow(desk));
+      return Follow(desk);
     case 4:
-      return done("visit", Visit(desk));
+      return Visit(desk);
     default:
-      return done("share", kForms[Pick(chance_, std::size(kForms))]);
+      return kForms[Pick(chance_, std::size(kForms))];
   }
 }
 
@@ -143,7 +137,7 @@ std::string Hand::Next(Sitting& sitting) {
   const ui::Page page = top.Layout();
   if (const ui::Button* on = Onwards(page); on && Percent(onwards_)) return Press(top, on);
   if (CanBePressed(page.Cancel) && Percent(back_)) return Press(top, page.Cancel);
-  return ways.empty() ? Aside(desk) : OneOf(top, ways);
+  return ways.empty() ? Aside(desk) : OneOf(page, ways);
 }
 
 std::string Hand::AnswerTo(const Question& box) {
@@ -180,7 +174,7 @@ void Hand::GoHome(Sitting& sitting) {
     const ui::Button* button = turn == 0 ? back : turn == 1 ? Onwards(page) : nullptr;
     if (step < 30) path += " " + top.Name();
     if (!button && ways.empty()) break;
-    sitting.Do(button ? Press(top, button) : OneOf(top, ways));
+    sitting.Do(button ? Press(top, button) : OneOf(page, ways));
   }
   if (!IsHome(desk))
     throw FoundFault("dead end from " + from, "From " + from +

@@ -32,7 +32,7 @@ class Hand {
   };
   bool Percent(int share) { return Pick(chance_, 100) < static_cast<std::uint64_t>(share); }
   std::vector<Way> WaysOn(const ui::Screen& screen);
-  std::string OneOf(ui::Screen& screen, const std::vector<Way>& ways);
+  std::string OneOf(const ui::Page& page, const std::vector<Way>& ways);
   std::string Press(const ui::Screen& screen, const ui::Button* button);
   std::string Aside(ui::Desk& desk);
   std::string Visit(ui::Desk& desk);

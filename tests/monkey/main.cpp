@@ -36,6 +36,8 @@ struct Wanted {
   std::optional<Data> World = {};
   Limits Held = {};
   bool Names = false;
+
+  Data DataFor(std::uint64_t seed) const { return World.value_or(DataOf(seed)); }
 };
 
 void ReadSeeds(const Arguments& arguments, Wanted& wanted) {
@@ -119,7 +121,7 @@ class Sum {
     kinds_.try_emplace(record.Kind, seed, record);
   }
   void CutDownAndTell(std::uint64_t seed, const Record& record) const {
-    const Data data = wanted_.World.value_or(DataOf(seed));
+    const Data data = wanted_.DataFor(seed);
     const auto fewest = CutDown(record, HomeOf(data, seed), wanted_.Held, wanted_.Tries);
     if (fewest.empty())
       std::cout << "Seed " << seed << ": the same steps did not lead to it again.\n" << std::endl;
@@ -139,15 +141,23 @@ class Sum {
   int faults_ = 0;
 };
 
+/// What is the same for many seeds is made once, before the processes part.
+std::map<Data, CutDisk> HomesOf(const Wanted& wanted) {
+  std::map<Data, CutDisk> homes;
+  for (std::uint64_t seed = wanted.First; seed <= wanted.Last && homes.size() < 2; ++seed)
+    if (const Data data = wanted.DataFor(seed); data != Data::Random && !homes.contains(data))
+      homes.emplace(data, HomeOf(data, seed));
+  return homes;
+}
+
 int PlayAll(const Wanted& wanted) {
   const auto begin = std::chrono::steady_clock::now();
-  // What is the same for many seeds is made once, before the processes part.
-  const CutDisk small = HomeOf(Data::Small, 0), whole = HomeOf(Data::Default, 0);
+  const auto homes = HomesOf(wanted);
   const auto play = [&](int number, Paper& paper) {
     const Run run{wanted.First + static_cast<std::uint64_t>(number), wanted.Clicks, wanted.Held};
-    const Data data = wanted.World.value_or(DataOf(run.Seed));
+    const Data data = wanted.DataFor(run.Seed);
     if (data == Data::Random) return Play(run, HomeOf(data, run.Seed), paper);
-    Play(run, data == Data::Small ? small : whole, paper);
+    Play(run, homes.at(data), paper);
   };
   std::map<int, Record> ended;
   int next = 0;

@@ -6,7 +6,6 @@
 
 #include <cctype>
 #include <cstdlib>
-#include <set>
 
 #include "monkey/arranging.h"
 #include "monkey/steps.h"
@@ -21,7 +20,7 @@ namespace grapplemont::test {
 namespace {
 
 constexpr int kMostBoxes = 2000, kWorlds = 2;
-constexpr unsigned kPatience = 120;  // seconds for one step
+constexpr unsigned kPatience = 600;  // seconds for one step
 constexpr int kMemoryEvery = 64;     // steps
 
 std::string TypeOf(const std::exception& fault) {
@@ -139,6 +138,7 @@ void Sitting::Start() {
   RegisterScreens(*game_);
   game_->Kept = [this](const std::vector<FileChange>&) { moved_ = true; };
   desk_.Open("frmTitleScreen");
+  if (desk_.Empty()) throw FoundFault("no start", "The program does not start any more.");
 }
 
 void Sitting::End(bool inOrder) {
@@ -181,6 +181,7 @@ std::string Sitting::Do(const std::string& line) {
   desk_.Begin();
   try {
     std::string refusal = Perform(line);
+    if (limits_.Breaks) limits_.Breaks(*this);
     if (found_) throw FoundFault(*found_);
     if (desk_.Empty()) {  // the player has left
       End(true);

@@ -54,9 +54,13 @@ class FoundFault : public std::runtime_error {
   std::string Kind;
 };
 
+class Sitting;
+
 /// What a sitting is held to.
 struct Limits {
   long Megabytes = 0;  // the most memory of the process; 0 for any
+  /// For tests of the monkey itself: runs after each step and breaks what must be noticed.
+  std::function<void(Sitting& sitting)> Breaks = {};
 };
 
 /// A program that is played in a home in memory, from its start on, and looked at after each step.
