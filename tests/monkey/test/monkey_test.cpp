@@ -48,7 +48,7 @@ TEST(AMonkey, FindsABrokenWorldAndTheShortWayThere) {
   const Limits limits = OnTheThirdDay(EmployNobodyKnowsWho);
   const Record record = Clicked(2000, limits);
   ASSERT_NE(record.Fault.find("wrestler.dat, record 1"), std::string::npos) << record.Fault;
-  const auto fewest = CutDown(record, SmallHome(), limits, 400);
+  const auto fewest = CutDown(record, SmallHome(), limits, 250);
   // Seven clicks begin a game, and a day takes one or two.
   EXPECT_GE(fewest.size(), 9u);
   EXPECT_LE(fewest.size(), 14u);
