@@ -157,7 +157,7 @@ std::string Click(Desk& desk, Screen& screen, std::string_view name) {
     if (control.Is() == Kind::OptionButton) return Check(desk, screen, name, true);
     if (!button && !(picture && picture->OnClick)) return CannotBe(control, "clicked");
     // What a clock presses by itself is no act of the player's.
-    if (!button || button->Every == 0) Note(desk, screen, control, "click");
+    if (!button || (button->Every == 0 && !button->Fleeting)) Note(desk, screen, control, "click");
     desk.Event(button ? button->OnClick : picture->OnClick);
     return {};
   });

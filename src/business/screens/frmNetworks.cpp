@@ -93,6 +93,7 @@ class frmTvOffer : public GameScreen {
  private:
   void ShowNone() {
     lblfacts.Text = "No network has made us an offer.";
+    for (ui::Label* term : {&txtnetwork, &txtlength, &txttime, &txtaudience}) term->Text = "None";
     EnableUnless({cmdaccept, cmdreject, cmdwhatif}, "There is no offer on the table.");
   }
 

@@ -66,6 +66,7 @@ PlayingCard::PlayingCard(ui::Screen& screen, Game& game, ui::Handler show)
   cmdlook.Plain = true;
   cmdlook.Tip = "Shows what the worlds that are through come to; it looks by itself, too.";
   lbldone.Fleeting = true;
+  cmdstop.Fleeting = true;
   Clear();
 }
 

@@ -125,6 +125,7 @@ void PlayedSlot::Keep(const PlayedStep& step, const std::optional<WayBack>& way,
     return mornings_.DropLast();
   }
   if (step.Is == PlayedStep::Redo && !redo_.empty()) {
+    before.Name = std::move(redo_.back().Name);
     redo_.pop_back();
   } else {
     redo_.clear();
