@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <charconv>
 #include <deque>
 #include <filesystem>
 #include <ostream>
@@ -12,35 +13,20 @@
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/store/commandlog.h"
-#include "records/store/mornings.h"
+#include "records/store/digest.h"
+#include "records/store/playedslot.h"
 #include "records/store/slotcare.h"
+#include "session/slots.h"
 #include "tools/commands.h"
-#include "ui/acts.h"
-#include "ui/asnumber.h"
+#include "tools/confineddisk.h"
+#include "tools/recordedacts.h"
+#include "ui/goingback.h"
 
 namespace grapplemont::tools {
 
 namespace {
 
 constexpr int kReplaySlot = 1;
-
-/// Takes the first word and the blank behind it off the front.
-std::string NextWord(std::string_view& line) {
-  const std::string word(line.substr(0, line.find(' ')));
-  line.remove_prefix(std::min(line.size(), word.size() + 1));
-  return word;
-}
-
-/// What was put on one line.
-std::string Lines(std::string_view typed) {
-  std::string text;
-  for (std::size_t i = 0; i < typed.size(); ++i) {
-    const bool escaped = typed[i] == '\\' && i + 1 < typed.size();
-    if (escaped) ++i;
-    text += escaped && typed[i] == 'n' ? '\n' : typed[i];
-  }
-  return text;
-}
 
 /// A desk where a record sits: it answers boxes, and a box that it has no answer to is a fault.
 class RecordedDesk : public ui::Desk {
@@ -54,12 +40,24 @@ class RecordedDesk : public ui::Desk {
     if (!lines_.empty()) lines_.pop_front();  // says what the file is
   }
   void Say(const std::string&, const std::string& text) override { Answer("ok", text); }
-  bool Ask(const std::string&, const std::string& text, ui::Default) override {
+  bool Ask(const std::string& title, const std::string& text, ui::Default) override {
+    if (title == "Replace?") return true;  // ChooseFile has its answer
     return Answer("yes|no", text) == "yes";
   }
   std::string Prompt(const std::string&, const std::string& text, const std::string&) override {
     const std::string answer = Answer("enter|cancel", text);
     return answer.starts_with("enter ") ? answer.substr(6) : std::string();
+  }
+
+  /// Whether a file was there already is of the player's machine: where it was asked, the answer
+  /// stands right behind the name.
+  std::string ChooseFile(const std::string& title, const std::string& text,
+                         const std::string& offered, Use use) override {
+    const std::string path = Prompt(title, text, offered);
+    if (use == Use::Read || path.empty() || lines_.empty()) return path;
+    const bool may = lines_.front() != "no";
+    if (lines_.front() == "yes" || !may) Next();
+    return may ? path : std::string();
   }
 
   /// The next line; nothing at the end or at a fault.
@@ -106,6 +104,7 @@ class Player {
     const std::string whole(line);
     std::string verb = NextWord(line);
     if (verb == "session") return Begin(line);
+    if (verb == kCommandRenamed) return Rename(line);
     if (verb == kCommandsFull) return desk_.Wrong("nothing more was recorded");
     if (!game_ || !desk_.Top())
       return desk_.Wrong("\"" + whole + "\" stands where no game is open");
@@ -146,32 +145,19 @@ class Player {
   }
   static bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
 
+  /// While nobody plays it.
+  void Rename(std::string_view name) {
+    Leave();
+    RenameSlot(disk_, home_ + "/s" + std::to_string(kReplaySlot), name);
+  }
+
   std::string Act(ui::Screen& screen, const std::string& verb, std::string_view rest) {
-    if (verb == "undo" || verb == "redo")
-      return desk_.Take(verb == "undo" ? desk_.Undo : desk_.Redo).empty() ? "nothing to take" : "";
-    if (verb == "explain")
-      return (rest.empty() ? desk_.OpenHelp() : desk_.OpenGlossary(rest)) ? "" : "no help";
-    if (verb == "follow") return ui::Follow(desk_, screen, Lines(rest));
-    if (verb == "visit") return Visit(rest);
-    const std::string name = NextWord(rest);
-    if (verb == "click") return ui::Click(desk_, screen, name);
-    if (verb == "type") return ui::Type(desk_, screen, name, Lines(rest));
-    if (verb == "check") return ui::Check(desk_, screen, name, rest == "on");
-    std::vector<int> numbers;
-    while (!rest.empty()) {
-      const auto number = ui::AsNumber(NextWord(rest));
-      if (!number) return "no number stands there";
-      numbers.push_back(*number);
+    if (verb == "mornings") {
+      OpenMornings(*game_);
+      return {};
     }
-    if (verb == "rows") return ui::PickRows(desk_, screen, name, numbers);
-    const std::size_t wanted = verb == "move" ? 2 : 1;
-    if (numbers.size() != wanted) return "a number is missing or too many";
-    if (verb == "pick") return ui::Pick(desk_, screen, name, numbers[0]);
-    if (verb == "also") return ui::PickToo(desk_, screen, name, numbers[0]);
-    if (verb == "open") return ui::OpenRow(desk_, screen, name, numbers[0]);
-    if (verb == "slide") return ui::Slide(desk_, screen, name, numbers[0]);
-    if (verb == "move") return ui::MoveRow(desk_, screen, name, numbers[0], numbers[1]);
-    return "there is no such command";
+    if (verb == "visit") return Visit(rest);
+    return DoRecorded(desk_, screen, verb, rest);
   }
 
   std::string Visit(std::string_view what) {
@@ -219,14 +205,40 @@ std::string DifferenceOf(const World& played, const World& kept) {
 
 }  // namespace
 
-Replayed Replay(Disk& disk, const std::vector<NewFile>& files, const std::string& home,
+namespace {
+
+/// "outside DIGEST WHO": where something else than the player's commands has changed the world.
+struct EndOfRecord {
+  std::uint64_t Digest = 0;
+  std::string Who;
+};
+
+std::optional<EndOfRecord> ReadEnd(std::string_view line) {
+  if (NextWord(line) != kCommandsOutside) return std::nullopt;
+  const std::string digits = NextWord(line);
+  EndOfRecord end{0, std::string(line)};
+  const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), end.Digest);
+  return read.ec == std::errc() ? std::optional(end) : std::nullopt;
+}
+
+std::uint64_t DigestOfWorld(const std::vector<NewFile>& files) {
+  WorldDigest digest;
+  for (const NewFile& file : files)
+    if (!PlayedSlot::IsOwn(file.Name)) digest.Set(file.Name, file.Contents);
+  return digest.Value();
+}
+
+}  // namespace
+
+Replayed Replay(Disk& machine, const std::vector<NewFile>& files, const std::string& home,
                 const std::string& share) {
   const NewFile* const beginning = FileNamed(files, kBeginningName);
   const NewFile* const commands = FileNamed(files, kCommandsName);
   if (!beginning || !commands)
     throw WorldFault(
-        "Nothing was recorded in this game: only a game that was begun with a seed can be played "
-        "again.");
+        "Nothing was recorded in this game: only a game that was begun with a seed, or as "
+        "recorded, and exported with its record can be played again.");
+  ConfinedDisk disk(machine, home, share);  // the record may be anybody's
   auto start = UnpackSlot(beginning->Contents, kBeginningName);
   start.push_back({kBeginningName, beginning->Contents});
   start.push_back({kCommandsName, CommandLog::Empty()});
@@ -234,13 +246,21 @@ Replayed Replay(Disk& disk, const std::vector<NewFile>& files, const std::string
   Slot::Create(disk, slot, start, 1);
   RecordedDesk desk(
       {reinterpret_cast<const char*>(commands->Contents.data()), commands->Contents.size()});
+  std::optional<EndOfRecord> end;
   {
     Player player(disk, desk, home, share);
-    while (const auto line = desk.Next()) player.Do(*line);
+    while (const auto line = desk.Next()) {
+      if ((end = ReadEnd(*line))) break;
+      player.Do(*line);
+    }
   }
-  Replayed replayed{desk.Done, desk.Fault, {}};
-  if (desk.Fault.empty())
-    replayed.Difference = DifferenceOf(WorldOf(ReadSlot(disk, slot)), WorldOf(files));
+  Replayed replayed{desk.Done - (end ? 1 : 0), desk.Fault, {}, end ? end->Who : std::string()};
+  if (!desk.Fault.empty()) return replayed;
+  const auto played = ReadSlot(disk, slot);
+  if (!end)
+    replayed.Difference = DifferenceOf(WorldOf(played), WorldOf(files));
+  else if (DigestOfWorld(played) != end->Digest)
+    replayed.Difference = "the world is not what it was when it was changed by " + end->Who + ".";
   return replayed;
 }
 
@@ -249,11 +269,13 @@ namespace {
 /// A folder for as long as a career is played again.
 class PassingFolder {
  public:
-  PassingFolder()
-      : path_((std::filesystem::temp_directory_path() /
-               ("grapplemont-replay-" + std::to_string(getpid())))
-                  .string()) {
-    std::filesystem::create_directory(path_);
+  PassingFolder() {
+    const auto where = std::filesystem::temp_directory_path();
+    for (int turn = 1;; ++turn) {
+      const std::string name = std::to_string(getpid()) + "-" + std::to_string(turn);
+      path_ = (where / ("grapplemont-replay-" + name)).string();
+      if (std::filesystem::create_directory(path_)) return;  // one that was there is another's
+    }
   }
   ~PassingFolder() {
     std::error_code ignored;
@@ -280,7 +302,12 @@ int ReplayFile(const Arguments& arguments, Shell& shell) {
   if (!replayed.Difference.empty())
     throw WorldFault("Played again it comes out differently: " + replayed.Difference);
   shell.Out << path << ": " << Counted(static_cast<std::size_t>(replayed.Commands), "command")
-            << " played again, and every byte of the world is the same.\n";
+            << " played again, and every byte of the world is the same";
+  if (replayed.EndedBy.empty())
+    shell.Out << ".\n";
+  else
+    shell.Out << " up to where it was changed by " << replayed.EndedBy
+              << ". What came after was not recorded and cannot be checked.\n";
   return 0;
 }
 
@@ -288,7 +315,7 @@ int ReplayFile(const Arguments& arguments, Shell& shell) {
 
 const Command kReplay{"replay",
                       "FILE",
-                      "Plays a game that was begun with a seed again from its exported file, and "
+                      "Plays a game that was recorded again from its exported file, and "
                       "says whether it comes to the same bytes or what the first difference is.",
                       {},
                       ReplayFile};
