@@ -262,8 +262,10 @@ bool AskAndGoBack(Game& game, const PastMoment& moment) {
 }
 
 void OpenMornings(Game& game) {
-  game.Desk().Note({"mornings"});
-  game.Desk().Open("frmMornings");
+  ui::Desk& desk = game.Desk();
+  desk.Note({"mornings"});
+  if (desk.Top() && desk.Top()->Name() == "frmTheEnd") desk.Close(*desk.Top());
+  desk.Open("frmMornings");
 }
 
 void ConnectGoingBack(Game& game) {

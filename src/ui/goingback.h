@@ -40,7 +40,8 @@ void GoBackTo(Game& game, std::size_t moment);
 /// Asks first; false when the player would rather stay.
 bool AskAndGoBack(Game& game, const PastMoment& moment);
 
-/// Opens what can be gone back to above whatever lies on the desk; an act of the player.
+/// Opens what can be gone back to above what lies on the desk, in place of the news of an end; an
+/// act of the player.
 void OpenMornings(Game& game);
 
 /// Whether the main screen lies at the bottom of the desk.

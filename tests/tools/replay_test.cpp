@@ -233,6 +233,28 @@ TEST(ARecordedCareer, IsRenamedCopiedAndGoneBackInFromTheMenu) {
                    std::to_string(slot));
 }
 
+/// What a button does to the desk is no act beside its own: a click is not taken back twice.
+TEST(ARecordedCareer, HasEachActOnce) {
+  Recorded career;
+  ScriptDesk& desk = career.Play.Desk;
+  const auto visit = [&desk](const std::string& page) {
+    for (const ui::Finding& found : desk.NewSearch()(page, 5))
+      if (found.Words == page) return desk.Visit(ui::Finding(found));
+    ADD_FAILURE() << page;
+  };
+  for (const int price : {31, 32, 33}) {
+    visit("Ticket Prices");
+    desk.Slide("hsticket", price);
+    desk.Click("cmddoit");
+  }
+  while (desk.TopName() != "frmMainScreen") desk.Click("cmdback");
+  desk.Click("cmdmornings");
+  desk.Click("cmdundo");
+  EXPECT_NE(desk.Undo.What(), "");
+  career.Leave();
+  ExpectReplayed(PlayAgain(career.Files()));
+}
+
 TEST(ARecordedCareer, ThatWasPlayedOnByAToolIsGoodUpToThere) {
   Recorded career;
   career.Play.Desk.Click("cmdnext");

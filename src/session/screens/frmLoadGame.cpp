@@ -10,7 +10,6 @@
 #include "session/screens/slotscreen.h"
 #include "session/slots.h"
 #include "storylines/storynames.h"
-#include "ui/acts.h"
 #include "ui/goingback.h"
 #include "ui/pictureof.h"
 
@@ -276,13 +275,7 @@ class frmLoadGame : public SlotScreen {
 
   void GoBack(int slot) {
     EnterSlot(game_, slot);
-    ui::Screen* const top = game_.HasWorld() ? desk().Top() : nullptr;
-    if (!top) return;
-    const ui::Control* const way = top->Find("cmdmornings");
-    if (way && way->Enabled)
-      ui::Click(desk(), *top, "cmdmornings");  // the main screen, the end of a career
-    else
-      OpenMornings(game_);
+    if (game_.HasWorld()) OpenMornings(game_);
   }
 
   void cmdimport_Click() {
