@@ -15,8 +15,7 @@
 #include "records/store/mornings.h"
 #include "records/store/slotcare.h"
 #include "tools/commands.h"
-#include "ui/acts.h"
-#include "ui/asnumber.h"
+#include "ui/actlines.h"
 
 namespace grapplemont::tools {
 
@@ -29,17 +28,6 @@ std::string NextWord(std::string_view& line) {
   const std::string word(line.substr(0, line.find(' ')));
   line.remove_prefix(std::min(line.size(), word.size() + 1));
   return word;
-}
-
-/// What was put on one line.
-std::string Lines(std::string_view typed) {
-  std::string text;
-  for (std::size_t i = 0; i < typed.size(); ++i) {
-    const bool escaped = typed[i] == '\\' && i + 1 < typed.size();
-    if (escaped) ++i;
-    text += escaped && typed[i] == 'n' ? '\n' : typed[i];
-  }
-  return text;
 }
 
 /// A desk where a record sits: it answers boxes, and a box that it has no answer to is a fault.
@@ -103,21 +91,13 @@ class Player {
   Player& operator=(const Player&) = delete;
 
   void Do(std::string_view line) {
-    const std::string whole(line);
-    std::string verb = NextWord(line);
-    if (verb == "session") return Begin(line);
+    std::string_view rest = line;
+    const std::string verb = NextWord(rest);
+    if (verb == "session") return Begin(rest);
     if (verb == kCommandsFull) return desk_.Wrong("nothing more was recorded");
     if (!game_ || !desk_.Top())
-      return desk_.Wrong("\"" + whole + "\" stands where no game is open");
-    ui::Screen* screen = desk_.Top();
-    if (verb == "on") {
-      const std::string name = NextWord(line);
-      for (const auto& open : desk_.Screens())
-        if (open->Name() == name) screen = open.get();
-      verb = NextWord(line);
-    }
-    if (const std::string why = Act(*screen, verb, line); !why.empty())
-      desk_.Wrong("\"" + whole + "\" on " + screen->Name() + ": " + why);
+      return desk_.Wrong("\"" + std::string(line) + "\" stands where no game is open");
+    if (const std::string why = ui::DoAct(desk_, line); !why.empty()) desk_.Wrong(why);
   }
   void Leave() {
     if (!game_) return;
@@ -145,47 +125,6 @@ class Player {
     desk_.Open("frmMainScreen");
   }
   static bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
-
-  std::string Act(ui::Screen& screen, const std::string& verb, std::string_view rest) {
-    if (verb == "undo" || verb == "redo")
-      return desk_.Take(verb == "undo" ? desk_.Undo : desk_.Redo).empty() ? "nothing to take" : "";
-    if (verb == "explain")
-      return (rest.empty() ? desk_.OpenHelp() : desk_.OpenGlossary(rest)) ? "" : "no help";
-    if (verb == "follow") return ui::Follow(desk_, screen, Lines(rest));
-    if (verb == "visit") return Visit(rest);
-    const std::string name = NextWord(rest);
-    if (verb == "click") return ui::Click(desk_, screen, name);
-    if (verb == "type") return ui::Type(desk_, screen, name, Lines(rest));
-    if (verb == "check") return ui::Check(desk_, screen, name, rest == "on");
-    std::vector<int> numbers;
-    while (!rest.empty()) {
-      const auto number = ui::AsNumber(NextWord(rest));
-      if (!number) return "no number stands there";
-      numbers.push_back(*number);
-    }
-    if (verb == "rows") return ui::PickRows(desk_, screen, name, numbers);
-    const std::size_t wanted = verb == "move" ? 2 : 1;
-    if (numbers.size() != wanted) return "a number is missing or too many";
-    if (verb == "pick") return ui::Pick(desk_, screen, name, numbers[0]);
-    if (verb == "also") return ui::PickToo(desk_, screen, name, numbers[0]);
-    if (verb == "open") return ui::OpenRow(desk_, screen, name, numbers[0]);
-    if (verb == "slide") return ui::Slide(desk_, screen, name, numbers[0]);
-    if (verb == "move") return ui::MoveRow(desk_, screen, name, numbers[0], numbers[1]);
-    return "there is no such command";
-  }
-
-  std::string Visit(std::string_view what) {
-    constexpr std::size_t kMost = 10000;
-    const std::size_t colon = what.find(": ");
-    if (colon == what.npos) return "it does not say what";
-    const std::string_view words = what.substr(colon + 2);
-    for (const ui::Finding& found : desk_.NewSearch()(words, kMost))
-      if (found.Heading == what.substr(0, colon) && found.Words == words) {
-        desk_.Visit(ui::Finding(found));
-        return {};
-      }
-    return "nothing is called so";
-  }
 
   Disk& disk_;
   RecordedDesk& desk_;
