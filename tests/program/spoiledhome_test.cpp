@@ -283,8 +283,8 @@ TEST_P(SpoiledHome, WorksOrSaysWhatIsWrongWhereAndWhatToDo) {
 }
 
 constexpr Part kParts[] = {
-    {"Slot", kGameFolder, OpenSpoiledSlot, 150, 20},
-    {"Data", kData, ReadSpoiledData, 200, 0},
+    {"Slot", kGameFolder, OpenSpoiledSlot, 60, 20},
+    {"Data", kData, ReadSpoiledData, 60, 0},
     {"Export", kExported, [](CutDisk& disk, const std::string&) { return ReadSpoiledExport(disk); },
      100, 90},
 };
