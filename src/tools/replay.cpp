@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <charconv>
 #include <deque>
 #include <filesystem>
 #include <ostream>
@@ -109,14 +110,13 @@ class Player {
  private:
   void Begin(std::string_view line) {
     Leave();
-    const std::string seed = NextWord(line);
+    const auto seed = SeedIn(NextWord(line));
     const auto today = ParseIsoDate(std::string(line));
-    if (seed.empty() || seed.size() > 20 || !std::ranges::all_of(seed, IsDigit) || !today)
-      return desk_.Wrong("a session without a seed and a day");
+    if (!seed || !today) return desk_.Wrong("a session without a seed and a day");
     Game::Options options;
     options.Home = home_;
     options.Share = share_;
-    options.Seed = std::stoull(seed);
+    options.Seed = *seed;
     options.Worlds = 1;  // a look ahead changes nothing
     options.Today = [day = *today] { return day; };
     game_ = std::make_unique<Game>(desk_, disk_, options);
@@ -124,7 +124,13 @@ class Player {
     game_->OpenSlot(kReplaySlot);
     desk_.Open("frmMainScreen");
   }
-  static bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
+  /// Nothing for what is no number of 64 bits.
+  static std::optional<std::uint64_t> SeedIn(const std::string& word) {
+    std::uint64_t seed = 0;
+    const char* const end = word.data() + word.size();
+    const auto read = std::from_chars(word.data(), end, seed);
+    return read.ec == std::errc() && read.ptr == end ? std::optional(seed) : std::nullopt;
+  }
 
   Disk& disk_;
   RecordedDesk& desk_;
