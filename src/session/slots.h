@@ -41,7 +41,15 @@ void CopySlot(Disk& disk, const std::string& from, const std::string& to, std::s
               std::uint64_t worldId);
 /// Whether the slot has moments to go back to that an export can take along.
 bool HasHistory(Disk& disk, const std::string& folder);
-void ExportSlot(Disk& disk, const std::string& folder, const std::string& path, bool withHistory);
+/// Whether it has a record of what the player did.
+bool IsRecorded(Disk& disk, const std::string& folder);
+/// What an exported game may have beside its world.
+struct TakenAlong {
+  bool History = false;  // what it can go back to
+  bool Record = false;   // how it began, and what the player did since
+};
+void ExportSlot(Disk& disk, const std::string& folder, const std::string& path,
+                const TakenAlong& along);
 
 /// An exported game that was read and found to be one.
 struct Importable {

@@ -81,11 +81,17 @@ ui::Page SheetScreen::Layout() {
   return page;
 }
 
+void SheetScreen::BeginSheet() {
+  if (game_.ComesUpAgain) return;
+  KeepLastCard(world());
+  EmptySheet(world(), isEvent_);
+}
+
 void SheetScreen::ShowOpened() {
   Return();
   lstrows.SelectKey(1);
   ShowRow();
-  if (!IsDraft() && !Kept(true).Rows.empty()) LayKept(true);
+  if (!IsDraft() && !game_.ComesUpAgain && !Kept(true).Rows.empty()) LayKept(true);
 }
 
 int SheetScreen::OpenRows() {

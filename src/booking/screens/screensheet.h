@@ -57,7 +57,9 @@ class SheetScreen : public GameScreen {
   virtual std::vector<ui::Button*> FirstActions() { return {}; }
   virtual std::vector<ui::Box> BelowRows() { return {}; }
 
-  /// Shows a sheet that has just been opened, on an empty match.dat.
+  /// Empties match.dat for today's show. A sheet that comes up again keeps what lies on it.
+  void BeginSheet();
+  /// Shows a sheet that has just been opened.
   void ShowOpened();
   /// Lays what is kept of this show on the sheet, after asking.
   void LayKept(bool isDraft);

@@ -10,6 +10,8 @@
 #include "session/screens/slotscreen.h"
 #include "session/slots.h"
 #include "storylines/storynames.h"
+#include "ui/acts.h"
+#include "ui/goingback.h"
 #include "ui/pictureof.h"
 
 namespace grapplemont {
@@ -255,13 +257,18 @@ class frmLoadGame : public SlotScreen {
         !desk().Ask("Replace?", ForScreen(path) + " is there already. Write over it?",
                     ui::Default::No))
       return;
-    const bool withHistory =
-        HasHistory(game_.Disk(), game_.SlotFolder(slot)) &&
-        desk().Ask("Export",
-                   "Take along what this game can go back to? The file is larger then, and whoever "
-                   "opens it can go back too.",
-                   ui::Default::No);
-    ExportSlot(game_.Disk(), game_.SlotFolder(slot), path, withHistory);
+    TakenAlong along;
+    along.History = HasHistory(game_.Disk(), game_.SlotFolder(slot)) &&
+                    desk().Ask("Export",
+                               "Take along what this game can go back to? The file is larger then, "
+                               "and whoever opens it can go back too.",
+                               ui::Default::No);
+    along.Record = IsRecorded(game_.Disk(), game_.SlotFolder(slot)) &&
+                   desk().Ask("Export",
+                              "Take along the record of what you did, so that others can play it "
+                              "again? It has every text that you typed, and the names of files.",
+                              ui::Default::Yes);
+    ExportSlot(game_.Disk(), game_.SlotFolder(slot), path, along);
     lblfacts.Text = "Wrote " + In(slot).Caption + " to " + ForScreen(path) + ".";
   }
 
@@ -269,7 +276,13 @@ class frmLoadGame : public SlotScreen {
 
   void GoBack(int slot) {
     EnterSlot(game_, slot);
-    if (desk().Top() && desk().Top()->Name() == "frmMainScreen") desk().Open("frmMornings");
+    ui::Screen* const top = game_.HasWorld() ? desk().Top() : nullptr;
+    if (!top) return;
+    const ui::Control* const way = top->Find("cmdmornings");
+    if (way && way->Enabled)
+      ui::Click(desk(), *top, "cmdmornings");  // the main screen, the end of a career
+    else
+      OpenMornings(game_);
   }
 
   void cmdimport_Click() {
