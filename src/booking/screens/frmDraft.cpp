@@ -25,8 +25,8 @@ class frmDraft : public SheetScreen {
   void Load() override {
     KeepLastCard(world());
     EmptySheet(world(), isEvent_);
-    const KeptCard kept = FindCard(world(), show_.Owner);
-    if (kept.On == show_.On) TellLaid(LayCard(world(), kept.Rows, isEvent_, Terms().OpenRows));
+    const KeptCard kept = FindCard(world(), show_.Owner, show_.On);
+    if (!kept.Rows.empty()) TellLaid(LayCard(world(), kept.Rows, isEvent_, Terms().OpenRows));
     ShowOpened();
   }
 
