@@ -103,6 +103,11 @@ Home HomeAt(Disk& disk, const std::string& folder, const Surroundings& around) {
   return {folder, ShareOf(disk, around)};
 }
 
+Layers WithPages(Layers pictures, const std::string& home) {
+  pictures.push_back(home);
+  return pictures;
+}
+
 std::vector<std::string> WaitingPictures(Disk& disk, const Layers& folders, int set) {
   std::vector<std::string> pictures;
   const int most = set == 0 ? 4 : 10;

@@ -92,6 +92,16 @@ int LastPlayed(Disk& disk, const std::string& home) try {
   return 0;
 }
 
+int SlotToContinue(Disk& disk, const std::string& home) {
+  const auto canGoOn = [&](int slot) {
+    return ReadSlotSummary(disk, FolderOf(home, slot)).Playable;
+  };
+  if (const int last = LastPlayed(disk, home); last != 0 && canGoOn(last)) return last;
+  for (int slot = 1; slot <= kSlots; ++slot)
+    if (canGoOn(slot)) return slot;
+  return 0;
+}
+
 void RememberPlayed(Disk& disk, const std::string& home, int slot) try {
   if (LastPlayed(disk, home) == slot) return;
   const std::string text = std::to_string(slot);

@@ -19,7 +19,7 @@
 #include "session/slots.h"
 #include "tools/commands.h"
 #include "tools/confineddisk.h"
-#include "tools/recordedacts.h"
+#include "ui/actlines.h"
 #include "ui/goingback.h"
 
 namespace grapplemont::tools {
@@ -27,6 +27,13 @@ namespace grapplemont::tools {
 namespace {
 
 constexpr int kReplaySlot = 1;
+
+/// Takes the first word and the blank behind it off the front.
+std::string NextWord(std::string_view& line) {
+  const std::string word(line.substr(0, line.find(' ')));
+  line.remove_prefix(std::min(line.size(), word.size() + 1));
+  return word;
+}
 
 /// A desk where a record sits: it answers boxes, and a box that it has no answer to is a fault.
 class RecordedDesk : public ui::Desk {
@@ -101,22 +108,15 @@ class Player {
   Player& operator=(const Player&) = delete;
 
   void Do(std::string_view line) {
-    const std::string whole(line);
-    std::string verb = NextWord(line);
-    if (verb == "session") return Begin(line);
-    if (verb == kCommandRenamed) return Rename(line);
+    std::string_view rest = line;
+    const std::string verb = NextWord(rest);
+    if (verb == "session") return Begin(rest);
+    if (verb == kCommandRenamed) return Rename(rest);
     if (verb == kCommandsFull) return desk_.Wrong("nothing more was recorded");
     if (!game_ || !desk_.Top())
-      return desk_.Wrong("\"" + whole + "\" stands where no game is open");
-    ui::Screen* screen = desk_.Top();
-    if (verb == "on") {
-      const std::string name = NextWord(line);
-      for (const auto& open : desk_.Screens())
-        if (open->Name() == name) screen = open.get();
-      verb = NextWord(line);
-    }
-    if (const std::string why = Act(*screen, verb, line); !why.empty())
-      desk_.Wrong("\"" + whole + "\" on " + screen->Name() + ": " + why);
+      return desk_.Wrong("\"" + std::string(line) + "\" stands where no game is open");
+    if (verb == "mornings") return OpenMornings(*game_);
+    if (const std::string why = ui::DoAct(desk_, line); !why.empty()) desk_.Wrong(why);
   }
   void Leave() {
     if (!game_) return;
@@ -128,14 +128,13 @@ class Player {
  private:
   void Begin(std::string_view line) {
     Leave();
-    const std::string seed = NextWord(line);
+    const auto seed = SeedIn(NextWord(line));
     const auto today = ParseIsoDate(std::string(line));
-    if (seed.empty() || seed.size() > 20 || !std::ranges::all_of(seed, IsDigit) || !today)
-      return desk_.Wrong("a session without a seed and a day");
+    if (!seed || !today) return desk_.Wrong("a session without a seed and a day");
     Game::Options options;
     options.Home = home_;
     options.Share = share_;
-    options.Seed = std::stoull(seed);
+    options.Seed = *seed;
     options.Worlds = 1;  // a look ahead changes nothing
     options.Today = [day = *today] { return day; };
     game_ = std::make_unique<Game>(desk_, disk_, options);
@@ -143,34 +142,18 @@ class Player {
     game_->OpenSlot(kReplaySlot);
     desk_.Open("frmMainScreen");
   }
-  static bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
+  /// Nothing for what is no number of 64 bits.
+  static std::optional<std::uint64_t> SeedIn(const std::string& word) {
+    std::uint64_t seed = 0;
+    const char* const end = word.data() + word.size();
+    const auto read = std::from_chars(word.data(), end, seed);
+    return read.ec == std::errc() && read.ptr == end ? std::optional(seed) : std::nullopt;
+  }
 
   /// While nobody plays it.
   void Rename(std::string_view name) {
     Leave();
     RenameSlot(disk_, home_ + "/s" + std::to_string(kReplaySlot), name);
-  }
-
-  std::string Act(ui::Screen& screen, const std::string& verb, std::string_view rest) {
-    if (verb == "mornings") {
-      OpenMornings(*game_);
-      return {};
-    }
-    if (verb == "visit") return Visit(rest);
-    return DoRecorded(desk_, screen, verb, rest);
-  }
-
-  std::string Visit(std::string_view what) {
-    constexpr std::size_t kMost = 10000;
-    const std::size_t colon = what.find(": ");
-    if (colon == what.npos) return "it does not say what";
-    const std::string_view words = what.substr(colon + 2);
-    for (const ui::Finding& found : desk_.NewSearch()(words, kMost))
-      if (found.Heading == what.substr(0, colon) && found.Words == words) {
-        desk_.Visit(ui::Finding(found));
-        return {};
-      }
-    return "nothing is called so";
   }
 
   Disk& disk_;
@@ -202,10 +185,6 @@ std::string DifferenceOf(const World& played, const World& kept) {
       return std::string(ofPlayed[i]->File()) + " is not the same.";
   return {};
 }
-
-}  // namespace
-
-namespace {
 
 /// "outside DIGEST WHO": where something else than the player's commands has changed the world.
 struct EndOfRecord {

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "ui/actlines.h"
 #include "ui/asnumber.h"
 
 namespace grapplemont::ui {
@@ -10,14 +11,6 @@ namespace {
 
 std::string Quoted(std::string_view text) {
   return "\"" + std::string(text) + "\"";
-}
-
-/// A text of several lines on one, as the console takes it.
-std::string OnOneLine(std::string_view text) {
-  std::string line;
-  for (const char letter : text)
-    line += letter == '\n' ? "\\n" : letter == '\\' ? "\\\\" : std::string(1, letter);
-  return line;
 }
 
 /// Tells the desk what is about to be done; `words` stand behind the control's name.

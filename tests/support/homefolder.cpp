@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -12,22 +13,27 @@ namespace grapplemont::test {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-Game::Options At(const std::string& home) {
-  return {home, [] { return Day{std::chrono::year{2026} / 3 / 17}; }, 11};
+std::vector<NewFile> HomeFiles(const World& data) {
+  std::vector<NewFile> files;
+  for (NewFile& file : FilesOf(data))
+    files.push_back({"data/" + file.Name, std::move(file.Contents)});
+  for (const std::string_view name : kDataSet) {
+    const std::string path = "data/" + std::string(name);
+    if (std::ranges::find(files, path, &NewFile::Name) == files.end()) files.push_back({path, {}});
+  }
+  for (const char* picture : {"vxm_back.jpg", "vxm_title.jpg", "VXM_load1.jpg"})
+    files.push_back({"gfx/" + std::string(picture), Bytes(7, std::byte{'p'})});
+  return files;
 }
 
-}  // namespace
+Game::Options PlayedIn(const std::string& home, std::uint64_t seed) {
+  return {home, [] { return Day{std::chrono::year{2026} / 3 / 17}; }, seed};
+}
 
-HomeFolder::HomeFolder(const World& data)
-    : disk_(RealDisk(Syncs::None)), Play(Desk, *disk_, At(home_.Path())) {
-  for (const auto& [name, bytes] : FilesOf(data))
-    Write("data/" + name, {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
-  for (const std::string_view file : kDataSet)
-    if (!fs::exists(Path("data/" + std::string(file)))) Write("data/" + std::string(file), "");
-  for (const char* picture : {"vxm_back.jpg", "vxm_title.jpg", "VXM_load1.jpg"})
-    Write("gfx/" + std::string(picture), "picture");
+HomeFolder::HomeFolder(const World& data, std::uint64_t seed)
+    : disk_(RealDisk(Syncs::None)), Play(Desk, *disk_, PlayedIn(home_.Path(), seed)) {
+  for (const auto& [name, bytes] : HomeFiles(data))
+    Write(name, {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
   RegisterScreens(Play);
 }
 

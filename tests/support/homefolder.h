@@ -2,8 +2,10 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "records/store/disk.h"
+#include "records/store/slot.h"
 #include "records/world.h"
 #include "support/scratchfolder.h"
 #include "support/scriptdesk.h"
@@ -11,11 +13,16 @@
 
 namespace grapplemont::test {
 
-/// A home of its own in a temporary folder: default data made of a world without a game, the
-/// pictures that start-up looks for, no slots. Its game knows every screen; 17 March 2026 outside.
+/// What lies in a home without slots: default data made of a world without a game, the pictures
+/// that start-up looks for.
+std::vector<NewFile> HomeFiles(const World& data);
+/// Played in that folder, with 17 March 2026 outside.
+Game::Options PlayedIn(const std::string& home, std::uint64_t seed);
+
+/// A home of its own in a temporary folder. Its game knows every screen.
 class HomeFolder {
  public:
-  explicit HomeFolder(const World& data);
+  explicit HomeFolder(const World& data, std::uint64_t seed = 11);
   ~HomeFolder();
   HomeFolder(const HomeFolder&) = delete;
   HomeFolder& operator=(const HomeFolder&) = delete;

@@ -1,4 +1,5 @@
 #include "tools/replay.h"
+#include "ui/actlines.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +18,6 @@
 #include "support/gameonworld.h"
 #include "support/smallworld.h"
 #include "tools/confineddisk.h"
-#include "tools/recordedacts.h"
 
 // A game that was begun with a seed is played again from what it recorded, to the same bytes.
 
@@ -166,17 +166,7 @@ TEST(ARecordedCareer, WritesNoFileThatItsRecordNames) {
 /// A home in whose editor a player sits.
 struct Evening : EditorHome {
   Evening() { Desk.IsEasy = true; }
-  void Do(std::string_view line) {
-    ui::Screen* screen = Desk.Top();
-    std::string verb = tools::NextWord(line);
-    if (verb == "on") {
-      const std::string name = tools::NextWord(line);
-      for (const auto& open : Desk.Screens())
-        if (open->Name() == name) screen = open.get();
-      verb = tools::NextWord(line);
-    }
-    EXPECT_EQ("", tools::DoRecorded(Desk, *screen, verb, line));
-  }
+  void Do(std::string_view line) { EXPECT_EQ("", ui::DoAct(Desk, line)); }
 };
 
 TEST(AnEveningInTheEditor, ComesToTheSameBytesWhenItsActsAreDoneAgain) {

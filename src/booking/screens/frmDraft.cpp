@@ -29,8 +29,8 @@ class frmDraft : public SheetScreen {
   void Load() override {
     if (game_.ComesUpAgain) return ShowOpened();
     BeginSheet();
-    const KeptCard kept = FindCard(world(), show_.Owner);
-    if (kept.On == show_.On) TellLaid(LayCard(world(), kept.Rows, isEvent_, Terms().OpenRows));
+    const KeptCard kept = FindCard(world(), show_.Owner, show_.On);
+    if (!kept.Rows.empty()) TellLaid(LayCard(world(), kept.Rows, isEvent_, Terms().OpenRows));
     ShowOpened();
   }
 

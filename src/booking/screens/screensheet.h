@@ -124,6 +124,7 @@ class SheetScreen : public GameScreen {
   ui::Label lblcount{*this, "lblcount"};
   ui::Report txtrow{*this, "txtrow"};
   ui::Label lblforecast{*this, "lblforecast"};
+  ui::Label lblluck{*this, "lblluck"};
   ui::Label lblwarnings{*this, "lblwarnings"};
   ui::ListBox lstfree;
   ui::Button cmddebut{*this, "cmddebut", "Debuts",

@@ -4,6 +4,7 @@
 #include "business/networks.h"
 #include "business/screens/frmTelevision.h"
 #include "business/tvshows.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/whatif.h"
 
@@ -156,7 +157,7 @@ class frmTvOffer : public GameScreen {
     };
     game_.OpenWhatIf({"Go on the air with " + offer->From->Name + ", " + cmbdays.Text.Get() + ", " +
                           std::string(SlotName(offer->Slot)) + "?",
-                      {"you accept for " + std::to_string(offer->Weeks) + " weeks", accept},
+                      {"you accept for " + Counted(offer->Weeks, "week"), accept},
                       {"you turn it down", DropOffer}});
   }
 

@@ -18,6 +18,8 @@ constexpr std::size_t kMomentsStartAt = 16, kMomentsHead = 24;
 // An entry: its size, the checksum of what follows, then kind, days, digest, name and way.
 constexpr std::size_t kEntryChecked = 12, kEntryLeast = 12 + 1 + 8 + 8 + 8 + 2;
 constexpr std::size_t kLongestName = 200;
+/// Far more moments than are kept; a spoiled file has them, to be walked one by one.
+constexpr std::size_t kMostEntries = 1000;
 /// What is past its time goes only when there are so many more of it: each going writes all that
 /// lies behind it.
 constexpr int kSlack = 7, kFewFirsts = 2;
@@ -125,7 +127,7 @@ bool Mornings::Read() {
     const std::size_t size = Unpacker(left).Get<std::uint32_t>();
     if (left.size() < kEntryLeast || size < kEntryLeast || size > left.size()) return false;
     Entry entry{{}, at, size};
-    if (!ReadEntry(left.first(size), entry.Of)) return false;
+    if (entries_.size() == kMostEntries || !ReadEntry(left.first(size), entry.Of)) return false;
     entries_.push_back(std::move(entry));
     at += size;
   }

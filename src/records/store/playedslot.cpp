@@ -111,6 +111,20 @@ std::optional<WayBack> PlayedSlot::WayBefore(const std::vector<FileChange>& chan
   return way;
 }
 
+std::optional<WayBack> PlayedSlot::Before(const std::vector<FileChange>& changes,
+                                          const PlayedStep& step) try {
+  slot_.RequireInPlace();
+  // After a fault the record files are what the journal says only once they have been mended. And
+  // of a journal that leads to an earlier day than files have, only the last road left may tell.
+  if (unsure_ || step.Is == PlayedStep::Left) {
+    slot_.Checkpoint();
+    unsure_ = false;
+  }
+  return mornings_.Keeps() ? WayBefore(changes) : std::nullopt;
+} catch (const DiskError& fault) {
+  throw DiskError(fault, kTakenBack);
+}
+
 void PlayedSlot::Keep(const PlayedStep& step, const std::optional<WayBack>& way, Moment before,
                       Day after, std::uint64_t digest) {
   if (!mornings_.Keeps()) return;
@@ -173,15 +187,9 @@ bool PlayedSlot::IsLastOfToday() const {
 void PlayedSlot::Commit(const std::vector<FileChange>& changes, const PlayedStep& step) {
   committed_ = false;
   if (changes.empty()) return Write(changes);
-  // After a fault the record files are what the journal says only once they have been mended. And
-  // of a journal that leads to an earlier day than files have, only the last road left may tell.
-  if (unsure_ || step.Is == PlayedStep::Left) {
-    slot_.Checkpoint();
-    unsure_ = false;
-  }
+  const auto way = Before(changes, step);
   Moment before{MomentKind::Click, today_, digest_.Value(), step.Name};
   before.Page = step.Page;
-  const auto way = mornings_.Keeps() ? WayBefore(changes) : std::nullopt;
   Ahead ahead(*this, changes);
   redoBefore_ = redo_;
   Day after = today_;

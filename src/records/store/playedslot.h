@@ -79,6 +79,8 @@ class PlayedSlot {
   };
   class Ahead;
 
+  /// What a commit needs before it writes anything; a fault here leaves all as it was.
+  std::optional<WayBack> Before(const std::vector<FileChange>& changes, const PlayedStep& step);
   std::optional<WayBack> WayBefore(const std::vector<FileChange>& changes);
   void Keep(const PlayedStep& step, const std::optional<WayBack>& way, Moment before, Day after,
             std::uint64_t digest);

@@ -134,12 +134,9 @@ class frmLoadGame : public SlotScreen {
   }
   void cmdload_Click(int slot) override { EnterSlot(game_, slot); }
 
-  /// The game that was played last; where that is not known or gone, the first that can be.
   void ShowPlayed() {
-    played_ = LastPlayed(game_.Disk(), game_.Home());
-    for (int slot = 1; slot <= kSlots && (played_ == 0 || !In(played_).Playable); ++slot)
-      if (In(slot).Playable) played_ = slot;
-    const bool any = played_ > 0 && In(played_).Playable;
+    played_ = SlotToContinue(game_.Disk(), game_.Home());
+    const bool any = played_ > 0;
     for (ui::Control* control : std::initializer_list<ui::Control*>{
              &imgplayed, &imgpage, &lblplayed, &lblpromotion, &lbltoday, &lblimage, &lblmoney,
              &lbllastshow, &cmdcontinue})
@@ -161,8 +158,8 @@ class frmLoadGame : public SlotScreen {
     lbllastshow.Visible = !summary.LastShow.empty();
     const std::string page = game_.PageFile(played_);
     imgpage.Visible = game_.Disk().Look(page) == Disk::Kind::File;
-    // Pictures are named from the folder of the program's own.
-    imgpage.File = "../" + page.substr(page.rfind('/') + 1);
+    // It lies in the home, where pictures are looked for last.
+    imgpage.File = page.substr(page.rfind('/') + 1);
   }
 
   void ShowActs() {
