@@ -12,6 +12,8 @@ target_compile_options(house_rules INTERFACE -Wall -Wextra -Wpedantic -Wconversi
 # GCC 12 sees faults inside std::string that are not there once it optimises.
 set(gcc_only -Wno-restrict -Wno-maybe-uninitialized -Wno-stringop-overflow)
 target_compile_options(house_rules INTERFACE "$<$<CXX_COMPILER_ID:GNU>:${gcc_only}>")
+# Clang counts among conversions what GCC does not where the language is C++.
+target_compile_options(house_rules INTERFACE $<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>)
 
 if(WIN32)
   target_compile_definitions(house_rules INTERFACE UNICODE NOMINMAX WIN32_LEAN_AND_MEAN

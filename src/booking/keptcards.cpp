@@ -30,18 +30,23 @@ const HistoryEntry* LastShow(const World& world) {
 }
 
 ComingShow Coming(const World& world, CardOwner owner, Day on) {
-  const KeptCard draft = FindCard(world, owner);
+  const KeptCard draft = FindCard(world, owner, on);
   const auto booked = std::ranges::count_if(
       draft.Rows, [](const Segment& segment) { return segment.Kind != kEmptySegment; });
-  return {std::move(owner), on, {}, draft.On == on ? static_cast<int>(booked) : 0};
+  return {std::move(owner), on, {}, static_cast<int>(booked)};
 }
 
 }  // namespace
 
 KeptCard FindCard(const World& world, const CardOwner& owner) {
-  KeptCard kept;
+  Day last = {};
   for (const KeptRow& row : world.KeptRows())
-    if (Belongs(row, owner)) kept.On = std::max(kept.On, Day(row.On));
+    if (Belongs(row, owner)) last = std::max(last, Day(row.On));
+  return FindCard(world, owner, last);
+}
+
+KeptCard FindCard(const World& world, const CardOwner& owner, Day on) {
+  KeptCard kept{{}, on};
   for (const KeptRow& row : world.KeptRows()) {
     if (!Belongs(row, owner) || Day(row.On) != kept.On) continue;
     if (kept.Rows.empty())
@@ -54,10 +59,11 @@ KeptCard FindCard(const World& world, const CardOwner& owner) {
 
 void KeepCard(World& world, const CardOwner& owner, const Card& card, Day on) {
   auto& rows = world.KeptRows();
-  const auto isRecalled = [&](const KeptRow& row) {
-    return !owner.IsDraft && Day(row.On) < on && Day(row.On) >= on - kRecalled;
+  const auto stays = [&](const KeptRow& row) {
+    if (owner.IsDraft) return Day(row.On) != on && Day(row.On) >= world.Today();
+    return Day(row.On) < on && Day(row.On) >= on - kRecalled;
   };
-  rows.Keep([&](const KeptRow& row) { return !Belongs(row, owner) || isRecalled(row); });
+  rows.Keep([&](const KeptRow& row) { return !Belongs(row, owner) || stays(row); });
   for (std::size_t at = 0; at < card.size() && !rows.Full(); ++at) {
     if (card[at].Kind == kEmptySegment) continue;
     KeptRow row{};
@@ -94,8 +100,11 @@ std::vector<ComingShow> ComingShows(const World& world) {
     for (int day = 1; day < kDaysAhead && show.Day != DayName(on); ++day)
       on += std::chrono::days{1};
     if (show.Day != DayName(on)) continue;
-    coming.push_back(Coming(world, {show.Name.Str(), false, true}, on));
-    coming.back().Slot = show.Slot.Str();
+    for (int week = 0; week < kDraftsAhead; ++week) {
+      coming.push_back(
+          Coming(world, {show.Name.Str(), false, true}, on + std::chrono::weeks{week}));
+      coming.back().Slot = show.Slot.Str();
+    }
   }
   for (const Event& event : world.Events()) {
     if (event.Owner != world.PlayerUid()) continue;

@@ -24,8 +24,11 @@ struct KeptCard {
 };
 /// The latest; no rows where nothing is kept.
 KeptCard FindCard(const World& world, const CardOwner& owner);
-/// Keeps the card. A draft takes the place of the one before, and an empty one takes that away;
-/// held cards stay for five weeks, since the reports recall what was done on them.
+/// The one of that day.
+KeptCard FindCard(const World& world, const CardOwner& owner, Day on);
+/// Keeps the card. A draft takes the place of the one for the same day, and an empty one takes that
+/// away; those of days that are over go. Held cards stay for five weeks, since the reports recall
+/// what was done on them.
 void KeepCard(World& world, const CardOwner& owner, const Card& card, Day on);
 
 /// What match.dat holds is a card that has been held, which lies there until the next sheet.
@@ -41,8 +44,10 @@ struct ComingShow {
   std::string Slot;  // of a television show
   int Drafted = 0;
 };
-/// The next of each television show and Event of the player's, the nearest first; today's are not
-/// among them.
+/// How many shows ahead each television show can be drafted.
+inline constexpr int kDraftsAhead = 3;
+/// The next three of each television show and the next of each Event of the player's, the nearest
+/// first; today's are not among them.
 std::vector<ComingShow> ComingShows(const World& world);
 
 }  // namespace grapplemont

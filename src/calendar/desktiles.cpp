@@ -8,6 +8,7 @@
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "records/notes.h"
 #include "records/readmail.h"
 
 namespace grapplemont {
@@ -50,43 +51,24 @@ DeskTile ImageTile(const Promotion& player) {
                                  : Counted(kHighest - player.Image, "point") + " short of " + size};
 }
 
-/// By how much the standing moved with the image: what rises a class begins low, what falls high.
-int StandingChange(const ShowNote& note) {
-  constexpr int kClass = 100, kFar = 50;  // no show or month moves the image so far
-  return note.Change > kFar    ? note.Change - kClass
-         : note.Change < -kFar ? note.Change + kClass
-                               : int(note.Change);
-}
-
-/// "+1 High Tide Live, rated 75%, 13/05/26; -10 no Event, 01/05/26", in all `moved`.
-std::string StandingSteps(const World& world, int moved) {
+/// "+1 High Tide Live, rated 75%, 13/05/26; -10 no Event, 01/05/26".
+std::string StandingSteps(const Score& momentum) {
   std::string text;
-  const auto add = [&](int change, const std::string& why) {
-    if (change != 0)
-      text += (text.empty() ? "" : "; ") + PlusIf(change) + std::to_string(change) + " " + why;
-  };
-  for (const ShowNote& note : world.ShowNotes()) {
-    const bool isImage = note.Kind == kNoteImage || note.Kind == kNoteStanding;
-    if (!isImage || note.Promotion != world.PlayerUid() ||
-        Day(note.On) < MonthsBefore(world.Today(), 0))
-      continue;
-    const int change = StandingChange(note);
-    add(change, note.Why.Str() + ", " + ShortDate(note.On));
-    moved -= change;
-  }
-  add(moved, "from before what is remembered");
+  for (const ScoreStep& step : momentum.Steps())
+    text += (text.empty() ? "" : "; ") + PlusIf(step.Change) + std::to_string(step.Change) + " " +
+            step.Why;
   return text;
 }
 
 /// How the standing has moved since the last month end, and what the last show was worth.
 DeskTile StandingTile(const World& world, const Promotion& player) {
-  const int moved = player.Rank[0] == kNoEnd ? 0 : StandingScore(player) - player.Rank[0];
+  const Score moved = MomentumSteps(world);
   const HistoryEntry* show = LastShowOf(world, player.Uid, MonthsBefore(world.Today(), 3));
   const std::string last = !show             ? "no show yet"
                            : show->CalledOff ? "last show called off"
                                              : "last show " + std::to_string(show->Rating) + "%";
-  return {"Standing " + PlusIf(moved) + std::to_string(moved), "This month; " + last, SignOf(moved),
-          StandingSteps(world, moved)};
+  return {"Momentum " + PlusIf(moved) + std::to_string(moved), "This month; " + last, SignOf(moved),
+          StandingSteps(moved)};
 }
 
 DeskTile MailTile(const World& world) {

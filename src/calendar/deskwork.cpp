@@ -31,11 +31,13 @@ std::vector<const Worker*> People(const World& world, Wanted wanted, Order order
   return people;
 }
 
+/// Against the least that the show needs, and the rows of its sheet.
 std::string OfLeast(int booked, const SheetTerms& terms) {
-  return std::to_string(booked) + " of " + std::to_string(terms.MinSegments);
+  return std::to_string(booked) + " of " + std::to_string(terms.MinSegments) + ", " +
+         Counted(terms.OpenRows, "row");
 }
 
-/// How much is drafted for a show to come. Only the next of each can be drafted.
+/// How much is drafted for a show to come: the next three of each can be drafted.
 std::string DraftedText(const World& world, const Appointment& show) {
   for (const ComingShow& coming : ComingShows(world))
     if (coming.On == show.On && coming.Owner.Show == show.What)
@@ -65,7 +67,7 @@ std::string BookedText(const World& world, const Appointment& show) {
 std::string TonightText(const World& world) {
   for (const Appointment& show : ComingShows(world, 1)) {
     if (show.Kind == "No Event") return "No Event is planned for tonight.";
-    return "Tonight: " + show.What + ", " + BookedText(world, show) + " segments booked.";
+    return "Tonight: " + show.What + ", booked " + BookedText(world, show) + ".";
   }
   return {};
 }

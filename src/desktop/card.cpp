@@ -34,6 +34,20 @@ QSize FlowLayout::sizeHint() const {
   return {width, height};
 }
 
+int FlowLayout::WidthInOneRow() const {
+  constexpr int kStep = 24;  // what is kept grows by so much at once
+  int width = 0;
+  for (const QLayoutItem* item : items_) {
+    const QWidget* widget = item->widget();
+    const bool isKept = kept_.contains(widget);
+    if (item->isEmpty() && !isKept) continue;
+    const int wish = isKept ? widget->sizeHint().width() : item->sizeHint().width();
+    const int step = isKept ? Px(kStep) : 1;
+    width += (width > 0 ? gap_ : 0) + (wish + step - 1) / step * step;
+  }
+  return width;
+}
+
 void FlowLayout::SetOneRow(bool oneRow) {
   if (oneRow_ == oneRow) return;
   oneRow_ = oneRow;

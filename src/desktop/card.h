@@ -15,6 +15,11 @@ class FlowLayout : public QLayout {
   explicit FlowLayout(int gap, Qt::Alignment align = Qt::AlignLeft);
   /// Whether all of it stays in one row, which then is the least that it takes.
   void SetOneRow(bool oneRow);
+  /// Has room kept for what comes and goes: also while it is hidden, and for another word of its
+  /// kind.
+  void KeepRoomFor(const QWidget& part) { kept_.append(&part); }
+  /// The width of all of it in one row, with what is kept.
+  int WidthInOneRow() const;
   ~FlowLayout() override;
 
   void addItem(QLayoutItem* item) override { items_.append(item); }
@@ -31,6 +36,7 @@ class FlowLayout : public QLayout {
  private:
   int Arrange(const QRect& room, bool place) const;
   QList<QLayoutItem*> items_;
+  QList<const QWidget*> kept_;
   int gap_;
   Qt::Alignment align_;
   bool oneRow_ = false;

@@ -123,7 +123,7 @@ struct Started {
 
 desktop::Window::Options OptionsFor(desktop::WindowDesk& desk, Game& game, const Started& started) {
   desktop::Window::Options options;
-  for (const std::string& folder : game.PictureFolders())
+  for (const std::string& folder : WithPages(game.PictureFolders(), game.Home()))
     options.Pictures.append(QString::fromStdString(folder));
   if (started.Wants.Pictures.isEmpty()) options.Settings = started.Settings;
   options.Closing = [&desk, &game] {

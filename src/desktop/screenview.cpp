@@ -201,7 +201,12 @@ std::vector<ui::Button*> ScreenView::ActionsInOrder() const {
 
 QLayout* ScreenView::BuildActions() {
   auto* actions = new FlowLayout(Px(12), Qt::AlignRight | Qt::AlignBottom);
-  for (ui::Button* action : ActionsInOrder()) actions->addWidget(Add(*action));
+  for (ui::Button* action : ActionsInOrder()) {
+    actions->addWidget(Add(*action));
+    // The two that are gold in turn come and go, and the head keeps its form.
+    if (page_.Then && (action == page_.Main || action == page_.Then))
+      actions->KeepRoomFor(*views_.back()->Widget());
+  }
   return actions;
 }
 

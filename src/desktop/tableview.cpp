@@ -223,6 +223,7 @@ void TableView::ShowSelection() {
   if (control_.Extends && current >= 0 && control_.Keys().size() > 1) return;
   currentKey_ = control_.Rows()[Index(selected)].Key;
   grid_->SetCurrentRow(row);
+  grid_->scrollTo(grid_->currentIndex());
 }
 
 void TableView::ApplyColumns() {

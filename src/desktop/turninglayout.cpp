@@ -14,7 +14,7 @@ int RowWidth(QLayoutItem& item) {
   if (const auto* turning = dynamic_cast<const TurningLayout*>(item.layout()))
     return turning->WidthAcross();
   const auto* flow = dynamic_cast<const FlowLayout*>(item.layout());
-  return flow ? flow->sizeHint().width() : -1;
+  return flow ? flow->WidthInOneRow() : -1;
 }
 
 }  // namespace

@@ -251,8 +251,9 @@ std::vector<std::string> Window::KeyLines(ui::Screen& of) {
   for (const auto& group : of.Layout().Side)
     for (const auto& command : group.Commands)
       add(settings_.Key(command.Press->Name(), command.Key), command.Press->Text);
+  // The window's own are told once, by the main screen: a page tells of its own.
   for (const OwnCommand& own : KeyedCommands())
-    if (!own.Id.empty()) add(KeyOf(own), own.Words.toStdString());
+    if (!own.Id.empty() && of.Is() == ui::Role::Hub) add(KeyOf(own), own.Words.toStdString());
   return lines;
 }
 

@@ -7,6 +7,7 @@
 #include "business/past.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
+#include "records/score.h"
 
 namespace grapplemont {
 
@@ -114,6 +115,34 @@ std::string WantedText(const Morning& morning) {
   return std::to_string(next->After()) + "% would have taken " +
          Counted(next->After() * counts - sum, "more point", "more points") + " from " +
          Counted(counts - 1, "row") + ", the last of which counts twice.";
+}
+
+std::vector<RowRating> RowRatings(const NotedNumber& rating) {
+  std::vector<RowRating> rows;
+  for (const ShowNote* step : rating.Steps) {
+    if (step->Row != 0) rows.push_back({step->Row, step->Change});
+    if (step->Why == kFlatNight && !rows.empty()) rows.back().Rating += step->Change;
+  }
+  return rows;
+}
+
+std::string FlatNightText(const Morning& morning) {
+  const NotedNumber* rating = morning.Of(kNoteRating);
+  if (!rating) return {};
+  int taken = 0, ofLast = 0;
+  for (const ShowNote* step : rating->Steps) {
+    if (step->Row != 0) ofLast = 0;
+    if (step->Why == kFlatNight) taken += ofLast = step->Change;
+  }
+  if (taken == 0) return {};
+  const int counts = CountsOf(*rating);
+  const int sum = rating->After() - rating->Steps.back()->Change;
+  // The last row counts twice.
+  const int without = std::clamp(Score::Floor(sum - taken - ofLast, counts), 0, 100);
+  return "A flat night, as one in eight is: every match lost a tenth. On another this card would "
+         "have come to " +
+         NumberText(kNoteRating, without) + ", " + Counted(without - rating->After(), "point") +
+         " more.";
 }
 
 std::string Signed(long long change) {

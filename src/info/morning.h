@@ -44,6 +44,14 @@ std::string BandText(const Morning& morning);
 /// What the better step would have taken in the sum of the ratings; empty where there is none.
 std::string WantedText(const Morning& morning);
 
+/// That the night was flat and what it took of the show's rating; empty where it was not.
+std::string FlatNightText(const Morning& morning);
+/// The ratings of the rows in their order, by the rows.
+struct RowRating {
+  int Row = 0, Rating = 0;
+};
+std::vector<RowRating> RowRatings(const NotedNumber& rating);
+
 /// "+3", "-12", "0".
 std::string Signed(long long change);
 /// A number of this kind as it is read: "74%", "$1,200", "2.46", "434".

@@ -175,7 +175,8 @@ void AddNames(Game& game, const NameSearch& names, std::string_view typed, std::
   }
 }
 
-/// "Go back to the morning of ..."; the days are told only to who looks for them.
+/// "Go back to the morning of ..."; the days are told only to who looks for them. What is under way
+/// does not stand in its way: it is part of the road that is left.
 void AddMoments(Game& game, std::string_view typed, std::size_t most,
                 std::vector<ui::Finding>& findings) {
   std::vector<ui::Finding> found;
@@ -188,9 +189,7 @@ void AddMoments(Game& game, std::string_view typed, std::size_t most,
                      "Go back to " + text,
                      SinceText(game, past),
                      {},
-                     [&game, past] {
-                       if (Enters(game.Desk())) AskAndGoBack(game, past);
-                     },
+                     [&game, past] { AskAndGoBack(game, past); },
                      fit});
   }
   std::ranges::move(found, std::back_inserter(findings));

@@ -93,4 +93,36 @@ Score ImageSteps(const World& world) {
   return image;
 }
 
+namespace {
+
+/// By how much the standing moved with the image: what rises a class begins low, what falls high.
+int StandingChange(const ShowNote& note) {
+  constexpr int kClass = 100, kFar = 50;  // no show or month moves the image so far
+  return note.Change > kFar    ? note.Change - kClass
+         : note.Change < -kFar ? note.Change + kClass
+                               : int(note.Change);
+}
+
+}  // namespace
+
+Score MomentumSteps(const World& world) {
+  const Promotion& player = world.Player();
+  Score momentum;
+  if (player.Rank[0] == kNoEnd) return momentum;
+  const int moved = StandingScore(player) - player.Rank[0];
+  const std::chrono::year_month_day today{world.Today()};
+  const Day monthEnd = std::chrono::sys_days{today.year() / today.month() / 1};
+  int noted = 0;
+  std::vector<ScoreStep> steps;
+  for (const ShowNote& note : world.ShowNotes()) {
+    const bool isImage = note.Kind == kNoteImage || note.Kind == kNoteStanding;
+    if (!isImage || note.Promotion != world.PlayerUid() || Day(note.On) < monthEnd) continue;
+    steps.push_back({note.Why.Str() + ", " + ShortDate(note.On), StandingChange(note)});
+    noted += StandingChange(note);
+  }
+  momentum.Add(moved - noted, "from before what is remembered");
+  for (ScoreStep& step : steps) momentum.Add(step.Change, std::move(step.Why));
+  return momentum;
+}
+
 }  // namespace grapplemont

@@ -45,5 +45,8 @@ std::optional<Day> LastNoted(const World& world, NoteKind kind, std::string_view
 /// How the image of the player's promotion came to be what it is: the changes that are noted
 /// without a gap up to now, ten at most.
 Score ImageSteps(const World& world);
+/// Momentum: by how much size and image of the player's promotion have moved since the last month
+/// end, a class counting 100, with every step that is noted.
+Score MomentumSteps(const World& world);
 
 }  // namespace grapplemont

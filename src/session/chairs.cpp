@@ -50,16 +50,16 @@ int StrengthOf(const std::vector<const Worker*>& roster) {
 /// Who draws the crowd, and whether they will for long.
 std::string StarOf(const World& world, const Promotion& promotion,
                    const std::vector<const Worker*>& roster) {
-  if (roster.empty()) return " Nobody wrestles for it: it begins with the telephone.";
+  if (roster.empty()) return "Nobody wrestles for it: it begins with the telephone. ";
   const Worker& star = *roster.front();
-  std::string words = " The crowd comes for " + star.Name.Str();
+  std::string words = star.Name.Str();
+  if (star.Age >= kOld) words += ", at " + std::to_string(int(star.Age)) + ",";
   for (const Title& title : world.Titles())
     if (title.Owner == promotion.Uid && title.Holder == star.Uid) {
-      words += ", who holds the " + title.Name.Str();
+      words += " holds the " + title.Name.Str() + " and";
       break;
     }
-  if (star.Age >= kOld) words += ", at " + std::to_string(int(star.Age));
-  return words + ".";
+  return words + " draws the crowd. ";
 }
 
 /// What the promotions of one size have on the average.
@@ -116,7 +116,9 @@ std::vector<Chair> ChairsOf(const World& world) {
   for (Chair& chair : chairs) {
     CountBurdens(world, peers[chair.Of->Size], chair);
     const auto found = rosters.find(chair.Of->Uid);
-    chair.Story += StarOf(world, *chair.Of, found == rosters.end() ? nobody : found->second);
+    // What differs most comes first: a card shows two lines of it.
+    chair.Story =
+        StarOf(world, *chair.Of, found == rosters.end() ? nobody : found->second) + chair.Story;
   }
   return chairs;
 }

@@ -9,6 +9,7 @@
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/houserules.h"
+#include "records/store/commandlog.h"
 #include "records/store/knownfiles.h"
 #include "records/store/machine.h"
 #include "records/store/mornings.h"
@@ -102,6 +103,11 @@ Home HomeAt(Disk& disk, const std::string& folder, const Surroundings& around) {
   return {folder, ShareOf(disk, around)};
 }
 
+Layers WithPages(Layers pictures, const std::string& home) {
+  pictures.push_back(home);
+  return pictures;
+}
+
 std::vector<std::string> WaitingPictures(Disk& disk, const Layers& folders, int set) {
   std::vector<std::string> pictures;
   const int most = set == 0 ? 4 : 10;
@@ -150,6 +156,8 @@ void Describe(SlotSummary& summary, const GameInfo& game, const SlotContents& fi
   const auto moments = files.find(kMorningsName);
   if (moments != files.end() && !Mornings(moments->second).Keeps())
     summary.House += (summary.House.empty() ? "" : ", ") + std::string("no way back");
+  if (files.contains(kCommandsName))
+    summary.House += (summary.House.empty() ? "" : ", ") + std::string("recorded");
   const auto isShow = [&](const HistoryEntry& held) {
     return held.Promotion == uid && !held.CalledOff &&
            (held.Kind == kPastTv || held.Kind == kPastEvent);

@@ -43,6 +43,10 @@ Home FindHome(Disk& disk, const Surroundings& around = MachineSurroundings());
 Home HomeAt(Disk& disk, const std::string& folder,
             const Surroundings& around = MachineSurroundings());
 
+/// Where a picture may lie, the uppermost first: the folders of pictures, then the home itself,
+/// which has the page that each slot was left at.
+Layers WithPages(Layers pictures, const std::string& home);
+
 /// The pictures of a gallery that are there: set 0 is the program's own "VXM_load1.jpg" to
 /// "VXM_load4.jpg", sets 1 to 4 are "VXM_Set1_01.jpg" to "VXM_Set1_10.jpg" and so on.
 std::vector<std::string> WaitingPictures(Disk& disk, const Layers& folders, int set);

@@ -19,6 +19,7 @@ struct NewGameChoice {
   std::string SaveName;
   HouseRules House = {};
   bool NoWayBack = false;  // the slot keeps no moment to go back to
+  bool Recorded = false;   // the slot keeps what the player does, to be played again
 };
 
 /// Turns a world of default data into a fresh game: its contracts, conditions, made-up people, the

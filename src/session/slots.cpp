@@ -52,6 +52,12 @@ int SlotOfDigit(char digit) {
   return slot >= 1 && slot <= kSlots ? slot : 0;
 }
 
+/// What is done to a game that nobody plays stands in its record, too.
+std::string RenamedLine(const PlayedSlot& slot, std::string_view name) {
+  return slot.Records() ? std::string(kCommandRenamed) + " " + std::string(name) + "\n"
+                        : std::string();
+}
+
 void MakeSlot(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
               std::uint64_t worldId) {
   Slot::Create(disk, folder, files, worldId);
@@ -86,6 +92,16 @@ int LastPlayed(Disk& disk, const std::string& home) try {
   return 0;
 }
 
+int SlotToContinue(Disk& disk, const std::string& home) {
+  const auto canGoOn = [&](int slot) {
+    return ReadSlotSummary(disk, FolderOf(home, slot)).Playable;
+  };
+  if (const int last = LastPlayed(disk, home); last != 0 && canGoOn(last)) return last;
+  for (int slot = 1; slot <= kSlots; ++slot)
+    if (canGoOn(slot)) return slot;
+  return 0;
+}
+
 void RememberPlayed(Disk& disk, const std::string& home, int slot) try {
   if (LastPlayed(disk, home) == slot) return;
   const std::string text = std::to_string(slot);
@@ -112,7 +128,8 @@ std::vector<std::string> RenameSlot(Disk& disk, const std::string& folder, std::
   const Bytes before = found->second;
   Bytes after = before;
   SetSaveName(after, name);
-  if (const auto change = ChangeBetween(file, &before, &after)) opened.Commit({*change});
+  if (const auto change = ChangeBetween(file, &before, &after))
+    opened.Commit({*change}, {.Commands = RenamedLine(opened, name)});
   opened.Checkpoint();
   return opened.Remarks();
 }
@@ -128,6 +145,10 @@ namespace {
 
 bool IsHistory(const NewFile& file) {
   return file.Name == kMorningsName && Mornings(file.Contents).Keeps();
+}
+
+bool IsRecord(const NewFile& file) {
+  return file.Name == kBeginningName || file.Name == kCommandsName;
 }
 
 std::map<std::string, Bytes> ByName(const std::vector<NewFile>& files) {
@@ -165,12 +186,20 @@ bool HasHistory(Disk& disk, const std::string& folder) {
   return moments && Mornings(*moments).Count() > 0;
 }
 
-void ExportSlot(Disk& disk, const std::string& folder, const std::string& path, bool withHistory) {
+bool IsRecorded(Disk& disk, const std::string& folder) {
+  return Slot::Peek(disk, folder, KnownFiles(), kCommandsName).has_value();
+}
+
+void ExportSlot(Disk& disk, const std::string& folder, const std::string& path,
+                const TakenAlong& along) {
   std::vector<NewFile> files = ReadSlot(disk, folder);
+  const bool hasRecord = along.Record && std::ranges::any_of(files, IsRecord);
   const std::string about =
       "\nA saved game of Grapplemont: " + AboutGame(SummaryOf(ByName(files))) + "\n" +
-      (withHistory ? "With what it can go back to.\n" : "");
-  if (!withHistory) std::erase_if(files, IsHistory);
+      (along.History ? "With what it can go back to.\n" : "") +
+      (hasRecord ? "With a record of what the player did and typed.\n" : "");
+  if (!along.History) std::erase_if(files, IsHistory);
+  if (!along.Record) std::erase_if(files, IsRecord);
   const Bytes packed = PackSlot(files, ToUtf8(about));
   WriteFile(disk, path, packed);
   disk.SyncFolder(ParentOf(path));

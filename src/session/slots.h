@@ -28,6 +28,9 @@ std::optional<int> FreeSlot(Disk& disk, const std::string& home);
 
 /// The slot that was entered last, 1 to kSlots; 0 when that is not known.
 int LastPlayed(Disk& disk, const std::string& home);
+/// The slot that "Continue" goes on with: the one entered last where it can be played, else the
+/// first that can; 0 for none.
+int SlotToContinue(Disk& disk, const std::string& home);
 void RememberPlayed(Disk& disk, const std::string& home, int slot);
 
 /// The files of a game that begins in a slot. With `records` what the player does is recorded from
@@ -41,7 +44,15 @@ void CopySlot(Disk& disk, const std::string& from, const std::string& to, std::s
               std::uint64_t worldId);
 /// Whether the slot has moments to go back to that an export can take along.
 bool HasHistory(Disk& disk, const std::string& folder);
-void ExportSlot(Disk& disk, const std::string& folder, const std::string& path, bool withHistory);
+/// Whether it has a record of what the player did.
+bool IsRecorded(Disk& disk, const std::string& folder);
+/// What an exported game may have beside its world.
+struct TakenAlong {
+  bool History = false;  // what it can go back to
+  bool Record = false;   // how it began, and what the player did since
+};
+void ExportSlot(Disk& disk, const std::string& folder, const std::string& path,
+                const TakenAlong& along);
 
 /// An exported game that was read and found to be one.
 struct Importable {

@@ -108,7 +108,7 @@ class Rehearsals {
     const bool first = turn == 0;
     world.SetChance(std::make_unique<SeededDraws>(kSeed + static_cast<std::uint64_t>(turn)));
     StartShow(world, isEvent_, team_);
-    world.ShowRuns()[1].FlatNight = false;  // one night in eight; a forecast tells of the others
+    world.ShowRuns()[1].FlatNight = false;  // a forecast tells of the other nights
     while (const int number = NextSegment(world)) {
       world.SetChance(std::make_unique<SeededDraws>(SeedOf(world.Segments()[number], turn)));
       ToldSegment told = RunNextSegment(world, nullptr);

@@ -11,6 +11,11 @@ namespace grapplemont {
 /// Below this condition somebody is tired, and careless in the ring.
 inline constexpr int kTiredBelow = 60;
 
+/// What no forecast reckons with, as it is said beside each.
+inline constexpr const char* kLuckLeftOut =
+    "One night in eight is flat: every match loses a tenth then, which no forecast reckons with.";
+static_assert(kFlatNightOdds == 8);
+
 /// What a rating may come to.
 struct Forecast {
   int Low = 0, High = 0;
@@ -19,7 +24,8 @@ struct Forecast {
 
 /// What match.dat as it stands may come to, from rehearsals on a copy of the world; neither the
 /// world nor its draws move. Chance is the same for the same Segment wherever it stands, so that a
-/// row's forecast moves only with what the other rows do to it.
+/// row's forecast moves only with what the other rows do to it. That the night may be flat is left
+/// out: it would make every range too wide to book by.
 struct ShowForecast {
   std::vector<Forecast> Rows;         // a row each; 0 to 0 for an empty one
   Forecast Rating;                    // of the show

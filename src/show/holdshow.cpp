@@ -22,8 +22,6 @@ namespace grapplemont {
 
 namespace {
 
-constexpr int kFlatNightOdds = 8;
-
 ShowRun& Run(World& world) {
   return world.ShowRuns()[1];
 }
@@ -37,6 +35,14 @@ bool IsOwnStable(const World& world, const Segment& segment) {
 /// The show's rating, or what a row of its sheet adds to it.
 NoteOf RatingNote(const World& world, int row = 0) {
   return {kNoteRating, ShowName(world, world.ShowRuns()[1].IsEvent), 0, row};
+}
+
+/// What a flat night has taken of a rating: 0 or less.
+int TakenByFlatNight(const Score& rating) {
+  int taken = 0;
+  for (const ScoreStep& step : rating.Steps())
+    if (step.Why == kFlatNight) taken += static_cast<int>(step.Change);
+  return taken;
 }
 
 }  // namespace
@@ -141,8 +147,11 @@ ToldSegment RunNextSegment(World& world, LineMemory* memory) {
   const int sum = Run(world).ShowSum;
   ToldSegment told = RunSegment(world, number, memory);
   Run(world).Current = number;
-  NoteStep(world, RatingNote(world, number), Run(world).ShowSum - sum, Run(world).ShowSum,
+  const int counted = Run(world).ShowSum - sum;
+  const int taken = counted == 0 ? 0 : TakenByFlatNight(told.Overall);
+  NoteStep(world, RatingNote(world, number), counted - taken, sum + counted - taken,
            SegmentResult(world, segment));
+  NoteStep(world, RatingNote(world), taken, Run(world).ShowSum, kFlatNight);
   KeepBout(world, number, bell);
   if (memory) KeepReport(world, number, told, first);
   return told;

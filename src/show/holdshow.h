@@ -33,6 +33,8 @@ CommentaryTeam TvTeam(const World& world);
 std::string AnnouncerName(const World& world, const CommentaryTeam& team);
 std::string ColourName(const World& world, const CommentaryTeam& team);
 
+/// One night in so many is flat: nothing quite comes off, and each match loses a tenth.
+inline constexpr int kFlatNightOdds = 8;
 /// Begins the show that match.dat holds: whether the night is flat is drawn, the commentators'
 /// charges begin the sum. Draws once.
 void StartShow(World& world, bool isEvent, const CommentaryTeam& team);

@@ -3,6 +3,7 @@
 #include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "show/aftermatch.h"
+#include "show/nightbook.h"
 #include "show/ratings.h"
 #include "show/showfeuds.h"
 #include "show/titlechange.h"
@@ -310,7 +311,7 @@ void WeighMatch(SegmentRun& run) {
   run.Overall.Become(WeighRating(run.Quality, run.Crowd),
                      crowd + "% of Crowd " + std::to_string(run.Crowd) + " and " + quality +
                          "% of Quality " + std::to_string(run.Quality));
-  if (run.Show.FlatNight) run.Overall.Scale(9, 10, "flat night");
+  if (run.Show.FlatNight) run.Overall.Scale(9, 10, std::string(kFlatNight));
   run.Overall.Limit();
 }
 

@@ -17,6 +17,9 @@ namespace grapplemont {
 /// Makes room for today's show: the oldest of the kept shows goes, and what today has noted before.
 void BeginNight(World& world);
 
+/// Why a step was taken by a flat night: of a match's rating, and of the show's sum.
+inline constexpr std::string_view kFlatNight = "flat night";
+
 // A step noted by a Segment of a show that is told. A Segment that runs outside a show has no row,
 // and notes nothing.
 

@@ -9,6 +9,7 @@
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/houserules.h"
+#include "records/store/playedslot.h"
 #include "report/report.h"
 #include "session/home.h"
 #include "session/newgame.h"
@@ -182,6 +183,11 @@ int Run(const Arguments& arguments, Shell& shell) {
     throw WorldFault("Slot " + std::to_string(slot) +
                      ": a rule of the house, every row is booked by hand. Run it with --shows "
                      "cancel.");
+  if (days > 0 && game.OpenedSlot().Records()) {
+    game.OpenedSlot().EndRecord("grapplemont-world run on " + IsoDate(world.Today()));
+    shell.Errors << "Slot " << slot << ": its record ends here. What is run is not the player's: "
+                 << "it can be played again up to this day and no further.\n";
+  }
   ProgressLine line(shell);
   const auto dayPassed = [&](int day) {
     if (stats && IsFirstOfMonth(world.Today())) stats->Add(world);

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <charconv>
 #include <deque>
 #include <filesystem>
 #include <ostream>
@@ -12,10 +13,14 @@
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/store/commandlog.h"
-#include "records/store/mornings.h"
+#include "records/store/digest.h"
+#include "records/store/playedslot.h"
 #include "records/store/slotcare.h"
+#include "session/slots.h"
 #include "tools/commands.h"
+#include "tools/confineddisk.h"
 #include "ui/actlines.h"
+#include "ui/goingback.h"
 
 namespace grapplemont::tools {
 
@@ -42,12 +47,24 @@ class RecordedDesk : public ui::Desk {
     if (!lines_.empty()) lines_.pop_front();  // says what the file is
   }
   void Say(const std::string&, const std::string& text) override { Answer("ok", text); }
-  bool Ask(const std::string&, const std::string& text, ui::Default) override {
+  bool Ask(const std::string& title, const std::string& text, ui::Default) override {
+    if (title == "Replace?") return true;  // ChooseFile has its answer
     return Answer("yes|no", text) == "yes";
   }
   std::string Prompt(const std::string&, const std::string& text, const std::string&) override {
     const std::string answer = Answer("enter|cancel", text);
     return answer.starts_with("enter ") ? answer.substr(6) : std::string();
+  }
+
+  /// Whether a file was there already is of the player's machine: where it was asked, the answer
+  /// stands right behind the name.
+  std::string ChooseFile(const std::string& title, const std::string& text,
+                         const std::string& offered, Use use) override {
+    const std::string path = Prompt(title, text, offered);
+    if (use == Use::Read || path.empty() || lines_.empty()) return path;
+    const bool may = lines_.front() != "no";
+    if (lines_.front() == "yes" || !may) Next();
+    return may ? path : std::string();
   }
 
   /// The next line; nothing at the end or at a fault.
@@ -94,9 +111,11 @@ class Player {
     std::string_view rest = line;
     const std::string verb = NextWord(rest);
     if (verb == "session") return Begin(rest);
+    if (verb == kCommandRenamed) return Rename(rest);
     if (verb == kCommandsFull) return desk_.Wrong("nothing more was recorded");
     if (!game_ || !desk_.Top())
       return desk_.Wrong("\"" + std::string(line) + "\" stands where no game is open");
+    if (verb == "mornings") return OpenMornings(*game_);
     if (const std::string why = ui::DoAct(desk_, line); !why.empty()) desk_.Wrong(why);
   }
   void Leave() {
@@ -109,14 +128,13 @@ class Player {
  private:
   void Begin(std::string_view line) {
     Leave();
-    const std::string seed = NextWord(line);
+    const auto seed = SeedIn(NextWord(line));
     const auto today = ParseIsoDate(std::string(line));
-    if (seed.empty() || seed.size() > 20 || !std::ranges::all_of(seed, IsDigit) || !today)
-      return desk_.Wrong("a session without a seed and a day");
+    if (!seed || !today) return desk_.Wrong("a session without a seed and a day");
     Game::Options options;
     options.Home = home_;
     options.Share = share_;
-    options.Seed = std::stoull(seed);
+    options.Seed = *seed;
     options.Worlds = 1;  // a look ahead changes nothing
     options.Today = [day = *today] { return day; };
     game_ = std::make_unique<Game>(desk_, disk_, options);
@@ -124,7 +142,19 @@ class Player {
     game_->OpenSlot(kReplaySlot);
     desk_.Open("frmMainScreen");
   }
-  static bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
+  /// Nothing for what is no number of 64 bits.
+  static std::optional<std::uint64_t> SeedIn(const std::string& word) {
+    std::uint64_t seed = 0;
+    const char* const end = word.data() + word.size();
+    const auto read = std::from_chars(word.data(), end, seed);
+    return read.ec == std::errc() && read.ptr == end ? std::optional(seed) : std::nullopt;
+  }
+
+  /// While nobody plays it.
+  void Rename(std::string_view name) {
+    Leave();
+    RenameSlot(disk_, home_ + "/s" + std::to_string(kReplaySlot), name);
+  }
 
   Disk& disk_;
   RecordedDesk& desk_;
@@ -156,16 +186,38 @@ std::string DifferenceOf(const World& played, const World& kept) {
   return {};
 }
 
+/// "outside DIGEST WHO": where something else than the player's commands has changed the world.
+struct EndOfRecord {
+  std::uint64_t Digest = 0;
+  std::string Who;
+};
+
+std::optional<EndOfRecord> ReadEnd(std::string_view line) {
+  if (NextWord(line) != kCommandsOutside) return std::nullopt;
+  const std::string digits = NextWord(line);
+  EndOfRecord end{0, std::string(line)};
+  const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), end.Digest);
+  return read.ec == std::errc() ? std::optional(end) : std::nullopt;
+}
+
+std::uint64_t DigestOfWorld(const std::vector<NewFile>& files) {
+  WorldDigest digest;
+  for (const NewFile& file : files)
+    if (!PlayedSlot::IsOwn(file.Name)) digest.Set(file.Name, file.Contents);
+  return digest.Value();
+}
+
 }  // namespace
 
-Replayed Replay(Disk& disk, const std::vector<NewFile>& files, const std::string& home,
+Replayed Replay(Disk& machine, const std::vector<NewFile>& files, const std::string& home,
                 const std::string& share) {
   const NewFile* const beginning = FileNamed(files, kBeginningName);
   const NewFile* const commands = FileNamed(files, kCommandsName);
   if (!beginning || !commands)
     throw WorldFault(
-        "Nothing was recorded in this game: only a game that was begun with a seed can be played "
-        "again.");
+        "Nothing was recorded in this game: only a game that was begun with a seed, or as "
+        "recorded, and exported with its record can be played again.");
+  ConfinedDisk disk(machine, home, share);  // the record may be anybody's
   auto start = UnpackSlot(beginning->Contents, kBeginningName);
   start.push_back({kBeginningName, beginning->Contents});
   start.push_back({kCommandsName, CommandLog::Empty()});
@@ -173,13 +225,21 @@ Replayed Replay(Disk& disk, const std::vector<NewFile>& files, const std::string
   Slot::Create(disk, slot, start, 1);
   RecordedDesk desk(
       {reinterpret_cast<const char*>(commands->Contents.data()), commands->Contents.size()});
+  std::optional<EndOfRecord> end;
   {
     Player player(disk, desk, home, share);
-    while (const auto line = desk.Next()) player.Do(*line);
+    while (const auto line = desk.Next()) {
+      if ((end = ReadEnd(*line))) break;
+      player.Do(*line);
+    }
   }
-  Replayed replayed{desk.Done, desk.Fault, {}};
-  if (desk.Fault.empty())
-    replayed.Difference = DifferenceOf(WorldOf(ReadSlot(disk, slot)), WorldOf(files));
+  Replayed replayed{desk.Done - (end ? 1 : 0), desk.Fault, {}, end ? end->Who : std::string()};
+  if (!desk.Fault.empty()) return replayed;
+  const auto played = ReadSlot(disk, slot);
+  if (!end)
+    replayed.Difference = DifferenceOf(WorldOf(played), WorldOf(files));
+  else if (DigestOfWorld(played) != end->Digest)
+    replayed.Difference = "the world is not what it was when it was changed by " + end->Who + ".";
   return replayed;
 }
 
@@ -188,11 +248,13 @@ namespace {
 /// A folder for as long as a career is played again.
 class PassingFolder {
  public:
-  PassingFolder()
-      : path_((std::filesystem::temp_directory_path() /
-               ("grapplemont-replay-" + std::to_string(getpid())))
-                  .string()) {
-    std::filesystem::create_directory(path_);
+  PassingFolder() {
+    const auto where = std::filesystem::temp_directory_path();
+    for (int turn = 1;; ++turn) {
+      const std::string name = std::to_string(getpid()) + "-" + std::to_string(turn);
+      path_ = (where / ("grapplemont-replay-" + name)).string();
+      if (std::filesystem::create_directory(path_)) return;  // one that was there is another's
+    }
   }
   ~PassingFolder() {
     std::error_code ignored;
@@ -219,7 +281,12 @@ int ReplayFile(const Arguments& arguments, Shell& shell) {
   if (!replayed.Difference.empty())
     throw WorldFault("Played again it comes out differently: " + replayed.Difference);
   shell.Out << path << ": " << Counted(static_cast<std::size_t>(replayed.Commands), "command")
-            << " played again, and every byte of the world is the same.\n";
+            << " played again, and every byte of the world is the same";
+  if (replayed.EndedBy.empty())
+    shell.Out << ".\n";
+  else
+    shell.Out << " up to where it was changed by " << replayed.EndedBy
+              << ". What came after was not recorded and cannot be checked.\n";
   return 0;
 }
 
@@ -227,7 +294,7 @@ int ReplayFile(const Arguments& arguments, Shell& shell) {
 
 const Command kReplay{"replay",
                       "FILE",
-                      "Plays a game that was begun with a seed again from its exported file, and "
+                      "Plays a game that was recorded again from its exported file, and "
                       "says whether it comes to the same bytes or what the first difference is.",
                       {},
                       ReplayFile};

@@ -1,6 +1,8 @@
 #include "ui/actlines.h"
 
 #include <algorithm>
+#include <iterator>
+#include <vector>
 
 #include "ui/acts.h"
 #include "ui/asnumber.h"
@@ -29,24 +31,53 @@ std::string VisitAgain(Desk& desk, std::string_view what) {
   return "nothing is called so";
 }
 
-/// What stands behind the name is numbers: rows, or where a scroll bar goes.
+using Numbers = std::vector<int>;
+
+/// An act on rows or values, by how many it takes; 0 for any number.
+struct NumberVerb {
+  std::string_view Verb;
+  std::size_t Takes;
+  std::string (*Do)(Desk&, Screen&, const std::string& name, const Numbers&);
+};
+constexpr NumberVerb kNumberVerbs[] = {
+    {"rows", 0,
+     [](auto& desk, auto& screen, auto& name, const Numbers& all) {
+       return PickRows(desk, screen, name, all);
+     }},
+    {"pick", 1,
+     [](auto& desk, auto& screen, auto& name, const Numbers& all) {
+       return Pick(desk, screen, name, all[0]);
+     }},
+    {"also", 1,
+     [](auto& desk, auto& screen, auto& name, const Numbers& all) {
+       return PickToo(desk, screen, name, all[0]);
+     }},
+    {"open", 1,
+     [](auto& desk, auto& screen, auto& name, const Numbers& all) {
+       return OpenRow(desk, screen, name, all[0]);
+     }},
+    {"slide", 1,
+     [](auto& desk, auto& screen, auto& name, const Numbers& all) {
+       return Slide(desk, screen, name, all[0]);
+     }},
+    {"move", 2,
+     [](auto& desk, auto& screen, auto& name, const Numbers& all) {
+       return MoveRow(desk, screen, name, all[0], all[1]);
+     }},
+};
+
 std::string DoWithNumbers(Desk& desk, Screen& screen, std::string_view verb,
                           const std::string& name, std::string_view rest) {
-  std::vector<int> numbers;
+  const auto found = std::ranges::find(kNumberVerbs, verb, &NumberVerb::Verb);
+  if (found == std::end(kNumberVerbs)) return "there is no such command";
+  Numbers numbers;
   while (!rest.empty()) {
     const auto number = AsNumber(WordOff(rest));
     if (!number) return "no number stands there";
     numbers.push_back(*number);
   }
-  if (verb == "rows") return PickRows(desk, screen, name, numbers);
-  const std::size_t wanted = verb == "move" ? 2 : 1;
-  if (numbers.size() != wanted) return "a number is missing or too many";
-  if (verb == "pick") return Pick(desk, screen, name, numbers[0]);
-  if (verb == "also") return PickToo(desk, screen, name, numbers[0]);
-  if (verb == "open") return OpenRow(desk, screen, name, numbers[0]);
-  if (verb == "slide") return Slide(desk, screen, name, numbers[0]);
-  if (verb == "move") return MoveRow(desk, screen, name, numbers[0], numbers[1]);
-  return "there is no such command";
+  if (found->Takes != 0 && numbers.size() != found->Takes) return "a number is missing or too many";
+  return found->Do(desk, screen, name, numbers);
 }
 
 std::string DoOn(Desk& desk, Screen& screen, const std::string& verb, std::string_view rest) {

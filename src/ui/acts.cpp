@@ -21,9 +21,9 @@ void Note(Desk& desk, const Screen& screen, const Control& control, std::string_
   const bool says = control.Is() == Kind::Button || control.Is() == Kind::CheckBox ||
                     control.Is() == Kind::OptionButton;
   const std::string caption = says ? control.Text.Get() : std::string();
-  desk.Note({on + std::string(verb) + " " + control.Name() +
-                 (words.empty() ? "" : " " + std::string(words)),
-             (caption.empty() ? "" : caption + ", ") + screen.Title.Get(), goesOn});
+  desk.NoteOwn({on + std::string(verb) + " " + control.Name() +
+                    (words.empty() ? "" : " " + std::string(words)),
+                (caption.empty() ? "" : caption + ", ") + screen.Title.Get(), goesOn});
 }
 
 /// Does an act to a control that is there for the player; else why it cannot be done.
@@ -150,7 +150,7 @@ std::string Click(Desk& desk, Screen& screen, std::string_view name) {
     if (control.Is() == Kind::OptionButton) return Check(desk, screen, name, true);
     if (!button && !(picture && picture->OnClick)) return CannotBe(control, "clicked");
     // What a clock presses by itself is no act of the player's.
-    if (!button || button->Every == 0) Note(desk, screen, control, "click");
+    if (!button || (button->Every == 0 && !button->Fleeting)) Note(desk, screen, control, "click");
     desk.Event(button ? button->OnClick : picture->OnClick);
     return {};
   });
@@ -265,7 +265,7 @@ std::string Follow(Desk& desk, Screen& screen, std::string_view words) {
   for (const Control* control : screen.Controls()) {
     if (!control->Visible || words.empty()) continue;
     if (const Handler open = LinkIn(desk, *control, words)) {
-      desk.Note({"follow " + OnOneLine(words), std::string(words)});
+      desk.NoteOwn({"follow " + OnOneLine(words), std::string(words)});
       desk.Event(open);
       return {};
     }

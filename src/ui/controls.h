@@ -123,6 +123,7 @@ class Button : public Control {
   /// Milliseconds after which a shell that has a clock presses it by itself, again and again; 0 for
   /// never.
   Property<int> Every{Changes(), 0};
+  bool Fleeting = false;  // steers what goes on by the clock, which nobody plays again
 };
 
 class TextBox : public Control {

@@ -92,7 +92,7 @@ NameSearch Desk::NewSearch() const {
 }
 
 void Desk::Visit(const Finding& found) {
-  Note({"visit " + found.Heading + ": " + found.Words, found.Words});
+  NoteOwn({"visit " + found.Heading + ": " + found.Words, found.Words});
   const Handler open = found.Open;
   Event(open);
 }
@@ -100,7 +100,7 @@ void Desk::Visit(const Finding& found) {
 std::string Desk::Take(const TakingBack& back) {
   std::string what = back.What ? back.What() : std::string();
   if (what.empty() || (Top() && Top()->Is() == Role::Wait)) return {};
-  Note({&back == &Undo ? "undo" : "redo"});
+  NoteOwn({&back == &Undo ? "undo" : "redo"});
   Event(back.Do);
   return what;
 }
@@ -110,14 +110,14 @@ bool Desk::OpenHelp() {
   if (!Help.About || !top || top->Is() == Role::Wait) return false;
   std::unique_ptr<Screen> page = Help.About(*top);
   if (!page) return false;
-  Note({"explain"});
+  NoteOwn({"explain"});
   Open(std::move(page));
   return true;
 }
 
 bool Desk::OpenGlossary(std::string_view term) {
   if (!Help.Glossary) return false;
-  Note({"explain " + std::string(term)});
+  NoteOwn({"explain " + std::string(term)});
   Open(Help.Glossary(term));
   return true;
 }

@@ -146,6 +146,11 @@ class Desk {
   void Note(Act act) {
     if (NoteAct) NoteAct(std::move(act));
   }
+  /// The same for an act that a handler can do as well: then it is part of the player's own, which
+  /// has been noted.
+  void NoteOwn(Act act) {
+    if (depth_ == 0) Note(std::move(act));
+  }
 
   /// The last click taken back, and one that was taken back done again: how it is told, empty for
   /// none, and the doing.

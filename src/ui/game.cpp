@@ -31,13 +31,22 @@ Game::Game(ui::Desk& desk, grapplemont::Disk& disk, Options options)
     : desk_(desk), disk_(disk), options_(std::move(options)) {
   desk_.SetWork(this);
   ConnectGoingBack(*this);
-  desk_.NoteAct = [this](ui::Act act) {
-    if (slot_ && slot_->Records()) step_.Commands += act.Line + "\n";
-    if (act.Name.empty()) return;
-    step_.Is = PlayedStep::Click;
-    step_.Name = std::move(act.Name);
-    step_.GoesOn = act.GoesOn;
-  };
+  desk_.NoteAct = [this](ui::Act act) { HearAct(std::move(act)); };
+}
+
+void Game::HearAct(ui::Act act) {
+  // What is answered before the main screen has come up belongs to the machine, not to the career.
+  if (slot_ && slot_->Records() && IsOnMainScreen(desk_)) step_.Commands += act.Line + "\n";
+  if (act.Name.empty()) return;
+  step_.Is = PlayedStep::Click;
+  step_.Name = std::move(act.Name);
+  step_.GoesOn = act.GoesOn;
+  step_.Page = PageOnHub(desk_);
+}
+
+void Game::CommitAs(PlayedStep step) {
+  step.Commands = std::move(step_.Commands);
+  step_ = std::move(step);
 }
 
 Game::~Game() {
@@ -139,7 +148,7 @@ PlayedSlot& Game::OpenedSlot() {
 }
 
 void Game::Commit() {
-  const PlayedStep step = std::exchange(step_, {.Commands = step_.Commands});
+  PlayedStep step = std::exchange(step_, {.Commands = step_.Commands});
   if (joined_) joined_->Commit();
   if (!world_) return;
   // What was gone back to is just what it was.
@@ -147,6 +156,7 @@ void Game::Commit() {
   const auto changes = world_->Changes();
   if (changes.empty()) return;
   if (!MayChange(changes)) throw std::logic_error(kCareerIsOver);
+  if (IsLookedAt(changes)) step.Name.clear();
   try {
     slot_->Commit(changes, step);
   } catch (const DiskError&) {
@@ -164,6 +174,13 @@ void Game::Commit() {
 void Game::MarkCommitted(const std::vector<FileChange>& changes) {
   world_->MarkCommitted(changes);
   isOver_ = HasEnded(world_->Game());
+}
+
+/// The player has but looked at a page: mails are read, steps of the guide seen.
+bool Game::IsLookedAt(const std::vector<FileChange>& changes) const {
+  return std::ranges::all_of(changes, [this](const FileChange& change) {
+    return change.Name == world_->ReadMails().File() || change.Name == world_->Guides().File();
+  });
 }
 
 bool Game::MayChange(const std::vector<FileChange>& changes) const {

@@ -142,7 +142,10 @@ class Game : public ui::Work {
   /// The slot of the open world, with what can be gone back to.
   PlayedSlot& OpenedSlot();
   /// Says what the commit at the end of this event is, where it is no click.
-  void CommitAs(PlayedStep::Kind kind) { step_.Is = kind; }
+  void CommitAs(PlayedStep step);
+  /// Pages come up as they were before a click that was taken back: what opening one does to the
+  /// world is not done again.
+  bool ComesUpAgain = false;
 
   /// What else every event is a transaction of, while a room keeps something of its own open (the
   /// editor the default data); nullptr for nothing.
@@ -156,6 +159,8 @@ class Game : public ui::Work {
  private:
   void MarkCommitted(const std::vector<FileChange>& changes);
   bool MayChange(const std::vector<FileChange>& changes) const;
+  bool IsLookedAt(const std::vector<FileChange>& changes) const;
+  void HearAct(ui::Act act);
   std::string Path(const std::string& name) const { return options_.Home + "/" + name; }
   std::vector<std::string> Layers(const std::string& name) const;
   std::optional<Bytes> CommittedOf(const std::string& file) const;

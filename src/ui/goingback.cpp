@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cstring>
 #include <map>
+#include <memory>
 
+#include "records/fields/companies.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
@@ -15,6 +17,7 @@ namespace grapplemont {
 namespace {
 
 constexpr const char* kMainScreen = "frmMainScreen";
+constexpr char kPageAbove = '/';
 /// What waits for the player comes up by itself where it still waits.
 constexpr const char* kComeUpThemselves[] = {"frmMatchOutput", "frmPostShow", "frmPinky",
                                              "frmIncident",    "frmTheEnd",   "frmWait"};
@@ -23,17 +26,18 @@ constexpr const char* kChangedOutside =
     "them any more.";
 constexpr const char* kNoWayBack = "A rule of the house: this game never goes back.";
 
-/// The world takes on what the way leads to.
-void Take(Game& game, const WayBack& way, std::uint64_t digest, PlayedStep::Kind as) {
+/// The world takes on what the way leads to. A game's name is not of its past.
+void Take(Game& game, const WayBack& way, std::uint64_t digest, const PlayedStep& as) {
   World& world = game.World();
+  const auto name = world.Game().SaveName;
   std::map<std::string, Bytes> files;
   std::vector<Table*> tables;
   for (Table* table : world.Tables()) {
-    const std::string name(table->File());
-    if (std::ranges::find(way, name, &FileBack::Name) == way.end()) continue;
+    const std::string file(table->File());
+    if (std::ranges::find(way, file, &FileBack::Name) == way.end()) continue;
     tables.push_back(table);
     const ByteSpan bytes = table->Contents();
-    if (table->Exists()) files[name] = Bytes(bytes.begin(), bytes.end());
+    if (table->Exists()) files[file] = Bytes(bytes.begin(), bytes.end());
   }
   if (!game.OpenedSlot().Restore(way, digest, files)) throw WorldFault(kChangedOutside);
   for (Table* table : tables) {
@@ -43,43 +47,58 @@ void Take(Game& game, const WayBack& way, std::uint64_t digest, PlayedStep::Kind
     else
       table->Load(file->second);
   }
+  if (world.Game().SaveName != name) world.Game().SaveName = name;
   world.Session = {};
   world.Session.StartSize = world.Player().Size;
   game.CommitAs(as);
 }
 
-/// The main screen shows the world as it is now, and the page that lay on it lies there again.
-void ComeUpAgain(Game& game, const std::string& page = {}) {
-  ui::Desk& desk = game.Desk();
+/// The main screen shows the world as it is now.
+void ShowMainScreen(ui::Desk& desk) {
   desk.CloseAll();
   desk.Open(kMainScreen);
-  if (!page.empty() && desk.Top() && desk.Top()->Name() == kMainScreen) desk.Open(page);
 }
 
-/// The page on the main screen, where it can be opened as it is; empty for none.
-std::string PageOnHub(const ui::Desk& desk) {
-  const auto& screens = desk.Screens();
-  if (screens.size() < 2) return {};
-  const std::string& page = screens[1]->Name();
-  const bool comesUp = std::ranges::find(kComeUpThemselves, page) != std::end(kComeUpThemselves);
-  return desk.Knows(page) && !comesUp ? page : std::string();
+/// The main screen and the page that lay on it show the world that `take` makes. A page that does
+/// not come up without doing something to the world stays away.
+void ComeUpAgain(Game& game, const std::string& page, const ui::Handler& take) {
+  ui::Desk& desk = game.Desk();
+  take();
+  ShowMainScreen(desk);
+  const std::string first = page.substr(0, page.find(kPageAbove));
+  if (!desk.Knows(first) || !desk.Top() || desk.Top()->Name() != kMainScreen) return;
+  const auto digest = [&game] { return game.OpenedSlot().DigestAfter(game.World().Changes()); };
+  const std::uint64_t wanted = digest();
+  {
+    game.ComesUpAgain = true;
+    const std::unique_ptr<bool, void (*)(bool*)> until(&game.ComesUpAgain,
+                                                       [](bool* again) { *again = false; });
+    desk.Open(first);
+    if (first != page && desk.Top()->Name() == first) desk.Open(page.substr(first.size() + 1));
+  }
+  if (digest() == wanted) return;
+  game.World().Rollback();
+  take();
+  ShowMainScreen(desk);
 }
 
 void UndoClick(Game& game) {
   PlayedSlot& slot = game.OpenedSlot();
-  const std::string page = PageOnHub(game.Desk());
-  const std::size_t last = slot.Moments().Count() - 1;
-  const auto way = slot.Moments().WayTo(last);
+  const auto click = slot.ClickToUndo();
+  const auto way = click ? slot.Moments().WayTo(*click) : std::nullopt;
   if (!way) throw WorldFault(kChangedOutside);
-  Take(game, *way, slot.Moments()[last].Digest, PlayedStep::Undo);
-  ComeUpAgain(game, page);
+  const Moment moment = slot.Moments()[*click];
+  const std::string now = PageOnHub(game.Desk());
+  ComeUpAgain(game, moment.Page,
+              [&] { Take(game, *way, moment.Digest, {.Is = PlayedStep::Undo, .Page = now}); });
 }
 
 void RedoClick(Game& game) {
   const PlayedSlot& slot = game.OpenedSlot();
-  const std::string page = PageOnHub(game.Desk());
-  Take(game, slot.WayToRedo(), slot.DigestToRedo(), PlayedStep::Redo);
-  ComeUpAgain(game, page);
+  const std::string now = PageOnHub(game.Desk());
+  ComeUpAgain(game, slot.PageToRedo(), [&] {
+    Take(game, slot.WayToRedo(), slot.DigestToRedo(), {.Is = PlayedStep::Redo, .Page = now});
+  });
 }
 
 /// The file as it was a step before; nothing where it was not there.
@@ -114,29 +133,65 @@ void Describe(PastMoment& moment, const std::optional<Bytes>& games,
       FirstIn<Promotion>(promotions, [uid](const Promotion& held) { return held.Uid == uid; });
   if (!own) return;
   moment.Image = own->Image;
+  moment.Size = own->Size;
   moment.Money = own->Money;
   moment.Promotion = own->Name.Str();
 }
 
+/// Which moments the present does not come from. Whoever goes back goes on from where they went
+/// back to, and what lies between is another road.
+std::vector<bool> OtherRoads(const Mornings& moments) {
+  std::vector<bool> others(moments.Count());
+  Day turned = Day::max();  // of a road whose goal is not kept: days behind it are another's
+  for (std::size_t i = moments.Count(); i-- > 0;) {
+    others[i] = moments[i].Is == MomentKind::Left || moments[i].On > turned;
+    if (moments[i].Is != MomentKind::Left) continue;
+    std::size_t goal = i;
+    while (goal-- > 0 && moments[goal].Digest != moments[i].TargetDigest) {
+    }
+    if (goal >= i) {
+      turned = std::min(turned, moments[i].Target);
+      continue;
+    }
+    for (; i > goal + 1; --i) others[i - 1] = true;
+    i = goal;
+    others[i] = moments[i].Is == MomentKind::Left;  // it was gone on from, whatever it came from
+  }
+  return others;
+}
+
 }  // namespace
+
+bool IsOnMainScreen(const ui::Desk& desk) {
+  return !desk.Screens().empty() && desk.Screens().front()->Name() == kMainScreen;
+}
+
+std::string PageOnHub(const ui::Desk& desk) {
+  const auto& screens = desk.Screens();
+  if (screens.size() < 2 || !IsOnMainScreen(desk)) return {};
+  const std::string& page = screens[1]->Name();
+  const bool comesUp = std::ranges::find(kComeUpThemselves, page) != std::end(kComeUpThemselves);
+  if (comesUp || !desk.Knows(page)) return {};
+  const std::string above =
+      screens.size() > 2 ? screens[2]->Name() + " " + screens[2]->Title.Get() : std::string();
+  return desk.Knows(above) ? page + kPageAbove + above : page;
+}
 
 std::vector<PastMoment> PastMoments(Game& game) {
   const World& world = game.World();
   const Mornings& moments = game.OpenedSlot().Moments();
+  const std::vector<bool> others = OtherRoads(moments);
   auto games = BytesOf<GameInfo>(world), promotions = BytesOf<Promotion>(world);
   std::vector<PastMoment> found;
-  Day turned = Day::max();  // days behind it, of moments before, are of a road that was left
   for (std::size_t i = moments.Count(); i-- > 0;) {
     const auto step = moments.Step(i);
     if (!step) break;
     StepBack(*step, LayoutOf<GameInfo>().File, games);
     StepBack(*step, LayoutOf<Promotion>().File, promotions);
-    const Moment& moment = moments[i];
-    if (moment.Is == MomentKind::Click) continue;
-    PastMoment past{i, moment, moment.On > turned, 0, 0, {}};
+    if (moments[i].Is == MomentKind::Click) continue;
+    PastMoment past{i, moments[i], others[i]};
     Describe(past, games, promotions);
     found.push_back(std::move(past));
-    if (moment.Is == MomentKind::Left) turned = std::min(turned, moment.Target);
   }
   return found;
 }
@@ -157,7 +212,11 @@ std::string SinceText(Game& game, const PastMoment& moment) {
   const World& world = game.World();
   const Promotion& now = world.Player();
   std::string text;
-  if (moment.Promotion != now.Name.Str()) text = "You ran " + moment.Promotion + ". ";
+  if (moment.Promotion != now.Name.Str())
+    text = "You ran " + moment.Promotion + ". ";
+  else if (moment.Size != now.Size)
+    text =
+        std::string(SizeText(moment.Size)) + " then, " + std::string(SizeText(now.Size)) + " now. ";
   text += "Image " + std::to_string(moment.Image) + "%, now " + std::to_string(now.Image) +
           "%; money " + Dollars(moment.Money) + ", now " + Dollars(now.Money);
   if (moment.OnOtherRoad || moment.Of.On > world.Today()) return text;
@@ -183,28 +242,35 @@ void GoBackTo(Game& game, std::size_t moment) {
   if (moment >= moments.Count()) throw WorldFault("That moment is not kept any more.");
   const auto way = moments.WayTo(moment);
   if (!way) throw WorldFault(kChangedOutside);
-  const auto name = game.World().Game().SaveName;
-  Take(game, *way, moments[moment].Digest, PlayedStep::Left);
-  game.World().Game().SaveName = name;
-  ComeUpAgain(game);
+  const std::uint64_t digest = moments[moment].Digest;
+  Take(game, *way, digest, {.Is = PlayedStep::Left, .Target = digest});
+  ShowMainScreen(game.Desk());
 }
 
 bool AskAndGoBack(Game& game, const PastMoment& moment) {
   if (game.Desk().Objects(WhyNoWayBack(game))) return false;
+  const Mornings& moments = game.OpenedSlot().Moments();
+  std::string kept = "What you leave is kept, and you can return to it.";
+  if (const auto goes = moments.WouldGo(MomentKind::Left))
+    kept += " " + std::to_string(Mornings::kLeft) + " roads are kept: \"" +
+            MomentText(moments[*goes]) + "\" is forgotten for it.";
   if (!game.Desk().Ask("Go Back", MomentText(moment.Of) + ": go back there?\n" +
-                                      SinceText(game, moment) +
-                                      ".\nWhat you leave is kept, and you can return to it."))
+                                      SinceText(game, moment) + ".\n" + kept))
     return false;
   GoBackTo(game, moment.Number);
   return true;
 }
 
+void OpenMornings(Game& game) {
+  ui::Desk& desk = game.Desk();
+  desk.Note({"mornings"});
+  if (desk.Top() && desk.Top()->Name() == "frmTheEnd") desk.Close(*desk.Top());
+  desk.Open("frmMornings");
+}
+
 void ConnectGoingBack(Game& game) {
   ui::Desk& desk = game.Desk();
-  const auto isPlayed = [&game] {
-    const auto& screens = game.Desk().Screens();
-    return game.HasWorld() && !screens.empty() && screens.front()->Name() == kMainScreen;
-  };
+  const auto isPlayed = [&game] { return game.HasWorld() && IsOnMainScreen(game.Desk()); };
   desk.Undo = {
       [&game, isPlayed] { return isPlayed() ? game.OpenedSlot().WhatToUndo() : std::string(); },
       [&game] { UndoClick(game); }};

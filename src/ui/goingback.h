@@ -17,10 +17,11 @@ struct Promotion;
 struct PastMoment {
   std::size_t Number;  // of the slot's moments
   Moment Of;
-  bool OnOtherRoad = false;  // of days that were left to go back to an earlier one
+  bool OnOtherRoad = false;  // it does not lead to the present: the days after it were left
   int Image = 0;             // of the promotion that the player had
   long long Money = 0;       // dollars
-  std::string Promotion;     // its name
+  int Size = 0;
+  std::string Promotion = {};  // its name
 };
 
 /// What the open game can go back to, the latest first: mornings, what the player has named, and
@@ -38,6 +39,16 @@ std::string WhyNoWayBack(Game& game);
 void GoBackTo(Game& game, std::size_t moment);
 /// Asks first; false when the player would rather stay.
 bool AskAndGoBack(Game& game, const PastMoment& moment);
+
+/// Opens what can be gone back to above what lies on the desk, in place of the news of an end; an
+/// act of the player.
+void OpenMornings(Game& game);
+
+/// Whether the main screen lies at the bottom of the desk.
+bool IsOnMainScreen(const ui::Desk& desk);
+/// The page on the main screen, where it can be opened by its name and does not come up by itself,
+/// and the one above that the desk knows by name and title; empty for none.
+std::string PageOnHub(const ui::Desk& desk);
 
 /// Tells the desk how clicks of today are taken back and done again.
 void ConnectGoingBack(Game& game);

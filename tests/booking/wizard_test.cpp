@@ -152,7 +152,7 @@ TEST(frmBookSheet, OpensOnlyWhatIsDue) {
   play.Next();
   EXPECT_FALSE(
       static_cast<const ui::Button*>(play.Desk.Screens().front()->Find("cmdcomplete"))->Enabled);
-  play.Next();
+  play.Desk.Click("cmddone");
   EXPECT_EQ(enabled("cmdbook"), Lines{"5"}) << "the last row stays open for going back";
   EXPECT_EQ(enabled("cmdback"), Lines{"5"});
   EXPECT_TRUE(play.Desk.Enabled("cmdcomplete"));
@@ -176,8 +176,10 @@ TEST(frmBookSheet, GoesBackToAStepAndKeepsWhatStillHolds) {
   play.ChoosePeople({"Man 1", "Man 3"});
   play.Next();
   play.Desk.Pick("cmbwinner", "Man 1");
-  for (int step = kResultStep; step <= kPurposeStep; ++step) play.Next();
-  play.Complete();
+  for (int step = kResultStep; step < kPurposeStep; ++step) play.Next();
+  EXPECT_EQ(play.Desk.Text("cmdnext"), "Complete Booking This Segment");
+  play.Next();
+  EXPECT_TRUE(play.Desk.Empty()) << "the last step leads to the sheet";
   ASSERT_EQ(DescribeSegment(play.World(), play.Slot()), "Man 1 over Man 3");
 
   play.Desk.Open(MakeEditSheet(play.Play, {1, false}));

@@ -36,8 +36,8 @@ TEST(MainScreen, SaysWhoAndWhenAndWhatIsAhead) {
   ASSERT_EQ(ahead.size(), 13u);
   EXPECT_EQ(ahead[0][1], "Friday Fire");
   EXPECT_EQ(ahead[1][1], "Marchmania");
-  EXPECT_EQ(ahead[1][3], "Event");
-  EXPECT_EQ(ahead.back()[3], "No Event");
+  EXPECT_EQ(ahead[1][4], "Event");
+  EXPECT_EQ(ahead.back()[4], "No Event");
 }
 
 TEST(MainScreen, CountsTheMailOfTheDayThatPassedAndOfToday) {
@@ -106,7 +106,7 @@ TEST(MainScreen, HasALineOfFiguresThatOpenTheirPages) {
   EXPECT_GE(DueOnTheFirst(play.World()), 60000) << "six wages of $10,000";
   const char* const kFigures[][3] = {{"Money $12,000", money.c_str(), "frmFinance"},
                                      {"Image 37%", "63 points short of National", "frmFed"},
-                                     {"Standing +12", "This month; no show yet", "frmResults"},
+                                     {"Momentum +12", "This month; no show yet", "frmResults"},
                                      {"Mail 2 unread", "1 for you, 1 digest", "frmNews"},
                                      {"Roster 6", "1 away, 0 unhappy", "frmRoster"}};
   EXPECT_TRUE(play.Desk.Tip("cmdtile(3)").starts_with("+12 from before what is remembered. "));

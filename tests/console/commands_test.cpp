@@ -1,8 +1,5 @@
 #include "console/command.h"
 
-#include <iterator>
-#include <random>
-
 #include "console/served.h"
 
 namespace grapplemont::test {
@@ -160,28 +157,6 @@ TEST(Commands, SurviveALineOfAnyLength) {
   ASSERT_EQ(answers.size(), 2u);
   EXPECT_EQ(answers[0].at("error"), "The line is longer than 2097152 bytes.");
   EXPECT_FALSE(answers[1].contains("error"));
-}
-
-TEST(Commands, OfAnyKindGetOneAnswerEach) {
-  std::istringstream text(
-      "show click type pick open check slide follow find visit explain ok yes no enter cancel help "
-      "cmddoit cmdsay "
-      "cmdask cmdoff cmdprompt cmdthrow cmdhidden txtname txtnotes lstpeople lstmany cmbkind "
-      "chkday "
-      "optheel hsprice imgdoor rptshow on off 1 3 -7 99 \xC3\x89 \xE2\x82 \\n \x7F \xFF \"");
-  std::vector<std::string> words{std::istream_iterator<std::string>(text), {}};
-  for (const char* more : {"Bram Okafor", "\t", "\r"}) words.push_back(more);
-  words.emplace_back(1, '\0');
-  std::mt19937 chance(7);
-  std::string lines;
-  constexpr int kLines = 1000;
-  for (int line = 0; line < kLines; ++line) {
-    // Mostly what could be meant: a verb, a name, an argument.
-    for (auto left = chance() % 4; left > 0; --left)
-      lines += words[chance() % words.size()] + (chance() % 8 == 0 ? "" : " ");
-    lines += chance() % 9 == 0 ? "\r\n" : "\n";
-  }
-  EXPECT_EQ(Answers(Served(lines, kJson)).size(), static_cast<std::size_t>(kLines));
 }
 
 TEST(Commands, HelpListsEveryOne) {

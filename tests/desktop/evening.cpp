@@ -179,7 +179,7 @@ void Evening::SignSomebody() {
 }
 
 void Evening::BookARow() {
-  for (int step = 0; step < kMostSteps && Top() != "frmBookSheet"; ++step) {
+  for (int step = 0; step < kMostSteps && Top() != "frmBooking"; ++step) {
     int row = 0;
     const QWidget* view = play_.See(QString::fromStdString(Top()));
     for (const auto* list : view->findChildren<desktop::TableGrid*>()) {
@@ -191,7 +191,7 @@ void Evening::BookARow() {
     }
     Press("cmdnext");
   }
-  ASSERT_EQ(Top(), "frmBookSheet");
+  ASSERT_EQ(Top(), "frmBooking");
 }
 
 void Evening::FillTheRest() {
@@ -208,12 +208,6 @@ void Evening::BookAShow() {
   Arrive("frmBooking");
   Press("cmdbook(1)");
   BookARow();
-  for (int step = 0; step < kMostSteps && !play_.See("cmdcomplete")->isEnabled(); ++step) {
-    Press("cmdstep");
-    BookARow();
-  }
-  Press("cmdcomplete");
-  Arrive("frmBooking");
   EXPECT_NE(TheWorld().Segments()[1].Kind, kEmptySegment);
   FillTheRest();
   EXPECT_TRUE(play_.See("cmddoshow")->isEnabled());

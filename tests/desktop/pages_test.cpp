@@ -272,8 +272,10 @@ TEST(TheWorkersPage, StandsBesideTheSideBarWithAllOfItSideBySide) {
   EXPECT_EQ(page.bottomRight(), QPoint(1279, 799)) << "all the room beside it is the page's";
   EXPECT_LT(place("picworker").right(), place("title").left());
   EXPECT_LT(place("lstskills").right(), place("chtmonths").left());
-  EXPECT_LT(place("lstform").right(), place("txtwhy").left());
-  EXPECT_LT(place("txtwhy").bottom(), place("lsttitles").top());
+  EXPECT_LT(place("chtmonths").right(), place("txtwhy").left());
+  EXPECT_LT(place("txtwhy").bottom(), place("lstform").top());
+  EXPECT_LT(place("lstform").bottom(), place("txttitles").top());
+  EXPECT_LT(place("txttitles").right(), place("lstcompany").left());
   for (const QWidget* above = play.See("lstskills"); above; above = above->parentWidget())
     if (const auto* area = qobject_cast<const QScrollArea*>(above)) {
       EXPECT_EQ(area->verticalScrollBar()->maximum(), 0) << "all of it is seen at once";

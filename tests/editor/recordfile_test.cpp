@@ -110,24 +110,5 @@ TEST(TablesFolder, APathIsMeantFromTheHome) {
   EXPECT_EQ(PathInHome("home", "caf\xE9"), "home/caf\xC3\xA9");
 }
 
-TEST(Maintenance, MakesAWorldOfAnyBytes) {
-  for (std::uint64_t seed = 1; seed <= 8; ++seed) {
-    SCOPED_TRACE(seed);
-    Dice dice(seed);
-    World world;
-    for (Table* table : world.Tables()) {
-      const RecordLayout* layout = table->Layout();
-      if (!layout || std::ranges::find(kDataSet, layout->File) == kDataSet.end()) continue;
-      Bytes bytes(static_cast<std::size_t>(layout->Size * dice.From(0, 30) +
-                                           dice.From(0, layout->Size - 1)));
-      for (std::byte& byte : bytes) byte = dice.Byte();
-      table->Load(bytes);
-    }
-    const Maintenance plan = PlanMaintenance(world);
-    EXPECT_FALSE(plan.Faults.empty());
-    EXPECT_EQ(Lines(plan.Left), Texts{});
-  }
-}
-
 }  // namespace
 }  // namespace grapplemont::test

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "info/morning.h"
 #include "report/report.h"
 #include "show/holdshow.h"
 #include "support/gameonworld.h"
@@ -9,14 +10,17 @@
 namespace grapplemont::test {
 namespace {
 
-TEST(TheReportColumn, ReadsAShowAgainFromItsRow) {
-  GameOnWorld play(SmallWorld()
-                       .Network("Nine")
-                       .Promotion("CWA")
-                       .Crew(8)
-                       .Show("Sunday Slam", "Sunday", "Nine")
-                       .Game("CWA"));
-  World& world = play.World();
+World OnSunday() {
+  return SmallWorld()
+      .Network("Nine")
+      .Promotion("CWA")
+      .Crew(8)
+      .Show("Sunday Slam", "Sunday", "Nine")
+      .Game("CWA");
+}
+
+/// A sheet with one match.
+void BookOne(World& world) {
   std::vector<Segment> sheet(static_cast<std::size_t>(kTvRows), EmptySegment());
   sheet[0].Kind = kMatch;
   sheet[0].Style = kSingles;
@@ -25,6 +29,39 @@ TEST(TheReportColumn, ReadsAShowAgainFromItsRow) {
   sheet[0].Worker[1] = sheet[0].Loser = 4;
   sheet[0].Finish = sheet[0].Purpose = sheet[0].Aftermath = 1;
   world.Segments().Rewrite(sheet);
+}
+
+TEST(TheMorningAfter, SaysFirstThatTheNightWasFlatAndWhatItTook) {
+  int otherwise = 0;
+  for (const bool isFlat : {false, true}) {
+    GameOnWorld play(OnSunday());
+    World& world = play.World();
+    BookOne(world);
+    world.SetChance(std::make_unique<SeededDraws>(5));
+    StartShow(world, false, {});
+    world.ShowRuns()[1].FlatNight = isFlat;
+    RunNextSegment(world, nullptr);
+    const int rating = CloseShow(world);
+    const Morning morning = MorningOf(world, world.Today(), world.PlayerUid());
+    const std::vector<RowRating> rows = RowRatings(*morning.Of(kNoteRating));
+    ASSERT_EQ(rows.size(), 1U);
+    EXPECT_EQ(rows[0].Rating, int(world.Segments()[1].Rating));
+    play.Desk.Open("frmMorning");
+    EXPECT_EQ(play.Desk.Visible("lblflat"), isFlat);
+    if (!isFlat) {
+      otherwise = rating;
+      continue;
+    }
+    EXPECT_LT(rating, otherwise);
+    const std::string told = "come to " + std::to_string(otherwise) + "%";
+    EXPECT_NE(play.Desk.Text("lblflat").find(told), std::string::npos) << play.Desk.Text("lblflat");
+  }
+}
+
+TEST(TheReportColumn, ReadsAShowAgainFromItsRow) {
+  GameOnWorld play(OnSunday());
+  World& world = play.World();
+  BookOne(world);
   LineMemory memory;
   StartShow(world, false, {});
   const ToldSegment told = RunNextSegment(world, &memory);

@@ -102,6 +102,176 @@ TEST(BackInTime, AMorningIsGoneBackToAndTheRoadLeftReturnedTo) {
   EXPECT_EQ(BytesIn(play), end);
 }
 
+/// The moment of this kind and day, the latest of them.
+PastMoment MomentOf(GameOnWorld& play, MomentKind kind, Day day) {
+  for (const PastMoment& past : PastMoments(play.Play))
+    if (past.Of.Is == kind && past.Of.On == day) return past;
+  ADD_FAILURE() << "no moment of " << LongDate(day);
+  return {};
+}
+
+/// The days of mornings on this road or on others, the latest first.
+std::vector<Day> MorningsOn(GameOnWorld& play, bool other) {
+  std::vector<Day> days;
+  for (const PastMoment& past : PastMoments(play.Play))
+    if (past.Of.Is == MomentKind::Morning && past.OnOtherRoad == other) days.push_back(past.Of.On);
+  return days;
+}
+
+TEST(BackInTime, RoadsAreToldApartAndAFallOfSizeIsTold) {
+  GameOnWorld play(AWorld());
+  play.Desk.IsEasy = true;
+  play.Desk.Open("frmMainScreen");
+  const Day first = play.World().Today();
+  const auto day = [&](int days) { return first + std::chrono::days{days}; };
+  const auto goBack = [&](const PastMoment& to) {
+    play.Desk.Event([&] { GoBackTo(play.Play, to.Number); });
+  };
+  PassDays(play, 4);
+  goBack(MomentOf(play, MomentKind::Morning, day(1)));
+  PassDays(play, 2);  // to the third day, along another road
+  EXPECT_EQ(MorningsOn(play, false), (std::vector{day(2), day(1), day(0)}));
+  EXPECT_EQ(MorningsOn(play, true), (std::vector{day(3), day(2)}));
+  const PastMoment road = MomentOf(play, MomentKind::Left, day(4));
+  EXPECT_TRUE(road.OnOtherRoad);
+  EXPECT_EQ(SinceText(play.Play, road).find("since"), std::string::npos);
+  goBack(road);
+  EXPECT_EQ(MorningsOn(play, false), (std::vector{day(3), day(2), day(1), day(0)}));
+  EXPECT_EQ(MorningsOn(play, true), (std::vector{day(2)}));
+  EXPECT_TRUE(MomentOf(play, MomentKind::Left, day(3)).OnOtherRoad);
+  play.Desk.Event([&] { play.World().Player().Size = kSmall; });
+  const std::string since = SinceText(play.Play, MomentOf(play, MomentKind::Morning, day(0)));
+  EXPECT_EQ(since.find("Cult then, Small now. "), 0u) << since;
+}
+
+TEST(BackInTime, ASheetComesUpAgainAsItWas) {
+  constexpr Day kEventDay{std::chrono::year{2026} / 3 / 29};
+  GameOnWorld play(SmallWorld()
+                       .Promotion("CWA", kCult)
+                       .Owner("Ruth Vane")
+                       .Staff("Milo Grant", kAnnouncer)
+                       .Staff("Ref Bell", kReferee)
+                       .Crew(24)
+                       .Event(3, 2, "Marchmania")
+                       .Game("CWA", kEventDay));
+  ScriptDesk& desk = play.Desk;
+  desk.IsEasy = true;
+  desk.Open("frmMainScreen");
+  desk.Click("cmdnext");
+  ASSERT_EQ(desk.TopName(), "frmPPVBooking");
+  desk.Click("cmdfill");
+  desk.Click("cmdsheet");
+  ASSERT_EQ(desk.TopName(), "frmPPVBooking");
+  const auto card = desk.Rows("lstrows");
+  const Bytes booked = BytesIn(play);
+  desk.Pick("lstrows", 3);
+  desk.Click("cmddown");
+  const Bytes moved = BytesIn(play);
+  ASSERT_NE(booked, moved);
+  EXPECT_NE(desk.Take(desk.Undo).find("Move Down"), std::string::npos);
+  EXPECT_EQ(desk.TopName(), "frmPPVBooking");
+  EXPECT_EQ(BytesIn(play), booked);
+  EXPECT_EQ(desk.Rows("lstrows"), card);
+  EXPECT_FALSE(desk.Enabled("cmdundo")) << "nothing was done on the sheet since it came up";
+  EXPECT_NE(desk.Take(desk.Redo).find("Move Down"), std::string::npos);
+  EXPECT_EQ(BytesIn(play), moved);
+  desk.Click("cmdnotepad");
+  desk.Take(desk.Undo);
+  EXPECT_EQ(BytesIn(play), booked);
+  // A show that was started, too.
+  ASSERT_TRUE(desk.Enabled("cmddoshow")) << desk.Tip("cmddoshow");
+  desk.Click("cmddoshow");
+  ASSERT_EQ(desk.TopName(), "frmMatchOutput");
+  EXPECT_NE(desk.Take(desk.Undo).find("Start The Show"), std::string::npos);
+  EXPECT_EQ(desk.TopName(), "frmPPVBooking");
+  EXPECT_EQ(BytesIn(play), booked);
+  // Where the sheet had not been opened it does not lie on the desk.
+  EXPECT_NE(desk.Take(desk.Undo).find("Send To The Sheet"), std::string::npos);
+  EXPECT_EQ(desk.TopName(), "frmPPVBooking");
+  EXPECT_NE(desk.Take(desk.Undo).find("Next Day"), std::string::npos);
+  EXPECT_EQ(desk.TopName(), "frmMainScreen");
+}
+
+TEST(BackInTime, WhatIsReadNamedOrRenamedDoesNotStandBeforeAClick) {
+  GameOnWorld play(SmallWorld()
+                       .Promotion("CWA", kCult)
+                       .Owner("Ruth Vane")
+                       .Crew(6)
+                       .Mail("Ruth Vane", "Hello.")
+                       .Game("CWA"));
+  ScriptDesk& desk = play.Desk;
+  desk.IsEasy = true;
+  desk.Open("frmMainScreen");
+  const Bytes before = BytesIn(play);
+  const auto name = play.World().Game().SaveName;
+  SetPrice(play, 42);
+  const std::string price = desk.Undo.What();
+  desk.CloseAll();
+  desk.Open("frmMainScreen");
+  desk.Click("cmdnews");  // marks the mail read
+  ASSERT_GT(play.World().ReadMails().Count(), 0);
+  EXPECT_EQ(desk.Undo.What(), price);
+  desk.Open("frmMornings");
+  desk.ExpectPrompt("Name This Moment", kAnyText, std::string(41, 'x'));
+  desk.Click("cmdname");
+  EXPECT_NE(desk.Boxes().back().Text.find("40 letters"), std::string::npos);
+  for (int number = 1; number <= Mornings::kNamed; ++number) {
+    desk.ExpectPrompt("Name This Moment", kAnyText, "n" + std::to_string(number));
+    desk.Click("cmdname");
+  }
+  desk.ExpectPrompt("Name This Moment", kAnyText, "n13");
+  desk.Click("cmdname");
+  EXPECT_NE(desk.Boxes().back().Text.find("\"n1 ("), std::string::npos) << desk.Boxes().back().Text;
+  EXPECT_EQ(desk.Rows("lstmornings").size(), 13u) << "it was not agreed to";
+  desk.CloseAll();
+  play.Play.CloseSlot();
+  RenameSlot(play.Play.Disk(), play.Play.SlotFolder(1), "Other Name");
+  play.Play.OpenSlot(1);
+  desk.Open("frmMainScreen");
+  EXPECT_EQ(desk.Take(desk.Undo), price);
+  EXPECT_EQ(play.World().Game().SaveName, "Other Name");
+  EXPECT_EQ(play.World().ReadMails().Count(), 0);
+  play.World().Game().SaveName = name;
+  EXPECT_EQ(BytesIn(play), before) << "but for the name";
+  play.World().Rollback();
+  desk.Open("frmMornings");
+  EXPECT_EQ(desk.Rows("lstmornings").size(), 12u) << "what was named is kept";
+}
+
+TEST(BackInTime, TheEndOfACareerIsGoneBackFrom) {
+  GameOnWorld play(AWorld());
+  ScriptDesk& desk = play.Desk;
+  desk.IsEasy = true;
+  desk.Open("frmMainScreen");
+  const Day first = play.World().Today();
+  PassDays(play, 2);
+  desk.Event([&] { play.World().Game().EndCode = kEndBoard; });
+  desk.CloseAll();
+  desk.Open("frmMainScreen");
+  ASSERT_EQ(desk.TopName(), "frmTheEnd");
+  desk.Click("cmdmornings");
+  EXPECT_EQ(desk.TopName(), "frmMornings");
+  // From the card of the slot.
+  desk.CloseAll();
+  play.Play.CloseSlot();
+  desk.Open("frmLoadGame");
+  desk.Click("cmdmornings1");
+  EXPECT_EQ(desk.TopName(), "frmMornings");
+  EXPECT_FALSE(desk.Rows("lstmornings").empty());
+  // By search, with the news of the end on the desk.
+  desk.CloseAll();
+  desk.Open("frmMainScreen");
+  ASSERT_EQ(desk.TopName(), "frmTheEnd");
+  const std::string wanted = "Go back to the morning of " + LongDate(first);
+  for (const ui::Finding& finding : desk.NewSearch()("go back to the morning", 5))
+    if (finding.Words == wanted) {
+      desk.Visit(ui::Finding(finding));
+      break;
+    }
+  EXPECT_EQ(play.World().Today(), first);
+  EXPECT_EQ(desk.TopName(), "frmMainScreen");
+}
+
 TEST(BackInTime, MorningsAreFoundBySearch) {
   GameOnWorld play(AWorld());
   play.Desk.IsEasy = true;

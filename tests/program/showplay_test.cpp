@@ -45,13 +45,12 @@ struct ShowPlay : GameOnWorld {
     Desk.Click("cmdbook(" + std::to_string(row) + ")");
     Desk.Pick("lststyle", other.empty() ? "Interview" : "Match");
     Desk.Click("cmdnext");
-    for (int step = 0; step < 10 && Desk.TopName() != "frmBookSheet"; ++step) {
+    for (int step = 0; step < 10 && Desk.TopName() != sheet; ++step) {
       if (Desk.TopName() == "frmIV1" || Desk.TopName() == "frmBook1vs1") Desk.Pick("lstwres1", one);
       if (Desk.TopName() == "frmBook1vs1") Desk.Pick("lstwres2", other);
       if (Desk.TopName() == "frmBookBelt") Desk.Pick("lsttitle", title);
       Desk.Click("cmdnext");
     }
-    Desk.Click("cmdcomplete");
     EXPECT_EQ(Desk.TopName(), sheet);
   }
 

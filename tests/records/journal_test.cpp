@@ -259,18 +259,5 @@ TEST(AJournalChain, EndsAtTheSequenceThatIsAskedFor) {
   EXPECT_EQ(16384, chain.End);
 }
 
-TEST(AJournalChain, OfRandomBytesIsNone) {
-  Chance chance(71);
-  for (int i = 0; i < 500; ++i) {
-    Bytes journal = Joined({HandMadeMarker(kMine, 10), Bytes(4096), RecordOf(11), RecordOf(12)});
-    const std::size_t from = Pick(chance, journal.size());
-    const Bytes noise = RandomBytes(chance, 1 + Pick(chance, journal.size() - from));
-    std::copy(noise.begin(), noise.end(), journal.begin() + static_cast<std::ptrdiff_t>(from));
-    journal.resize(Pick(chance, journal.size() + 1));
-    const JournalChain chain = ReadChain(journal, kMine, StoreFiles());
-    EXPECT_LE(chain.Records.size(), 2u);
-  }
-}
-
 }  // namespace
 }  // namespace grapplemont::test

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "playing.h"
 
 // What a game can go back to: kept for as long as it ought to be, exact, and by its name.
@@ -146,6 +148,117 @@ TEST(Roads, ThatWereLeftCanBeReturnedTo) {
   EXPECT_TRUE(Same(at[5], play.World));
   // And to the second again.
   EXPECT_TRUE(Same(other, Restored(*play.Slot, play.World, play.Last()).value()));
+}
+
+TEST(Roads, HaveMorningsOfTheirOwn) {
+  CutDisk disk;
+  const auto worlds = RandomWorlds(40, 93);
+  Playing play(disk, OnDay(worlds[0], kStart));
+  std::size_t turn = 0;
+  const auto pass = [&](int days) {
+    for (int i = 0; i < days; ++i) {
+      const Day day = play.Slot->Today();
+      play.Slot->Name("dawn");  // is not the morning of its day
+      play.Go(OnDay(worlds[++turn % 40], day), {PlayedStep::Click, "a click"});
+      play.Go(OnDay(worlds[++turn % 40], day + std::chrono::days{1}));
+    }
+  };
+  pass(5);
+  const Mornings& moments = play.Slot->Moments();
+  std::size_t second = 0;
+  while (moments[second].Is != MomentKind::Morning ||
+         moments[second].On != kStart + std::chrono::days{1})
+    ASSERT_LT(++second, moments.Count());
+  const std::uint64_t goal = moments[second].Digest;
+  play.Go(Restored(*play.Slot, play.World, second).value(),
+          {.Is = PlayedStep::Left, .Target = goal});
+  EXPECT_EQ(goal, moments[play.Last()].TargetDigest);
+  pass(9);
+  std::set<Day> kept;
+  for (std::size_t i = moments.Count(); i-- > 0 && moments[i].Is != MomentKind::Left;)
+    if (moments[i].Is == MomentKind::Morning) kept.insert(moments[i].On);
+  for (int back = 1; back <= Mornings::kDays; ++back)
+    EXPECT_TRUE(kept.contains(play.Slot->Today() - std::chrono::days{back})) << back;
+  // Where a road came from is kept in the file.
+  play.Slot.reset();
+  play.Slot.emplace(disk, kStore, PlayedFiles(), Damage::Refuse, SlotOptions{});
+  std::size_t left = 0;
+  while (play.Slot->Moments()[left].Is != MomentKind::Left) ++left;
+  EXPECT_EQ(goal, play.Slot->Moments()[left].TargetDigest);
+}
+
+TEST(Roads, AndNamesAreSaidToGoBeforeTheyDoAndTheFirstRoadStays) {
+  CutDisk disk;
+  const auto worlds = RandomWorlds(40, 94);
+  Playing play(disk, OnDay(worlds[0], kStart));
+  play.Go(OnDay(worlds[1], kStart + std::chrono::days{1}));
+  const Mornings& moments = play.Slot->Moments();
+  const auto digests = [&](MomentKind kind) {
+    std::vector<std::uint64_t> found;
+    for (std::size_t i = 0; i < moments.Count(); ++i)
+      if (moments[i].Is == kind) found.push_back(moments[i].Digest);
+    return found;
+  };
+  std::uint64_t first = 0;
+  for (int road = 1; road <= Mornings::kLeft + 3; ++road) {
+    const auto goes = moments.WouldGo(MomentKind::Left);
+    ASSERT_EQ(road > Mornings::kLeft, goes.has_value()) << road;
+    auto expected = digests(MomentKind::Left);
+    if (goes) std::erase(expected, moments[*goes].Digest);
+    play.GoBackTo(0, PlayedStep::Left);
+    if (road == 1) first = moments[play.Last()].Digest;
+    expected.push_back(moments[play.Last()].Digest);
+    EXPECT_EQ(expected, digests(MomentKind::Left)) << road;
+    EXPECT_EQ(first, digests(MomentKind::Left).front());
+    play.Go(OnDay(worlds[static_cast<std::size_t>(road) + 1], kStart + std::chrono::days{1}));
+  }
+  for (int name = 0; name <= Mornings::kNamed; ++name) {
+    const auto goes = moments.WouldGo(MomentKind::Named);
+    ASSERT_EQ(name == Mornings::kNamed, goes.has_value());
+    if (goes) EXPECT_EQ("n0", moments[*goes].Name);
+    play.Slot->Name("n" + std::to_string(name));
+  }
+  EXPECT_EQ(Mornings::kNamed, std::ssize(digests(MomentKind::Named)));
+}
+
+TEST(Clicks, AreTakenBackPastWhatWasNamedSince) {
+  CutDisk disk;
+  const auto worlds = RandomWorlds(6, 96);
+  std::vector<Files> at;
+  for (const Files& world : worlds) at.push_back(OnDay(world, kStart));
+  Playing play(disk, at[0]);
+  const Mornings& moments = play.Slot->Moments();
+  const auto named = [&] {
+    std::size_t found = 0;
+    while (moments[found].Is != MomentKind::Named) ++found;
+    return Restored(*play.Slot, play.World, found).value();
+  };
+  play.Go(at[1], {PlayedStep::Click, "Sign"});
+  play.Go(at[2], {PlayedStep::Click, "Price"});
+  play.Slot->Name("before the Event");
+  play.Go(at[3]);  // no click of the player's
+  ASSERT_EQ("Price", play.Slot->WhatToUndo());
+  play.GoBackTo(*play.Slot->ClickToUndo(), PlayedStep::Undo);
+  EXPECT_TRUE(Same(at[1], play.World));
+  EXPECT_TRUE(Same(at[2], named()));
+  Files redone = play.World;
+  ASSERT_TRUE(play.Slot->Restore(play.Slot->WayToRedo(), play.Slot->DigestToRedo(), redone));
+  play.Go(redone, {PlayedStep::Redo, "Price"});
+  EXPECT_TRUE(Same(at[3], play.World));
+  EXPECT_TRUE(Same(at[2], named()));
+  // What it comes to need not be quite what it was: a game has another name since.
+  ASSERT_EQ("Price", play.Slot->WhatToUndo());
+  play.Go(at[4], {PlayedStep::Undo, "Price"});
+  EXPECT_TRUE(Same(at[2], named()));
+  ASSERT_EQ("Sign", play.Slot->WhatToUndo());
+  play.GoBackTo(*play.Slot->ClickToUndo(), PlayedStep::Undo);
+  EXPECT_TRUE(Same(at[0], play.World));
+  EXPECT_TRUE(Same(at[2], named()));
+  // What is no click is part of the one before.
+  play.Go(at[1], {PlayedStep::Click, "Sign"});
+  play.Go(at[5]);
+  play.GoBackTo(*play.Slot->ClickToUndo(), PlayedStep::Undo);
+  EXPECT_TRUE(Same(at[0], play.World));
 }
 
 TEST(Moments, OfFilesThatWereChangedFromOutsideAreNotBelieved) {

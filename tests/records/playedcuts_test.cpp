@@ -42,9 +42,15 @@ Story TellPlayed(int commits, std::uint64_t seed, PlayedQuirks quirks = {},
     if (what == 0 && count > 1) {
       if (const auto old = Restored(*play.Slot, play.World, Pick(chance, count)))
         go(*old, {PlayedStep::Left, "road"});
-    } else if (what <= 2 && !play.Slot->WhatToUndo().empty()) {
-      if (const auto old = Restored(*play.Slot, play.World, count - 1))
+    } else if (what <= 2 && play.Slot->ClickToUndo()) {
+      if (const auto old = Restored(*play.Slot, play.World, *play.Slot->ClickToUndo()))
         go(*old, {PlayedStep::Undo, "undo"});
+    } else if (what == 3) {
+      try {
+        play.Slot->Name("name " + std::to_string(i));
+      } catch (const DiskError&) {
+        disk.Heal();
+      }
     } else {
       day = play.Slot->Today() + std::chrono::days{what > 5 ? 1 : 0};
       go(OnDay(worlds[i], day), {PlayedStep::Click, "click " + std::to_string(i)});

@@ -279,34 +279,6 @@ TEST(Tables, OfAnyValidWorldComeBack) {
   }
 }
 
-// Tables come from anywhere: whatever stands in them gives a sound world or a mistake in words.
-TEST(Tables, StandAnyBytes) {
-  const std::string kPieces[] = {",", "\"", "\n", "#", "\\", "none", "-1", "\xC3", "@1e400"};
-  int made = 0, refused = 0;
-  for (std::uint64_t seed = 1; seed <= 400; ++seed) {
-    Dice dice(seed);
-    Tables tables = SmallTables();
-    for (int i = dice.From(1, 3); i > 0; --i) {
-      auto table = std::next(tables.begin(), dice.From(0, static_cast<int>(tables.size()) - 1));
-      std::string& text = table->second;
-      const auto at = static_cast<std::size_t>(dice.From(0, static_cast<int>(text.size())));
-      const auto cut = static_cast<std::size_t>(dice.From(0, 3));
-      const auto piece = static_cast<std::size_t>(dice.From(0, int(std::size(kPieces))));
-      text.replace(at, cut,
-                   piece == std::size(kPieces) ? std::string(1, static_cast<char>(dice.Byte()))
-                                               : kPieces[piece]);
-    }
-    const Building building = BuildWorld(tables);
-    ASSERT_NE(building.Made.has_value(), !building.Mistakes.empty()) << seed;
-    ++(building.Made ? made : refused);
-    if (building.Made) ExpectToComeBack(*building.Made);
-    for (const Mistake& mistake : building.Mistakes)
-      EXPECT_FALSE(mistake.Table.empty() || mistake.What.empty()) << mistake.Text();
-  }
-  EXPECT_GT(made, 0);
-  EXPECT_GT(refused, 100);
-}
-
 TEST(Tables, OfEmptyFilesComeBack) {
   World world;
   world.Load({});

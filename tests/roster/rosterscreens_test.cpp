@@ -326,8 +326,11 @@ TEST(frmWorker, ShowsAtAGlanceAndLeadsOn) {
   EXPECT_EQ(play.Desk.Text("lblform"), "0 won, 1 lost, 0 drawn. Rated 71% on average.");
   const Names lost = {"Ilya Marsh", "Lost", "71", "Sunday Slam (Title)", "01 March 2026"};
   EXPECT_EQ(play.Desk.Rows("lstform")[0], lost);
-  EXPECT_FALSE(play.Desk.Enabled("cmdreport"));
+  EXPECT_FALSE(play.Desk.Visible("cmdread(2)")) << "no match, no report";
   play.Desk.OpenRow("lstform", 1);
+  EXPECT_EQ(play.Desk.TopName(), "frmReports");
+  play.Desk.Click("cmdback");
+  play.Desk.Click("cmdread(1)");
   EXPECT_EQ(play.Desk.TopName(), "frmReports");
   play.Desk.Click("cmdback");
 
@@ -347,7 +350,7 @@ TEST(frmWorker, ShowsAtAGlanceAndLeadsOn) {
 
   play.Desk.OpenRow("lstcompany", "Ilya Marsh");
   EXPECT_EQ(play.Desk.Title(), "Ilya Marsh");
-  EXPECT_EQ(play.Desk.FirstColumn("lsttitles"), Names({"CWA Crown"}));
+  EXPECT_TRUE(Holds(play.Desk.Text("txttitles"), "CWA Crown\nHolds it"));
   EXPECT_TRUE(Holds(play.Desk.Text("lblmarks"), "CWA Crown champion"));
 }
 
@@ -379,6 +382,17 @@ TEST(frmCompare, PutsUpToFourSideBySideAndMarksTheBest) {
   play.World().Workers().Keep([](const Worker& w) { return !(w.Name == "Low Down"); });
   play.Desk.Pick("cmbadd", kBram);
   EXPECT_EQ(play.Desk.Rows("lstmeetings").size(), 1U) << "who has gone is left out";
+
+  std::string elsewhere;
+  for (const Worker& worker : play.World().Workers())
+    if (!WorksForPlayer(play.World(), worker)) elsewhere = worker.Name.Str();
+  ASSERT_NE(elsewhere, "");
+  play.Desk.Type("txtadd", "nobody has this");
+  EXPECT_EQ(play.Desk.FirstColumn("cmbadd"), Names{"Nobody is called that"});
+  play.Desk.Type("txtadd", elsewhere);
+  play.Desk.Pick("cmbadd", elsewhere);
+  EXPECT_EQ(play.Desk.Rows("lstmeetings").size(), 3U) << "anybody in the business can be added";
+  EXPECT_EQ(play.Desk.Text("txtadd"), "");
 }
 
 TEST(frmWorker, HasNoTalksInTheMidstOfAShow) {

@@ -2,13 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "booking/sheet.h"
 #include "booking/showstart.h"
 #include "calendar/advanceday.h"
 #include "calendar/image.h"
 #include "calendar/wishes.h"
+#include "records/store/commandlog.h"
+#include "records/store/slotcare.h"
 #include "roster/signing.h"
 #include "session/newgame.h"
+#include "session/slots.h"
 #include "support/gameonworld.h"
 #include "support/homefolder.h"
 #include "support/scripteddraws.h"
@@ -35,6 +40,7 @@ TEST(HouseRules, AreOffChosenAtNewGameAndShownOnTheCard) {
   home.Desk.Click("cmdnewgame");
   home.Desk.Type("txtname", "Pat Lee");
   home.Desk.Check("chkhouse(6)");
+  home.Desk.Check("chkrecorded");
   home.Desk.Click("cmdbegin");
   home.Desk.ExpectPrompt("User Entry", "Save Game Name:", "Strict");
   home.Desk.ExpectSay("Database creation", kAnyText);
@@ -44,8 +50,26 @@ TEST(HouseRules, AreOffChosenAtNewGameAndShownOnTheCard) {
   home.Desk.ExpectAsk("Quit?", kAnyText, true);
   home.Desk.Click("cmdquit");
   home.Desk.Click("cmdloadgame");
-  EXPECT_EQ(home.Desk.Text("lblhouse2"), "House rules: harder boards");
+  EXPECT_EQ(home.Desk.Text("lblhouse2"), "House rules: harder boards, recorded");
   EXPECT_FALSE(home.Desk.Visible("lblhouse1"));
+  // The record goes along only where the player says so.
+  home.Desk.IsEasy = true;
+  Disk& disk = home.Play.Disk();
+  for (const int slot : {2, 1}) {
+    home.Desk.ExpectPrompt("Export", kAnyText, "file" + std::to_string(slot));
+    home.Desk.Click("cmdexport" + std::to_string(slot));
+    const std::string file = home.Path("file" + std::to_string(slot));
+    const auto files = UnpackSlot(ReadStart(disk, file, MostPackedBytes()), file);
+    EXPECT_EQ(std::ranges::count(files, kCommandsName, &NewFile::Name), slot == 2) << slot;
+    const bool isAsked =
+        home.Desk.Boxes().back().Text.find("every text that you typed") != std::string::npos;
+    EXPECT_EQ(isAsked, slot == 2);
+  }
+  const std::string file = home.Path("bare");
+  ExportSlot(disk, home.Play.SlotFolder(2), file, {});
+  const auto bare = UnpackSlot(ReadStart(disk, file, MostPackedBytes()), file);
+  EXPECT_EQ(std::ranges::count(bare, kCommandsName, &NewFile::Name), 0);
+  EXPECT_EQ(std::ranges::count(bare, kBeginningName, &NewFile::Name), 0);
 }
 
 TEST(HouseRules, TheEconomyCyclesFromSlumpToBoom) {

@@ -77,6 +77,19 @@ TEST_F(SavedGames, AreCardsWithTheLastOneOnTop) {
   EXPECT_EQ(home_.Play.World().Game().SaveName.View(), "Second");
 }
 
+TEST_F(SavedGames, ShowTheirPageInAHomeWithoutPicturesOfItsOwn) {
+  home_.Write("s1.png", "a page");
+  home_.Remove("gfx");
+  home_.Desk.CloseAll();
+  home_.Desk.Open("frmLoadGame");
+  ASSERT_TRUE(home_.Desk.Visible("imgpage"));
+  const auto& page = dynamic_cast<ui::Picture&>(*home_.Desk.Top()->Find("imgpage"));
+  std::string found;
+  for (const std::string& folder : WithPages(home_.Play.PictureFolders(), home_.Play.Home()))
+    if (std::filesystem::exists(folder + "/" + page.File.Get())) found = folder;
+  EXPECT_EQ(found, home_.Play.Home());
+}
+
 TEST_F(SavedGames, AreRenamedByOneStepThatIsKept) {
   for (const char* name : {"", "Two\nlines"}) {
     home_.Desk.ExpectPrompt("Rename", "Save Game Name:", name, "First");

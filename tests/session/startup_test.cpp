@@ -160,16 +160,17 @@ TEST(NewGameScreen, SaysHowHardAChairIsAndWhatTheDifficultyChanges) {
   const auto rows = home.Desk.Rows("lstpromos");
   EXPECT_EQ(rows[0][4], "60");
   EXPECT_EQ(rows[0][5], "Easy");
-  EXPECT_EQ(home.Desk.Text("lblstory"),
-            "It has the better people of its size, and everybody after them. The crowd comes for "
-            "Star, who holds the CWA Crown.");
+  EXPECT_EQ(
+      home.Desk.Text("lblstory"),
+      "Star holds the CWA Crown and draws the crowd. It has the better people of its size, and "
+      "everybody after them.");
   EXPECT_EQ(home.Desk.Text("lblchanges"),
             "Image before each Event: no change.\nImage before each television show: no change.\n"
             "Interest on a loan: 2%.\nTo buy out a contract of a year: 6 monthly wages.");
   home.Desk.Pick("lstpromos", 2);
   EXPECT_EQ(home.Desk.Text("cmbPromo"), home.Desk.Rows("cmbPromo")[1][0]);
   EXPECT_EQ(home.Desk.Text("lblstory"),
-            "A few empty halls, and the money is gone. The crowd comes for Hand.");
+            "Hand draws the crowd. A few empty halls, and the money is gone.");
   EXPECT_EQ(home.Desk.Text("lblchair"),
             "Desperate: little money, a weak roster, a low image, no television");
   home.Desk.Pick("cmbdifficulty", "Easy");

@@ -93,6 +93,28 @@ TEST(TheNightBook, LeadsFromWhatWasToWhatIsStepByStep) {
   }
 }
 
+TEST(TheNightBook, SaysOfAFlatNightWhatItTook) {
+  int flatNights = 0;
+  for (std::uint64_t seed = 1; seed <= 20; ++seed) {
+    SCOPED_TRACE(seed);
+    World world = House(seed);
+    Hold(world);
+    const bool isFlat = world.ShowRuns()[1].FlatNight;
+    flatNights += isFlat;
+    const auto night = NightOf(world, world.Today(), world.PlayerUid());
+    int lost = 0, row = 0;
+    for (const ShowNote* step : Noted(night, kNoteRating, "Sunday Slam")->Steps) {
+      if (step->Row != 0) row = step->Row;
+      if (step->Why != kFlatNight) continue;
+      ++lost;
+      const int rating = world.Segments()[row].Rating;
+      EXPECT_EQ(Score::Floor((rating - step->Change) * 9, 10), rating);
+    }
+    EXPECT_EQ(lost, isFlat ? 5 : 0) << "each match loses a tenth";
+  }
+  EXPECT_GT(flatNights, 0) << "no seed had one";
+}
+
 TEST(TheNightBook, KeepsADozenShows) {
   World world = House(3);
   const Day first = world.Today();

@@ -66,7 +66,11 @@ TEST_F(GameCommands, NewSaysWhatIsNotThere) {
 TEST_F(GameCommands, RunPlaysTheDaysAndKeepsThem) {
   BuildSmallData();
   New("1", "11");
-  EXPECT_EQ("After 45 days it is Saturday, 16 May 2026.\n", Days("1", "45"));
+  EXPECT_EQ(
+      "[Slot 1: its record ends here. What is run is not the player's: it can be played again up "
+      "to "
+      "this day and no further.\n]After 45 days it is Saturday, 16 May 2026.\n",
+      Days("1", "45"));
   const World world = Saved("1");
   EXPECT_EQ(Day(std::chrono::year{2026} / 5 / 16), world.Today());
   for (const Fault& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();

@@ -32,6 +32,9 @@ constexpr StepRow kSteps[] = {
 constexpr std::string_view kNeeded = "The show could not start with fewer.";
 constexpr std::string_view kTalkBetween = "Talk between the matches, by those who can.";
 
+constexpr std::string_view kHeaviest =
+    " Of the matches proposed it promises most, with its feud and its Title: it comes last.";
+
 constexpr std::size_t kDarkMatch = 0;  // the first row of an Event
 
 /// Rows that count for what the show needs.
@@ -174,6 +177,7 @@ AutoCard AutoBook(World& world, bool isEvent, int openRows) {
 void PlaceOnRows(AutoPlan& plan) {
   std::ranges::stable_sort(plan.Matches, {}, &Planned::Weight);
   std::ranges::stable_sort(plan.Talks, {}, &Planned::Weight);
+  if (plan.Matches.size() > 1) plan.Matches.back().Because += kHeaviest;
   const bool dark = WantsDarkMatch(plan);
   if (dark)
     PlaceDarkMatch(plan);

@@ -170,8 +170,47 @@ bool Stands(const AutoPlan& plan, const Segment& segment) {
          GrievancesOf(plan.World, segment).empty();
 }
 
+namespace {
+
+/// "Sunny Vale (Over 76, condition 100)"; of a team its name.
+std::string SideWithFigures(const World& world, const std::vector<int>& side, bool talks) {
+  const Worker* worker = side.size() == 1 ? world.FindWorker(side.front()) : nullptr;
+  if (!worker) return SideText(world, side);
+  return worker->Name + " (Over " + std::to_string(worker->Over) +
+         (talks ? ", charisma " + std::to_string(worker->Charisma)
+                : ", condition " + std::to_string(worker->Condition)) +
+         ")";
+}
+
+int HottestHeat(const World& world, const Segment& segment) {
+  const std::vector<int> people = EverybodyOf(segment);
+  int hottest = 0;
+  for (const Feud& feud : world.Feuds())
+    if (EnemiesMeet(feud, people)) hottest = std::max<int>(hottest, feud.Heat);
+  return hottest;
+}
+
+/// Whom it is about, what speaks for them, and the rule that put it on the card.
+std::string ReasonFor(const AutoPlan& plan, const Segment& segment) {
+  const bool talks = segment.Kind != kMatch;
+  std::vector<std::string> sides;
+  if (!talks && segment.Style != kSpecial)
+    for (const auto& side : SidesOf(segment))
+      sides.push_back(SideWithFigures(plan.World, side, talks));
+  if (talks)
+    for (const int uid : PeopleOf(segment))
+      if (uid != 0 && sides.size() < 2) sides.push_back(SideWithFigures(plan.World, {uid}, talks));
+  std::string text = Joined(sides, talks ? " and " : " against ");
+  if (!talks && segment.TitleName != "None") text += " for the " + segment.TitleName.Str();
+  if (const int heat = HottestHeat(plan.World, segment); heat > 0)
+    text += ", in a feud with a heat of " + std::to_string(heat);
+  return text.empty() ? plan.Because : text + ". " + plan.Because;
+}
+
+}  // namespace
+
 void PlanMatch(AutoPlan& plan, const Segment& match) {
-  plan.Matches.push_back({match, WeightOf(plan, match), plan.Because});
+  plan.Matches.push_back({match, WeightOf(plan, match), ReasonFor(plan, match)});
   CountIn(plan, match);
 }
 
@@ -192,7 +231,7 @@ bool SpeaksAgain(const AutoPlan& plan, const Segment& talk) {
 
 bool PlanTalk(AutoPlan& plan, const Segment& talk, int weight) {
   if (!Stands(plan, talk) || SpeaksAgain(plan, talk)) return false;
-  plan.Talks.push_back({talk, weight, plan.Because});
+  plan.Talks.push_back({talk, weight, ReasonFor(plan, talk)});
   CountIn(plan, talk);
   return true;
 }

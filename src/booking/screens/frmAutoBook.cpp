@@ -79,6 +79,7 @@ class frmAutoBook : public GameScreen {
                          [&] { return ForecastShow(world(), order_.IsEvent, order_.Team); });
     lblfacts.Text = order_.Show;
     lblrating.Text = "Forecast " + RangeText(forecast_.Rating) + ".";
+    lblrating.Tip = kLuckLeftOut;
     FillRows();
     ShowChanges();
     ShowMissing();

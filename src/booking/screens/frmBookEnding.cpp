@@ -180,6 +180,9 @@ class frmBookEnding : public MatchStepScreen {
 
   bool Store() override { return Accept(Draft(), row_.Does); }
 
+  /// Beside one list of people the codes have no width for the outlook as well.
+  int ListsAbreast() const override { return runIns_ == 1 ? 2 : 1; }
+
   /// Whoever has run in for the finish is in the ring already.
   std::vector<const Worker*> RunIns() {
     auto roster = RunInRoster(world(), buffer(), wizard().View);
@@ -238,7 +241,7 @@ class frmBookEnding : public MatchStepScreen {
                       [this] { GoOn(); }};
   ui::Array<ui::ListBox> lstrun{"lstrun", runIns_, [this](const std::string&, int list) {
                                   return std::make_unique<ui::ListBox>(
-                                      *this, "lstrun" + std::to_string(list), PeopleColumns(2),
+                                      *this, "lstrun" + std::to_string(list), PeopleColumns(3),
                                       [this] { ShowPicks(); }, [this] { GoOn(); });
                                 }};
 };

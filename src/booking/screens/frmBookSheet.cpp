@@ -13,10 +13,12 @@ namespace {
 /// The wizard: one row a step, what has been chosen so far, and the way on and back.
 class frmBookSheet : public ui::Screen, public WizardHost {
  public:
-  frmBookSheet(Game& game, Wizard wizard)
+  /// With `atOnce` its first step is opened over it: it is seen once there is something to see.
+  frmBookSheet(Game& game, Wizard wizard, bool atOnce = false)
       : Screen(game.Desk(), "frmBookSheet", "Book A Segment", ui::Role::Dialog),
         game_(game),
-        wizard_(std::move(wizard)) {
+        wizard_(std::move(wizard)),
+        atOnce_(atOnce) {
     cmbsplit.Tip = "Limit official competitors to roster split";
   }
 
@@ -59,6 +61,14 @@ class frmBookSheet : public ui::Screen, public WizardHost {
     KeepWhatHolds(game_.World(), wizard_);
     RefreshWizard();
     if (goOn && !wizard_.SegmentComplete) OpenStep();
+  }
+
+  void Complete() override {
+    if (wizard_.SegmentComplete) cmdcomplete_Click();
+  }
+
+  void StepLeft() override {
+    if (atOnce_ && wizard_.Step == 0 && wizard_.EarlierSteps == 0) Close();
   }
 
   void GoTo(int step) override {
@@ -148,6 +158,7 @@ class frmBookSheet : public ui::Screen, public WizardHost {
 
   Game& game_;
   Wizard wizard_;
+  bool atOnce_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Array<ui::Label> txtstep = ForRows<ui::Label>("txtstep");
   ui::Array<ui::Label> txtdesc = ForRows<ui::Label>("txtdesc");
@@ -201,7 +212,7 @@ std::unique_ptr<ui::Screen> MakeEditSheet(Game& game, const SheetPlace& place) {
 void OpenWizardAtOnce(Game& game, const SheetPlace& place) {
   game.Desk().Event([&] {
     auto wizard = std::make_unique<frmBookSheet>(
-        game, AtPlace(BeginBooking(place.Record, place.IsEvent), place));
+        game, AtPlace(BeginBooking(place.Record, place.IsEvent), place), true);
     frmBookSheet& sheet = *wizard;
     game.Desk().Open(std::move(wizard));
     sheet.OpenStep();

@@ -22,8 +22,7 @@ class frmBooking : public SheetScreen {
  public:
   explicit frmBooking(Game& game) : SheetScreen(game, "frmBooking", false) {}
   void Load() override {
-    KeepLastCard(world());
-    EmptySheet(world(), false);
+    BeginSheet();
     EnableUnless(cmdauto, WhyNoAutoBooker(world()));
     ShowOpened();
   }
@@ -54,8 +53,7 @@ class frmPPVBooking : public SheetScreen {
  public:
   explicit frmPPVBooking(Game& game) : SheetScreen(game, "frmPPVBooking", true) {}
   void Load() override {
-    KeepLastCard(world());
-    EmptySheet(world(), true);
+    BeginSheet();
     FillBox(cmbannouncer, CommentaryStaff(world()));
     FillColour();
     FillExtras();

@@ -12,6 +12,10 @@ namespace grapplemont {
 
 namespace {
 
+std::string DraftTitle(const ComingShow& show) {
+  return "Draft For " + show.Owner.Show;
+}
+
 /// The sheet of a show to come. What is booked on it is kept until the day of the show, and nobody
 /// holds anything against the player before that.
 class frmDraft : public SheetScreen {
@@ -23,10 +27,10 @@ class frmDraft : public SheetScreen {
   }
 
   void Load() override {
-    KeepLastCard(world());
-    EmptySheet(world(), isEvent_);
-    const KeptCard kept = FindCard(world(), show_.Owner);
-    if (kept.On == show_.On) TellLaid(LayCard(world(), kept.Rows, isEvent_, Terms().OpenRows));
+    if (game_.ComesUpAgain) return ShowOpened();
+    BeginSheet();
+    const KeptCard kept = FindCard(world(), show_.Owner, show_.On);
+    if (!kept.Rows.empty()) TellLaid(LayCard(world(), kept.Rows, isEvent_, Terms().OpenRows));
     ShowOpened();
   }
 
@@ -41,7 +45,7 @@ class frmDraft : public SheetScreen {
   }
   std::function<void(World&)> Beginning() override { return {}; }
   bool IsDraft() const override { return true; }
-  std::string Heading() override { return "Draft For " + Called(); }
+  std::string Heading() override { return DraftTitle(show_); }
   std::string Called() override { return show_.Owner.Show; }
   std::string Facts() override {
     return LongDate(show_.On) + ", " + std::to_string(Terms().OpenRows) + " rows";
@@ -113,7 +117,11 @@ class frmDrafts : public GameScreen {
 
   void cmddraft_Click() {
     const auto at = static_cast<std::size_t>(lstshows.Key() - 1);
-    desk().Open(MakefrmDraft(game_, shows_.at(at)));
+    const ComingShow& show = shows_.at(at);
+    // By its title it can come up again.
+    desk().Register("frmDraft " + DraftTitle(show),
+                    [&game = game_, show] { return MakefrmDraft(game, show); });
+    desk().Open(MakefrmDraft(game_, show));
   }
 
   std::vector<ComingShow> shows_;

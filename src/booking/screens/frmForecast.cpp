@@ -11,7 +11,8 @@ class frmForecast : public GameScreen {
  public:
   frmForecast(Game& game, const ToldSegment& typical)
       : GameScreen(game, "frmForecast", "Why This Forecast", {.Is = ui::Role::Dialog}) {
-    lblfacts.Text = "The rehearsal of the middle rating. Chance moves the others around it.";
+    lblfacts.Text = "The rehearsal of the middle rating. Chance moves the others around it. " +
+                    std::string(kLuckLeftOut);
     using Style = ui::Report::Style;
     std::vector<ui::Report::Paragraph> told;
     for (const ToldFigure& figure : kToldFigures) {

@@ -64,7 +64,8 @@ ui::Sign DispositionSign(std::string_view word) {
   return ui::Sign::None;
 }
 
-/// What the choice is made on comes first: lists abreast have no room for all.
+/// What the choice is made on comes first: lists abreast have no room for all. In these condition
+/// and morale come before the skills, which do not change from show to show.
 CellColumns<Worker> TableOf(int kind, Abreast room, const RosterMarks* marks) {
   const bool narrow = room != kAlone;
   CellColumns<Worker> table = {
@@ -79,11 +80,15 @@ CellColumns<Worker> TableOf(int kind, Abreast room, const RosterMarks* marks) {
       ColumnOf({"Over", "Over", "Ov", "Popularity.", &Worker::Over}, room)};
   // Talk stands or falls with one skill.
   if (kind != kMatch) table.push_back(ColumnOf(kCharisma, room));
+  const auto addMood = [&] {
+    table.push_back(ColumnOf(kCondition, room));
+    table.push_back(ColumnOf(kMorale, room));
+  };
+  if (narrow) addMood();
   table.push_back(MarksColumn(room, marks));
   if (kind == kMatch && room != kAmongMany)
     for (const Skill& skill : kRingSkills) table.push_back(ColumnOf(skill, room));
-  table.push_back(ColumnOf(kCondition, room));
-  table.push_back(ColumnOf(kMorale, room));
+  if (!narrow) addMood();
   return table;
 }
 

@@ -51,6 +51,8 @@ SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
   cmdcancel.Tip = isEvent_ ? "Calling it off costs image, and much of the money spent on it."
                            : "Calling it off costs image.";
   lblcount.Colour = ui::Tone::Muted;
+  lblluck.Text = kLuckLeftOut;
+  lblluck.Colour = ui::Tone::Muted;
   lblwarnings.Colour = ui::Tone::Amber;
   lstfree.Room = 4;
   lstfree.EmptyText = "Everybody who is fit is on the card.";
@@ -64,7 +66,7 @@ ui::Page SheetScreen::Layout() {
   std::vector<ui::Box> left{
       ui::Group("", {ui::WithButtons(lstrows, buttons).Grow(),
                      ui::Columns({cmdedit, cmdup, cmddown, cmdlast, cmdundo, cmdredo}), lblwarn,
-                     ui::Columns({lblcount, ui::Spacer(), lblforecast}), lblwarnings})
+                     ui::Columns({lblcount, ui::Spacer(), lblforecast}), lblluck, lblwarnings})
           .Grow()};
   for (ui::Box& below : BelowRows()) left.push_back(std::move(below));
   ui::Page page = PageOf(
@@ -81,11 +83,17 @@ ui::Page SheetScreen::Layout() {
   return page;
 }
 
+void SheetScreen::BeginSheet() {
+  if (game_.ComesUpAgain) return;
+  KeepLastCard(world());
+  EmptySheet(world(), isEvent_);
+}
+
 void SheetScreen::ShowOpened() {
   Return();
   lstrows.SelectKey(1);
   ShowRow();
-  if (!IsDraft() && !Kept(true).Rows.empty()) LayKept(true);
+  if (!IsDraft() && !game_.ComesUpAgain && !Kept(true).Rows.empty()) LayKept(true);
 }
 
 int SheetScreen::OpenRows() {
@@ -94,8 +102,8 @@ int SheetScreen::OpenRows() {
 
 /// No rows when there is nothing; a draft is for its day alone.
 KeptCard SheetScreen::Kept(bool isDraft) {
-  KeptCard kept = FindCard(world(), {Called(), isEvent_, isDraft});
-  return isDraft && kept.On != world().Today() ? KeptCard() : kept;
+  const CardOwner owner{Called(), isEvent_, isDraft};
+  return isDraft ? FindCard(world(), owner, world().Today()) : FindCard(world(), owner);
 }
 
 void SheetScreen::Return() {
@@ -128,6 +136,7 @@ void SheetScreen::ShowForecast() {
   lblforecast.Text = !any ? "Nothing is booked yet."
                           : "Forecast " + RangeText(forecast_.Rating) +
                                 (IsDraft() ? ", as things stand today." : ".");
+  lblluck.Visible = any;
   lblwarnings.Text = Joined(forecast_.Warnings, "\n");
   lblwarnings.Visible = !forecast_.Warnings.empty();
   FillRows();

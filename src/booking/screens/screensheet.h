@@ -57,7 +57,9 @@ class SheetScreen : public GameScreen {
   virtual std::vector<ui::Button*> FirstActions() { return {}; }
   virtual std::vector<ui::Box> BelowRows() { return {}; }
 
-  /// Shows a sheet that has just been opened, on an empty match.dat.
+  /// Empties match.dat for today's show. A sheet that comes up again keeps what lies on it.
+  void BeginSheet();
+  /// Shows a sheet that has just been opened.
   void ShowOpened();
   /// Lays what is kept of this show on the sheet, after asking.
   void LayKept(bool isDraft);
@@ -122,6 +124,7 @@ class SheetScreen : public GameScreen {
   ui::Label lblcount{*this, "lblcount"};
   ui::Report txtrow{*this, "txtrow"};
   ui::Label lblforecast{*this, "lblforecast"};
+  ui::Label lblluck{*this, "lblluck"};
   ui::Label lblwarnings{*this, "lblwarnings"};
   ui::ListBox lstfree;
   ui::Button cmddebut{*this, "cmddebut", "Debuts",

@@ -43,15 +43,15 @@ ui::Page StepScreen::Layout() {
   page.Main = cmdnext.get();
   page.Cancel = cmdback.get();
   page.Large = true;
-  ui::Box steps = ui::Group("Steps", StepBoxes()).Grow(2);
+  ui::Box steps = ui::Group("Steps", StepBoxes()).Grow(ListsAbreast() == 1 ? 4 : 3);
   std::vector<ui::Box> outlook = Outlook();
   if (ListsAbreast() == 1) {
     outlook.push_back(ui::Spacer());
     page.Body =
-        ui::Columns({std::move(steps), Body().Grow(6), ui::Rows(std::move(outlook)).Grow(2)});
+        ui::Columns({std::move(steps), Body().Grow(12), ui::Rows(std::move(outlook)).Grow(4)});
   } else {
     page.Body = ui::Columns(
-        {std::move(steps), ui::Rows({Body().Grow(), ui::Columns(std::move(outlook))}).Grow(9)});
+        {std::move(steps), ui::Rows({Body().Grow(), ui::Columns(std::move(outlook))}).Grow(18)});
   }
   return page;
 }
@@ -93,7 +93,9 @@ void StepScreen::Load() {
 void StepScreen::MakeButtons() {
   cmdback = std::make_unique<ui::Button>(*this, "cmdback", "Back", [this] { Leave(); });
   cmddone = std::make_unique<ui::Button>(*this, "cmddone", "Done", [this] { Finish(false); });
-  cmdnext = std::make_unique<ui::Button>(*this, "cmdnext", "Next", [this] { Finish(true); });
+  cmdnext = std::make_unique<ui::Button>(*this, "cmdnext",
+                                         IsLast() ? "Complete Booking This Segment" : "Next",
+                                         [this] { Finish(true); });
   cmdwhy = std::make_unique<ui::Button>(*this, "cmdwhy", "Why?",
                                         [this] { desk().Open(MakefrmForecast(game_, typical_)); });
   cmdjump = std::make_unique<ui::Array<ui::Button>>(
@@ -111,6 +113,7 @@ void StepScreen::MakeButtons() {
 void StepScreen::Leave() {
   wizard().Left = {wizard().Step, buffer(), Draft()};
   Close();
+  host_.StepLeft();
 }
 
 /// Which row it is for, and how far it is.
@@ -162,7 +165,7 @@ void StepScreen::ShowOutlook() {
   ShowFaces(draft);
   ShowForecast(draft);
   const PriceTold price = TellPrice(world(), draft, wizard().Paid);
-  lblprice.Text = price.Text;
+  lblprice.Text = lines.empty() ? "Told once people are chosen." : price.Text;
   lblprice.Colour = price.IsFree ? ui::Tone::Muted : ui::Tone::Amber;
 }
 
@@ -197,6 +200,7 @@ void StepScreen::ShowForecast(const Segment& draft) {
   if (foreseen) now = ForecastRow(world(), wizard().View.IsEvent, wizard().CurrentSlot, *foreseen);
   const bool any = now.Rating != Forecast{};
   lblforecast.Colour = any ? ui::Tone::Plain : ui::Tone::Muted;
+  lblforecast.Tip = any && draft.Kind == kMatch ? kLuckLeftOut : "";
   lblforecast.Text = any ? ForecastText(now.Rating) : "Told once people are chosen.";
   EnableUnless(*cmdwhy, any ? "" : "Nothing has been foreseen yet.");
   before_ = any && whole ? std::optional(now.Rating) : std::nullopt;
@@ -256,10 +260,17 @@ bool StepScreen::Fail(const std::string& message) {
   return false;
 }
 
+/// Whether nothing is asked after it. Before a kind is chosen more is to come.
+bool StepScreen::IsLast() {
+  return buffer().Kind != kEmptySegment && wizard().Step + 1 == StepsOf(buffer());
+}
+
 void StepScreen::Finish(bool goOn) {
+  const bool completes = goOn && IsLast();
   if (!Store()) return;
   Close();
   host_.StepStored(goOn);
+  if (completes) host_.Complete();
 }
 
 std::unique_ptr<ui::Screen> MakeStepScreen(Game& game, WizardHost& host) {

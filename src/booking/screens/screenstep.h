@@ -22,6 +22,10 @@ class WizardHost {
   virtual Wizard& State() = 0;
   /// A step has been stored: counts it and shows the wizard. `goOn` opens the next step at once.
   virtual void StepStored(bool goOn) = 0;
+  /// Puts a Segment of which every step is done on the sheet; nothing for any other.
+  virtual void Complete() = 0;
+  /// A step was left without storing. Where it was the first, nothing is lost by leaving it all.
+  virtual void StepLeft() = 0;
   /// Goes back to a step that has been done, and opens it. What the later steps held is remembered.
   virtual void GoTo(int step) = 0;
 };
@@ -30,7 +34,7 @@ class WizardHost {
 /// go back to; in the middle is this one's choice; at its right what the picks make of the Segment:
 /// who is in it, its forecast, its price. Back leaves without storing, Done stores and shows the
 /// wizard, Next stores and goes straight on to the next step, as Enter and a double click in a list
-/// do.
+/// do; on the last step it completes the booking.
 class StepScreen : public ui::Screen {
  public:
   StepScreen(Game& game, WizardHost& host);
@@ -89,6 +93,7 @@ class StepScreen : public ui::Screen {
 
  private:
   void Finish(bool goOn);
+  bool IsLast();
   void Leave();
   void MakeButtons();
   const RosterMarks& Marks();

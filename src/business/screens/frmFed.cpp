@@ -60,11 +60,13 @@ class frmFed : public GameScreen {
 
   ui::Box Facts() {
     return ui::Rows(
-        {ui::Group("The company",
-                   {ui::Field("Name", lblname), ui::Field("Size", lblsize),
-                    ui::Field("Image", lblimage, {&cmdwhy, &txtwhy}), ui::Field("Owner", lblowner),
-                    ui::Field("The economy", lbleconomy), ui::Field("Staff meeting", cmbmeeting),
-                    ui::Field("Commissioner", lblcommissioner), cmdcommissioner}),
+        {ui::Group(
+             "The company",
+             {ui::Field("Name", lblname), ui::Field("Size", lblsize),
+              ui::Field("Image", lblimage, {&cmdwhy, &txtwhy}),
+              ui::Field("Momentum", lblmomentum, {&cmdwhymomentum}), ui::Field("Owner", lblowner),
+              ui::Field("The economy", lbleconomy), ui::Field("Staff meeting", cmbmeeting),
+              ui::Field("Commissioner", lblcommissioner), cmdcommissioner}),
          ui::Group("Spending", {ui::WithButtons(lstspending, {&cmdadvertising, &cmdmerch, &cmdprod,
                                                               &cmdtickets})})
              .Grow()});
@@ -85,12 +87,26 @@ class frmFed : public GameScreen {
     EnableUnless(cmdwhy, ImageSteps(world()).Steps().empty()
                              ? "Nothing has moved the image that is still remembered."
                              : "");
+    ShowMomentum();
     txtwhy.Write("");
     lblowner.Text = owner ? owner->Name.Str() : "None";
     lbleconomy.Text = std::string(EconomyText(world().Game().Economy)) +
                       (world().Game().EconomyRising ? ", rising" : ", falling");
     lblcommissioner.Text = HolderName(world(), Office::Commissioner);
     cmbmeeting.SelectKey(DayNumber(player().MeetingDay));
+  }
+
+  /// Which way the image is going, and how far since the last month end.
+  void ShowMomentum() {
+    const Score momentum = MomentumSteps(world());
+    const int moved = momentum;
+    lblmomentum.Text = moved == 0 ? std::string("None since the last month end")
+                                  : std::string(moved > 0 ? "Rising, +" : "Falling, ") +
+                                        std::to_string(moved) + " since the last month end";
+    lblmomentum.Trend = moved;
+    EnableUnless(cmdwhymomentum, momentum.Steps().empty()
+                                     ? "Nothing has moved size or image since the last month end."
+                                     : "");
   }
 
   void ShowSpending() {
@@ -129,6 +145,10 @@ class frmFed : public GameScreen {
   ui::Button cmdwhy{*this, "cmdwhy", "Why?",
                     [this] { txtwhy.WriteLines(WhyText("image", ImageSteps(world()))); }};
   ui::Report txtwhy{*this, "txtwhy"};
+  ui::Label lblmomentum{*this, "lblmomentum"};
+  ui::Button cmdwhymomentum{*this, "cmdwhymomentum", "Why?", [this] {
+                              txtwhy.WriteLines(WhyText("momentum", MomentumSteps(world())));
+                            }};
   ui::Label lblowner{*this, "lblowner"};
   ui::Label lbleconomy{*this, "lbleconomy"};
   ui::ComboBox cmbmeeting{*this, "cmbmeeting", &frmFed::cmbmeeting_Pick};

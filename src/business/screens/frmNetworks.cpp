@@ -4,6 +4,7 @@
 #include "business/networks.h"
 #include "business/screens/frmTelevision.h"
 #include "business/tvshows.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/whatif.h"
 
@@ -93,6 +94,7 @@ class frmTvOffer : public GameScreen {
  private:
   void ShowNone() {
     lblfacts.Text = "No network has made us an offer.";
+    for (ui::Label* term : {&txtnetwork, &txtlength, &txttime, &txtaudience}) term->Text = "None";
     EnableUnless({cmdaccept, cmdreject, cmdwhatif}, "There is no offer on the table.");
   }
 
@@ -155,7 +157,7 @@ class frmTvOffer : public GameScreen {
     };
     game_.OpenWhatIf({"Go on the air with " + offer->From->Name + ", " + cmbdays.Text.Get() + ", " +
                           std::string(SlotName(offer->Slot)) + "?",
-                      {"you accept for " + std::to_string(offer->Weeks) + " weeks", accept},
+                      {"you accept for " + Counted(offer->Weeks, "week"), accept},
                       {"you turn it down", DropOffer}});
   }
 

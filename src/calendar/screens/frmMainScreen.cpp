@@ -14,6 +14,7 @@
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "records/notes.h"
 #include "records/store/slot.h"
 #include "show/holdshow.h"
 #include "show/nightbook.h"
@@ -81,8 +82,8 @@ class frmMainScreen : public ui::Screen {
       : Screen(game.Desk(), "frmMainScreen", "Today", ui::Role::Hub), game_(game) {
     CommandNamed("cmdfed").Tip = "Click for promotional matters.";
     lstahead.EmptyText = "No show in sight. Television finds a network, Events plans a night.";
-    lstahead.Room = 3;
-    lstahead.Least = 2;
+    lstahead.Room = 5;
+    lstahead.Least = 3;
     lbltonight.Colour = ui::Tone::Gold;
   }
 
@@ -102,7 +103,8 @@ class frmMainScreen : public ui::Screen {
     page.Main = &cmdnext;
     page.First = &cmdbook;
     page.Cancel = &cmdquit;
-    page.Body = ui::Rows({guide_.Layout(), figures_.Layout(), Due().Grow(4),
+    // What is due stands first: in a small window the rest lies below its edge.
+    page.Body = ui::Rows({guide_.Layout(), Due().Grow(5), figures_.Layout(),
                           cards_.People().Grow(2), cards_.Standing().Grow(2)});
     return page;
   }
@@ -191,8 +193,10 @@ class frmMainScreen : public ui::Screen {
     CommandNamed("cmdfed").Text = player.Initials.Str();
     lblpromotion.Text = player.Name + " (" + std::string(SizeText(player.Size)) + ")";
     lblimage.Text = "Image " + std::to_string(player.Image) + "%";
-    lblimage.Trend = player.Rank[0] == kNoEnd ? 0 : StandingScore(player) - player.Rank[0];
-    lblimage.Tip = "The arrow compares it with the last month end.";
+    lblimage.Trend = int(MomentumSteps(world()));
+    lblimage.Tip =
+        "The arrow is the momentum: size and image against the last month end. Why? beside it on "
+        "the promotion's page tells each step.";
     lblmoney.Text = Dollars(player.Money);
     lblmoney.Colour = player.Money < 0 ? ui::Tone::Red : ui::Tone::Plain;
     for (ui::Button* button : {&cmdnext, &cmduntil})
@@ -213,9 +217,9 @@ class frmMainScreen : public ui::Screen {
       if (isToday) today += (today.empty() ? "" : ", ") + show.What;
       rows.push_back({{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)),
                        show.What,
+                       BookedText(world(), show),
                        {double(DayNumber(DayName(show.On))), std::string(DayName(show.On))},
-                       ui::Cell(show.Kind, ToneOf(show)),
-                       BookedText(world(), show)},
+                       ui::Cell(show.Kind, ToneOf(show))},
                       static_cast<int>(rows.size()) + 1});
     }
     lstahead.Fill(std::move(rows), false);
@@ -336,9 +340,10 @@ class frmMainScreen : public ui::Screen {
                        "lstahead",
                        {{"Date", K::Number},
                         {"Show"},
+                        {"Booked", K::Text, 0,
+                         "Segments of the least that the show needs, and the rows of its sheet."},
                         {"Day", K::Date},
-                        {"Kind", K::Tag},
-                        {"Booked", K::Text, 0, "How far the card is."}},
+                        {"Kind", K::Tag}},
                        ui::Handler{},
                        [this] { lstahead_Open(); }};
   DeskMail mail_{*this, game_};

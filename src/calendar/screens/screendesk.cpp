@@ -71,7 +71,7 @@ DeskCards::DeskCards(ui::Screen& screen, Game& game)
   for (ui::ListBox* list : {&lstchampions, &lstfeuds, &lsthurt, &lstunhappy, &lstcontracts})
     list->Room = 4;
   for (ui::ListBox* list : {&lstchampions, &lstfeuds}) list->Least = 2;
-  for (ui::ListBox* list : {&lsthurt, &lstunhappy, &lstcontracts}) list->Least = 2;
+  for (ui::ListBox* list : {&lsthurt, &lstunhappy, &lstcontracts}) list->Least = 1;
 }
 
 ui::Box DeskCards::People() {

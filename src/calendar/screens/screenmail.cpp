@@ -16,16 +16,16 @@ constexpr std::size_t kMailsShown = 40;
 DeskMail::DeskMail(ui::Screen& screen, Game& game)
     : game_(game),
       imgmail(screen, "imgmail"),
-      lstmail(screen, "lstmail", {{"From"}, {"Date"}, {"Mail"}}, ui::Handler{},
-              [this] { Open(lstmail.Key()); }),
+      lstmail(screen, "lstmail", {{"From"}, {"Date"}, {"Mail", ui::ColumnKind::Text, 1}},
+              ui::Handler{}, [this] { Open(lstmail.Key()); }),
       lblworld(screen, "lblworld"),
       cmdworld(screen, "cmdworld", "Open", [this] {
         const std::vector<Digest> digests = DigestsOf(world(), 1);
         if (!digests.empty()) Open(digests.front().Mails.front());
       }) {
   lstmail.EmptyText = "No unread mail. What is meant for you arrives here; News has all of it.";
-  lstmail.Room = 5;
-  lstmail.Least = 2;
+  lstmail.Room = 6;
+  lstmail.Least = 3;
   lblworld.Colour = ui::Tone::Muted;
   cmdworld.Plain = true;
 }

@@ -22,6 +22,7 @@ class frmWhatIf : public GameScreen {
         "Three months from this morning, each answer played in the same hundred worlds.";
     lblassumes.Text = (asked_.Assumes.empty() ? "" : asked_.Assumes + " ") + HabitsText();
     lblassumes.Colour = ui::Tone::Muted;
+    lblpairs.Colour = ui::Tone::Gold;
     spread_.SetAnswers(kYesAndNo);
     lstsizes.SetColumns(ChanceColumns("Class in three months", kYesAndNo));
     lstchances.SetColumns(ChanceColumns("Until then", kYesAndNo));
@@ -34,13 +35,13 @@ class frmWhatIf : public GameScreen {
   ui::Page Layout() override {
     ui::Page page = PageOf(
         ui::Rows(
-            {ui::Group("", {lblquestion, lblanswers, playing_.Layout()}),
+            {ui::Group("", {lblquestion, lblanswers, lblpairs, playing_.Layout()}),
              ui::Columns({spread_.Picture().Grow(3),
                           ui::Rows({ui::Group("Size class", {ui::Grow(lstsizes)}).Grow(1),
                                     ui::Group("What can happen", {ui::Grow(lstchances)}).Grow(1)})
                               .Grow(2)})
                  .Grow(3),
-             spread_.Table().Grow(2), lblpairs, lblassumes}),
+             spread_.Table().Grow(2), lblassumes}),
         &lblfacts, {&cmdexport, &playing_.Stop()});
     page.Large = true;
     return page;

@@ -41,6 +41,10 @@ ui::Cell GapCell(double gap, Measure measure) {
   return {gap, sign + amount, tone};
 }
 
+ui::Cell PercentCell(int percent, ui::Tone tone) {
+  return {static_cast<double>(percent), std::to_string(percent) + "%", tone};
+}
+
 std::string Titled(const std::string& answer, const char* what) {
   if (!answer.empty()) return answer + ", " + what;
   std::string title = what;
@@ -66,6 +70,7 @@ PlayingCard::PlayingCard(ui::Screen& screen, Game& game, ui::Handler show)
   cmdlook.Plain = true;
   cmdlook.Tip = "Shows what the worlds that are through come to; it looks by itself, too.";
   lbldone.Fleeting = true;
+  cmdstop.Fleeting = true;
   Clear();
 }
 
@@ -151,7 +156,7 @@ void FillChances(ui::ListBox& list, const std::vector<std::vector<Chance>>& answ
   for (std::size_t place = 0; place < count; ++place) {
     ui::ListBox::Row row{{answers.front()[place].What}, static_cast<int>(place) + 1};
     for (std::size_t answer = 0; answer < answers.size(); ++answer)
-      row.Cells.emplace_back(answers[answer][place].Percent(), ToneOfAnswer(answer));
+      row.Cells.push_back(PercentCell(answers[answer][place].Percent(), ToneOfAnswer(answer)));
     rows.push_back(std::move(row));
   }
   list.Fill(std::move(rows));

@@ -102,15 +102,18 @@ Paragraphs HelpFor(ui::Screen& screen, const ShellKeys& keys) {
     words.push_back({Style::Body, std::string(row->For)});
     words.push_back({Style::Body, std::string(row->How)});
   }
-  AddPart(words, "Keys", [&] { AddKeys(words, screen, keys); });
-  AddPart(words, "Words", [&] { AddWords(words, screen); });
   AddPart(words, "Not possible now", [&] { AddDisabled(words, screen); });
+  AddPart(words, "Words", [&] { AddWords(words, screen); });
+  AddPart(words, "Keys", [&] { AddKeys(words, screen, keys); });
+  if (screen.Is() != ui::Role::Hub)
+    words.push_back(
+        {Style::Muted, "The keys of the whole window stand in the main screen's help."});
   return words;
 }
 
 constexpr ui::Role kOver = ui::Role::Dialog;
 
-/// What the page below is for, its keys, its words, and what stands against what it cannot do now.
+/// What the page below is for, what stands against what it cannot do now, its words and its keys.
 class frmHelp : public GameScreen {
  public:
   frmHelp(Game& game, ui::Screen& of)

@@ -23,11 +23,12 @@ struct Figure {
   NoteKind Kind;
   bool IsChange;  // the number that counts is by how much it moved
 };
-constexpr std::array<Figure, 5> kShownFigures = {{{"lblrating", "Rating", kNoteRating, false},
-                                                  {"lblimage", "Image", kNoteImage, false},
-                                                  {"lblcrowd", "Attendance", kNoteCrowd, false},
-                                                  {"lblviewers", "Viewers", kNoteViewers, false},
-                                                  {"lblmoney", "Money", kNoteMoney, true}}};
+constexpr std::array<Figure, 5> kShownFigures = {
+    {{"lblrating", "Rating", kNoteRating, false},
+     {"lblimage", "Image", kNoteImage, false},
+     {"lblcrowd", "Attendance", kNoteCrowd, false},
+     {"lblviewers", "Television rating", kNoteViewers, false},
+     {"lblmoney", "Money", kNoteMoney, true}}};
 constexpr int kFigureCount = static_cast<int>(kShownFigures.size());
 
 const Figure& FigureAt(int i) {
@@ -66,6 +67,7 @@ class frmMorning : public GameScreen {
                    {.Back = on == kDayZero ? "To The Desk" : "Back"}),
         on_(on),
         promotion_(promotionUid) {
+    lblflat.Colour = ui::Tone::Amber;
     lstpeople.EmptyText = "The show moved nobody.";
     lsttitles.EmptyText = "No Title was at stake. A match for it moves its image.";
     lstfeuds.EmptyText = "No feud was moved. Book its people against each other.";
@@ -84,13 +86,13 @@ class frmMorning : public GameScreen {
   ui::Page Layout() override {
     std::vector<ui::Box> figures;
     for (int i = 1; i <= kFigureCount; ++i)
-      figures.push_back(ui::Group(FigureAt(i).Caption, {lblfigures(i), lblnotes(i),
-                                                        ui::Columns({cmdwhy(i), ui::Spacer()})})
+      figures.push_back(ui::Group(CaptionOf(FigureAt(i)), {lblfigures(i), lblnotes(i),
+                                                           ui::Columns({cmdwhy(i), ui::Spacer()})})
                             .Grow());
     ui::Box moved = ui::Columns({ui::Group("Titles", {ui::Grow(lsttitles)}).Grow(),
                                  ui::Group("Feuds", {ui::Grow(lstfeuds)}).Grow(),
                                  ui::Group("Hurt", {ui::Grow(lsthurt)}).Grow()});
-    return PageOf(
+    ui::Page page = PageOf(
         ui::Rows({ui::Columns(std::move(figures)),
                   ui::Columns(
                       {ui::Rows({ui::Group("Who rose and who fell", {ui::Grow(lstpeople)}).Grow(3),
@@ -101,6 +103,8 @@ class frmMorning : public GameScreen {
                            .Grow(1)})
                       .Grow()}),
         &lblfacts, {&cmdreport, &cmdresults});
+    page.More.insert(page.More.begin(), &lblflat);
+    return page;
   }
 
   void Return() override {
@@ -127,12 +131,20 @@ class frmMorning : public GameScreen {
     const NotedNumber* rating = morning_.Of(kNoteRating);
     lblfacts.Text = rating ? rating->What + " on " + LongDate(on_) + "."
                            : "No show of yours has been held yet.";
+    lblflat.Text = FlatNightText(morning_);
+    lblflat.Visible = !lblflat.Text->empty();
     EnableUnless(cmdreport, HasReport(world(), on_, promotion_)
                                 ? ""
                                 : "Only the reports of the last " + std::to_string(kKeptShows) +
                                       " shows are kept.");
     lblwanted.Text = WantedText(morning_);
     lblwanted.Visible = !lblwanted.Text.Get().empty();
+  }
+
+  /// An Event is bought, a show on television is watched.
+  const char* CaptionOf(const Figure& figure) const {
+    const bool isBought = morning_.Show && morning_.Show->Kind == kPastEvent;
+    return isBought && figure.Kind == kNoteViewers ? "Buy rate" : figure.Caption;
   }
 
   /// What stands below the number: where it came from, and how it was the last time.
@@ -237,10 +249,9 @@ class frmMorning : public GameScreen {
     std::vector<double> ratings;
     std::vector<std::string> captions;
     if (const NotedNumber* rating = morning_.Of(kNoteRating))
-      for (const ShowNote* step : rating->Steps) {
-        if (step->Row == 0) continue;
-        ratings.push_back(step->Change);
-        captions.push_back(std::to_string(step->Row));
+      for (const RowRating& row : RowRatings(*rating)) {
+        ratings.push_back(row.Rating);
+        captions.push_back(std::to_string(row.Row));
       }
     chtrows.Captions = std::move(captions);
     chtrows.Lines = std::vector<ui::Chart::Series>{{"", std::move(ratings)}};
@@ -284,7 +295,7 @@ class frmMorning : public GameScreen {
     const Figure& figure = FigureAt(i);
     const NotedNumber* number = morning_.Of(figure.Kind);
     std::vector<ui::ListBox::Row> rows;
-    if (number) AddSteps(rows, *number, figure.Caption, figure.IsChange);
+    if (number) AddSteps(rows, *number, CaptionOf(figure), figure.IsChange);
     ShowWhy(number ? "Why " + FigureText(figure, *number) + "?" : "Why?", std::move(rows));
   }
 
@@ -332,6 +343,7 @@ class frmMorning : public GameScreen {
   Morning morning_;
   std::vector<PersonMoved> people_;
   ui::Label lblfacts{*this, "lblfacts"};
+  ui::Label lblflat{*this, "lblflat"};
   ui::Array<ui::Label> lblfigures{"", kFigureCount, [this](const std::string&, int i) {
                                     return std::make_unique<ui::Label>(*this, FigureAt(i).Control);
                                   }};

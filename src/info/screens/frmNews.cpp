@@ -239,7 +239,8 @@ class frmNews : public GameScreen {
     const Digest* digest = DigestAt(lstnews.Key());
     ShowMail(lstnews.Key());
     ShowDigest(digest);
-    MarkRead(world(), shown) ? ShowRead(shown) : ShowCount();
+    // Read again is what the player opens, not what comes up when a click is taken back.
+    !game_.ComesUpAgain&& MarkRead(world(), shown) ? ShowRead(shown) : ShowCount();
     EnableUnless(cmddelete, !shown.empty() ? "" : "Pick a mail first.");
   }
 

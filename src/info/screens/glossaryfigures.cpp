@@ -23,6 +23,7 @@
 #include "roster/staff.h"
 #include "roster/talks.h"
 #include "show/aftermatch.h"
+#include "show/holdshow.h"
 #include "show/overchange.h"
 #include "show/showfeuds.h"
 #include "show/titlechange.h"
@@ -161,6 +162,7 @@ constexpr FigureRow kGlossaryFigures[] = {
     {"economy.of", Is<kDriftOf>},
     {"event.cancelled", Is<kCancelledImage>},
     {"event.none", Is<kNoEventImage>},
+    {"flat.odds", Is<kFlatNightOdds>},
     {"floor.from", [] { return std::to_string(FirstFloor().Least); }},
     {"floor.least", [] { return std::to_string(FirstFloor().Most); }},
     {"floor.most", [] { return std::to_string(OverFloorFor(kFull)); }},

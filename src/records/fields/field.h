@@ -58,6 +58,16 @@ struct Field {
   std::string_view Unit = {};
   std::string_view Help = {};
 
+ private:
+  // Stands before its uses: constants are made by it, some compilers as soon as they read them.
+  template <class T>
+  constexpr Field With(T Field::*member, T value) const {
+    Field field = *this;
+    field.*member = value;
+    return field;
+  }
+
+ public:
   constexpr Field In(long long min, long long max) const {
     return With(&Field::Min, min).With(&Field::Max, max);
   }
@@ -71,14 +81,6 @@ struct Field {
   constexpr Field From(Vocabulary words) const { return With(&Field::Words, words); }
   constexpr Field Counts(std::string_view unit) const { return With(&Field::Unit, unit); }
   constexpr Field Means(std::string_view help) const { return With(&Field::Help, help); }
-
- private:
-  template <class T>
-  constexpr Field With(T Field::*member, T value) const {
-    Field field = *this;
-    field.*member = value;
-    return field;
-  }
 };
 
 /// A record's layout: what a file of it is called, how long a record is, how many may be in it.

@@ -13,11 +13,12 @@ ByteSpan BytesIn(std::string_view text) {
   return std::as_bytes(std::span(text));
 }
 
-bool EndsWith(ByteSpan bytes, std::string_view text) {
-  return bytes.size() >= text.size() && std::ranges::equal(bytes.last(text.size()), BytesIn(text));
-}
-
 }  // namespace
+
+std::string EndOfCommands(std::uint64_t digest, std::string_view who) {
+  return std::string(kCommandsOutside) + " " + std::to_string(digest) + " " + std::string(who) +
+         "\n";
+}
 
 Bytes CommandLog::Empty() {
   const ByteSpan head = BytesIn(kCommandsHead);
@@ -28,11 +29,19 @@ CommandLog::CommandLog(std::optional<Bytes> file) {
   if (!file) return;
   file_ = *std::move(file);
   stored_ = file_.size();
-  records_ = !EndsWith(file_, std::string(kCommandsFull) + "\n");
+  exists_ = true;
+}
+
+/// Its last line says so.
+bool CommandLog::HasEnded() const {
+  std::string_view text(reinterpret_cast<const char*>(file_.data()), file_.size());
+  if (text.ends_with('\n')) text.remove_suffix(1);
+  const std::string_view last = text.substr(text.rfind('\n') + 1);
+  return last == kCommandsFull || last.starts_with(std::string(kCommandsOutside) + " ");
 }
 
 void CommandLog::Add(std::string_view lines) {
-  if (!records_ || lines.empty()) return;
+  if (!Records() || lines.empty()) return;
   const std::string full = std::string(kCommandsFull) + "\n";
   const bool fits = std::ssize(file_) + std::ssize(lines) + std::ssize(full) <= kMostCommands;
   const ByteSpan added = BytesIn(fits ? lines : std::string_view(full));

@@ -17,8 +17,14 @@ inline constexpr const char* kCommandsName = "commands";
 inline constexpr std::int64_t kMostCommands = 8 << 20;
 /// The default world packs to a fortieth of it.
 inline constexpr std::int64_t kMostBeginning = 8 << 20;
-/// Where nothing more is recorded.
-inline constexpr std::string_view kCommandsFull = "full";
+/// The last line where nothing more is recorded: the text is full, or the world was changed by
+/// something that is not recorded ("outside DIGEST WHO").
+inline constexpr std::string_view kCommandsFull = "full", kCommandsOutside = "outside";
+/// Where a game is given another name while nobody plays it ("renamed NAME").
+inline constexpr std::string_view kCommandRenamed = "renamed";
+
+/// The line that ends a record at a world of this digest.
+std::string EndOfCommands(std::uint64_t digest, std::string_view who);
 
 /// The commands of a slot, in memory, with what the commit that is being made adds.
 class CommandLog {
@@ -28,7 +34,7 @@ class CommandLog {
   /// Of a game that begins.
   static Bytes Empty();
 
-  bool Records() const { return records_; }
+  bool Records() const { return exists_ && !HasEnded(); }
   /// Each change belongs to a commit: Reach when that stands, PutBack when it does not.
   void Add(std::string_view lines);
   std::optional<FileChange> Change() const;
@@ -36,9 +42,11 @@ class CommandLog {
   void PutBack() { file_.resize(stored_); }
 
  private:
+  bool HasEnded() const;
+
   Bytes file_;
   std::size_t stored_ = 0;
-  bool records_ = false;
+  bool exists_ = false;
 };
 
 }  // namespace grapplemont

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstring>
 
 #include "records/store/packing.h"
@@ -17,6 +18,8 @@ constexpr std::size_t kMomentsStartAt = 16, kMomentsHead = 24;
 // An entry: its size, the checksum of what follows, then kind, days, digest, name and way.
 constexpr std::size_t kEntryChecked = 12, kEntryLeast = 12 + 1 + 8 + 8 + 8 + 2;
 constexpr std::size_t kLongestName = 200;
+/// Far more moments than are kept; a spoiled file has them, to be walked one by one.
+constexpr std::size_t kMostEntries = 1000;
 /// What is past its time goes only when there are so many more of it: each going writes all that
 /// lies behind it.
 constexpr int kSlack = 7, kFewFirsts = 2;
@@ -32,6 +35,22 @@ Bytes Head(std::uint32_t keeps) {
   return std::move(out).Packed();
 }
 
+/// In 16 hexadecimal digits; how a road tells the moment that was gone back to.
+std::string DigitsOf(std::uint64_t digest) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  std::string text;
+  for (int shift = 60; shift >= 0; shift -= 4) text += kDigits[(digest >> shift) & 15];
+  return text;
+}
+
+/// 0 for what is none.
+std::uint64_t DigestIn(std::string_view digits) {
+  std::uint64_t digest = 0;
+  const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), digest, 16);
+  const bool isWhole = digits.size() == 16 && read.ptr == digits.data() + digits.size();
+  return isWhole && read.ec == std::errc() ? digest : 0;
+}
+
 Bytes PackEntry(const Moment& of, const WayBack& way) {
   Packer out;
   out.Put(std::uint32_t{0});
@@ -40,7 +59,8 @@ Bytes PackEntry(const Moment& of, const WayBack& way) {
   out.Put(static_cast<std::int64_t>(of.On.time_since_epoch().count()));
   out.Put(static_cast<std::int64_t>(of.Target.time_since_epoch().count()));
   out.Put(of.Digest);
-  const std::string_view name = std::string_view(of.Name).substr(0, kLongestName);
+  const std::string told = of.Is == MomentKind::Left ? DigitsOf(of.TargetDigest) : of.Name;
+  const std::string_view name = std::string_view(told).substr(0, kLongestName);
   out.Put(static_cast<std::uint16_t>(name.size()));
   out.Put(name);
   Bytes packed = std::move(out).Packed();
@@ -72,6 +92,7 @@ std::optional<std::size_t> ReadEntry(ByteSpan entry, Moment& of) {
   of.Digest = in.Get<std::uint64_t>();
   of.Name = in.GetText<std::uint16_t>();
   if (!in.Whole()) return std::nullopt;
+  if (of.Is == MomentKind::Left) of.TargetDigest = DigestIn(std::exchange(of.Name, {}));
   return entry.size() - in.Left().size();
 }
 
@@ -106,7 +127,7 @@ bool Mornings::Read() {
     const std::size_t size = Unpacker(left).Get<std::uint32_t>();
     if (left.size() < kEntryLeast || size < kEntryLeast || size > left.size()) return false;
     Entry entry{{}, at, size};
-    if (!ReadEntry(left.first(size), entry.Of)) return false;
+    if (entries_.size() == kMostEntries || !ReadEntry(left.first(size), entry.Of)) return false;
     entries_.push_back(std::move(entry));
     at += size;
   }
@@ -121,12 +142,26 @@ std::optional<WayBack> Mornings::Step(std::size_t at) const {
 }
 
 std::optional<WayBack> Mornings::WayTo(std::size_t at) const {
-  std::optional<WayBack> way = WayBack();
-  for (std::size_t i = entries_.size(); i > at && way; --i) {
+  return Onward({}, entries_.size(), at);
+}
+
+/// The way to where moment `from` begins, and on to the moment `to`.
+std::optional<WayBack> Mornings::Onward(WayBack nearer, std::size_t from, std::size_t to) const {
+  std::optional<WayBack> way = std::move(nearer);
+  for (std::size_t i = from; i > to && way; --i) {
     auto step = Step(i - 1);
     way = step ? Joined(*way, *std::move(step)) : std::nullopt;
   }
   return way;
+}
+
+std::optional<std::size_t> Mornings::WouldGo(MomentKind kind) const {
+  int met = 0;
+  std::optional<std::size_t> goes;
+  const int stays = kind == MomentKind::Left ? 1 : 0;
+  for (std::size_t i = 0; i < entries_.size(); ++i)
+    if (entries_[i].Of.Is == kind && met++ == stays) goes = i;
+  return met < (kind == MomentKind::Left ? kLeft : kNamed) ? std::nullopt : goes;
 }
 
 Mornings::Past& Mornings::Touch() {
@@ -167,11 +202,19 @@ void Mornings::DropOldest(std::size_t count) {
   WriteStart();
 }
 
+/// Whether the road that is played has no moment of this day yet. What the player has named is no
+/// morning; who went back to a day has its morning already.
+bool Mornings::IsNewDay(Day on) const {
+  for (std::size_t i = entries_.size(); i-- > 0;) {
+    const Moment& of = entries_[i].Of;
+    if (of.Is != MomentKind::Named) return (of.Is == MomentKind::Left ? of.Target : of.On) != on;
+  }
+  return true;
+}
+
 void Mornings::Add(Moment of, const WayBack& way, Day after) {
   if (!keeps_) return;
-  const bool isNewDay = entries_.empty() || (entries_.back().Of.Is != MomentKind::Left &&
-                                             entries_.back().Of.On != of.On);
-  if (of.Is == MomentKind::Click && isNewDay) of.Is = MomentKind::Morning;
+  if (of.Is == MomentKind::Click && IsNewDay(of.On)) of.Is = MomentKind::Morning;
   const bool dayIsOver = after != of.On;
   Append(std::move(of), way);
   Thin(dayIsOver);
@@ -203,7 +246,9 @@ void Mornings::Thin(bool dayIsOver) {
   }
   if (!any) return;
   std::vector<bool> goes(entries_.size());
+  bool isFirstRoad = true;  // it is the player's own, which they went back from
   for (std::size_t i = 0; i < entries_.size(); ++i) {
+    if (entries_[i].Of.Is == MomentKind::Left && std::exchange(isFirstRoad, false)) continue;
     Limit& limit = limitOf(entries_[i].Of);
     goes[i] = limit.Met > 0;
     if (goes[i]) --limit.Met;
@@ -258,6 +303,26 @@ void Mornings::DropLast() {
   if (entries_.empty()) return;
   Cut(entries_.back().At);
   entries_.pop_back();
+}
+
+void Mornings::TakeBack(std::size_t click, const WayBack& way, std::uint64_t digest) {
+  std::vector<std::size_t> stay;
+  for (std::size_t i = click + 1; i < entries_.size(); ++i)
+    if (entries_[i].Of.Is == MomentKind::Named) stay.push_back(i);
+  // What is behind the click is told by it, unless something stays between or it is not quite this.
+  const bool isTold = stay.empty() && entries_[click].Of.Digest == digest;
+  if (!isTold && click > 0) stay.insert(stay.begin(), click - 1);
+  std::vector<std::pair<Moment, WayBack>> told;
+  for (std::size_t i = 0; i < stay.size(); ++i) {
+    const bool isLast = i + 1 == stay.size();
+    auto step = Onward(isLast ? way : WayBack(), isLast ? entries_.size() : stay[i + 1], stay[i]);
+    if (!step) return Clear();
+    told.emplace_back(entries_[stay[i]].Of, *std::move(step));
+  }
+  const std::size_t first = stay.empty() ? click : std::min(click, stay.front());
+  Cut(entries_[first].At);
+  entries_.resize(first);
+  for (auto& [of, back] : told) Append(std::move(of), back);
 }
 
 void Mornings::Clear() {

@@ -26,9 +26,11 @@ enum class MomentKind : std::uint8_t {
 struct Moment {
   MomentKind Is = MomentKind::Click;
   Day On{};
-  std::uint64_t Digest = 0;  // of the world's own files
-  std::string Name;          // of the click, the player's own; in UTF-8 or the game's letters
-  Day Target{};              // of Left: the day that was gone back to
+  std::uint64_t Digest = 0;        // of the world's own files
+  std::string Name;                // of the click, the player's own; in UTF-8 or the game's letters
+  Day Target{};                    // of Left: the day that was gone back to
+  std::uint64_t TargetDigest = 0;  // of Left: of the moment that was gone back to; 0 if not known
+  std::string Page = {};           // PlayedStep::Page; nobody stores it
 };
 
 /// The file of moments, in memory, with what the commit that is being made does to it.
@@ -36,7 +38,7 @@ class Mornings {
  public:
   /// How many are kept. What is past its time may stay a little longer, until several can go at
   /// once.
-  static constexpr int kDays = 7, kFirsts = 12, kNamed = 12, kLeft = 3, kClicks = 60;
+  static constexpr int kDays = 7, kFirsts = 12, kNamed = 12, kLeft = 8, kClicks = 60;
 
   /// As it was stored; nothing for a game that has none yet. A spoiled file keeps nothing.
   explicit Mornings(std::optional<Bytes> file = std::nullopt);
@@ -54,6 +56,9 @@ class Mornings {
   std::optional<WayBack> WayTo(std::size_t at) const;
   /// What leads there from the moment behind it.
   std::optional<WayBack> Step(std::size_t at) const;
+  /// The moment that goes when one more of this kind comes, which is Named or Left; nothing while
+  /// there is room. The first road that was left goes never.
+  std::optional<std::size_t> WouldGo(MomentKind kind) const;
 
   // Each change belongs to a commit: Reach when that stands, PutBack when it does not.
   /// The world was this a moment ago, and `way` leads back there; now it is `after`. A click that
@@ -62,6 +67,10 @@ class Mornings {
   void Add(Moment of, const WayBack& way, Day after);
   /// The last moment is the present again.
   void DropLast();
+  /// The world is, or is but for a little, what it was at the moment `click`; `way` leads from
+  /// there to what it was till now, `digest` is what it is. Of the moments from the click on only
+  /// what the player has named stays.
+  void TakeBack(std::size_t click, const WayBack& way, std::uint64_t digest);
   void Clear();
   /// What the commit has to write; nothing where nothing has changed.
   std::optional<FileChange> Change() const;
@@ -83,6 +92,8 @@ class Mornings {
   };
 
   bool Read();
+  bool IsNewDay(Day on) const;
+  std::optional<WayBack> Onward(WayBack nearer, std::size_t from, std::size_t to) const;
   Past& Touch();
   void Cut(std::size_t length);
   void Append(Moment of, const WayBack& way);

@@ -111,6 +111,20 @@ std::optional<WayBack> PlayedSlot::WayBefore(const std::vector<FileChange>& chan
   return way;
 }
 
+std::optional<WayBack> PlayedSlot::Before(const std::vector<FileChange>& changes,
+                                          const PlayedStep& step) try {
+  slot_.RequireInPlace();
+  // After a fault the record files are what the journal says only once they have been mended. And
+  // of a journal that leads to an earlier day than files have, only the last road left may tell.
+  if (unsure_ || step.Is == PlayedStep::Left) {
+    slot_.Checkpoint();
+    unsure_ = false;
+  }
+  return mornings_.Keeps() ? WayBefore(changes) : std::nullopt;
+} catch (const DiskError& fault) {
+  throw DiskError(fault, kTakenBack);
+}
+
 void PlayedSlot::Keep(const PlayedStep& step, const std::optional<WayBack>& way, Moment before,
                       Day after, std::uint64_t digest) {
   if (!mornings_.Keeps()) return;
@@ -118,27 +132,31 @@ void PlayedSlot::Keep(const PlayedStep& step, const std::optional<WayBack>& way,
     redo_.clear();
     return mornings_.Clear();
   }
-  const std::size_t count = mornings_.Count();
-  const bool wasClick = IsLastOfToday();
-  if (step.Is == PlayedStep::Undo && wasClick && mornings_[count - 1].Digest == digest) {
-    redo_.push_back({mornings_[count - 1].Name, *way, before.Digest});
-    return mornings_.DropLast();
+  const auto click = step.Is == PlayedStep::Undo ? ClickToUndo() : std::nullopt;
+  if (click) {
+    redo_.push_back({mornings_[*click].Name, *way, before.Digest, step.Page});
+    return mornings_.TakeBack(*click, *way, digest);
   }
   if (step.Is == PlayedStep::Redo && !redo_.empty()) {
+    before.Name = std::move(redo_.back().Name);
     redo_.pop_back();
   } else {
     redo_.clear();
   }
-  if (step.GoesOn && wasClick && mornings_[count - 1].Name == before.Name && after == before.On) {
-    if (const auto last = mornings_.WayTo(count - 1)) {
-      if (auto both = Joined(*way, *last)) {
-        before.Digest = mornings_[count - 1].Digest;
-        mornings_.DropLast();
-        return mornings_.Add(std::move(before), *both, after);
-      }
-    }
-  }
-  mornings_.Add(std::move(before), *way, after);
+  if (!JoinsLast(step, *way, before, after)) mornings_.Add(std::move(before), *way, after);
+}
+
+/// A letter more, and what is no click of the player's, are part of the click before.
+bool PlayedSlot::JoinsLast(const PlayedStep& step, const WayBack& way, Moment& before, Day after) {
+  if (!IsLastOfToday() || after != before.On || step.Is != PlayedStep::Click) return false;
+  const Moment last = mornings_[mornings_.Count() - 1];
+  if (!step.Name.empty() && !(step.GoesOn && last.Name == before.Name)) return false;
+  const auto farther = mornings_.WayTo(mornings_.Count() - 1);
+  const auto both = farther ? Joined(way, *farther) : std::nullopt;
+  if (!both) return false;
+  mornings_.DropLast();
+  mornings_.Add(last, *both, after);
+  return true;
 }
 
 void PlayedSlot::Write(const std::vector<FileChange>& changes) {
@@ -169,14 +187,9 @@ bool PlayedSlot::IsLastOfToday() const {
 void PlayedSlot::Commit(const std::vector<FileChange>& changes, const PlayedStep& step) {
   committed_ = false;
   if (changes.empty()) return Write(changes);
-  // After a fault the record files are what the journal says only once they have been mended. And
-  // of a journal that leads to an earlier day than files have, only the last road left may tell.
-  if (unsure_ || step.Is == PlayedStep::Left) {
-    slot_.Checkpoint();
-    unsure_ = false;
-  }
-  Moment before{MomentKind::Click, today_, digest_.Value(), step.Name, {}};
-  const auto way = mornings_.Keeps() ? WayBefore(changes) : std::nullopt;
+  const auto way = Before(changes, step);
+  Moment before{MomentKind::Click, today_, digest_.Value(), step.Name};
+  before.Page = step.Page;
   Ahead ahead(*this, changes);
   redoBefore_ = redo_;
   Day after = today_;
@@ -185,6 +198,7 @@ void PlayedSlot::Commit(const std::vector<FileChange>& changes, const PlayedStep
   if (step.Is == PlayedStep::Left) {
     before.Is = MomentKind::Left;
     before.Target = after;
+    before.TargetDigest = step.Target;
   }
   Keep(step, way, std::move(before), after, digest_.Value());
   commands_.Add(step.Commands);
@@ -207,7 +221,7 @@ void PlayedSlot::Commit(const std::vector<FileChange>& changes, const PlayedStep
 void PlayedSlot::Name(const std::string& name) {
   if (!mornings_.Keeps()) return;
   Ahead ahead(*this, {});
-  mornings_.Add({MomentKind::Named, today_, digest_.Value(), name, {}}, {}, today_);
+  mornings_.Add({MomentKind::Named, today_, digest_.Value(), name}, {}, today_);
   WriteOwn(ahead);
 }
 
@@ -215,6 +229,10 @@ void PlayedSlot::Record(const std::string& commands) {
   Ahead ahead(*this, {});
   commands_.Add(commands);
   WriteOwn(ahead);
+}
+
+void PlayedSlot::EndRecord(const std::string& who) {
+  if (Records()) Record(EndOfCommands(digest_.Value(), who));
 }
 
 void PlayedSlot::WriteOwn(Ahead& ahead) {
@@ -228,8 +246,23 @@ void PlayedSlot::WriteOwn(Ahead& ahead) {
   ahead.Reach();
 }
 
+std::optional<std::size_t> PlayedSlot::ClickToUndo() const {
+  for (std::size_t i = mornings_.Count(); i-- > 0;) {
+    const Moment& moment = mornings_[i];
+    if (moment.On != today_ || moment.Is == MomentKind::Left) break;
+    if (moment.Is != MomentKind::Named && !moment.Name.empty()) return i;
+  }
+  return std::nullopt;
+}
+
 std::string PlayedSlot::WhatToUndo() const {
-  return IsLastOfToday() ? mornings_[mornings_.Count() - 1].Name : std::string();
+  const auto click = ClickToUndo();
+  return click ? mornings_[*click].Name : std::string();
+}
+
+std::uint64_t PlayedSlot::DigestAfter(const std::vector<FileChange>& changes) {
+  const DigestAhead ahead(digest_, changes);
+  return digest_.Value();
 }
 
 std::string PlayedSlot::WhatToRedo() const {

@@ -10,7 +10,6 @@ namespace grapplemont {
 
 namespace {
 
-constexpr const char* kTakenBack = "Your last step was taken back.";
 constexpr const char* kKept = "Your last step is kept.";
 constexpr const char* kStepsLost = "Its journal has lost steps that were kept.";
 constexpr const char* kUntilMended =
@@ -358,6 +357,10 @@ const std::vector<std::string>& Slot::Remarks() const {
 
 bool Slot::Committed() const {
   return insides_->Committed;
+}
+
+void Slot::RequireInPlace() const {
+  insides_->RequireInPlace();
 }
 
 void Slot::Checkpoint() {

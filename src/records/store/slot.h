@@ -47,6 +47,9 @@ struct SlotOptions {
   std::function<std::optional<Bytes>(const std::string& file)> Contents = {};
 };
 
+/// What becomes of the player's step where nothing of it was written.
+inline constexpr const char* kTakenBack = "Your last step was taken back.";
+
 /// The folder of a running world and its journal. Every commit is all or nothing across all its
 /// files, whatever becomes of the power, the disk or the process.
 class Slot {
@@ -88,6 +91,8 @@ class Slot {
   /// step once the slot's files have been removed or replaced from outside.
   void Commit(const std::vector<FileChange>& changes);
   bool Committed() const;
+  /// Throws SlotGone once the slot's files have been removed or replaced from outside.
+  void RequireInPlace() const;
   /// Brings the record files themselves up to date and empties the journal. Throws DiskError; no
   /// commit is lost then. One is a file that was cut short from outside and cannot be written
   /// again: the journal stays, and the next opening asks.

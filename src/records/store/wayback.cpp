@@ -16,6 +16,10 @@ constexpr std::size_t kWorthTaking = 6;
 /// a quarter of what was compared: records that change where they stand change few of theirs.
 constexpr std::size_t kWorthSearching = 4096;
 constexpr std::uint64_t kSparse = 4;
+// A way that was spoiled on purpose says in a few bytes what would take hours, or all memory. Those
+// of a game stay far below this: it has fewer files, and none that is longer.
+constexpr std::uint64_t kMostFiles = 128, kMostTold = 16 << 20;
+constexpr std::size_t kMostPieces = 2 << 20;
 
 std::size_t Index(std::uint64_t number) {
   return static_cast<std::size_t>(number);
@@ -157,9 +161,12 @@ std::optional<BytesBack> BytesBack::Behind(const BytesBack& nearer) const {
   BytesBack joined;
   joined.pieces_.reserve(pieces_.size() + nearer.pieces_.size());
   std::size_t own = 0;
+  std::uint64_t told = 0;
   for (const Piece& piece : pieces_) {
     if (piece.From > teller.Length() || piece.Taken > teller.Length() - piece.From)
       return std::nullopt;
+    told += piece.Taken + piece.Own;
+    if (told > kMostTold || joined.pieces_.size() > kMostPieces) return std::nullopt;
     teller.Tell(piece.From, piece.Taken, joined);
     joined.Put(ByteSpan(own_).subspan(own, Index(piece.Own)));
     own += Index(piece.Own);
@@ -188,7 +195,7 @@ std::optional<BytesBack> BytesBack::Unpack(ByteSpan& in) {
   std::uint64_t expected = 0, own = 0;
   for (std::uint64_t i = 0; i < *count; ++i) {
     const auto skipped = TakeNumber(in), taken = TakeNumber(in), put = TakeNumber(in);
-    if (!skipped || !taken || !put || *put > in.size()) return std::nullopt;
+    if (!skipped || !taken || !put || *put > in.size() || *taken + *put == 0) return std::nullopt;
     const std::uint64_t from = expected + static_cast<std::uint64_t>(Unfolded(*skipped));
     if (*taken >> 40 || from >> 40) return std::nullopt;
     back.pieces_.push_back({from, *taken, *put});
@@ -335,7 +342,7 @@ void PackInto(Bytes& out, const WayBack& way) {
 
 std::optional<WayBack> UnpackWay(ByteSpan in) {
   const auto count = TakeNumber(in);
-  if (!count || *count > in.size()) return std::nullopt;
+  if (!count || *count > kMostFiles) return std::nullopt;
   WayBack way;
   for (std::uint64_t i = 0; i < *count; ++i) {
     auto name = TakeText(in);

@@ -9,6 +9,7 @@
 #include "rivals/screens/rivalscreens.h"
 #include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
+#include "ui/goingback.h"
 
 namespace grapplemont {
 
@@ -51,7 +52,7 @@ class frmTheEnd : public ui::Screen {
 
   ui::Page Layout() override {
     return {
-        .Actions = {&cmdlook, &cmdmenu, &cmdplayon},
+        .Actions = {&cmdlook, &cmdmornings, &cmdmenu, &cmdplayon},
         .Main = &cmdplayon,
         .Cancel = &cmdlook,
         .Body = ui::Columns(
@@ -67,6 +68,7 @@ class frmTheEnd : public ui::Screen {
   void Load() override {
     using Style = ui::Report::Style;
     const World& world = game_.World();
+    EnableUnless(cmdmornings, WhyNoWayBack(game_));
     const EndStory story = StoryOfTheEnd(world, world.Game().EndCode);
     txtstory.Write({{Style::Heading, story.Headline},
                     {Style::Body, story.Body},
@@ -89,6 +91,12 @@ class frmTheEnd : public ui::Screen {
     desk().Open("frmGameMenu");
   }
 
+  /// The page lies on the main screen, as always.
+  void cmdmornings_Click() {
+    Close();
+    desk().Open("frmMornings");
+  }
+
   Game& game_;
   ui::Report txtstory{*this, "txtstory"};
   ui::Report txtcareer{*this, "txtcareer"};
@@ -97,6 +105,7 @@ class frmTheEnd : public ui::Screen {
   ui::Button cmdlook{*this, "cmdlook", "Look Around", [this] { Close(); }};
   ui::Button cmdmenu{*this, "cmdmenu", "Main Menu", &frmTheEnd::cmdmenu_Click};
   ui::Button cmdplayon{*this, "cmdplayon", "Play On", [this] { desk().Open("frmPlayOn"); }};
+  ui::Button cmdmornings{*this, "cmdmornings", "Back In Time", &frmTheEnd::cmdmornings_Click};
 };
 
 /// The stranger's visit. However it is left, they open their promotion.

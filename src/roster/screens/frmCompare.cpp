@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <limits>
 #include <optional>
 
@@ -24,6 +25,7 @@ using K = ui::ColumnKind;
 using Style = ui::Report::Style;
 
 constexpr int kMost = 4;
+constexpr std::size_t kMostCalled = 40;  // whom a name offers
 constexpr int kLastFive = 5, kLastTen = 10;
 constexpr double kNotKept = std::numeric_limits<double>::quiet_NaN();
 
@@ -87,6 +89,10 @@ constexpr CompareRow kAfter[] = {{"Condition", Points<&Worker::Condition>},
                                  {"Contract", Bond},
                                  {"A month", Pay}};
 
+char Small(char letter) {
+  return static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+}
+
 /// Marks the best, all who are level; nobody where all are, or where one has nothing to compare.
 bool MarkBest(std::vector<ui::Cell>& cells, const std::vector<Measure>& measures) {
   const auto [least, most] = std::ranges::minmax_element(measures, {}, &Measure::Worth);
@@ -103,6 +109,8 @@ class frmCompare : public GameScreen {
       : GameScreen(game, "frmCompare", "Compare"), uids_(std::move(uids)) {
     uids_.resize(std::min<std::size_t>(uids_.size(), kMost));
     lblhow.Colour = ui::Tone::Muted;
+    txtadd.Hint = "Part of anybody's name";
+    txtadd.OnChange = [this] { ShowChoices(); };
     // All of it is seen at once in a window of the usual size.
     lstcompare.Room = 12;
     lstmeetings.Room = 2;
@@ -118,7 +126,8 @@ class frmCompare : public GameScreen {
               .Grow(4));
     return PageOf(
         ui::Columns({ui::Group("", {ui::Columns(std::move(heads)), ui::Grow(lstcompare)}).Grow(7),
-                     ui::Rows({ui::Group("Add a worker", {cmbadd}),
+                     ui::Rows({ui::Group("Add a worker",
+                                         {ui::Field("Called", txtadd), ui::Field("Who", cmbadd)}),
                                ui::Group("Over, last twelve months", {ui::Grow(chtover)}).Grow(2),
                                ui::Group("Against each other", {ui::Grow(lstmeetings)}).Grow(2),
                                ui::Group("In a word", {ui::Grow(txtword)}).Grow(2)})
@@ -155,18 +164,40 @@ class frmCompare : public GameScreen {
   }
 
   /// The player's people and whom the player keeps an eye on.
-  void ShowChoices() {
-    cmbadd.Clear();
-    cmbadd.Add("Choose somebody");
+  std::vector<const Worker*> KnownPeople() {
     std::vector<const Worker*> people;
     for (const Worker& worker : world().Workers())
       if (WorksForPlayer(world(), worker)) people.push_back(&worker);
     SortByOver(people);
     for (const Worker* listed : Shortlisted(world())) people.push_back(listed);
+    return people;
+  }
+
+  /// Everybody in the business who has these letters in their name, the most popular first.
+  std::vector<const Worker*> PeopleCalled(std::string_view letters) {
+    const auto alike = [](char a, char b) { return Small(a) == Small(b); };
+    std::vector<const Worker*> people;
+    for (const Worker& worker : world().Workers())
+      if (worker.Uid != 0 && !std::ranges::search(worker.Name.View(), letters, alike).empty())
+        people.push_back(&worker);
+    SortByOver(people);
+    people.resize(std::min(people.size(), kMostCalled));
+    return people;
+  }
+
+  void ShowChoices() {
+    const std::string typed(detail::Trimmed(txtadd.Text.Get()));
+    const std::vector<const Worker*> people = typed.empty() ? KnownPeople() : PeopleCalled(typed);
+    cmbadd.Clear();
+    cmbadd.Add(typed.empty()    ? "Choose somebody"
+               : people.empty() ? "Nobody is called that"
+                                : "Choose one of " + std::to_string(people.size()));
     for (const Worker* worker : people)
       if (!Has(worker->Uid)) cmbadd.Add(worker->Name.Str(), worker->Uid);
     cmbadd.Select(1);
-    EnableUnless(cmbadd, std::ssize(uids_) < kMost ? "" : "Four are as many as fit.");
+    const char* const full = std::ssize(uids_) < kMost ? "" : "Four are as many as fit.";
+    EnableUnless(txtadd, full);
+    EnableUnless(cmbadd, full);
   }
 
   void AddRow(std::vector<ui::ListBox::Row>& rows, std::string_view name,
@@ -262,7 +293,10 @@ class frmCompare : public GameScreen {
 
   void cmbadd_Click() {
     const int uid = cmbadd.Key();
-    if (uid != 0 && !Has(uid) && std::ssize(uids_) < kMost) uids_.push_back(uid);
+    if (uid != 0 && !Has(uid) && std::ssize(uids_) < kMost) {
+      uids_.push_back(uid);
+      txtadd.Text = "";
+    }
     Return();
   }
   void Remove(int place) {
@@ -285,6 +319,7 @@ class frmCompare : public GameScreen {
                                     return std::make_unique<ui::Button>(
                                         *this, name, "Remove", [this, place] { Remove(place); });
                                   }};
+  ui::TextBox txtadd{*this, "txtadd"};
   ui::ComboBox cmbadd{*this, "cmbadd", &frmCompare::cmbadd_Click};
   ui::Label lblhow{*this, "lblhow"};
   ui::ListBox lstcompare{*this, "lstcompare"};

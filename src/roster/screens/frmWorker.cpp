@@ -1,7 +1,6 @@
 #include "roster/screens/frmWorker.h"
 
 #include <algorithm>
-#include <map>
 
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
@@ -13,7 +12,6 @@
 #include "roster/screens/screentalks.h"
 #include "roster/workerform.h"
 #include "roster/workerrecord.h"
-#include "storylines/lineages.h"
 #include "storylines/partners.h"
 #include "storylines/screens/screenpeople.h"
 #include "storylines/storynames.h"
@@ -25,7 +23,8 @@ namespace {
 using K = ui::ColumnKind;
 
 constexpr int kFormTold = 10;
-constexpr int kLettersOfColumn = 41;  // that stands beside another
+constexpr int kLettersOfColumn = 40;  // that stands beside another
+constexpr int kLettersOfHalf = 57;    // the same of the skills and of all that is beside them
 
 ui::Cell OutcomeCell(int outcome) {
   if (outcome == 0) return {"Drew", ui::Tone::Muted};
@@ -36,51 +35,52 @@ ui::Cell StakeCell(const HeldMatch& match) {
   return match.Title == "None" ? ui::Cell("") : ui::Cell("Title", ui::Tone::Gold);
 }
 
-std::string LengthOf(const TitleReign& reign, Day today) {
-  const int days = DaysOf(reign, today);
-  std::string text = days < 0 ? "" : Counted(days, "day");
-  if (reign.Defences > 0) text += (text.empty() ? "" : ", ") + Counted(reign.Defences, "defence");
-  return text;
-}
+/// A row of the last matches: the opponent's uid, and the show that its report is of.
+struct FormRow {
+  int Opponent;
+  Day On;
+  int Promotion;
+};
 
 /// What is known of one worker, at a glance and in full.
 class frmWorker : public GameScreen {
  public:
   frmWorker(Game& game, int uid) : GameScreen(game, "frmWorker", "Worker"), uid_(uid) {
     lstform.EmptyText = "Matches on your shows stand here, with the way to their reports.";
-    lsttitles.EmptyText = "No Title yet. One that is won on a show, or given, stands here.";
     lstcompany.EmptyText = "Alone: no feud, team, manager or stable.";
     txtcontract.Brief = true;
     picworker.Height = 96;
     pictitle.Height = 36;
     // All of it is seen at once in a window of the usual size.
     lstskills.Room = 5;
-    lstform.Room = 4;
-    lsttitles.Room = lstcompany.Room = 2;
-    txtwhy.Room = 3;
+    lstform.Room = 3;
+    lstcompany.Room = 2;
+    txtwhy.Room = 5;
+    txttitles.Room = 3;
   }
 
   int Uid() const { return uid_; }
 
   ui::Page Layout() override {
-    // Where three columns would be narrow, two of them stand one below the other.
+    // The matches have the width of two columns: a row tells all of one.
     ui::Box glance(
         ui::Box::Kind::Columns, "At a glance",
         {ui::Rows({ui::Group("What they can do", {ui::Grow(lstskills)}).Grow(),
                    ui::Group("Contract", {txtcontract, ui::Columns({cmdpromote, cmddemote})})})
              .Grow(13),
-         ui::Columns(
-             {ui::Rows({ui::Group("Twelve months", {ui::Grow(chtmonths)}).Grow(2),
-                        ui::Group("Last ten matches",
-                                  {ui::Columns({ui::Grow(lblform), cmdreport}), ui::Grow(lstform)})
-                            .Grow(3)})
-                  .Grow(13),
-              ui::Rows({ui::Group("What they think of you, and why", {ui::Grow(txtwhy)}).Grow(5),
-                        ui::Group("Titles and reigns", {pictitle, ui::Grow(lsttitles)}).Grow(2),
-                        ui::Group("Company", {ui::Grow(lstcompany)}).Grow(2)})
-                  .Grow(10)})
-             .Wide(kLettersOfColumn)
+         ui::Rows(
+             {ui::Columns({ui::Group("Twelve months", {ui::Grow(chtmonths)}).Grow(),
+                           ui::Group("What they think of you, and why", {ui::Grow(txtwhy)}).Grow()})
+                  .Wide(kLettersOfColumn)
+                  .Grow(4),
+              ui::Group("Last ten matches", {lblform, ui::WithButtons(lstform, Reads()).Grow()})
+                  .Grow(5),
+              ui::Columns({ui::Group("Titles and reigns", {pictitle, ui::Grow(txttitles)}).Grow(),
+                           ui::Group("Company", {ui::Grow(lstcompany)}).Grow()})
+                  .Wide(kLettersOfColumn)
+                  .Grow(3)})
              .Grow(23)});
+    glance = std::move(glance).Wide(kLettersOfHalf);
     ui::Box facts(
         ui::Box::Kind::Columns, "All the facts",
         {ui::Group("", {ui::Grow(txtpage)}).Grow(1), ui::Group("", {ui::Grow(txtmore)}).Grow(1)});
@@ -99,7 +99,7 @@ class frmWorker : public GameScreen {
     if (worker) Title = worker->Name.Str();
     WriteWorkerPages(txtpage, txtmore, world(), worker,
                      Title.Get() + " is not in the business any more.");
-    for (ui::ListBox* list : {&lstskills, &lstform, &lsttitles, &lstcompany})
+    for (ui::ListBox* list : {&lstskills, &lstform, &lstcompany})
       if (!worker) list->Clear();
     ShowHead(worker);
     if (worker) {
@@ -155,7 +155,12 @@ class frmWorker : public GameScreen {
     chtmonths.Lines = std::move(lines);
   }
 
-  /// The rows' keys are the numbers of the matches' records.
+  std::vector<ui::Button*> Reads() {
+    std::vector<ui::Button*> reads;
+    for (int row = 1; row <= kFormTold; ++row) reads.push_back(&cmdread(row));
+    return reads;
+  }
+
   void ShowForm(const Worker& worker) {
     const std::vector<FormLine> form = FormOf(world(), worker, kFormTold);
     const FormSum sum = SumOf(form);
@@ -163,11 +168,10 @@ class frmWorker : public GameScreen {
                                 : std::to_string(sum.Won) + " won, " + std::to_string(sum.Lost) +
                                       " lost, " + std::to_string(sum.Drawn) + " drawn. Rated " +
                                       std::to_string(sum.Mean) + "% on average.";
-    opponents_.clear();
+    form_.clear();
     std::vector<ui::ListBox::Row> rows;
     for (const FormLine& line : form) {
-      const int number = world().Bouts().NumberOf(*line.Match);
-      opponents_[number] = line.Opponent;
+      form_.push_back({line.Opponent, line.Match->On, line.Match->Promotion});
       const ui::Cell stake = StakeCell(*line.Match);
       const std::string show = ShowNameOf(world(), *line.Match);
       rows.push_back({{line.Against,
@@ -175,43 +179,30 @@ class frmWorker : public GameScreen {
                        int(line.Match->Rating),
                        {stake.Text.empty() ? show : show + " (" + stake.Text + ")", stake.Colour},
                        DayCell(line.Match->On)},
-                      number});
+                      static_cast<int>(form_.size())});
     }
     lstform.Fill(std::move(rows));
+    for (int row = 1; row <= kFormTold; ++row) {
+      cmdread(row).Visible = row <= static_cast<int>(form_.size());
+      EnableUnless(cmdread(row), WhyNoReport(row));
+    }
   }
 
-  /// The Titles that are held first: a key is the number of the Title's record, 0 for a reign that
-  /// has ended.
   void ShowTitles(const Worker& worker) {
-    std::vector<ui::ListBox::Row> rows;
     const auto held = TitlesHeldBy(world(), worker.Uid);
-    const auto reigns = ReignsOfWorker(world(), worker.Uid);
-    for (const grapplemont::Title* title : held) {
-      const auto reign = std::ranges::find_if(reigns, [&](const TitleReign* past) {
-        return past->End == kReignLasts && past->Title == title->Name;
-      });
-      rows.push_back({{{title->Name.View(), ui::Tone::Gold},
-                       reign == reigns.end() ? "" : LengthOf(**reign, world().Today()),
-                       DateCell(title->Reigns[0].Won, kBeforeTheGame)},
-                      world().Titles().NumberOf(*title)});
-    }
-    for (const TitleReign* reign : reigns)
-      if (reign->End != kReignLasts)
-        rows.push_back({{reign->Title.View(), LengthOf(*reign, world().Today()),
-                         DateCell(reign->From, kBeforeTheGame)},
-                        0});
     pictitle.Visible = !held.empty();
     pictitle.Drawn =
         held.empty() ? ui::Drawing() : PlateAt(world(), world().Titles().NumberOf(*held.front()));
-    lsttitles.Fill(std::move(rows));
+    WriteTitles(txttitles, world(), worker);
   }
 
   void ShowCompany(const Worker& worker) {
     std::vector<ui::ListBox::Row> rows;
     for (const Companion& companion : CompanionsOf(world(), worker))
-      rows.push_back(
-          {{companion.Name, {companion.As, ui::Tone::Muted}, {companion.More, ui::Tone::Muted}},
-           companion.Uid});
+      rows.push_back({{companion.Name,
+                       {companion.As + (companion.More.empty() ? "" : ": " + companion.More),
+                        ui::Tone::Muted}},
+                      companion.Uid});
     lstcompany.Fill(std::move(rows));
   }
 
@@ -252,7 +243,6 @@ class frmWorker : public GameScreen {
       ShowMove(*worker, cmdpromote, "Promote", -1);
       ShowMove(*worker, cmddemote, "Demote", 1);
     }
-    ShowReport();
   }
 
   /// A step up or down the card, which begins with position 1.
@@ -269,21 +259,22 @@ class frmWorker : public GameScreen {
     if (button.Enabled) button.Tip = EndedByMove(world(), worker, to);
   }
 
-  const HeldMatch* ChosenMatch() {
-    const int number = lstform.Key();
-    return number >= 1 && number <= world().Bouts().Count() ? &world().Bouts()[number] : nullptr;
+  /// Rows count from 1.
+  const FormRow* FormAt(int row) const {
+    const bool isThere = row >= 1 && row <= static_cast<int>(form_.size());
+    return isThere ? &form_[static_cast<std::size_t>(row - 1)] : nullptr;
   }
 
-  void ShowReport() {
-    const HeldMatch* match = ChosenMatch();
-    EnableUnless(cmdreport, !match ? "Choose one of the last matches first."
-                            : game_.OpenReport && HasReport(world(), match->On, match->Promotion)
-                                ? ""
-                                : "The report of this show is not kept any more.");
+  std::string WhyNoReport(int row) {
+    const FormRow* match = FormAt(row);
+    if (!match) return "There is no match in this row.";
+    const bool isKept = game_.OpenReport && HasReport(world(), match->On, match->Promotion);
+    return isKept ? "" : "The report of this show is not kept any more.";
   }
 
-  void cmdreport_Click() {
-    if (const HeldMatch* match = ChosenMatch()) game_.OpenReport(match->On, match->Promotion);
+  void ReadReport(int row) {
+    if (const std::string why = WhyNoReport(row); !why.empty()) return desk().Say("Report", why);
+    game_.OpenReport(FormAt(row)->On, FormAt(row)->Promotion);
   }
   void cmdshortlist_Click() {
     TurnShortlist(game_, uid_);
@@ -304,13 +295,13 @@ class frmWorker : public GameScreen {
     if (lstcompany.Key() != 0) game_.OpenWorker(lstcompany.Key());
   }
 
-  ui::Drawing Opponent(int match) const {
-    const auto found = opponents_.find(match);
-    return found == opponents_.end() ? ui::Drawing() : FaceOf(game_.World(), found->second);
+  ui::Drawing Opponent(int row) const {
+    const FormRow* match = FormAt(row);
+    return match ? FaceOf(game_.World(), match->Opponent) : ui::Drawing();
   }
 
   int uid_;
-  std::map<int, int> opponents_;  // the uid of each match's, by the number of its record
+  std::vector<FormRow> form_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Picture picworker{*this, "picworker"};
   ui::Label lblmarks{*this, "lblmarks"};
@@ -326,7 +317,12 @@ class frmWorker : public GameScreen {
   ui::Button cmddemote{*this, "cmddemote", "Demote", [this] { Move(1); }};
   ui::Chart chtmonths{*this, "chtmonths"};
   ui::Label lblform{*this, "lblform"};
-  ui::Button cmdreport{*this, "cmdreport", "Read Report", &frmWorker::cmdreport_Click};
+  ui::Array<ui::Button> cmdread{"cmdread", kFormTold, [this](const std::string& name, int row) {
+                                  auto read = std::make_unique<ui::Button>(
+                                      *this, name, "Report", [this, row] { ReadReport(row); });
+                                  read->Plain = true;
+                                  return read;
+                                }};
   ui::ListBox lstform{
       *this,
       "lstform",
@@ -334,22 +330,16 @@ class frmWorker : public GameScreen {
        {"Result", K::Tag},
        {"Rating", K::Percent},
        {"Show", K::Text, 5, "And what the match was for."},
-       {"Date", K::Date}},
-      &frmWorker::ShowReport,
-      cmdreport};
+       {"Date", K::Date},
+       {"", K::Button}},
+      ui::Handler{},
+      [this] { ReadReport(lstform.Key()); }};
   ui::Report txtwhy{*this, "txtwhy"};
   ui::Picture pictitle{*this, "pictitle"};
-  ui::ListBox lsttitles{*this,
-                        "lsttitles",
-                        {{.Title = "Title",
-                          .Width = 5,
-                          .Draws = [this](int number) { return PlateAt(world(), number); }},
-                         {"Held", K::Text, 4},
-                         {"Since", K::Date, 4}}};
-  ui::ListBox lstcompany{
-      *this, "lstcompany",
-      WithFaces(world(), {{"Who", K::Text, 5}, {"As", K::Tag, 3}, {"", K::Text, 4}}), ui::Handler{},
-      [this] { lstcompany_Open(); }};
+  ui::Report txttitles{*this, "txttitles"};
+  ui::ListBox lstcompany{*this, "lstcompany",
+                         WithFaces(world(), {{"Who", K::Text, 5}, {"As", K::Text, 4}}),
+                         ui::Handler{}, [this] { lstcompany_Open(); }};
   ui::Report txtpage{*this, "txtpage"};
   ui::Report txtmore{*this, "txtmore"};
   ui::Button cmdprevious{*this, "cmdprevious", "Previous", [this] { Go(&Neighbours::Before); }};

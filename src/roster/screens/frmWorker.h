@@ -23,6 +23,8 @@ void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, c
 void WriteContract(ui::Report& page, const World& world, const Worker& worker);
 /// What somebody thinks of the player, and why.
 void WriteMood(ui::Report& page, const World& world, const Worker& worker);
+/// The Titles that they hold, then those that they held.
+void WriteTitles(ui::Report& page, const World& world, const Worker& worker);
 
 /// Opens the worker's page, or goes back to it where it lies below others of its kind. Says so when
 /// there is nobody of this uid any more.

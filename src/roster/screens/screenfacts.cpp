@@ -1,13 +1,17 @@
 #include "roster/screens/frmWorker.h"
 
+#include <algorithm>
 #include <span>
 
 #include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "records/nameindex.h"
 #include "roster/moods.h"
 #include "roster/workerfacts.h"
 #include "roster/workerform.h"
+#include "roster/workerrecord.h"
+#include "storylines/lineages.h"
 
 namespace grapplemont {
 
@@ -89,7 +93,7 @@ void WriteContract(ui::Report& page, const World& world, const Worker& worker) {
 }
 
 void WriteMood(ui::Report& page, const World& world, const Worker& worker) {
-  Paragraphs words = LinesUnder(world, worker, "Character");
+  Paragraphs words;
   const MoodStory story = MoodStoryOf(world, worker);
   const std::string today = std::to_string(worker.Morale);
   if (!WorksForPlayer(world, worker)) {
@@ -97,14 +101,51 @@ void WriteMood(ui::Report& page, const World& world, const Worker& worker) {
   } else if (story.Steps.empty()) {
     words.push_back({Style::Muted, "Nothing has moved morale this month or the last."});
   } else {
-    words.push_back({Style::Strong, "Morale " + today});
-    words.push_back(
-        {Style::Muted, std::to_string(story.Before) + " before " + PlainDate(story.Since)});
+    words.push_back({Style::Strong, "Morale " + today + ", " + std::to_string(story.Before) +
+                                        " before " + PlainDate(story.Since)});
     for (const MoodStep& step : story.Steps)
       words.push_back({Style::Line, (step.Change > 0 ? "+" : "") + std::to_string(step.Change) +
                                         "  " + step.Why});
-    words.push_back({Style::Line, today + " today"});
+    words.push_back({Style::Line, "= " + today + " today"});
   }
+  for (auto& line : LinesUnder(world, worker, "Character")) words.push_back(std::move(line));
+  page.Write(std::move(words));
+}
+
+namespace {
+
+std::string LengthOf(const TitleReign& reign, Day today) {
+  const int days = DaysOf(reign, today);
+  std::string text = days < 0 ? "" : Counted(days, "day");
+  if (reign.Defences > 0) text += (text.empty() ? "" : ", ") + Counted(reign.Defences, "defence");
+  return text;
+}
+
+void TellReign(Paragraphs& words, std::string_view title, const char* how,
+               const std::string& length, Day from) {
+  words.push_back({Style::Strong, std::string(title)});
+  words.push_back({Style::Muted, how + (length.empty() ? "" : ": " + length) + ", from " +
+                                     (from > kNoTitleDate ? PlainDate(from) : "before the game")});
+}
+
+}  // namespace
+
+void WriteTitles(ui::Report& page, const World& world, const Worker& worker) {
+  Paragraphs words;
+  const auto reigns = ReignsOfWorker(world, worker.Uid);
+  for (const Title* title : TitlesHeldBy(world, worker.Uid)) {
+    const auto reign = std::ranges::find_if(reigns, [&](const TitleReign* past) {
+      return past->End == kReignLasts && past->Title == title->Name;
+    });
+    TellReign(words, title->Name, "Holds it",
+              reign == reigns.end() ? "" : LengthOf(**reign, world.Today()), title->Reigns[0].Won);
+  }
+  for (const TitleReign* reign : reigns)
+    if (reign->End != kReignLasts)
+      TellReign(words, reign->Title, "Held it", LengthOf(*reign, world.Today()), reign->From);
+  if (words.empty())
+    words.push_back(
+        {Style::Muted, "No Title yet. One that is won on a show, or given, stands here."});
   page.Write(std::move(words));
 }
 

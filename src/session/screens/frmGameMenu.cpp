@@ -151,7 +151,7 @@ class frmGameMenu : public ui::Screen {
 
   void Load() override { Return(); }
   void Return() override {
-    played_ = LastPlayed(game_.Disk(), game_.Home());
+    played_ = SlotToContinue(game_.Disk(), game_.Home());
     const SlotSummary last =
         played_ == 0 ? SlotSummary() : ReadSlotSummary(game_.Disk(), game_.SlotFolder(played_));
     cmdcontinue.Visible = last.Playable;

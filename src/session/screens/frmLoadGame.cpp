@@ -10,6 +10,7 @@
 #include "session/screens/slotscreen.h"
 #include "session/slots.h"
 #include "storylines/storynames.h"
+#include "ui/goingback.h"
 #include "ui/pictureof.h"
 
 namespace grapplemont {
@@ -133,12 +134,9 @@ class frmLoadGame : public SlotScreen {
   }
   void cmdload_Click(int slot) override { EnterSlot(game_, slot); }
 
-  /// The game that was played last; where that is not known or gone, the first that can be.
   void ShowPlayed() {
-    played_ = LastPlayed(game_.Disk(), game_.Home());
-    for (int slot = 1; slot <= kSlots && (played_ == 0 || !In(played_).Playable); ++slot)
-      if (In(slot).Playable) played_ = slot;
-    const bool any = played_ > 0 && In(played_).Playable;
+    played_ = SlotToContinue(game_.Disk(), game_.Home());
+    const bool any = played_ > 0;
     for (ui::Control* control : std::initializer_list<ui::Control*>{
              &imgplayed, &imgpage, &lblplayed, &lblpromotion, &lbltoday, &lblimage, &lblmoney,
              &lbllastshow, &cmdcontinue})
@@ -160,8 +158,8 @@ class frmLoadGame : public SlotScreen {
     lbllastshow.Visible = !summary.LastShow.empty();
     const std::string page = game_.PageFile(played_);
     imgpage.Visible = game_.Disk().Look(page) == Disk::Kind::File;
-    // Pictures are named from the folder of the program's own.
-    imgpage.File = "../" + page.substr(page.rfind('/') + 1);
+    // It lies in the home, where pictures are looked for last.
+    imgpage.File = page.substr(page.rfind('/') + 1);
   }
 
   void ShowActs() {
@@ -255,13 +253,18 @@ class frmLoadGame : public SlotScreen {
         !desk().Ask("Replace?", ForScreen(path) + " is there already. Write over it?",
                     ui::Default::No))
       return;
-    const bool withHistory =
-        HasHistory(game_.Disk(), game_.SlotFolder(slot)) &&
-        desk().Ask("Export",
-                   "Take along what this game can go back to? The file is larger then, and whoever "
-                   "opens it can go back too.",
-                   ui::Default::No);
-    ExportSlot(game_.Disk(), game_.SlotFolder(slot), path, withHistory);
+    TakenAlong along;
+    along.History = HasHistory(game_.Disk(), game_.SlotFolder(slot)) &&
+                    desk().Ask("Export",
+                               "Take along what this game can go back to? The file is larger then, "
+                               "and whoever opens it can go back too.",
+                               ui::Default::No);
+    along.Record = IsRecorded(game_.Disk(), game_.SlotFolder(slot)) &&
+                   desk().Ask("Export",
+                              "Take along the record of what you did, so that others can play it "
+                              "again? It has every text that you typed, and the names of files.",
+                              ui::Default::Yes);
+    ExportSlot(game_.Disk(), game_.SlotFolder(slot), path, along);
     lblfacts.Text = "Wrote " + In(slot).Caption + " to " + ForScreen(path) + ".";
   }
 
@@ -269,7 +272,7 @@ class frmLoadGame : public SlotScreen {
 
   void GoBack(int slot) {
     EnterSlot(game_, slot);
-    if (desk().Top() && desk().Top()->Name() == "frmMainScreen") desk().Open("frmMornings");
+    if (game_.HasWorld()) OpenMornings(game_);
   }
 
   void cmdimport_Click() {

@@ -30,8 +30,10 @@ class frmMornings : public GameScreen {
   explicit frmMornings(Game& game) : GameScreen(game, "frmMornings", "Back In Time") {
     lstmornings.EmptyText = "Nothing yet: the first morning is kept with the first click.";
     lblkept.Text =
-        "Kept are the mornings of the last week, the firsts of the last twelve months, what you "
-        "name, and each road that you leave. The oldest go when 4 MB are full.";
+        "Kept are the mornings of the last week, the firsts of the last twelve months, " +
+        std::to_string(Mornings::kNamed) + " moments that you name and " +
+        std::to_string(Mornings::kLeft) +
+        " roads that you leave, the first of them always. The oldest go when 4 MB are full.";
     lblkept.Colour = ui::Tone::Muted;
   }
 
@@ -85,25 +87,47 @@ class frmMornings : public GameScreen {
   void cmdname_Click() {
     std::string name(detail::Trimmed(
         desk().Prompt("Name This Moment", "What is it to be called?", "before the Event")));
-    if (name.empty()) return;
+    if (name.empty() || desk().Objects(WhyNotName(name)) || !MayForget()) return;
     game_.Commit();
-    game_.OpenedSlot().Name(name.substr(0, kLongestName));
+    game_.OpenedSlot().Name(name);
     Return();
+  }
+
+  std::string WhyNotName(const std::string& name) {
+    if (name.size() > kLongestName)
+      return "A name has " + std::to_string(kLongestName) + " letters at most.";
+    const bool isTaken = std::ranges::any_of(past_, [&](const PastMoment& past) {
+      return past.Of.Is == MomentKind::Named && past.Of.On == world().Today() &&
+             past.Of.Name == name;
+    });
+    return isTaken ? "Another moment of this day is called so." : "";
+  }
+
+  /// Asks where the name of another goes for this one.
+  bool MayForget() {
+    const Mornings& moments = game_.OpenedSlot().Moments();
+    const auto goes = moments.WouldGo(MomentKind::Named);
+    return !goes || desk().Ask("Name This Moment",
+                               std::to_string(Mornings::kNamed) + " named moments are kept: \"" +
+                                   MomentText(moments[*goes]) +
+                                   "\" is forgotten for it. Name this one all the same?",
+                               ui::Default::No);
   }
 
   using K = ui::ColumnKind;
   std::vector<PastMoment> past_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstmornings{*this,
-                          "lstmornings",
-                          {{"Day", K::Number},
-                           {"Kind", K::Tag},
-                           {"Name"},
-                           {"Road", K::Tag, 0, "Another is one that you left for an earlier day."},
-                           {"Image", K::Percent},
-                           {.Title = "What has happened since", .Width = 4}},
-                          &frmMornings::lstmornings_Click,
-                          &frmMornings::cmdgo_Click};
+  ui::ListBox lstmornings{
+      *this,
+      "lstmornings",
+      {{"Day", K::Number},
+       {"Kind", K::Tag},
+       {"Name"},
+       {"Road", K::Tag, 0, "Another does not lead to today: you left it for another day."},
+       {"Image", K::Percent},
+       {.Title = "What has happened since", .Width = 4}},
+      &frmMornings::lstmornings_Click,
+      &frmMornings::cmdgo_Click};
   ui::Label lblkept{*this, "lblkept"};
   ui::Button cmdundo{*this, "cmdundo", "Undo", [this] { desk().Take(desk().Undo); }};
   ui::Button cmdredo{*this, "cmdredo", "Redo", [this] { desk().Take(desk().Redo); }};

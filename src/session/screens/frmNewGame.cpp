@@ -96,6 +96,8 @@ class frmNewGame : public GameScreen {
     }
     boxes.emplace_back(chknoway);
     boxes.emplace_back(lblnoway);
+    boxes.emplace_back(chkrecorded);
+    boxes.emplace_back(lblrecorded);
     boxes.push_back(ui::Spacer());
     return boxes;
   }
@@ -192,7 +194,8 @@ class frmNewGame : public GameScreen {
                                             .Start = NextFirst(game_.PresentDay()),
                                             .SaveName = {},
                                             .House = ChosenHouse(),
-                                            .NoWayBack = chknoway.Checked}));
+                                            .NoWayBack = chknoway.Checked,
+                                            .Recorded = chkrecorded.Checked}));
   }
 
   using K = ui::ColumnKind;
@@ -260,6 +263,10 @@ class frmNewGame : public GameScreen {
   ui::Label lblnoway{*this, "lblnoway",
                      "No click is taken back and no morning is gone back to: what happens has "
                      "happened."};
+  ui::CheckBox chkrecorded{*this, "chkrecorded", "Recorded"};
+  ui::Label lblrecorded{*this, "lblrecorded",
+                        "Every click and all that you type is kept with the game, so that anybody "
+                        "can play it again and see that it came about so."};
   ui::Button cmdbegin{*this, "cmdbegin", "Begin", &frmNewGame::cmdbegin_Click};
 };
 

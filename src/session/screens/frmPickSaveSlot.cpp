@@ -52,7 +52,8 @@ class frmPickSaveSlot : public SlotScreen {
     const auto mended = NewGame(world, choice_, [&](std::string_view step) { waiting.Tell(step); });
     BeginGuide(world);
     Slot::Create(game_.Disk(), game_.SlotFolder(slot),
-                 BeginningFiles(world, game_.HasSeed(), !choice_.NoWayBack), game_.NewWorldId());
+                 BeginningFiles(world, choice_.Recorded || game_.HasSeed(), !choice_.NoWayBack),
+                 game_.NewWorldId());
     RemoveTree(game_.Disk(), game_.PageFile(slot));  // of the game that was there
     waiting.Done();
     TellOfMending(mended);

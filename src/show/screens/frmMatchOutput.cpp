@@ -242,7 +242,6 @@ class frmMatchOutput : public ui::Screen {
 
   void ShowFigures() {
     const bool isMatch = told_ && world().Segments()[run().Current].Kind == kMatch;
-    lblanalysis.Text = !IsThrough() ? "Who is in it" : isMatch ? "Match Analysis" : "Analysis";
     lblanalysis.Visible = told_.has_value();
     for (int i = 1; i <= kFigureCount; ++i) {
       const bool shown = told_ && IsThrough() && (isMatch || i != 1);

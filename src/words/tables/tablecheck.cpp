@@ -1,7 +1,6 @@
 #include "words/tables/tablecheck.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "records/fields/wording.h"
 #include "words/units.h"
@@ -14,14 +13,22 @@ using Texts = std::vector<std::string_view>;
 
 constexpr int kPlaces = 4;  // of an angle
 
+// The library's own may only be asked about bytes without a sign.
+bool IsDigit(char letter) {
+  return letter >= '0' && letter <= '9';
+}
+bool IsCapital(char letter) {
+  return letter >= 'A' && letter <= 'Z';
+}
+
 bool IsNumber(std::string_view text) {
-  return !text.empty() && text.size() < 5 &&
-         std::all_of(text.begin(), text.end(), [](char letter) { return std::isdigit(letter); });
+  return !text.empty() && text.size() < 5 && std::ranges::all_of(text, IsDigit);
 }
 
 bool IsRuleName(std::string_view text) {
-  return !text.empty() && text[0] >= 'A' && text[0] <= 'Z' &&
-         std::all_of(text.begin(), text.end(), [](char letter) { return std::isalnum(letter); });
+  return !text.empty() && IsCapital(text[0]) && std::ranges::all_of(text, [](char letter) {
+    return IsDigit(letter) || IsCapital(letter) || (letter >= 'a' && letter <= 'z');
+  });
 }
 
 std::string InQuotes(std::string_view text) {
@@ -286,7 +293,7 @@ std::vector<BoxText> BoxesOf(const std::string& cell) {
       box.Casting = text.substr(bracket + 2, text.size() - bracket - 3);
       text.resize(bracket);
     }
-    if (!text.empty() && std::isdigit(text[0])) {
+    if (!text.empty() && IsDigit(text[0])) {
       box.Place = text[0] - '0';
       box.MayStayEmpty = text.size() > 1 && text[1] == '?';
       text.erase(0, box.MayStayEmpty ? 2 : 1);
