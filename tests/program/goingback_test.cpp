@@ -229,7 +229,7 @@ TEST(BackInTime, WhatIsReadNamedOrRenamedDoesNotStandBeforeAClick) {
   play.Play.OpenSlot(1);
   desk.Open("frmMainScreen");
   EXPECT_EQ(desk.Take(desk.Undo), price);
-  EXPECT_EQ(play.World().Game().SaveName, "Other Name");
+  EXPECT_EQ(play.World().Game().SaveName.View(), "Other Name");
   EXPECT_EQ(play.World().ReadMails().Count(), 0);
   play.World().Game().SaveName = name;
   EXPECT_EQ(BytesIn(play), before) << "but for the name";

@@ -1,5 +1,4 @@
 #include "tools/replay.h"
-#include "ui/actlines.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +7,7 @@
 #include <fstream>
 #include <functional>
 #include <random>
+#include <span>
 #include <sstream>
 
 #include "editor/editorhome.h"
@@ -18,6 +18,7 @@
 #include "support/gameonworld.h"
 #include "support/smallworld.h"
 #include "tools/confineddisk.h"
+#include "ui/actlines.h"
 
 // A game that was begun with a seed is played again from what it recorded, to the same bytes.
 
