@@ -9,6 +9,7 @@
 #include "booking/wizard/refusals.h"
 #include "booking/wizard/roster.h"
 #include "booking/wizard/segmentcheck.h"
+#include "records/fields/wording.h"
 #include "records/houserules.h"
 #include "show/matchscore.h"
 #include "storylines/feuds.h"
