@@ -9,7 +9,7 @@ namespace grapplemont {
 
 namespace {
 
-constexpr const char* kTakenBack = "Your change was taken back.";
+constexpr const char* kChangeTakenBack = "Your change was taken back.";
 constexpr const char* kUnknown =
     "Your change was taken back here; whether the disk kept it will show when the editor is opened "
     "again. Nothing can be kept until the disk answers.";
@@ -118,7 +118,7 @@ void DataFolder::Take(const DataStep& step, const std::function<void()>& made) {
     } catch (const DiskError&) {
       throw DiskError(fault, kUnknown);
     }
-    throw DiskError(fault, kTakenBack);
+    throw DiskError(fault, kChangeTakenBack);
   }
   unfinished_ = Unfinished::Apply;
   made();

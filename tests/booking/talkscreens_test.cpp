@@ -24,6 +24,8 @@ class Steps : public WizardHost {
 
   Wizard& State() override { return wizard_; }
   void StepStored(bool) override { StepDone(wizard_); }
+  void Complete() override {}
+  void StepLeft() override {}
   void GoTo(int step) override { JumpTo(wizard_, step); }
   Steps& Open() {
     Desk.Open(MakeStepScreen(Play.Play, *this));

@@ -73,7 +73,7 @@ PlayedHome Play() {
   PlayedHome played{disk.Restarted(), CommittedFiles(game.World()), {}};
   desk.CloseAll();
   CutDisk copy = played.Disk.Restarted();
-  ExportSlot(copy, kGameFolder, kExported, true);
+  ExportSlot(copy, kGameFolder, kExported, {.History = true, .Record = true});
   played.Exported = ReadFile(copy, kExported);
   return played;
 }

@@ -215,7 +215,7 @@ TEST(Roads, AndNamesAreSaidToGoBeforeTheyDoAndTheFirstRoadStays) {
   for (int name = 0; name <= Mornings::kNamed; ++name) {
     const auto goes = moments.WouldGo(MomentKind::Named);
     ASSERT_EQ(name == Mornings::kNamed, goes.has_value());
-    if (goes) EXPECT_EQ("n0", moments[*goes].Name);
+    EXPECT_TRUE(!goes || moments[*goes].Name == "n0");
     play.Slot->Name("n" + std::to_string(name));
   }
   EXPECT_EQ(Mornings::kNamed, std::ssize(digests(MomentKind::Named)));

@@ -109,7 +109,7 @@ TEST(WaysBack, ThatTellMoreThanAnyWorldHoldsLeadNowhere) {
   EXPECT_FALSE(farther.Behind(nearer));
   EXPECT_TRUE(nearer.Behind(nearer));
   Bytes packed;
-  PackInto(packed, WayBack(200, {"news.dat"}));
+  PackInto(packed, WayBack(200, {"news.dat", false, {}}));
   EXPECT_FALSE(UnpackWay(packed)) << "more files than a world has";
   packed = {std::byte{1}, std::byte{1}, std::byte{'a'}, std::byte{1}, std::byte{1},
             std::byte{0}, std::byte{0}, std::byte{0},   std::byte{0}};

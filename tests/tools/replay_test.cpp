@@ -191,7 +191,7 @@ TEST(AConfinedDisk, KeepsWhatIsWrittenInItsFolder) {
   tools::ConfinedDisk confined(*disk, all / "own", all / "others");
   const std::string text = "written";
   const auto bytes = std::as_bytes(std::span(text));
-  for (const std::string path : {all / "own/../up", all / "others/file", all / "ownx"})
+  for (const std::string& path : {all / "own/../up", all / "others/file", all / "ownx"})
     WriteFile(confined, path, bytes);
   EXPECT_FALSE(std::filesystem::exists(all / "up"));
   EXPECT_FALSE(std::filesystem::exists(all / "ownx"));

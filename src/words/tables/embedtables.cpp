@@ -41,7 +41,7 @@ std::string PlacesCode(const Column& column, const std::string& cell) {
   return column.Is == Column::Pairs ? "{{" + code + "}}" : "{" + code + "}";
 }
 
-std::string CellCode(const Table& table, const TableRow& row, std::string_view title) {
+std::string CellCode(const WordTable& table, const TableRow& row, std::string_view title) {
   if (title[0] == '"') return std::string(title.substr(1));
   const std::size_t number = ColumnOf(table, title);
   const Column& column = table.Columns[number];
@@ -66,7 +66,7 @@ std::string CellCode(const Table& table, const TableRow& row, std::string_view t
   }
 }
 
-bool IsLeftOut(const Table& table, const TableRow& row, const RowArray& array) {
+bool IsLeftOut(const WordTable& table, const TableRow& row, const RowArray& array) {
   return std::any_of(array.Columns.begin(), array.Columns.end(), [&](std::string_view title) {
     const std::size_t number = ColumnOf(table, title);
     return number < table.Columns.size() && row.Cells[number] == kEmptyCell &&
@@ -74,7 +74,7 @@ bool IsLeftOut(const Table& table, const TableRow& row, const RowArray& array) {
   });
 }
 
-void AddArray(std::ostream& out, const Table& table, const std::vector<TableRow>& rows,
+void AddArray(std::ostream& out, const WordTable& table, const std::vector<TableRow>& rows,
               const RowArray& array) {
   out << "inline constexpr " << array.Type << " " << array.Name << "[] = {\n";
   for (const TableRow& row : rows) {
@@ -88,7 +88,7 @@ void AddArray(std::ostream& out, const Table& table, const std::vector<TableRow>
 }
 
 /// The rule names, as an enumeration or as constants.
-void AddRules(std::ostream& out, const Table& table, const std::vector<TableRow>& rows) {
+void AddRules(std::ostream& out, const WordTable& table, const std::vector<TableRow>& rows) {
   if (table.NumbersOf.empty()) return;
   const std::size_t rule = ColumnOf(table, "Rule"), number = ColumnOf(table, table.NumbersOf);
   if (!table.Namespace.empty()) out << "namespace " << table.Namespace << " {\n";
@@ -123,7 +123,7 @@ std::string CodeOf(const TableFile& file, TableTexts& texts, const MadeHeader& h
       << "#include <string_view>\n\n";
   for (const std::string_view include : header.Includes) out << "#include \"" << include << "\"\n";
   out << "\nnamespace grapplemont {\n\n";
-  for (const Table& table : file.Tables) {
+  for (const WordTable& table : file.Tables) {
     const auto& rows = texts.Rows[table.Heading];
     if (table.Arrays[0].Header == header.Name) AddRules(out, table, rows);
     for (const RowArray& array : table.Arrays)

@@ -11,7 +11,7 @@ using enum Column::Kind;
 constexpr std::string_view kSame = "=Says";
 
 /// Codes with a phrase for lists and one for the wizard's summary, in a namespace of their own.
-Table Phrases(std::string_view heading, std::string_view space, std::string_view array) {
+WordTable Phrases(std::string_view heading, std::string_view space, std::string_view array) {
   return {heading,
           {{"Code", Number}, {"Rule", RuleName}, {"Says", Phrase}, {"Summary", Phrase, kSame}},
           {"Code"},
@@ -22,9 +22,9 @@ Table Phrases(std::string_view heading, std::string_view space, std::string_view
           {{"segments", "Phrase", array, {"Code", "Says", "Summary"}}}};
 }
 
-Table Purposes(std::string_view heading, std::string_view space, std::string_view array,
-               std::string_view aims, std::string_view style) {
-  Table table = Phrases(heading, space, array);
+WordTable Purposes(std::string_view heading, std::string_view space, std::string_view array,
+                   std::string_view aims, std::string_view style) {
+  WordTable table = Phrases(heading, space, array);
   table.Columns.insert(
       table.Columns.begin() + 2,
       {{"Aim",
@@ -43,9 +43,9 @@ Table Purposes(std::string_view heading, std::string_view space, std::string_vie
 }
 
 /// Rows with a code and a rule name of their own, in one array.
-Table Coded(std::string_view heading, std::vector<Column> more, std::string_view rules,
-            RowArray array) {
-  Table table{heading, {{"Code", Number}, {"Rule", RuleName}, {"Says"}}, {"Code"}};
+WordTable Coded(std::string_view heading, std::vector<Column> more, std::string_view rules,
+                RowArray array) {
+  WordTable table{heading, {{"Code", Number}, {"Rule", RuleName}, {"Says"}}, {"Code"}};
   table.Columns.insert(table.Columns.end(), more.begin(), more.end());
   table.Enum = rules;
   table.NumbersOf = "Code";
@@ -53,8 +53,8 @@ Table Coded(std::string_view heading, std::vector<Column> more, std::string_view
   return table;
 }
 
-Table MatchTypes() {
-  Table table =
+WordTable MatchTypes() {
+  WordTable table =
       Coded("Match types", {{"Risk over", Number, "kAnyRisk"}, {"Size under", Number, "kAnySize"}},
             "MatchTypeCode",
             {"segments",
@@ -66,7 +66,7 @@ Table MatchTypes() {
   return table;
 }
 
-Table Finishes() {
+WordTable Finishes() {
   return {
       .Heading = "Finishes of 1 vs 1 and 2 vs 2",
       .Columns = {{"Code", Number},
@@ -81,7 +81,7 @@ Table Finishes() {
                  {"segments", "Phrase", "kTagFinishes", {"Code", "Says of 2 vs 2", "Summary"}}}};
 }
 
-Table SideFinishes() {
+WordTable SideFinishes() {
   return {.Heading = "Finishes of 3 vs 3 and 4 vs 4",
           .Columns = {{"3 vs 3", Number, kLeavesOut},
                       {"4 vs 4", Number},

@@ -41,7 +41,7 @@ struct RowArray {
   std::vector<std::string_view> Columns;  // titles; "\"" before what is C++ as it stands
 };
 
-struct Table {
+struct WordTable {
   std::string_view Heading;
   std::vector<Column> Columns;
   std::vector<std::string_view> Keys = {};  // no two rows are alike in all of them
@@ -74,7 +74,7 @@ struct MadeHeader {
 struct TableFile {
   std::string_view Path;
   std::vector<MadeHeader> Headers;
-  std::vector<Table> Tables;
+  std::vector<WordTable> Tables;
   std::vector<NameArray> Names;
 };
 const std::vector<TableFile>& AllTableFiles();

@@ -133,7 +133,7 @@ class Reader {
 
   Texts Headings() const {
     Texts headings;
-    for (const Table& table : file_.Tables) headings.push_back(table.Heading);
+    for (const WordTable& table : file_.Tables) headings.push_back(table.Heading);
     for (const NameArray& array : file_.Names)
       for (const NameArray::List& list : array.Lists) headings.push_back(list.Heading);
     return headings;
@@ -146,14 +146,14 @@ class Reader {
     if (heading == headings.end()) return Report(line, NoSuch("heading", name, headings));
     if (const auto [first, isNew] = seen_.emplace(*heading, line); !isNew)
       return Report(line, "this heading stands already in line " + std::to_string(first->second));
-    for (const Table& table : file_.Tables)
+    for (const WordTable& table : file_.Tables)
       if (table.Heading == name) return ReadTable(table, section);
     for (const NumberedLine& names : section.Lines)
       for (const std::string& each : CellsOf(names.Text, ','))
         if (!each.empty()) texts_.Names[*heading].push_back({names.Number, each});
   }
 
-  void ReadTable(const Table& table, const Section& section) {
+  void ReadTable(const WordTable& table, const Section& section) {
     Texts titles;
     for (const Column& column : table.Columns) titles.push_back(column.Title);
     const auto& lines = section.Lines;
@@ -176,7 +176,7 @@ class Reader {
     }
   }
 
-  bool IsSound(const Table& table, const TableRow& row) {
+  bool IsSound(const WordTable& table, const TableRow& row) {
     const std::size_t before = mistakes_.size();
     for (std::size_t i = 0; i < row.Cells.size(); ++i)
       if (const std::string why = WhyNotIn(table.Columns[i], row.Cells[i]); !why.empty())
@@ -214,7 +214,7 @@ class Reader {
   /// The rule names of a table that stands above.
   Texts RulesOf(std::string_view heading) const {
     Texts rules;
-    for (const Table& table : file_.Tables)
+    for (const WordTable& table : file_.Tables)
       if (const auto rows = texts_.Rows.find(heading);
           table.Heading == heading && rows != texts_.Rows.end())
         for (const TableRow& row : rows->second)
@@ -223,7 +223,7 @@ class Reader {
   }
 
   /// What no two rows may share.
-  void CheckAgainstOthers(const Table& table, const TableRow& row) {
+  void CheckAgainstOthers(const WordTable& table, const TableRow& row) {
     const auto& rows = texts_.Rows[table.Heading];
     for (const TableRow& other : rows) {
       const bool isDouble =
@@ -240,7 +240,7 @@ class Reader {
   }
 
   /// A rule name may stand twice where it has the same number.
-  void CheckRuleNames(const Table& table, const TableRow& row, const TableRow& other) {
+  void CheckRuleNames(const WordTable& table, const TableRow& row, const TableRow& other) {
     const std::size_t rule = ColumnOf(table, "Rule"), number = ColumnOf(table, table.NumbersOf);
     if (row.Cells[rule] != kEmptyCell && row.Cells[rule] == other.Cells[rule] &&
         row.Cells[number] != other.Cells[number])
@@ -279,7 +279,7 @@ class Reader {
 
 }  // namespace
 
-std::size_t ColumnOf(const Table& table, std::string_view title) {
+std::size_t ColumnOf(const WordTable& table, std::string_view title) {
   const auto found = std::find_if(table.Columns.begin(), table.Columns.end(),
                                   [&](const Column& column) { return column.Title == title; });
   return static_cast<std::size_t>(found - table.Columns.begin());

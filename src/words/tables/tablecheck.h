@@ -33,7 +33,7 @@ std::vector<BoxText> BoxesOf(const std::string& cell);
 std::vector<std::string> PlacesIn(std::string each);
 
 /// The number of a column; it must exist.
-std::size_t ColumnOf(const Table& table, std::string_view title);
+std::size_t ColumnOf(const WordTable& table, std::string_view title);
 
 /// Reads a file's tables and lists. Adds every mistake to `mistakes`, as "12: there is no ...".
 TableTexts ReadTables(const TableFile& file, const WordsText& text,
