@@ -100,8 +100,8 @@ void RestTitles(World& world, const Promotion& rival, const Troupe& troupe) {
 }
 
 void MakeTitles(World& world, const Promotion& rival, const Troupe& troupe) {
-  RestTitles(world, rival, troupe);
   if (!Happens(world, tuning::kNewTitleIn)) return;
+  RestTitles(world, rival, troupe);
   const auto count = [&](auto is) {
     return static_cast<int>(std::ranges::count_if(troupe.Wrestlers, is));
   };

@@ -209,7 +209,7 @@ inline constexpr int kGivesUpBelow = 40;
 inline constexpr int kWomenWanted = 25;
 inline constexpr int kMenAskedToWait = 3;
 /// From this many of a hundred on, lightweights alone give up.
-inline constexpr int kLightweightsEnough = 34;
+inline constexpr int kLightweightsEnough = 36;
 
 // Cards and stories.
 
@@ -247,7 +247,7 @@ inline constexpr int kWrestlersAStable = 12;
 inline constexpr int kNewTeamIn = 2;
 inline constexpr int kNewStableIn = 4;
 /// What stands ends in one week of this many; a pair that works apart is forgotten sooner.
-inline constexpr int kTeamSplitsIn = 180;
+inline constexpr int kTeamSplitsIn = 150;
 inline constexpr int kPairForgottenIn = 40;
 inline constexpr int kStableEndsIn = 200;
 /// A stable of fewer than this many takes somebody in, in one week of this many.
@@ -265,7 +265,7 @@ inline constexpr int kManagersCharisma = 50;
 inline constexpr int kClientsWanted = 2;
 inline constexpr int kClientTakenIn = 4;
 /// Women and lightweights for a Title of their own, and teams for a tag Title; it rests while fewer
-/// than two could fight for it. A rival looks for a new one in one week of this many.
+/// than two could fight for it. A rival looks at this in one week of this many.
 inline constexpr int kWomenForTitle = 6;
 inline constexpr int kLightweightsForTitle = 8;
 inline constexpr int kTeamsForTitle = 3;

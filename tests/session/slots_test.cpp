@@ -106,13 +106,15 @@ TEST_F(SavedGames, AreRenamedByOneStepThatIsKept) {
 TEST_F(SavedGames, GoToAFileAndComeBackFromIt) {
   home_.Desk.ExpectPrompt("Export", kAnyText, "First.grapplemont", "First.grapplemont");
   home_.Desk.ExpectAsk("Export", kAnyText, false, ui::Default::No);
+  home_.Desk.ExpectAsk("Export", kAnyText, true, ui::Default::Yes);
   home_.Desk.Click("cmdexport1");
   const std::string packed = Read("First.grapplemont");
   EXPECT_NE(packed.find("A saved game of Grapplemont: First"), std::string::npos);
   for (const bool over : {false, true}) {
     home_.Desk.ExpectPrompt("Export", kAnyText, "First.grapplemont");
     home_.Desk.ExpectAsk("Replace?", kAnyText, over, ui::Default::No);
-    if (over) home_.Desk.ExpectAsk("Export", kAnyText, false);
+    for (const bool along : {false, true})
+      if (over) home_.Desk.ExpectAsk("Export", kAnyText, along);
     home_.Desk.Click("cmdexport1");
   }
   EXPECT_EQ(packed, Read("First.grapplemont"));
@@ -169,6 +171,7 @@ TEST_F(SavedGames, TakeAlongWhatTheyCanGoBackToOnRequest) {
     const std::string name = along ? "with" : "without";
     home_.Desk.ExpectPrompt("Export", kAnyText, name);
     home_.Desk.ExpectAsk("Export", kAnyText, along);
+    home_.Desk.ExpectAsk("Export", kAnyText, false);
     home_.Desk.Click("cmdexport1");
     home_.Desk.ExpectPrompt("Import", kAnyText, name);
     home_.Desk.ExpectAsk("Import", kAnyText, true, ui::Default::Yes);
@@ -261,6 +264,7 @@ TEST_F(SavedGames, AreLeftAloneWhileTheyArePlayedElsewhere) {
       {"cmdexport1",
        [&] {
          home_.Desk.ExpectPrompt("Export", kAnyText, "out");
+         home_.Desk.ExpectAsk("Export", kAnyText, false);
          home_.Desk.ExpectAsk("Export", kAnyText, false);
        }},
       {"cmddelete1", [&] { home_.Desk.ExpectAsk("Delete?", kAnyText, true); }}};

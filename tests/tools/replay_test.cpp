@@ -148,7 +148,10 @@ TEST(ARecordedCareer, WritesNoFileThatItsRecordNames) {
   std::ofstream(file) << "mine";
   Recorded career;
   ScriptDesk& desk = career.Play.Desk;
-  desk.Open("frmChronicle");
+  const auto found = desk.NewSearch()("Chronicle", 1);
+  ASSERT_FALSE(found.empty());
+  desk.Visit(ui::Finding(found.front()));
+  ASSERT_EQ(desk.TopName(), "frmChronicle");
   // There already, there no more, and there again: what is asked is of the machine.
   for (const bool isThere : {true, false, true}) {
     if (!isThere) std::filesystem::remove(file);
