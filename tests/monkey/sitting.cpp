@@ -219,7 +219,9 @@ void Sitting::LookAtWorld() {
 void Sitting::LookAtScreen() {
   ui::Screen& screen = *desk_.Top();
   const ui::Page page = screen.Layout();
-  const bool isLeft = screen.Is() == ui::Role::Wait || screen.Is() == ui::Role::Hub || page.Cancel;
+  // Where a page says why it stays, what it lets the player do leads on.
+  const bool isLeft = screen.Is() == ui::Role::Wait || screen.Is() == ui::Role::Hub ||
+                      page.Cancel || !page.Stays.empty();
   if (!isLeft)
     throw FoundFault("no way back on " + screen.Name(), screen.Name() + ": Escape leads nowhere");
   for (const ui::Control* control : screen.Controls())
