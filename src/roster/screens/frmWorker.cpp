@@ -53,10 +53,10 @@ class frmWorker : public GameScreen {
     pictitle.Height = 36;
     // All of it is seen at once in a window of the usual size.
     lstskills.Room = 5;
-    lstform.Room = 3;
+    lstform.Room = 2;
     lstcompany.Room = 2;
-    txtwhy.Room = 5;
-    txttitles.Room = 3;
+    txtwhy.Room = 4;
+    txttitles.Room = 2;
   }
 
   int Uid() const { return uid_; }
@@ -74,9 +74,12 @@ class frmWorker : public GameScreen {
                   .Wide(kLettersOfColumn)
                   .Grow(4),
               ui::Group("Last ten matches", {lblform, ui::WithButtons(lstform, Reads()).Grow()})
-                  .Grow(5),
-              ui::Columns({ui::Group("Titles and reigns", {pictitle, ui::Grow(txttitles)}).Grow(),
-                           ui::Group("Company", {ui::Grow(lstcompany)}).Grow()})
+                  .Grow(12),
+              ui::Columns(
+                  {ui::Group("Titles and reigns", {ui::Columns({ui::Rows({pictitle, ui::Spacer()}),
+                                                                ui::Grow(txttitles)})})
+                       .Grow(),
+                   ui::Group("Company", {ui::Grow(lstcompany)}).Grow()})
                   .Wide(kLettersOfColumn)
                   .Grow(3)})
              .Grow(23)});
