@@ -212,19 +212,19 @@ class Text {
     return *this;
   }
   friend bool operator==(const Text& a, std::string_view b) {
-    if (!b.empty() && detail::BeginApart(a.bytes_[0], b.front())) return false;
+    if (!b.empty() && detail::BeginApart(a.First(), b.front())) return false;
     return a.View() == detail::Trimmed(b);
   }
   template <int M>
   friend bool operator==(const Text& a, const Text<M>& b) {
-    if (detail::BeginApart(a.bytes_[0], b.bytes_[0])) return false;
+    if (detail::BeginApart(a.First(), b.First())) return false;
     return a.View() == b.View();
   }
+  /// As the file has it, untrimmed.
+  char First() const { return bytes_[0]; }
   static constexpr int kWidth = N;
 
  private:
-  template <int M>
-  friend class Text;
   std::array<char, N> bytes_;
 };
 
