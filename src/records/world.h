@@ -180,8 +180,8 @@ class World {
   }
 
   /// The state of the game; throws WorldFault in a folder without one, such as the default data.
-  GameInfo& Game();
-  const GameInfo& Game() const;
+  GameInfo& Game() { return GameInfos()[OneGame()]; }
+  const GameInfo& Game() const { return GameInfos()[OneGame()]; }
   bool HasGame() const { return GameInfos().Count() > 0; }
   Day Today() const { return Game().Today; }
 
@@ -243,6 +243,13 @@ class World {
   std::string Explain(const FieldOverflow& fault) const;
 
  private:
+  /// The number of the one record of gameinfo.dat.
+  int OneGame() const {
+    if (!HasGame()) ThrowNoGame();
+    return 1;
+  }
+  [[noreturn]] static void ThrowNoGame();
+
   /// Record numbers by uid. An entry is only a guess that the record itself confirms.
   template <class T>
   struct UidIndex {

@@ -173,9 +173,9 @@ void Slot::Insides::Adopt(const StoredSlot& stored, SlotFinding finding) {
     Disk.Rename(Path(kJournalName), FreeName(Disk, Path(kOtherJournalName)));
     Disk.SyncFolder(Folder);
   }
-  Remarks.push_back(hasJournal ? "The journal that lay in this folder cannot be known to be its "
-                                 "own. It was left aside."
-                               : "This folder had no journal; it has a new one now.");
+  Remarks.emplace_back(hasJournal ? "The journal that lay in this folder cannot be known to be its "
+                                    "own. It was left aside."
+                                  : "This folder had no journal; it has a new one now.");
   finding.Chain.Marker = {World, 0, finding.Digest.Value()};
   Journal.Replace(finding.Chain.Marker, {});
   GoOn(std::move(finding), stored);
