@@ -54,8 +54,8 @@ PlayedSlot::PlayedSlot(Disk& disk, std::string folder, std::vector<KnownFile> kn
       mornings_(Stored(slot_.Files(), kMorningsName)),
       commands_(Stored(slot_.Files(), kCommandsName)),
       quirks_(quirks) {
-  for (const auto& [name, contents] : slot_.Files())
-    if (!IsOwn(name)) digest_.Set(name, contents);
+  for (const auto& [name, digest] : slot_.Digest().Files())
+    if (!IsOwn(name)) digest_.Set(name, digest);
   if (const auto game = slot_.Files().find(std::string(GameFile())); game != slot_.Files().end())
     today_ = DayIn(game->second);
   if (mornings_.WasSpoiled()) remarks_.push_back(kMomentsSpoiled);
