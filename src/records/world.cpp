@@ -15,13 +15,8 @@ World::World(World&&) noexcept = default;
 World& World::operator=(World&&) noexcept = default;
 World::~World() = default;
 
-GameInfo& World::Game() {
-  return const_cast<GameInfo&>(std::as_const(*this).Game());
-}
-
-const GameInfo& World::Game() const {
-  if (!HasGame()) throw WorldFault("This folder has no gameinfo.dat: no game is played in it.");
-  return GameInfos()[1];
+void World::ThrowNoGame() {
+  throw WorldFault("This folder has no gameinfo.dat: no game is played in it.");
 }
 
 Promotion& World::Player() {

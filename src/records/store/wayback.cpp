@@ -55,6 +55,11 @@ void PutNumber(Bytes& out, std::uint64_t number) {
 }
 
 std::optional<std::uint64_t> TakeNumber(ByteSpan& in) {
+  if (!in.empty() && in.front() < std::byte{0x80}) {  // most are small
+    const auto small = std::to_integer<std::uint64_t>(in.front());
+    in = in.subspan(1);
+    return small;
+  }
   std::uint64_t number = 0;
   for (unsigned shift = 0; shift < 64 && !in.empty(); shift += 7) {
     const auto next = std::to_integer<std::uint64_t>(in.front());
