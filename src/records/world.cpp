@@ -11,8 +11,8 @@ namespace grapplemont {
 World::World(std::unique_ptr<Draws> chance, std::unique_ptr<Draws> prose,
              std::unique_ptr<Draws> life)
     : chance_(std::move(chance)), prose_(std::move(prose)), life_(std::move(life)) {}
-World::World(World&&) = default;
-World& World::operator=(World&&) = default;
+World::World(World&&) noexcept = default;
+World& World::operator=(World&&) noexcept = default;
 World::~World() = default;
 
 void World::ThrowNoGame() {

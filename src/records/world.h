@@ -42,8 +42,8 @@ class World {
   explicit World(std::unique_ptr<Draws> chance = std::make_unique<SeededDraws>(1),
                  std::unique_ptr<Draws> prose = std::make_unique<SeededDraws>(2),
                  std::unique_ptr<Draws> life = std::make_unique<SeededDraws>(3));
-  World(World&&);
-  World& operator=(World&&);
+  World(World&&) noexcept;
+  World& operator=(World&&) noexcept;
   ~World();
 
   template <class T>

@@ -91,8 +91,10 @@ std::optional<Bytes> BytesBack::Of(ByteSpan newer, std::int64_t most) const {
     if (piece.From > newer.size() || piece.Taken > newer.size() - piece.From) return std::nullopt;
   // A sum of many takings could pass every bound before it is compared with one.
   std::uint64_t length = own_.size();
-  for (const Piece& piece : pieces_)
-    if ((length += piece.Taken) > static_cast<std::uint64_t>(most)) return std::nullopt;
+  for (const Piece& piece : pieces_) {
+    length += piece.Taken;
+    if (length > static_cast<std::uint64_t>(most)) return std::nullopt;
+  }
   Bytes older;
   older.reserve(Index(length));
   std::size_t own = 0;
