@@ -141,6 +141,7 @@ void Window::Retire(Layer& layer) {
 }
 
 void Window::RetireAll() {
+  DropHint();
   for (Layer& layer : layers_) Retire(layer);
   layers_.clear();
   top_ = nullptr;
@@ -232,6 +233,7 @@ void Window::ShowNow(const Scene& scene) {
   }
   if (box_) box_->raise();
   const bool isNew = top_ != &top->Shows();
+  if (isNew) DropHint();
   top_ = &top->Shows();
   if (isNew && !box_) top->TakeKeyboard();
 }
@@ -318,11 +320,13 @@ void Window::Hear(ui::Sound sound) {
     options_.Play(sound, settings_.Volume());
 }
 
+/// It was said of another page, or drawn for another look.
+void Window::DropHint() {
+  delete hint_;
+}
+
 void Window::Hint(QWidget& beside, const QString& text, ui::Tone tone) {
-  if (hint_) {
-    hint_->hide();
-    hint_->deleteLater();
-  }
+  DropHint();
   hint_ = new WrappedLabel(ground_, text);
   hint_->setObjectName("hint");
   const Colours& c = ColoursOf(this);

@@ -121,6 +121,7 @@ class Window : public QMainWindow, public Stage {
   HubFrame& FrameOf(ui::Screen& hub);
   void Retire(Layer& layer);
   void RetireAll();
+  void DropHint();
   void ShowNow(const Scene& scene);
   void GiveBackKeyboard(ScreenView& view);
   /// What is shown of a screen; nullptr for nothing.

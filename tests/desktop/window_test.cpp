@@ -128,6 +128,7 @@ TEST_F(TheWindow, OpensRoomsAboveAPageThatStaysAndComesBackToIt) {
   EXPECT_EQ(Play.Desk.Screens().size(), 2U);
   Play.Key(Qt::Key_F2);
   ASSERT_EQ(Play.Top(), "frmPeople");
+  EXPECT_FALSE(Play.Sees("hint")) << "it was said of the page before";
   EXPECT_EQ(Play.Desk.Screens().size(), 3U);
   EXPECT_TRUE(IsNow("cmdpeople"));
   EXPECT_FALSE(BearsEnter("cmdnext"));
