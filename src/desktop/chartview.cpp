@@ -132,8 +132,10 @@ void ChartView::DrawCaptions(QPainter& painter, const Scale& scale) const {
   };
   const auto spot = [&](int place) {
     const int width = small.horizontalAdvance(words(place));
-    const double x = std::clamp(scale.X(place) - width / 2.0, 0.0,
-                                std::max(0.0, static_cast<double>(this->width() - width)));
+    // What stands left of the plot are the figures of its axis.
+    const double least = std::min(scale.Plot.left(), std::max(0.0, this->width() - 1.0 * width));
+    const double x = std::clamp(scale.X(place) - width / 2.0, least,
+                                std::max(least, static_cast<double>(this->width() - width)));
     return QRectF(x, scale.Plot.bottom() + Px(5), width + 1, small.height());
   };
   const QRectF last = spot(count - 1);
