@@ -1,5 +1,6 @@
 #include "desktop/formgrid.h"
 
+#include <QWidget>
 #include <algorithm>
 
 namespace grapplemont::desktop {
@@ -62,6 +63,23 @@ void FormGrid::setGeometry(const QRect& rect) {
     part.second->setGeometry({rect.left(), top, rect.width(), height});
     top += height + verticalSpacing();
   }
+}
+
+void AlignForms(const QBoxLayout& column) {
+  std::vector<FormGrid*> forms;
+  int widest = 0;
+  for (int i = 0; i < column.count(); ++i) {
+    auto* form = dynamic_cast<FormGrid*>(column.itemAt(i)->layout());
+    if (!form) continue;
+    forms.push_back(form);
+    for (int row = 0; row < form->rowCount(); ++row) {
+      const QLayoutItem* label = form->itemAtPosition(row, 0);
+      if (label && label != form->itemAtPosition(row, 1))
+        widest = std::max(widest, label->widget()->sizeHint().width());
+    }
+  }
+  if (forms.size() > 1)
+    for (FormGrid* form : forms) form->setColumnMinimumWidth(0, widest);
 }
 
 }  // namespace grapplemont::desktop

@@ -23,4 +23,7 @@ class FormGrid : public QGridLayout {
   std::vector<std::pair<int, QLayoutItem*>> Parts() const;
 };
 
+/// Has the forms of a column begin their fields at one edge, whatever parts them from each other.
+void AlignForms(const QBoxLayout& column);
+
 }  // namespace grapplemont::desktop

@@ -29,6 +29,7 @@ constexpr int kLetter = 7;
 constexpr int kWidestField = 420;
 constexpr int kFieldsShare = 1000;  // of a form's width, as long as they are not that wide
 constexpr int kLeastCard = 220;     // beside another; a narrower one stands below it
+constexpr int kLeastSearch = 180;   // so that what is searched can be read in the empty line
 constexpr int kLeastAlike = 180;    // the same of many that hold as little each
 
 /// What a line is typed into, chosen from or slid on needs no more width than what it can hold.
@@ -90,6 +91,7 @@ void LayoutBuilder::AddAll(const std::vector<Box>& boxes, QBoxLayout* into) {
     return box.Is == Kind::Spacer || box.Stretch > 0 || Grows(box);
   });
   if (!filled) into->addStretch(1);
+  AlignForms(*into);
 }
 
 /// Adds the box at `from`, or those alike that follow it as one; gives the first after them.
@@ -182,7 +184,7 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
                     : !cards || inCard_ ? 0
                     : alike             ? kLeastAlike
                                         : kLeastCard;
-  auto* columns = new TurningLayout(fields || (cards && !inCard_) ? kWide : kClose, least);
+  auto* columns = new TurningLayout(fields || cards ? kWide : kClose, least);
   into->addLayout(columns, ShareOf(box));
   bool filled = cards;
   for (const Box& part : box.Parts) {
@@ -242,17 +244,29 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   holder_ = outer;
   const std::vector<ControlView*> views(views_.begin() + static_cast<std::ptrdiff_t>(before),
                                         views_.end());
-  TableView* table = OnlyTable(views);
-  if (table && table->CanSearch() && !box.Title.empty()) {
-    QWidget* const search = table->TakeSearchRow();
-    // The panel below keeps its place when it comes and goes with the rows.
-    QSizePolicy policy = search->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    search->setSizePolicy(policy);
-    head->addWidget(search, 4);
-  }
+  AddSearch(views, box.Title.empty(), *head);
   cards_.push_back({card, views, Px(box.Spare * kLetter)});
   into->addWidget(card, ShareOf(box));
+}
+
+/// The search row of a card's only table, beside its title or the page's own search line.
+void LayoutBuilder::AddSearch(const std::vector<ControlView*>& views, bool untitled,
+                              QBoxLayout& head) {
+  TableView* table = OnlyTable(views);
+  if (!table || !table->CanSearch()) return;
+  const auto own = std::ranges::find_if(views, [table](const ControlView* view) {
+    return &view->Shows() == dynamic_cast<const ui::ListBox&>(table->Shows()).Search;
+  });
+  if (own == views.end() && untitled) return;
+  QWidget* const row = table->TakeSearchRow();
+  // The panel below keeps its place when the row comes and goes beside the title; below the title
+  // it would leave a hole.
+  head.addStrut(row->sizeHint().height());
+  if (own != views.end()) {
+    (*own)->Widget()->setMinimumWidth(Px(kLeastSearch));
+    head.addWidget((*own)->Widget(), 4);
+  }
+  head.addWidget(row, own != views.end() ? 0 : 4);
 }
 
 /// Cards of one kind in several rows are all of one height.

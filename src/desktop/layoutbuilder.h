@@ -49,6 +49,7 @@ class LayoutBuilder {
   void AddColumns(const ui::Box& box, QBoxLayout* into);
   void AddAlike(std::span<const ui::Box> parts, TurningLayout* into);
   void AddGroup(const ui::Box& box, QBoxLayout* into);
+  void AddSearch(const std::vector<ControlView*>& views, bool untitled, QBoxLayout& head);
   void AddTabs(const ui::Box& box, QBoxLayout* into);
   void AddForm(const Run& fields, QBoxLayout* into);
   void AddBeside(const ui::Box& field, QWidget& shown, QGridLayout& form, int& row);
