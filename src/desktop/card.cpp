@@ -8,6 +8,7 @@
 
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
+#include "desktop/scroller.h"
 #include "desktop/spoken.h"
 
 namespace grapplemont::desktop {
@@ -163,7 +164,11 @@ void Veil::PlaceCard() {
     wanted.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   wanted = wanted.boundedTo(most);
   if (!wanted_.isValid() && card_->layout() && card_->layout()->hasHeightForWidth())
-    wanted.setHeight(std::min(most.height(), card_->layout()->totalHeightForWidth(wanted.width())));
+    wanted.setHeight(card_->layout()->totalHeightForWidth(wanted.width()));
+  // Words that have turned into more lines make a body higher than it asks for.
+  const auto* body = dynamic_cast<const Scroller*>(card_->findChild<QScrollArea*>());
+  if (body && !wanted_.isValid()) wanted.rheight() += body->Lacks();
+  wanted = wanted.boundedTo(most);
   const int top = atTop_ ? Px(80) : std::max(0, (height() - wanted.height()) / 2);
   card_->setGeometry((width() - wanted.width()) / 2, top, wanted.width(), wanted.height());
 }

@@ -30,9 +30,7 @@ int Scroller::LeastRoom() const {
 QSize Scroller::minimumSizeHint() const {
   if (window_ == 0) return {Px(160), LeastRoom()};
   const int width = WholeWidth(), least = LeastHeight(width);
-  const QLayout* layout = widget()->layout();
-  const int liked = layout->hasHeightForWidth() ? layout->totalHeightForWidth(width)
-                                                : layout->totalSizeHint().height();
+  const int liked = LikedHeight(width);
   const int bar =
       width > maximumViewportSize().width() ? horizontalScrollBar()->sizeHint().height() : 0;
   return {Px(160), std::max(least, std::min(liked, std::max(window_, least * 5 / 4))) + bar};
@@ -57,6 +55,16 @@ int Scroller::LeastHeight(int width) const {
   const QLayout* layout = widget()->layout();
   return layout->hasHeightForWidth() ? layout->totalMinimumHeightForWidth(width)
                                      : layout->totalMinimumSize().height();
+}
+
+int Scroller::LikedHeight(int width) const {
+  const QLayout* layout = widget()->layout();
+  return layout->hasHeightForWidth() ? layout->totalHeightForWidth(width)
+                                     : layout->totalSizeHint().height();
+}
+
+int Scroller::Lacks() const {
+  return placed_ ? std::max(0, LikedHeight(WholeWidth()) - sizeHint().height()) : 0;
 }
 
 int Scroller::WholeWidth() const {

@@ -12,6 +12,8 @@ class Scroller : public BareScroller {
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+  /// How much higher than its hint the body likes to be at the width that it has been given.
+  int Lacks() const;
   /// Has this one, which stands in the body, scroll by itself only where it has room enough for
   /// that; else all of it scrolls with the rest.
   void SetInner(Scroller& inner) {
@@ -25,6 +27,7 @@ class Scroller : public BareScroller {
 
  private:
   int LeastHeight(int width) const;
+  int LikedHeight(int width) const;
   /// The body's width without a scroll bar beside it.
   int WholeWidth() const;
   void Fit();
