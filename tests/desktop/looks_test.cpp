@@ -46,8 +46,14 @@ QStringList Overlaps(const QWidget& window) {
   return found;
 }
 
+/// The most height that a window has for a dialog's card.
+int RoomForCard(const desktop::Window& window) {
+  using desktop::Px;
+  return window.height() - 2 * std::clamp((window.height() - Px(560)) / 2, Px(8), Px(40));
+}
+
 /// What is wrong with the way in which the topmost screen scrolls: its main button is not whole in
-/// sight over a dialog, or what scrolls stands in what scrolls.
+/// sight over a dialog, what scrolls stands in what scrolls, or a dialog scrolls with room to grow.
 QStringList BadlyScrolled(const desktop::Window& window, ui::Screen& top) {
   QStringList found;
   const auto* view = window.findChild<desktop::ScreenView*>(QString::fromStdString(top.Name()));
@@ -60,6 +66,9 @@ QStringList BadlyScrolled(const desktop::Window& window, ui::Screen& top) {
     for (const QWidget* outer = inner->parentWidget(); scrolls(inner) && outer != view;
          outer = outer->parentWidget())
       if (scrolls(outer)) found << "a scroller in a scroller";
+  if (top.Is() == ui::Role::Dialog && view->parentWidget()->height() < RoomForCard(window) &&
+      std::ranges::any_of(view->findChildren<QWidget*>(), scrolls))
+    found << "it scrolls with room to grow";
   const ui::Button* main = top.Is() == ui::Role::Dialog ? top.Layout().Main : nullptr;
   const auto* gold = main && main->Visible
                          ? view->findChild<QWidget*>(QString::fromStdString(main->Name()))
