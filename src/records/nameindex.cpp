@@ -112,10 +112,10 @@ const NameIndex::Named* NameIndex::At(std::string_view text, std::size_t from,
   return nullptr;
 }
 
-std::vector<NameSpan> NameIndex::Find(const World& world, std::string_view text) {
+std::vector<NameSpan> NameIndex::Find(const World& world, std::string_view text, bool known) {
   std::vector<NameSpan> spans;
   if (text.empty()) return spans;
-  if (!IsUpToDate(world, seen_)) Build(world);
+  if (!known && !IsUpToDate(world, seen_)) Build(world);
   for (std::size_t at = 0; at < text.size();) {
     std::size_t length = 0;
     const Named* named = text[at] == ' ' ? nullptr : At(text, at, length);

@@ -23,8 +23,9 @@ struct NameSpan {
 /// before a promotion of the same name, and the earlier record before the later.
 class NameIndex {
  public:
-  /// The names in their order; none overlaps another. A rename since the last call is seen.
-  std::vector<NameSpan> Find(const World& world, std::string_view text);
+  /// The names in their order; none overlaps another. A rename since the last call is seen, unless
+  /// it is known that there has been none.
+  std::vector<NameSpan> Find(const World& world, std::string_view text, bool known = false);
 
  private:
   struct Named {

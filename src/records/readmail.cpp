@@ -117,6 +117,8 @@ std::string TopicsOf(const World& world, const std::vector<int>& mails) {
   return text.empty() ? text : text + ")";
 }
 
+constexpr std::string_view kNews = " News";  // behind the initials of whose they are
+
 /// Tells mails about the player's own from news of others, by what the player's are called.
 class Reader {
  public:
@@ -132,12 +134,10 @@ class Reader {
     return std::ranges::any_of(names, [&](const auto& name) { return body.starts_with(name); });
   }
   bool IsOwnTv(std::string_view body) const {
-    return body.starts_with(initials_ + "'s ") || body.find(" our ") != body.npos ||
+    return body.starts_with(ours_) || body.find(" our ") != body.npos ||
            BeginsWithOne(shows_, body);
   }
-  bool LeavesUs(std::string_view body) const {
-    return body.find(" from " + initials_ + "!") != body.npos;
-  }
+  bool LeavesUs(std::string_view body) const { return body.find(leavesUs_) != body.npos; }
   bool IsOwnRetirement(std::string_view body) const {
     return LeavesUs(body) || body.find(" from " + initials_ + " in ") != body.npos ||
            BeginsWithOne(watched_, body);
@@ -161,15 +161,19 @@ class Reader {
                                                   {"New Promotion", &Reader::IsNone}}};
 
   std::string initials_, name_;
+  std::string ownNews_, leavesUs_, ours_;  // as they stand in mails
   std::set<std::string> shows_, watched_;
 };
 
 /// Shows that have gone off the air are still known by their past.
 Reader::Reader(const World& world) {
   const Promotion* own = world.FindPromotion(world.PlayerUid());
+  if (own) initials_ = own->Initials.Str();
+  if (own) name_ = own->Name.Str();
+  ownNews_ = initials_ + std::string(kNews);
+  leavesUs_ = " from " + initials_ + "!";
+  ours_ = initials_ + "'s ";
   if (!own) return;
-  initials_ = own->Initials.Str();
-  name_ = own->Name.Str();
   std::set<std::string_view> shows;
   for (const Show& show : world.Shows())
     if (show.Owner == own->Uid) shows.insert(show.Name.View());
@@ -181,11 +185,10 @@ Reader::Reader(const World& world) {
 }
 
 bool Reader::IsOthersNews(const Mail& mail) const {
-  constexpr std::string_view kNews = " News";
   const std::string_view from = mail.From.View();
   for (const Desk& desk : kDesks)
     if (from == desk.From) return !(this->*desk.IsOwn)(mail.Body.View());
-  return from.ends_with(kNews) && from != "Roster News" && from != initials_ + std::string(kNews) &&
+  return from.ends_with(kNews) && from != "Roster News" && from != ownNews_ &&
          !LeavesUs(mail.Body.View());
 }
 

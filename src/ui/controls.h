@@ -62,7 +62,7 @@ enum class Kind {
 std::string_view KindName(Kind kind);
 
 /// What a colour says; a shell has one colour for each.
-enum class Tone { Plain, Muted, Gold, Blue, Red, Green, Amber };
+enum class Tone : unsigned char { Plain, Muted, Gold, Blue, Red, Green, Amber };
 
 class Control {
   unsigned revision_ = 1;  // stands before the properties that count in it

@@ -71,6 +71,7 @@ void Desk::Event(const Handler& handler) {
   if (!handler) return;
   if (depth_ > 0) return handler();
   const Stack before = screens_;
+  ++moment_;
   ++depth_;
   try {
     handler();

@@ -120,6 +120,9 @@ class Desk {
   /// throws, Work and the stack of screens go back to where they were and the player reads why.
   void Event(const Handler& handler);
   void SetWork(Work* work) { work_ = work; }
+  /// Changes with each outermost event; 0 while one is under way. What was found out about the
+  /// world holds as long as it stays the same above 0.
+  unsigned Moment() const { return depth_ > 0 ? 0 : moment_; }
 
   /// Says which pieces of a text are links, in their order; set once there are pages for them.
   std::function<std::vector<Link>(std::string_view text)> FindLinks;
@@ -180,6 +183,7 @@ class Desk {
   Stack closed_;  // kept until the outermost event has ended: a handler may close its own screen
   Work* work_ = nullptr;
   int depth_ = 0;
+  unsigned moment_ = 1;
 };
 
 }  // namespace grapplemont::ui

@@ -41,9 +41,12 @@ void Date::SetRaw(double days) {
 
 namespace detail {
 std::string_view Trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+  // Most of a long field is blank: it is walked over by many letters at once.
+  constexpr std::string_view kBlanks = "                ";
+  while (text.ends_with(kBlanks)) text.remove_suffix(kBlanks.size());
+  while (text.ends_with(' ')) text.remove_suffix(1);
+  while (text.starts_with(' ')) text.remove_prefix(1);
+  return text;
 }
 }  // namespace detail
 
