@@ -14,8 +14,8 @@ namespace {
 constexpr int kRoster = 120, kShowRows = 11, kEventRows = 9;
 
 /// The world with the player's roster filled up by free agents, in feuds and in shape.
-World FullHouse(bool large) {
-  World world = bench::StartedWorld(large, bench::kSomeDay);
+World FullHouse(int size) {
+  World world = bench::StartedWorld(size, bench::kSomeDay);
   int roster = 0;
   for (Worker& worker : world.Workers()) {
     if (worker.Employer == 0 && roster < kRoster && worker.Status == "Nor") {
@@ -30,13 +30,16 @@ World FullHouse(bool large) {
 
 void BM_AutoBook(benchmark::State& state) {
   const bool isEvent = state.range(0) != 0;
-  World world = FullHouse(state.range(1) != 0);
+  const int size = static_cast<int>(state.range(1));
+  World world = FullHouse(size);
   for (auto _ : state)
     benchmark::DoNotOptimize(AutoBook(world, isEvent, isEvent ? kEventRows : kShowRows));
-  state.SetLabel(std::string(isEvent ? "Event" : "show") +
-                 (state.range(1) ? ", largest world" : ", default world"));
+  state.SetLabel(std::string(isEvent ? "Event, " : "show, ") + bench::SizeText(size));
 }
-BENCHMARK(BM_AutoBook)->ArgsProduct({{0, 1}, {0, 1}})->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_AutoBook)
+    ->ArgsProduct(
+        {{0, 1}, {bench::kDefaultSize, bench::kLargestSize, bench::kSmallSize, bench::kMiddleSize}})
+    ->Unit(benchmark::kMicrosecond);
 
 /// How often the wizard's steps list the roster for the card: once for each place, and for the
 /// run-ins of finish and aftermath.
@@ -48,7 +51,7 @@ int ListsFor(const AutoCard& card) {
 }
 
 void BM_AutoBookBaseline(benchmark::State& state) {
-  World world = FullHouse(false);
+  World world = FullHouse(bench::kDefaultSize);
   const int lists = ListsFor(AutoBook(world, false, kShowRows));
   const bench::WorldInFiles files(world);
   for (auto _ : state)

@@ -8,6 +8,7 @@
 #include "calendar/advanceday.h"
 #include "records/fields/fields.h"
 #include "report/report.h"
+#include "support/gameonworld.h"
 #include "support/smallworld.h"
 #include "tools/officework.h"
 #include "ui/game.h"
@@ -44,6 +45,11 @@ bool EndEvening(World& world) {
   return kind == DayKind::Plain || HoldAutoShow(world, kind == DayKind::Event, &memory);
 }
 
+const std::vector<std::vector<std::int64_t>> kAgesAndMornings = {
+    {bench::kNew, bench::kTenYears, bench::kTwentyYears, bench::kLargest, bench::kSmall,
+     bench::kMiddle},
+    {kPlain, kMonday, kFirst}};
+
 /// The evenings before the next mornings of the kind, their shows held.
 std::vector<bench::FreshWorld> Evenings(int age, int morning, int count) {
   World world = bench::Played(age);
@@ -70,24 +76,50 @@ void BM_Day(benchmark::State& state) {
   state.SetLabel(std::string(kMornings[morning].Text) + ", " + bench::AgeText(age));
 }
 BENCHMARK(BM_Day)
-    ->ArgsProduct({{bench::kNew, bench::kTenYears, bench::kTwentyYears, bench::kLargest},
-                   {kPlain, kMonday, kFirst}})
+    ->ArgsProduct(kAgesAndMornings)
+    ->Unit(benchmark::kMicrosecond)
+    ->UseManualTime()
+    ->Iterations(100);
+
+/// A plain day's routines and their commit, which nothing syncs.
+void BM_DayWithCommit(benchmark::State& state) {
+  const int age = static_cast<int>(state.range(0));
+  test::GameOnWorld career(bench::Played(age), RealDisk(Syncs::None));
+  World& world = career.World();
+  const auto isPlain = [&] {
+    return IsLike(world.Today() + std::chrono::days{1}, kMornings[kPlain].Date) &&
+           DayKindToday(world, [] { return true; }) == DayKind::Plain;
+  };
+  for (auto _ : state) {
+    while (!isPlain()) {
+      tools::PlayDay(world, tools::Shows::Auto);
+      career.Play.Commit();
+    }
+    bench::Time(state, [&] {
+      AdvanceDay(world, false);
+      career.Play.Commit();
+    });
+  }
+  state.SetLabel(bench::AgeText(age));
+}
+BENCHMARK(BM_DayWithCommit)
+    ->ArgsProduct({kAgesAndMornings[0]})
     ->Unit(benchmark::kMicrosecond)
     ->UseManualTime()
     ->Iterations(100);
 
 /// The first day of a new game, on which rivals cut or fill their rosters.
 void BM_FirstDay(benchmark::State& state) {
-  bench::FreshWorld evening(bench::StartedWorld(state.range(0) != 0, bench::kSomeDay));
+  const int size = static_cast<int>(state.range(0));
+  bench::FreshWorld evening(bench::StartedWorld(size, bench::kSomeDay));
   for (auto _ : state) {
     World& world = evening.Again();
     bench::Time(state, [&] { AdvanceDay(world, false); });
   }
-  state.SetLabel(state.range(0) ? "largest world" : "default world");
+  state.SetLabel(bench::SizeText(size));
 }
 BENCHMARK(BM_FirstDay)
-    ->Arg(0)
-    ->Arg(1)
+    ->DenseRange(bench::kDefaultSize, bench::kMiddleSize)
     ->Unit(benchmark::kMicrosecond)
     ->UseManualTime()
     ->Iterations(20);
@@ -101,11 +133,21 @@ void BM_DayBaseline(benchmark::State& state) {
   state.SetLabel(std::string(morning.Text) + ", " + bench::AgeText(age));
 }
 BENCHMARK(BM_DayBaseline)
-    ->ArgsProduct({{bench::kNew, bench::kTenYears, bench::kTwentyYears, bench::kLargest},
-                   {kPlain, kMonday, kFirst}})
+    ->ArgsProduct(kAgesAndMornings)
     ->Unit(benchmark::kMicrosecond)
     ->UseRealTime()
     ->Iterations(2);
+
+/// The same bytes moved from memory to memory.
+void BM_DayLimit(benchmark::State& state) {
+  const int age = static_cast<int>(state.range(0));
+  const Example& morning = kMornings[state.range(1)];
+  bench::WorldInMemory bytes(bench::Played(age));
+  const int walks = bench::WalksOn(morning.Date);
+  for (auto _ : state) bytes.CopyAll(walks);
+  state.SetLabel(std::string(morning.Text) + ", " + bench::AgeText(age));
+}
+BENCHMARK(BM_DayLimit)->ArgsProduct(kAgesAndMornings)->Unit(benchmark::kMicrosecond);
 
 /// A step on the world as the steps before it leave it.
 void BM_Step(benchmark::State& state, Step step, int morning) {
@@ -136,31 +178,31 @@ const bool kStepsRegistered = [] {
 }();
 
 void BM_NewGame(benchmark::State& state) {
-  bench::FreshWorld data(bench::DataWorld(state.range(0) != 0));
+  const int size = static_cast<int>(state.range(0));
+  bench::FreshWorld data(bench::DataWorld(size));
   for (auto _ : state) {
     World& world = data.Again();
     bench::Time(state, [&] { bench::Begin(world, bench::kSomeDay); });
   }
-  state.SetLabel(state.range(0) ? "largest world" : "default world");
+  state.SetLabel(bench::SizeText(size));
 }
 BENCHMARK(BM_NewGame)
-    ->Arg(0)
-    ->Arg(1)
+    ->DenseRange(bench::kDefaultSize, bench::kMiddleSize)
     ->Unit(benchmark::kMicrosecond)
     ->UseManualTime()
     ->Iterations(20);
 
 void BM_NewGameBaseline(benchmark::State& state) {
-  World world = bench::DataWorld(state.range(0) != 0);
+  const int size = static_cast<int>(state.range(0));
+  World world = bench::DataWorld(size);
   const bench::WorldInFiles files(world);
   int walks = 0;
   bench::Begin(world, bench::kSomeDay, [&](std::string_view) { ++walks; });
   for (auto _ : state) files.WalkAll(walks);
-  state.SetLabel(state.range(0) ? "largest world" : "default world");
+  state.SetLabel(bench::SizeText(size));
 }
 BENCHMARK(BM_NewGameBaseline)
-    ->Arg(0)
-    ->Arg(1)
+    ->DenseRange(bench::kDefaultSize, bench::kMiddleSize)
     ->Unit(benchmark::kMicrosecond)
     ->UseRealTime()
     ->Iterations(2);

@@ -58,11 +58,24 @@ void BM_ReadFileBaseline(benchmark::State& state, const char* name) {
   state.SetLabel(bench::AgeText(static_cast<int>(state.range(0))));
 }
 
+/// The bytes of all files moved from memory to memory.
+void BM_ReadLimit(benchmark::State& state) {
+  const std::vector<NewFile> files = FilesOf(bench::Played(static_cast<int>(state.range(0))));
+  for (auto _ : state)
+    for (const NewFile& file : files) {
+      const Bytes copy(file.Contents.begin(), file.Contents.end());
+      benchmark::DoNotOptimize(copy.data());
+    }
+  state.SetLabel(bench::AgeText(static_cast<int>(state.range(0))));
+}
+
 void Ages(benchmark::internal::Benchmark* figure) {
-  figure->DenseRange(bench::kNew, bench::kLargest)->Unit(benchmark::kMicrosecond);
+  figure->DenseRange(bench::kNew, bench::kLargest)->Arg(bench::kSmall)->Arg(bench::kMiddle);
+  figure->Unit(benchmark::kMicrosecond);
 }
 BENCHMARK(BM_OpenSlotAndMainScreen)->Apply(Ages)->UseManualTime()->Iterations(20);
 BENCHMARK_CAPTURE(BM_ReadFileBaseline, all, nullptr)->Apply(Ages)->UseRealTime();
+BENCHMARK(BM_ReadLimit)->Apply(Ages)->UseRealTime();
 BENCHMARK_CAPTURE(BM_Screen, News, "frmNews")->Apply(Ages)->UseManualTime()->Iterations(50);
 BENCHMARK_CAPTURE(BM_ReadFileBaseline, news, "news.dat")->Apply(Ages)->UseRealTime();
 BENCHMARK_CAPTURE(BM_Screen, Market, "frmOtherWres")->Apply(Ages)->UseManualTime()->Iterations(50);

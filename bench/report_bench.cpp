@@ -53,7 +53,7 @@ std::size_t TellEvent(World& world, const std::vector<Segment>& card) {
 }
 
 void BM_Report(benchmark::State& state) {
-  World world = bench::StartedWorld(false, bench::kSomeDay);
+  World world = bench::StartedWorld(bench::kDefaultSize, bench::kSomeDay);
   world.Game().Reporter = static_cast<int>(state.range(0));
   const auto card = EventCard(world);
   std::size_t letters = 0;
@@ -65,7 +65,7 @@ void BM_Report(benchmark::State& state) {
 BENCHMARK(BM_Report)->DenseRange(kLamplighter, kQvd)->Unit(benchmark::kMicrosecond);
 
 void BM_ReportBaseline(benchmark::State& state) {
-  World world = bench::StartedWorld(false, bench::kSomeDay);
+  World world = bench::StartedWorld(bench::kDefaultSize, bench::kSomeDay);
   const std::size_t letters = TellEvent(world, EventCard(world));
   constexpr std::string_view kPieces[] = {"Okafor hits a bulldog off the ropes. ",
                                           "Big clothesline from Marsh. ", "1 - 2 - shoulder up. "};

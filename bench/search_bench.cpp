@@ -42,11 +42,13 @@ void BM_SearchBaseline(benchmark::State& state) {
   state.SetLabel(bench::AgeText(static_cast<int>(state.range(0))));
 }
 
+constexpr int kAges[] = {bench::kTenYears, bench::kLargest, bench::kSmall, bench::kMiddle};
 void Ages(benchmark::internal::Benchmark* figure) {
-  figure->Arg(bench::kTenYears)->Arg(bench::kLargest)->Unit(benchmark::kMicrosecond);
+  for (const int age : kAges) figure->Arg(age);
+  figure->Unit(benchmark::kMicrosecond);
 }
 void AgesAndLetters(benchmark::internal::Benchmark* figure) {
-  for (const int age : {bench::kTenYears, bench::kLargest})
+  for (const int age : kAges)
     for (const int letters : {0, 1, 2}) figure->Args({age, letters});
   figure->Unit(benchmark::kMicrosecond);
 }

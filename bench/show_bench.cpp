@@ -16,27 +16,28 @@ namespace {
 constexpr Day kEventDay{std::chrono::year{2026} / 3 / 29};
 
 /// A world with an Event's card of the auto booker on the sheet.
-World BookedWorld(bool large) {
-  World world = bench::StartedWorld(large, kEventDay);
+World BookedWorld(int size) {
+  World world = bench::StartedWorld(size, kEventDay);
   const AutoCard card = AutoBook(world, true, kEventRows);
   world.Segments().Rewrite(card.Rows);
   return world;
 }
 
 void HoldEvents(benchmark::State& state, LineMemory* memory) {
-  bench::FreshWorld fresh(BookedWorld(state.range(0) != 0));
+  const int size = static_cast<int>(state.range(0));
+  bench::FreshWorld fresh(BookedWorld(size));
   int booked = 0;
   for (const Segment& segment : fresh.Again().Segments()) booked += segment.Kind != kEmptySegment;
   for (auto _ : state) {
     World& world = fresh.Again();
     bench::Time(state, [&] { benchmark::DoNotOptimize(HoldShow(world, true, {}, 0, memory)); });
   }
-  state.SetLabel(std::to_string(booked) + " Segments" +
-                 (state.range(0) ? ", largest world" : ", default world"));
+  state.SetLabel(std::to_string(booked) + " Segments, " + bench::SizeText(size));
 }
 
 void Worlds(benchmark::internal::Benchmark* figure) {
-  figure->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond)->UseManualTime()->Iterations(100);
+  figure->DenseRange(bench::kDefaultSize, bench::kMiddleSize)->Unit(benchmark::kMicrosecond);
+  figure->UseManualTime()->Iterations(100);
 }
 
 void BM_Event(benchmark::State& state) {
@@ -89,7 +90,8 @@ void CloseFromFiles(const bench::WorldInFiles& files, const World& world) {
 }
 
 void BM_EventBaseline(benchmark::State& state) {
-  const World world = BookedWorld(state.range(0) != 0);
+  const int size = static_cast<int>(state.range(0));
+  const World world = BookedWorld(size);
   const bench::WorldInFiles files(world);
   for (auto _ : state) {
     int number = 0;
@@ -97,9 +99,12 @@ void BM_EventBaseline(benchmark::State& state) {
       if (++number; segment.Kind != kEmptySegment) RunFromFiles(files, world, segment, number);
     CloseFromFiles(files, world);
   }
-  state.SetLabel(state.range(0) ? "largest world" : "default world");
+  state.SetLabel(bench::SizeText(size));
 }
-BENCHMARK(BM_EventBaseline)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond)->Iterations(3);
+BENCHMARK(BM_EventBaseline)
+    ->DenseRange(bench::kDefaultSize, bench::kMiddleSize)
+    ->Unit(benchmark::kMicrosecond)
+    ->Iterations(3);
 
 }  // namespace
 }  // namespace grapplemont

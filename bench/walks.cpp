@@ -2,6 +2,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <utility>
+
 #include "calendar/advanceday.h"
 #include "records/fields/fields.h"
 
@@ -38,6 +41,22 @@ void WorldInFiles::WalkAll(int times) const {
   for (int walk = 0; walk < times; ++walk) {
     Walk(LayoutOf<Promotion>(), true);
     Walk(LayoutOf<Worker>(), true);
+  }
+}
+
+WorldInMemory::WorldInMemory(const World& world) {
+  for (const NewFile& file : FilesOf(world))
+    if (file.Name == LayoutOf<Promotion>().File || file.Name == LayoutOf<Worker>().File)
+      bytes_.insert(bytes_.end(), file.Contents.begin(), file.Contents.end());
+  copy_ = bytes_;
+}
+
+void WorldInMemory::CopyAll(int times) {
+  for (int walk = 0; walk < times; ++walk) {
+    std::ranges::copy(bytes_, copy_.begin());
+    benchmark::DoNotOptimize(copy_.data());
+    benchmark::ClobberMemory();
+    std::swap(bytes_, copy_);
   }
 }
 

@@ -31,6 +31,17 @@ class WorldInFiles {
   test::ScratchFolder folder_;
 };
 
+/// What the work costs at least: its bytes move from memory to memory and back.
+class WorldInMemory {
+ public:
+  explicit WorldInMemory(const World& world);
+  /// So many times the promotions and the workers.
+  void CopyAll(int times);
+
+ private:
+  Bytes bytes_, copy_;
+};
+
 /// How many walks the routines of a morning make.
 int WalksOn(Day morning);
 

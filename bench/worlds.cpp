@@ -1,7 +1,9 @@
 #include "bench/worlds.h"
 
+#include <map>
 #include <stdexcept>
 
+#include "editor/keeping.h"
 #include "roster/invented.h"
 #include "session/newgame.h"
 #include "support/defaultworld.h"
@@ -12,25 +14,44 @@ namespace grapplemont::bench {
 
 namespace {
 
-constexpr int kManyPromotions = 35, kManyWorkers = 25000, kManyStaff = 10000;
+struct SizeOfData {
+  const char* Text;
+  int Promotions, Workers, Staff;
+};
+// Of the default data's numbers more are added or some taken; 0 leaves them as they are.
+constexpr SizeOfData kSizes[] = {{"default world", 0, 0, 0},
+                                 {"largest world", 35, 25000, 10000},
+                                 {"250 workers", 0, 250, 0},
+                                 {"2,500 workers", 35, 2500, 1000}};
 
 constexpr int kMonth = 30, kDecade = 3652;  // days
+constexpr int kNobody = -1;
 
+/// An age goes on from one that is younger, or begins with a new game.
 struct Life {
   const char* Text;
   int Days;
+  int From;
+  int Size;
 };
-// Each of the default world's goes on from the one before.
-constexpr Life kLives[] = {{"new", kMonth},
-                           {"after 10 years", kDecade},
-                           {"after 20 years", kDecade},
-                           {"largest", kMonth},
-                           {"after 50 years", 3 * kDecade}};
+constexpr Life kLives[] = {{"new", kMonth, kNobody, kDefaultSize},
+                           {"after 10 years", kDecade, kNew, kDefaultSize},
+                           {"after 20 years", kDecade, kTenYears, kDefaultSize},
+                           {"largest", kMonth, kNobody, kLargestSize},
+                           {"after 50 years", 3 * kDecade, kTwentyYears, kDefaultSize},
+                           {"250 workers", kMonth, kNobody, kSmallSize},
+                           {"2,500 workers", kMonth, kNobody, kMiddleSize}};
 
-/// The largest world that the files may hold.
-World LargestWorld() {
-  World world = test::CopyOf(test::DefaultWorld());
-  while (world.Promotions().Count() < kManyPromotions) {
+/// Takes workers away, evenly through the file.
+void Shrink(World& world, int workers) {
+  const int before = world.Workers().Count();
+  for (int number = before; number >= 1 && world.Workers().Count() > workers; --number)
+    if (number * workers / before == (number - 1) * workers / before)
+      DeleteRecord(world, RecordKind::Worker, number);
+}
+
+void AddPromotions(World& world, int count) {
+  while (world.Promotions().Count() < count) {
     Promotion copy = world.Promotions()[1 + world.Promotions().Count() % 18];
     const std::string number = std::to_string(world.Promotions().Count() + 1);
     copy.Uid = world.Promotions().Count() + 1;
@@ -38,20 +59,26 @@ World LargestWorld() {
     copy.Initials = "P" + number;
     world.Promotions().Append(copy);
   }
-  for (int uid = world.Workers().Count() + 1; uid <= kManyWorkers; ++uid) {
+}
+
+void AddWorkers(World& world, int count) {
+  for (int uid = world.Workers().Count() + 1; uid <= count; ++uid) {
     Worker worker;
     worker.Uid = uid;
     worker.Name = "Worker " + std::to_string(uid);
     worker.ShortName = std::to_string(uid);
     worker.BirthMonth = 1 + uid % 12;
     NewWorkerAttributes(world, worker, Generation::Filler);
-    worker.Employer = uid % 3 == 0 ? 0 : 1 + uid % kManyPromotions;
+    worker.Employer = uid % 3 == 0 ? 0 : 1 + uid % world.Promotions().Count();
     worker.Status = "Nor";
     worker.Stable = "None";
     worker.Split = "None";
     world.Workers().Append(worker);
   }
-  for (int uid = world.AllStaff().Count() + 1; uid <= kManyStaff; ++uid) {
+}
+
+void AddStaff(World& world, int count) {
+  for (int uid = world.AllStaff().Count() + 1; uid <= count; ++uid) {
     Staff staff;
     staff.Uid = uid;
     staff.Name = "Staff " + std::to_string(uid);
@@ -59,6 +86,14 @@ World LargestWorld() {
     NewStaffAttributes(world, staff);
     world.AllStaff().Append(staff);
   }
+}
+
+World Sized(const SizeOfData& size) {
+  World world = test::CopyOf(test::DefaultWorld());
+  if (size.Workers > 0) Shrink(world, size.Workers);
+  AddPromotions(world, size.Promotions);
+  AddWorkers(world, size.Workers);
+  AddStaff(world, size.Staff);
   return world;
 }
 
@@ -72,10 +107,14 @@ World Live(World world, int days) {
 
 }  // namespace
 
-World DataWorld(bool large) {
-  if (!large) return test::CopyOf(test::DefaultWorld());
-  static const World largest = LargestWorld();
-  return test::CopyOf(largest);
+World DataWorld(int size) {
+  static std::map<int, World> made;
+  if (!made.contains(size)) made.emplace(size, Sized(kSizes[size]));
+  return test::CopyOf(made.at(size));
+}
+
+const char* SizeText(int size) {
+  return kSizes[size].Text;
 }
 
 void Begin(World& data, Day start, const std::function<void(std::string_view)>& watcher) {
@@ -87,8 +126,8 @@ void Begin(World& data, Day start, const std::function<void(std::string_view)>& 
   NewGame(data, choice, watcher);
 }
 
-World StartedWorld(bool large, Day start) {
-  World world = DataWorld(large);
+World StartedWorld(int size, Day start) {
+  World world = DataWorld(size);
   Begin(world, start);
   return world;
 }
@@ -96,10 +135,9 @@ World StartedWorld(bool large, Day start) {
 World Played(int age) {
   static std::map<int, World> played;
   if (!played.contains(age)) {
-    const bool isFirst = age == kNew || age == kLargest;
-    const int younger = age == kFiftyYears ? int(kTwentyYears) : age - 1;
-    World before = isFirst ? StartedWorld(age == kLargest, kSomeDay) : Played(younger);
-    played.emplace(age, Live(std::move(before), kLives[age].Days));
+    const Life& life = kLives[age];
+    World before = life.From == kNobody ? StartedWorld(life.Size, kSomeDay) : Played(life.From);
+    played.emplace(age, Live(std::move(before), life.Days));
   }
   return test::CopyOf(played.at(age));
 }

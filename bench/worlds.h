@@ -13,14 +13,18 @@ namespace grapplemont::bench {
 
 inline constexpr Day kSomeDay{std::chrono::year{2026} / 3 / 1};
 
-/// The default data, or the largest that the files may hold.
-World DataWorld(bool large);
+/// Default data: those that come with the game, the largest that the files may hold, and two sizes
+/// that show with them how a figure grows.
+enum Size { kDefaultSize, kLargestSize, kSmallSize, kMiddleSize };
+World DataWorld(int size);
+/// "2,500 workers".
+const char* SizeText(int size);
 /// Makes a new game of it; `watcher` hears each step's name.
 void Begin(World& data, Day start, const std::function<void(std::string_view)>& watcher = {});
-World StartedWorld(bool large, Day start);
+World StartedWorld(int size, Day start);
 
-/// The worlds that are played: the default one after some years, and the largest.
-enum Age { kNew, kTenYears, kTwentyYears, kLargest, kFiftyYears };
+/// The worlds that are played: the default one after some years, and those of other sizes.
+enum Age { kNew, kTenYears, kTwentyYears, kLargest, kFiftyYears, kSmall, kMiddle };
 /// The world at that age, its shows auto-booked from a fixed seed, and a month older: by then
 /// rivals have brought what a new game gave them to the size they want. Each is played once.
 World Played(int age);

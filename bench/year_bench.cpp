@@ -11,9 +11,9 @@
 namespace grapplemont {
 namespace {
 
-constexpr int kDays = 365;
+constexpr int kYear = 365, kThirtyYears = 10957;  // days
 
-void PlayYear(benchmark::State& state, Syncs syncs) {
+void PlayOn(benchmark::State& state, Syncs syncs, int wanted) {
   const int age = static_cast<int>(state.range(0));
   const auto shows = state.range(1) ? tools::Shows::Auto : tools::Shows::Cancel;
   int days = 0;
@@ -21,7 +21,7 @@ void PlayYear(benchmark::State& state, Syncs syncs) {
     test::GameOnWorld career(bench::Played(age), RealDisk(syncs));
     bench::Time(state, [&] {
       days = tools::PlayDays(
-                 career.Play, kDays, shows, [](int) {}, tools::AfterTheEnd::AnotherJob)
+                 career.Play, wanted, shows, [](int) {}, tools::AfterTheEnd::AnotherJob)
                  .Days;
     });
   }
@@ -30,10 +30,13 @@ void PlayYear(benchmark::State& state, Syncs syncs) {
 }
 
 void BM_Year(benchmark::State& state) {
-  PlayYear(state, Syncs::None);
+  PlayOn(state, Syncs::None, kYear);
 }
 void BM_YearSynced(benchmark::State& state) {
-  PlayYear(state, Syncs::Real);
+  PlayOn(state, Syncs::Real, kYear);
+}
+void BM_ThirtyYears(benchmark::State& state) {
+  PlayOn(state, Syncs::None, kThirtyYears);
 }
 BENCHMARK(BM_Year)
     ->Args({bench::kNew, 0})
@@ -41,8 +44,15 @@ BENCHMARK(BM_Year)
     ->Args({bench::kTenYears, 1})
     ->Args({bench::kTwentyYears, 1})
     ->Args({bench::kLargest, 1})
+    ->Args({bench::kSmall, 1})
+    ->Args({bench::kMiddle, 1})
     ->Unit(benchmark::kMicrosecond)
     ->UseManualTime();
+BENCHMARK(BM_ThirtyYears)
+    ->Args({bench::kNew, 1})
+    ->Unit(benchmark::kMicrosecond)
+    ->UseManualTime()
+    ->Iterations(1);
 BENCHMARK(BM_YearSynced)
     ->Args({bench::kNew, 1})
     ->Args({bench::kTwentyYears, 1})
@@ -52,7 +62,7 @@ BENCHMARK(BM_YearSynced)
 void BM_YearBaseline(benchmark::State& state) {
   const bench::WorldInFiles files(bench::Played(bench::kNew));
   for (auto _ : state)
-    for (int day = 0; day < kDays; ++day)
+    for (int day = 0; day < kYear; ++day)
       files.WalkAll(bench::WalksOn(bench::kSomeDay + std::chrono::days{day}));
 }
 BENCHMARK(BM_YearBaseline)->Unit(benchmark::kMicrosecond)->UseRealTime()->Iterations(1);

@@ -12,6 +12,15 @@ target_compile_options(house_rules INTERFACE -Wall -Wextra -Wpedantic -Wconversi
 # GCC 12 sees faults inside std::string that are not there once it optimises.
 set(gcc_only -Wno-restrict -Wno-maybe-uninitialized -Wno-stringop-overflow)
 target_compile_options(house_rules INTERFACE "$<$<CXX_COMPILER_ID:GNU>:${gcc_only}>")
+# Told by the presets that stop at warnings, without stopping: what optimised code seems to do with a
+# pointer is often no fault. GCC's full -Wshadow also minds the words of an enum class.
+set(told_gcc -Wshadow=local -Wno-error=shadow=local)
+set(told_clang -Wshadow -Wno-error=shadow)
+set(told -Wnull-dereference -Wno-error=null-dereference)
+if(GRAPPLEMONT_WERROR)
+  target_compile_options(house_rules INTERFACE
+    ${told} "$<$<CXX_COMPILER_ID:GNU>:${told_gcc}>" "$<$<CXX_COMPILER_ID:Clang>:${told_clang}>")
+endif()
 # Clang counts among conversions what GCC does not where the language is C++.
 target_compile_options(house_rules INTERFACE $<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>)
 

@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <algorithm>
 #include <cstdio>
 #include <ranges>
@@ -55,7 +56,7 @@ const char* PeopleText(bool large) {
 void BM_KeyToFrame(benchmark::State& state) {
   const bool large = state.range(0) != 0;
   const auto hands = state.range(1) ? Evening::Hands::Keys : Evening::Hands::Mouse;
-  const World data = bench::DataWorld(large);
+  const World data = bench::DataWorld(large ? bench::kLargestSize : bench::kDefaultSize);
   std::string longest;
   for (auto _ : state) {
     std::vector<Frame> frames;
@@ -68,10 +69,26 @@ void BM_KeyToFrame(benchmark::State& state) {
                  ", longest: " + longest);
 }
 
+/// The same keys in a bare window with a line of text.
+void BM_KeyToFrameBaseline(benchmark::State& state) {
+  QWidget window;
+  window.resize(1280, 800);
+  QLineEdit line(&window);
+  window.show();
+  line.setFocus();
+  QApplication::processEvents();
+  for (auto _ : state)
+    bench::Time(state, [&] {
+      QTest::keyClick(&line, Qt::Key_A);
+      QApplication::processEvents();
+      window.repaint();
+    });
+}
+
 /// Each letter of the search of everything, with a slip in the name.
 void BM_SearchKeyToFrame(benchmark::State& state) {
   const bool large = state.range(0) != 0;
-  const World data = bench::DataWorld(large);
+  const World data = bench::DataWorld(large ? bench::kLargestSize : bench::kDefaultSize);
   for (auto _ : state) {
     std::vector<Frame> frames;
     Evening evening(data, Evening::Hands::Mouse);
@@ -141,6 +158,7 @@ BENCHMARK(BM_KeyToFrame)
     ->Iterations(1)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_KeyToFrameBaseline)->Iterations(200)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SearchKeyToFrame)
     ->Arg(0)
     ->Arg(1)

@@ -12,13 +12,13 @@ namespace grapplemont {
 namespace {
 
 /// Who is seen more on television is seen more on tour as well.
-void Tour(World& world, Promotion& rival, Aim aim) {
+void Tour(World& world, Promotion& rival, SizeAim aim) {
   const tuning::Tour& tour = BySize(tuning::kTours, rival.Size);
   const auto shows = std::ranges::count_if(
       world.Shows(), [&](const Show& show) { return show.Owner == rival.Uid; });
   const int weight = 1 + static_cast<int>(shows);
-  if (aim == Aim::StayUp) MoveImage(world, rival, tour.Gain * weight);
-  if (aim == Aim::StayBelow) MoveImage(world, rival, -tour.Loss * weight);
+  if (aim == SizeAim::StayUp) MoveImage(world, rival, tour.Gain * weight);
+  if (aim == SizeAim::StayBelow) MoveImage(world, rival, -tour.Loss * weight);
 }
 
 }  // namespace
@@ -29,7 +29,7 @@ void RivalHouseShows(World& world) {
   const Rosters rosters(world);
   for (Promotion& rival : world.Promotions())
     if (IsRival(world, rival) && HouseShowIncome(rival, crews[rival.Uid]) > 0)
-      Tour(world, rival, AimOf(world, rival, rosters));
+      Tour(world, rival, SizeAimOf(world, rival, rosters));
 }
 
 }  // namespace grapplemont

@@ -161,6 +161,7 @@ std::string HelpText() {
     text += "  " + std::string(row.Form) + std::string(width + 2 - row.Form.size(), ' ');
     text += std::string(row.Does) + "\n";
   }
+  text += "Ctrl+C ends a look ahead (What If, A Hundred Futures) that takes too long.\n";
   return text;
 }
 

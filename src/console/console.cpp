@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "console/command.h"
+#include "console/interruption.h"
 #include "records/fields/charset.h"
 #include "ui/acts.h"
 #include "ui/asnumber.h"
@@ -260,6 +261,16 @@ void Console::Perform(const Command& command) {
     default:
       return Refuse("No box is open.");
   }
+}
+
+bool Console::WaitUntil(const std::function<bool()>& isOver) {
+  const Interruption asked;
+  if (settings_.Prompt)
+    out_ << "Please wait. Ctrl+C stops here and shows what there is by then.\n" << std::flush;
+  bool over = false;
+  while (!(over = isOver()) && !asked.Met()) {
+  }
+  return over;
 }
 
 std::optional<Command> Console::AnswerTo(Box box) {

@@ -44,6 +44,8 @@ class Console : public ui::Desk {
   bool Ask(const std::string& title, const std::string& text, ui::Default answer) override;
   std::string Prompt(const std::string& title, const std::string& text,
                      const std::string& offered) override;
+  /// Ctrl+C ends the waiting, and only that.
+  bool WaitUntil(const std::function<bool()>& isOver) override;
 
  private:
   /// Answers the last command and reads on until there is one that is not done at once; nothing at

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QThread>
 #include <QTimer>
 #include <algorithm>
 #include <array>
@@ -20,7 +21,7 @@ namespace {
 constexpr std::array<std::string_view, 7> kLast = {
     "cmdloadgame", "cmdcontinue", "cmdauto", "cmdfill", "cmddoshow", "cmduntil", "cmdnext"};
 /// What makes a screen worth a second picture in the first one's place.
-constexpr std::string_view kFills = "cmdfill";
+constexpr std::array<std::string_view, 2> kFills = {"cmdfill", "cmdplay"};
 /// What is taken rather than left, as a show cannot be held without a card.
 constexpr std::string_view kProposes = "frmFill";
 constexpr std::string_view kLeavesTheGame = "cmdquit";
@@ -64,6 +65,14 @@ std::vector<std::string> WaysOn(ui::Screen& screen) {
 
 void LetItPaint() {
   for (int i = 0; i < 4; ++i) QApplication::processEvents();
+}
+
+/// Whether the screen waits for something and looks by itself whether it is there.
+bool IsWaiting(const ui::Screen& screen) {
+  return std::ranges::any_of(screen.Controls(), [](const ui::Control* control) {
+    const auto* button = dynamic_cast<const ui::Button*>(control);
+    return button && button->Visible && button->Every > 0;
+  });
 }
 
 }  // namespace
@@ -156,15 +165,28 @@ void Album::Click(ui::Screen& screen, const std::string& control) {
   LetItPaint();
 }
 
+/// Worlds that are played for it, most of all. Whatever does not come at all is taken as it is.
+void Album::LetItCome(const ui::Screen& screen) {
+  constexpr int kMost = 120'000, kStep = 20;  // milliseconds
+  for (int waited = 0; waited < kMost && desk_.Top() == &screen && IsWaiting(screen);
+       waited += kStep) {
+    QThread::msleep(kStep);
+    LetItPaint();
+  }
+}
+
 void Album::Visit() {
   const std::shared_ptr<ui::Screen> screen = desk_.Screens().back();
   taken_.insert(screen->Name());
   FillIn(*screen);
+  LetItCome(*screen);
   Take(screen->Name());
   for (const std::string& way : WaysOn(*screen)) {
     if (desk_.Top() != screen.get()) return;
     Try(*screen, way);
-    if (way == kFills && desk_.Top() == screen.get()) Take(screen->Name());
+    LetItCome(*screen);
+    if (std::ranges::find(kFills, way) != kFills.end() && desk_.Top() == screen.get())
+      Take(screen->Name());
   }
   if (screen->Is() != ui::Role::Hub) return;
   if (desk_.Top() == screen.get()) PlayOn(*screen);

@@ -34,6 +34,7 @@ class Album {
  private:
   using Step = std::function<void()>;
   void Visit();
+  void LetItCome(const ui::Screen& screen);
   /// Each look is taken by `look`, within what `around` does about it.
   using Around = std::function<void(const Step& look)>;
   void Take(

@@ -1,5 +1,9 @@
 #include "desktop/box.h"
 
+#include <QScrollBar>
+#include <algorithm>
+#include <utility>
+
 #include "desktop/spoken.h"
 #include "desktop/textviews.h"
 
@@ -9,6 +13,7 @@ namespace {
 
 constexpr int kLeastWidth = 320, kLineWidth = 360;
 constexpr int kLinePlace = 2;  // below title and text
+constexpr int kLinesThatScroll = 16;
 
 }  // namespace
 
@@ -25,7 +30,15 @@ MessageBox::MessageBox(QWidget* ground, const QString& title, const QString& tex
   auto* words = new WrappedLabel(&Sheet(), text);
   words->setObjectName("boxtext");
   rows_->addWidget(heading);
-  rows_->addWidget(words);
+  if (text.count(u'\n') < kLinesThatScroll) {
+    rows_->addWidget(words);
+  } else {
+    scroller_ = new BareScroller(&Sheet());
+    scroller_->setObjectName("boxscroller");
+    scroller_->setWidgetResizable(true);
+    scroller_->Hold(words);
+    rows_->addWidget(scroller_, 1);
+  }
   rows_->addSpacing(Px(8));
   rows_->addLayout(foot_);
   foot_->addStretch(1);
@@ -96,10 +109,25 @@ void MessageBox::PressLetter(const QString& letter) {
     if (choice->text().startsWith(letter, Qt::CaseInsensitive)) return choice->click();
 }
 
+/// A long text goes by the keys that any page goes by.
+bool MessageBox::Scroll(int key) {
+  using Slider = QAbstractSlider;
+  constexpr std::pair<int, Slider::SliderAction> kSteps[] = {
+      {Qt::Key_Up, Slider::SliderSingleStepSub},   {Qt::Key_Down, Slider::SliderSingleStepAdd},
+      {Qt::Key_PageUp, Slider::SliderPageStepSub}, {Qt::Key_PageDown, Slider::SliderPageStepAdd},
+      {Qt::Key_Home, Slider::SliderToMinimum},     {Qt::Key_End, Slider::SliderToMaximum}};
+  if (!scroller_) return false;
+  const auto* const step =
+      std::ranges::find(kSteps, key, &std::pair<int, Slider::SliderAction>::first);
+  if (step == std::end(kSteps)) return false;
+  scroller_->verticalScrollBar()->triggerAction(step->second);
+  return true;
+}
+
 void MessageBox::keyPressEvent(QKeyEvent* event) {
   event->accept();
-  if (event->isAutoRepeat()) return;
   const int key = event->key();
+  if (Scroll(key) || event->isAutoRepeat()) return;
   if (key == Qt::Key_Escape) return Dismiss();
   if (IsEnter(key)) return TakeUsual();
   if (key == Qt::Key_Left || key == Qt::Key_Right) {

@@ -33,9 +33,11 @@ class MessageBox : public Veil {
   /// What Enter presses.
   PushButton& Chosen() const;
   void PressLetter(const QString& letter);
+  bool Scroll(int key);
 
   QVBoxLayout* rows_;
   QHBoxLayout* foot_;
+  BareScroller* scroller_ = nullptr;  // of a long text
   QLineEdit* line_ = nullptr;
   std::vector<PushButton*> choices_;
   PushButton* usual_ = nullptr;

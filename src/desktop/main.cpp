@@ -11,6 +11,7 @@
 #include "desktop/album.h"
 #include "desktop/bookpdf.h"
 #include "desktop/desktopcolours.h"
+#include "desktop/firstframe.h"
 #include "desktop/look.h"
 #include "desktop/nodisplay.h"
 #include "desktop/sound.h"
@@ -32,6 +33,7 @@ struct Wanted {
   std::optional<std::string> Home;  // the folder with the slots
   std::string Import = {};          // a file with an exported game
   QString Pictures;                 // the folder for an album of all screens
+  bool FirstFrame = false;          // it ends once the window is painted
 };
 
 /// Before there is a display: questions about the program and mistakes in its use need none.
@@ -51,7 +53,9 @@ Wanted Read(int argc, char** argv) {
       "Take a picture of every screen into <folder> instead of being played. It plays on in the "
       "first slot that it finds; take a copy of your games for it.",
       "folder");
-  parser.addOptions({home, pictures});
+  const QCommandLineOption firstFrame(
+      "first-frame", "End once the window is painted, which shows how long a start takes.");
+  parser.addOptions({home, pictures, firstFrame});
   parser.addPositionalArgument("file", "An exported game to be put into an empty slot and played.",
                                "[file]");
   for (const char* ofQt : {"platform", "style", "display", "qwindowgeometry"}) {
@@ -69,7 +73,7 @@ Wanted Read(int argc, char** argv) {
     std::cerr << "grapplemont: " << why.toStdString() << "; --help lists what there is\n";
     std::exit(2);
   }
-  Wanted wanted{{}, {}, parser.value(pictures)};
+  Wanted wanted{{}, {}, parser.value(pictures), parser.isSet(firstFrame)};
   if (!files.isEmpty()) wanted.Import = QFileInfo(files.front()).absoluteFilePath().toStdString();
   if (parser.isSet(home)) wanted.Home = parser.value(home).toStdString();
   return wanted;
@@ -176,6 +180,7 @@ int Play(QApplication& app, const Started& started) {
   }
   if (!wanted.Pictures.isEmpty()) return FillAlbum(window, desk, game, wanted.Pictures);
   const desktop::DesktopColours colours([&window](bool dark) { window.FollowDesktop(dark); });
+  if (wanted.FirstFrame) desktop::EndAtFirstFrame();
   const int result = QApplication::exec();
   desk.CloseAll();
   game.KeepPage = nullptr;

@@ -5,6 +5,7 @@
 #include "business/past.h"
 #include "futures/habits.h"
 #include "records/fields/fields.h"
+#include "records/houserules.h"
 #include "records/modWresCheck.h"
 #include "storylines/titles.h"
 
@@ -69,10 +70,14 @@ std::string WhyNoFutures(const World& world) {
   return HasEnded(world.Game()) ? "Your career is over." : "";
 }
 
-std::string HabitsText() {
-  return "Assumed: all shows are booked by the auto booker, the office is kept by habit (sponsors, "
-         "contracts, television, spending), rivals live as they always do, and whoever is "
-         "dismissed takes another job. Nothing here changes your game.";
+std::string HabitsText(const World& world, const std::string& also) {
+  const bool isByHand = Holds(world, HouseRule::NoAutoBooker);
+  return "Assumed: " + (also.empty() ? "" : also + "; ") + "the auto booker books every show" +
+         (isByHand ? " (in your game a rule of the house forbids it, but nobody books by hand here)"
+                   : "") +
+         ", the office runs by habit (sponsors, contracts, television, spending), rivals live as "
+         "they always do, and you take another job if you are dismissed. Nothing here changes "
+         "your game.";
 }
 
 std::vector<Day> DaysLookedAt(Day from, int days) {

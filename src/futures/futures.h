@@ -67,8 +67,9 @@ struct FirstMorning {
 
 /// Why nothing can be played from here; empty when it can.
 std::string WhyNoFutures(const World& world);
-/// What is assumed in any case, in a sentence.
-std::string HabitsText();
+/// What is assumed of the copies, in sentences; `also` is a clause for what a question takes for
+/// granted beside the habits, empty for nothing.
+std::string HabitsText(const World& world, const std::string& also = {});
 /// The days that are looked at, the first morning first and the last day last: each week of a few
 /// months, else each first of a month.
 std::vector<Day> DaysLookedAt(Day from, int days);

@@ -96,13 +96,6 @@ bool StaffNameFree(const World& world, std::string_view name) {
   return !FindNamed(world.AllStaff(), name);
 }
 
-bool WorksForPlayer(const World& world, const Worker& worker) {
-  return worker.Employer != 0 && worker.Employer == world.PlayerUid();
-}
-bool WorksForPlayer(const World& world, const Staff& staff) {
-  return staff.Employer != 0 && staff.Employer == world.PlayerUid();
-}
-
 std::string PromotionName(const World& world, int promotionUid) {
   const Promotion* promotion = world.FindPromotion(promotionUid);
   return promotion ? promotion->Name.Str() : "None";

@@ -21,8 +21,12 @@ bool WorkerNameFree(const World& world, std::string_view name);
 bool StaffNameFree(const World& world, std::string_view name);
 
 /// Whether the player's promotion employs them. Nobody works for a player without one.
-bool WorksForPlayer(const World& world, const Worker& worker);
-bool WorksForPlayer(const World& world, const Staff& staff);
+inline bool WorksForPlayer(const World& world, const Worker& worker) {
+  return worker.Employer != 0 && worker.Employer == world.PlayerUid();
+}
+inline bool WorksForPlayer(const World& world, const Staff& staff) {
+  return staff.Employer != 0 && staff.Employer == world.PlayerUid();
+}
 /// "None" for uid 0 and for a uid that leads nowhere.
 std::string PromotionName(const World& world, int promotionUid);
 std::string PromotionInitials(const World& world, int promotionUid);

@@ -19,7 +19,7 @@ struct Answer {
 struct WhatIf {
   std::string Question;  // "Sign Bram Okafor for 2 years at $40,000 a month?"
   Answer Yes, No;
-  std::string Assumes{};  // a sentence on what is taken for granted, beside the habits
+  std::string Assumes{};  // what is taken for granted beside the habits: "they agree"
 };
 
 }  // namespace grapplemont

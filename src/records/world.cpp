@@ -11,17 +11,12 @@ namespace grapplemont {
 World::World(std::unique_ptr<Draws> chance, std::unique_ptr<Draws> prose,
              std::unique_ptr<Draws> life)
     : chance_(std::move(chance)), prose_(std::move(prose)), life_(std::move(life)) {}
-World::World(World&&) = default;
-World& World::operator=(World&&) = default;
+World::World(World&&) noexcept = default;
+World& World::operator=(World&&) noexcept = default;
 World::~World() = default;
 
-GameInfo& World::Game() {
-  return const_cast<GameInfo&>(std::as_const(*this).Game());
-}
-
-const GameInfo& World::Game() const {
-  if (!HasGame()) throw WorldFault("This folder has no gameinfo.dat: no game is played in it.");
-  return GameInfos()[1];
+void World::ThrowNoGame() {
+  throw WorldFault("This folder has no gameinfo.dat: no game is played in it.");
 }
 
 Promotion& World::Player() {

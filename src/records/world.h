@@ -24,10 +24,12 @@ struct SessionWords {
   int ShowFlag = 0;    // Segments summed so far
   int ExtraCost = 0;   // dollars that the extra of the Event just held was charged; cleared with it
   int StartSize = 0;   // the player's Promotion.Size as the day's stages refresh it
-  // Who sits at the table of the Event that starts.
+  // Who sits at the table of the Event that starts, and what it has beside its card, as chosen on
+  // its sheet.
   int EventAnnouncer = 0;            // Staff uid; 0 for nobody
   int EventColour = 0;               // Staff uid, or a Worker's; 0 for nobody
   bool EventColourIsWorker = false;  // EventColour is a Worker's uid
+  int EventExtra = 0;                // its place among the player's extras, from 1; 0 for none
 };
 
 /// An open folder of the game: a table per file, and the sources of chance. Rules change records in
@@ -40,8 +42,8 @@ class World {
   explicit World(std::unique_ptr<Draws> chance = std::make_unique<SeededDraws>(1),
                  std::unique_ptr<Draws> prose = std::make_unique<SeededDraws>(2),
                  std::unique_ptr<Draws> life = std::make_unique<SeededDraws>(3));
-  World(World&&);
-  World& operator=(World&&);
+  World(World&&) noexcept;
+  World& operator=(World&&) noexcept;
   ~World();
 
   template <class T>
@@ -178,8 +180,8 @@ class World {
   }
 
   /// The state of the game; throws WorldFault in a folder without one, such as the default data.
-  GameInfo& Game();
-  const GameInfo& Game() const;
+  GameInfo& Game() { return GameInfos()[OneGame()]; }
+  const GameInfo& Game() const { return GameInfos()[OneGame()]; }
   bool HasGame() const { return GameInfos().Count() > 0; }
   Day Today() const { return Game().Today; }
 
@@ -241,6 +243,13 @@ class World {
   std::string Explain(const FieldOverflow& fault) const;
 
  private:
+  /// The number of the one record of gameinfo.dat.
+  int OneGame() const {
+    if (!HasGame()) ThrowNoGame();
+    return 1;
+  }
+  [[noreturn]] static void ThrowNoGame();
+
   /// Record numbers by uid. An entry is only a guess that the record itself confirms.
   template <class T>
   struct UidIndex {

@@ -59,11 +59,11 @@ bool IsAtHome(const World& world, const Promotion& rival, const Rosters& rosters
                                    others.MeanOfBest - tuning::kMayBeWeakerAtHome);
 }
 
-Aim AimOf(const World& world, const Promotion& rival, const Rosters& rosters) {
+SizeAim SizeAimOf(const World& world, const Promotion& rival, const Rosters& rosters) {
   if (rival.Image >= tuning::kNearARise && !IsReadyToRise(world, rival, rosters))
-    return Aim::StayBelow;
+    return SizeAim::StayBelow;
   const bool isLow = rival.Image <= tuning::kNearAFall && rival.Size != kBackyard;
-  return isLow && IsAtHome(world, rival, rosters) ? Aim::StayUp : Aim::None;
+  return isLow && IsAtHome(world, rival, rosters) ? SizeAim::StayUp : SizeAim::None;
 }
 
 }  // namespace grapplemont

@@ -17,7 +17,7 @@ bool IsAtHome(const World& world, const Promotion& rival, const Rosters& rosters
 /// What a rival has in mind: near a rise for which it is not ready it would stay below; near a
 /// fall, where it is at home, it would stay up. Its house shows see to either, and whoever would
 /// stay below hunts for nobody.
-enum class Aim { None, StayBelow, StayUp };
-Aim AimOf(const World& world, const Promotion& rival, const Rosters& rosters);
+enum class SizeAim { None, StayBelow, StayUp };
+SizeAim SizeAimOf(const World& world, const Promotion& rival, const Rosters& rosters);
 
 }  // namespace grapplemont

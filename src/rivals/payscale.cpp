@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kTopSquare = 100 * 100;
 
-const tuning::SpendingHabit& HabitOf(Hand hand) {
+const tuning::SpendingHabit& HabitOf(Spender hand) {
   return tuning::kHabits[static_cast<std::size_t>(hand)];
 }
 
@@ -63,19 +63,19 @@ long long BudgetByBooks(const Promotion& promotion, const tuning::SpendingHabit&
 
 }  // namespace
 
-Hand HandOf(const World& world, const Promotion& promotion) {
+Spender SpenderOf(const World& world, const Promotion& promotion) {
   const Staff* owner = OwnerOf(world, promotion.Uid);
-  if (!owner || IsPlayers(world, promotion)) return Hand::Even;
+  if (!owner || IsPlayers(world, promotion)) return Spender::Even;
   const int drawn = world.Fate("OwnersHand", {owner->Uid}).Draw(100);
   if (drawn <= tuning::kRecklessIn100 - owner->Talent / tuning::kTalentToOneLess)
-    return Hand::Reckless;
-  return drawn > 100 - tuning::kCarefulIn100 ? Hand::Careful : Hand::Even;
+    return Spender::Reckless;
+  return drawn > 100 - tuning::kCarefulIn100 ? Spender::Careful : Spender::Even;
 }
 
 namespace {
 
 long long BudgetOf(const World& world, const Promotion& promotion, long long squares) {
-  return HasBooks(promotion) ? BudgetByBooks(promotion, HabitOf(HandOf(world, promotion)))
+  return HasBooks(promotion) ? BudgetByBooks(promotion, HabitOf(SpenderOf(world, promotion)))
                              : BudgetBySize(squares, promotion.Size);
 }
 

@@ -9,8 +9,8 @@ namespace grapplemont {
 
 /// How whoever decides handles money: the owner by nature, the talented seldom badly; a board and
 /// the player are even-handed.
-enum class Hand { Careful, Even, Reckless };
-Hand HandOf(const World& world, const Promotion& promotion);
+enum class Spender { Careful, Even, Reckless };
+Spender SpenderOf(const World& world, const Promotion& promotion);
 
 /// The wage bill that the last month's books bear, in dollars a month: a share of what all else
 /// left over, and in time what lies above or below a fair sum. A promotion without books goes by

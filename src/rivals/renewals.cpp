@@ -142,14 +142,14 @@ bool HasTitles(const World& world, int promotionUid) {
 void GoAfterTheFree(World& world, Rosters& rosters) {
   for (const Promotion* promotion : PromotionsByStanding(world))
     if (IsRival(world, *promotion) && IsFreeToSpend(world, *promotion) &&
-        AimOf(world, *promotion, rosters) != Aim::StayBelow)
+        SizeAimOf(world, *promotion, rosters) != SizeAim::StayBelow)
       GoAfterTalent(world, *promotion, tuning::kTalksAMonth, rosters);
 }
 
 }  // namespace
 
 bool IsFreeToSpend(const World& world, const Promotion& promotion) {
-  return PurseOf(promotion) != Purse::Saving || HandOf(world, promotion) == Hand::Reckless;
+  return PurseOf(promotion) != Purse::Saving || SpenderOf(world, promotion) == Spender::Reckless;
 }
 
 int LeastRoster(const World& world, const Promotion& promotion) {
@@ -180,7 +180,7 @@ void RosterSizeReview(World& world) {
     if (!IsRival(world, rival)) continue;
     const Purse purse = PurseOf(rival);
     if (!IsFreeToSpend(world, rival)) Save(world, rival, rosters);
-    if (purse == Purse::Spending && AimOf(world, rival, rosters) != Aim::StayBelow)
+    if (purse == Purse::Spending && SizeAimOf(world, rival, rosters) != SizeAim::StayBelow)
       GoAfterTalent(world, rival, 1, rosters);
     if (rosters.Of(rival.Uid) >= tuning::kTitleRoster && !HasTitles(world, rival.Uid))
       FoundTitles(world, rival);

@@ -64,8 +64,12 @@ class CardMaker {
  public:
   CardMaker(World& world, const Promotion& rival, UnseenShow show)
       : world_(world), rival_(rival), show_(show), room_(MatchesOf(show)) {
-    for (Worker& worker : world.Workers())
-      if (worker.Employer == rival.Uid && IsFit(worker)) free_.push_back(&worker);
+    isFree_.resize(static_cast<std::size_t>(world.Workers().Count()) + 1);
+    for (Worker& worker : world.Workers()) {
+      if (worker.Employer != rival.Uid || !IsFit(worker)) continue;
+      free_.push_back(&worker);
+      FreeAt(worker) = true;
+    }
     std::ranges::stable_sort(free_, [](const Worker* a, const Worker* b) {
       return std::pair<int, int>(a->Position, -a->Over) <
              std::pair<int, int>(b->Position, -b->Over);
@@ -97,9 +101,16 @@ class CardMaker {
   bool OneIn(int n) { return world_.Life().Draw(n) == 1; }
   bool HasRoom() const { return static_cast<int>(bouts_.size()) < room_; }
 
+  char& FreeAt(const Worker& worker) {
+    return isFree_[static_cast<std::size_t>(world_.Workers().NumberOf(worker))];
+  }
+  bool FreeAt(const Worker& worker) const { return const_cast<CardMaker&>(*this).FreeAt(worker); }
+  void NoLongerFree(const Worker* worker) {
+    if (worker && std::exchange(FreeAt(*worker), false)) std::erase(free_, worker);
+  }
   bool IsFree(int uid) const {
     const Worker* worker = world_.FindWorker(uid);
-    return worker && worker->Employer == rival_.Uid && std::ranges::count(free_, worker) != 0;
+    return worker && FreeAt(*worker);
   }
   bool IsFree(const Corner& corner) const {
     return IsFree(corner.First->Uid) && (!corner.Second || IsFree(corner.Second->Uid));
@@ -113,9 +124,7 @@ class CardMaker {
 
   void Add(const CardBout& bout) {
     for (const Corner& corner : {bout.Red, bout.Blue})
-      std::erase_if(free_, [&](const Worker* worker) {
-        return worker == corner.First || worker == corner.Second;
-      });
+      for (const Worker* worker : {corner.First, corner.Second}) NoLongerFree(worker);
     bouts_.push_back(bout);
   }
 
@@ -242,7 +251,7 @@ class CardMaker {
       if (blue != free_.end())
         Add({{red}, {*blue}});
       else
-        std::erase(free_, red);
+        NoLongerFree(red);
     }
   }
 
@@ -360,6 +369,7 @@ class CardMaker {
   UnseenShow show_;
   int room_;
   std::vector<Worker*> free_;  // the card from the top down
+  std::vector<char> isFree_;   // by record number
   std::vector<Corner> teams_;
   std::vector<CardBout> bouts_;
 };

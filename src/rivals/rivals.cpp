@@ -4,23 +4,10 @@
 #include <vector>
 
 #include "business/sponsors.h"
-#include "records/modVar.h"
 #include "records/severing.h"
 #include "rivals/tuning.h"
 
 namespace grapplemont {
-
-bool IsAlive(const Promotion& promotion) {
-  return promotion.Name != kToBeDeleted;
-}
-
-bool IsPlayers(const World& world, const Promotion& promotion) {
-  return promotion.Uid == world.PlayerUid();
-}
-
-bool IsRival(const World& world, const Promotion& promotion) {
-  return !IsPlayers(world, promotion) && IsAlive(promotion);
-}
 
 bool IsOnMainRoster(const Worker& worker) {
   return IsOnRoster(worker) || worker.Position == kManager || worker.Position == kNonWrestler;
@@ -30,32 +17,44 @@ Rosters::Rosters(const World& world) : workers_(world.Workers()) {
   for (int number = 1; number <= workers_.Count(); ++number) {
     const Worker& worker = workers_[number];
     if (worker.Employer == 0) continue;
-    House& house = houses_[worker.Employer];
+    House& house = HouseOf(worker.Employer);
     house.Numbers.push_back(number);
     house.OnMainRoster += IsOnMainRoster(worker);
   }
 }
 
+const Rosters::House* Rosters::FindHouse(int promotionUid) const {
+  if (promotionUid >= 0 && promotionUid < kNear)
+    return &near_[static_cast<std::size_t>(promotionUid)];
+  const auto found = far_.find(promotionUid);
+  return found == far_.end() ? nullptr : &found->second;
+}
+
+Rosters::House& Rosters::HouseOf(int promotionUid) {
+  const House* near = promotionUid < kNear ? FindHouse(promotionUid) : nullptr;
+  return near ? const_cast<House&>(*near) : far_[promotionUid];
+}
+
 int Rosters::Of(int promotionUid) const {
-  const auto found = houses_.find(promotionUid);
-  return found == houses_.end() ? 0 : found->second.OnMainRoster;
+  const House* house = FindHouse(promotionUid);
+  return house ? house->OnMainRoster : 0;
 }
 
 const std::vector<int>& Rosters::NumbersOf(int promotionUid) const {
   static const std::vector<int> kNobody;
-  const auto found = houses_.find(promotionUid);
-  return found == houses_.end() ? kNobody : found->second.Numbers;
+  const House* house = FindHouse(promotionUid);
+  return house ? house->Numbers : kNobody;
 }
 
 void Rosters::Move(const Worker& worker, int fromUid, int toUid) {
   const int number = static_cast<int>(&worker - &workers_[1]) + 1;
   if (fromUid != 0) {
-    House& house = houses_[fromUid];
+    House& house = HouseOf(fromUid);
     std::erase(house.Numbers, number);
     house.OnMainRoster -= IsOnMainRoster(worker);
   }
   if (toUid != 0) {
-    House& house = houses_[toUid];
+    House& house = HouseOf(toUid);
     house.Numbers.insert(std::ranges::upper_bound(house.Numbers, number), number);
     house.OnMainRoster += IsOnMainRoster(worker);
   }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "records/arithmetic.h"
+#include "records/modVar.h"
 #include "records/world.h"
 
 // What all that rivals do has in common.
@@ -14,10 +15,16 @@
 namespace grapplemont {
 
 /// A promotion that has not ceased to exist today.
-bool IsAlive(const Promotion& promotion);
-bool IsPlayers(const World& world, const Promotion& promotion);
+inline bool IsAlive(const Promotion& promotion) {
+  return promotion.Name != kToBeDeleted;
+}
+inline bool IsPlayers(const World& world, const Promotion& promotion) {
+  return promotion.Uid == world.PlayerUid();
+}
 /// A living promotion that is not the player's.
-bool IsRival(const World& world, const Promotion& promotion);
+inline bool IsRival(const World& world, const Promotion& promotion) {
+  return !IsPlayers(world, promotion) && IsAlive(promotion);
+}
 
 /// Someone whom a rival's roster counts: on the card, a manager or a non-wrestler, not in
 /// development or at the camp.
@@ -39,8 +46,13 @@ class Rosters {
     int OnMainRoster = 0;
     std::vector<int> Numbers;
   };
+  const House* FindHouse(int promotionUid) const;
+  House& HouseOf(int promotionUid);
+
+  static constexpr int kNear = 256;  // uids that a world usually has
   const Records<Worker>& workers_;
-  std::map<int, House> houses_;
+  std::vector<House> near_{kNear};
+  std::map<int, House> far_;
 };
 
 /// The workers leave their employers, and all that tied them there ends: Titles, feuds, corner,

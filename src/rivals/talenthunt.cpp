@@ -13,8 +13,8 @@ namespace grapplemont {
 namespace {
 
 bool IsWithinReach(const World& world, const Promotion& promotion, const Worker& worker) {
-  return !worker.RetiringSoon && MayHave(world, promotion, worker) &&
-         (worker.Employer == 0 || worker.ContractMonths <= tuning::kMonthsBeforeTheEnd);
+  return (worker.Employer == 0 || worker.ContractMonths <= tuning::kMonthsBeforeTheEnd) &&
+         !worker.RetiringSoon && MayHave(world, promotion, worker);
 }
 
 /// What they cost: the going rate, or what a signing makes of their last wage where that is more.

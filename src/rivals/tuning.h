@@ -82,7 +82,7 @@ inline constexpr int kMonthsToFairSum = 24;
 inline constexpr int kFairSumsKept = 3;
 inline constexpr int kWeeksOfCampaigns = 40;
 
-/// How money is handled, by Hand.
+/// How money is handled, by Spender.
 struct SpendingHabit {
   int OfWhatIsLeft;  // percent of what all but workers' wages leaves over
   int MostOfIncome;  // percent

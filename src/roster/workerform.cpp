@@ -173,8 +173,8 @@ Neighbours NeighboursOf(const World& world, const Worker& worker) {
   return beside;
 }
 
-Meetings MeetingsOf(const World& world, int firstUid, int secondUid) {
-  Meetings meetings;
+Encounters EncountersOf(const World& world, int firstUid, int secondUid) {
+  Encounters meetings;
   for (const int number : MatchesWith(world, firstUid)) {
     const HeldMatch& bout = world.Bouts()[number];
     const auto placeOf = [&](int uid) {

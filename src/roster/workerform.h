@@ -52,11 +52,11 @@ struct Neighbours {
 Neighbours NeighboursOf(const World& world, const Worker& worker);
 
 /// How two have done against each other on the player's shows, as far as matches are kept.
-struct Meetings {
+struct Encounters {
   int Won = 0, Lost = 0, Drawn = 0;  // by the first
   int Mean = 0;                      // rating in percent
   int Count() const { return Won + Lost + Drawn; }
 };
-Meetings MeetingsOf(const World& world, int firstUid, int secondUid);
+Encounters EncountersOf(const World& world, int firstUid, int secondUid);
 
 }  // namespace grapplemont

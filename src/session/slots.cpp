@@ -10,6 +10,7 @@
 #include "records/checks/checkworld.h"
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/store/knownfiles.h"
 #include "records/store/playedslot.h"
@@ -170,12 +171,14 @@ std::string AboutGame(const SlotSummary& summary) {
 
 /// What is not in order, a line each; a world in order is not worth a word.
 std::string FaultsIn(const World& world) {
-  constexpr std::size_t kTold = 6;
-  const std::vector<Fault> faults = CheckWorld(world);
+  FaultList faults;
+  CheckWorld(world, [&faults](Fault&& fault) { faults.Take(std::move(fault)); });
   if (faults.empty()) return "\nEverything in it is in order.";
-  std::string text = "\nNot in order:";
-  for (std::size_t i = 0; i < std::min(kTold, faults.size()); ++i) text += "\n" + faults[i].Line();
-  if (faults.size() > kTold) text += "\nand " + std::to_string(faults.size() - kTold) + " more.";
+  std::string text = "\nNot in order, " + Counted(faults.Count, "fault") + ":";
+  for (const Fault& fault : faults.First) text += "\n" + fault.Line();
+  if (faults.Count > faults.First.size())
+    text += "\nand " + std::to_string(faults.Count - faults.First.size()) +
+            " more; once it is in a slot, \"grapplemont-world check\" names them all.";
   return text;
 }
 

@@ -96,6 +96,32 @@ std::set<int> BestOfEach(const World& world) {
   return best;
 }
 
+/// Whether each Title has its present holder's reign and no other lasts: on most days.
+bool IsUpToDate(const World& world) {
+  struct Open {
+    int Owner;
+    std::string_view Title;
+    const TitleReign* Reign;
+  };
+  std::vector<Open> open;
+  for (const TitleReign& reign : world.Reigns())
+    if (reign.End == kReignLasts) open.push_back({reign.Owner, reign.Title.View(), &reign});
+  const auto key = [](const Open& one) { return std::pair(one.Owner, one.Title); };
+  std::ranges::stable_sort(open, {}, key);
+  std::size_t met = 0;
+  for (const Title& title : world.Titles()) {
+    if (title.Owner <= 0) continue;
+    const std::pair<int, std::string_view> name(title.Owner, title.Name.View());
+    auto known = std::ranges::lower_bound(open, name, {}, key);
+    while (known != open.end() && key(*known) == name && !known->Reign) ++known;
+    if (known == open.end() || key(*known) != name || !IsPresent(*known->Reign, title))
+      return false;
+    known->Reign = nullptr;
+    ++met;
+  }
+  return met == open.size();
+}
+
 /// Walks over the Titles and their reigns once.
 class Update {
  public:
@@ -248,7 +274,7 @@ std::vector<const TitleReign*> ReignsWhere(const World& world, Test test) {
 }  // namespace
 
 void UpdateReigns(World& world) {
-  Update(world).Run();
+  if (!IsUpToDate(world)) Update(world).Run();
 }
 
 bool HaveReignsGone(const World& world) {

@@ -49,7 +49,8 @@ std::string ConfinedDisk::ToWrite(const std::string& path) {
 }
 
 void ConfinedDisk::RequireOwn(Handle file) const {
-  if (others_.contains(file)) throw DiskError(readable_, "write", "it may only be read here");
+  if (!IsWithin(places_.at(file), folder_))
+    throw DiskError(readable_, "write", "it may only be read here");
 }
 
 std::vector<std::string> ConfinedDisk::List(const std::string& path) {
@@ -59,12 +60,12 @@ std::vector<std::string> ConfinedDisk::List(const std::string& path) {
 Disk::Handle ConfinedDisk::Open(const std::string& path, bool create) {
   const std::string place = create ? ToWrite(path) : ToRead(path);
   const Handle file = disk_.Open(place, create);
-  if (!IsWithin(place, folder_)) others_.insert(file);
+  places_[file] = place;
   return file;
 }
 
 void ConfinedDisk::Close(Handle file) {
-  others_.erase(file);
+  places_.erase(file);
   disk_.Close(file);
 }
 
@@ -78,6 +79,8 @@ void ConfinedDisk::ReadAt(Handle file, std::int64_t offset, std::span<std::byte>
 
 void ConfinedDisk::WriteAt(Handle file, std::int64_t offset, ByteSpan bytes) {
   RequireOwn(file);
+  if (const std::string& place = places_.at(file); Fails && Fails(place))
+    throw DiskError(place, "write", "the record says that the disk failed");
   disk_.WriteAt(file, offset, bytes);
 }
 

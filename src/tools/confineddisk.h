@@ -1,7 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <map>
 #include <memory>
-#include <set>
 #include <string>
 
 #include "records/store/disk.h"
@@ -15,6 +16,8 @@ class ConfinedDisk : public Disk {
  public:
   /// Both absolute, without slashes at their end; `readable` may be empty.
   ConfinedDisk(Disk& disk, std::string folder, std::string readable);
+  /// Says of a file that is about to be written whether that fails; empty where it never does.
+  std::function<bool(const std::string& path)> Fails;
 
   Kind Look(const std::string& path) override { return disk_.Look(ToRead(path)); }
   std::vector<std::string> List(const std::string& path) override;
@@ -42,7 +45,7 @@ class ConfinedDisk : public Disk {
 
   Disk& disk_;
   std::string folder_, readable_;
-  std::set<Handle> others_;  // files that may only be read
+  std::map<Handle, std::string> places_;  // of the open files
 };
 
 }  // namespace grapplemont::tools

@@ -157,6 +157,10 @@ int RunCopies(const Arguments& arguments, Game& game, RunPlan plan, Shell& shell
   plan.Threads = ThreadsOf(arguments);
   plan.Seed = arguments.Number("--seed", 0, kHighestSeed).value_or(MachineSeed());
   const World start = CopyOfSlot(game, SlotOf(arguments));
+  if (plan.By.Do == Shows::Auto && Holds(start, HouseRule::NoAutoBooker))
+    shell.Errors << "Slot " << SlotOf(arguments)
+                 << ": a rule of the house forbids the auto booker. These copies are nobody's "
+                    "career: it books their shows all the same. --shows cancel calls them off.\n";
   std::optional<StatsFile> stats;
   if (const auto path = arguments.Text("--stats")) stats.emplace(game.Disk(), *path);
   return RunMany(start, plan, stats ? &*stats : nullptr, shell);
@@ -289,7 +293,8 @@ const Command kRun{
     "run", "",
     "Plays days of a saved game; FILE gets a JSON object a line for each month. With "
     "--worlds it plays W copies instead, on N cores, the first with the seed S, each "
-    "with one more, and leaves the game as it is.",
+    "with one more, and leaves the game as it is. Where a rule of the house forbids the auto "
+    "booker, a game needs --shows cancel; copies are booked by it all the same.",
     kRunOptions, Run};
 
 std::string EndText(const World& world, const CareerEnd& end) {
@@ -297,6 +302,11 @@ std::string EndText(const World& world, const CareerEnd& end) {
   for (const auto& [reason, on] : end.Reasons)
     reasons.push_back(std::to_string(reason) + " on " + IsoDate(on));
   const std::string days = Counted(end.Days, "day"), today = LongDate(world.Today());
+  if (end.EndCode != 0 && end.Reasons.empty())
+    return "The career has ended before (reason " + std::to_string(end.EndCode) + "): it is " +
+           today +
+           ", and no day passes. Load the game to go back in time or to take another "
+           "chair.\n";
   if (end.EndCode != 0)
     return "The career ended after " + days + ", on " + today + " (reason " +
            std::to_string(end.EndCode) + ").\n";

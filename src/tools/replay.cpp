@@ -16,6 +16,7 @@
 #include "records/store/digest.h"
 #include "records/store/playedslot.h"
 #include "records/store/slotcare.h"
+#include "records/store/slotfolder.h"
 #include "session/slots.h"
 #include "tools/commands.h"
 #include "tools/confineddisk.h"
@@ -75,6 +76,8 @@ class RecordedDesk : public ui::Desk {
     lines_.pop_front();
     return line;
   }
+  /// Whether the record has this line next.
+  bool IsAt(std::string_view line) const { return !lines_.empty() && lines_.front() == line; }
   void Wrong(const std::string& why) {
     if (Fault.empty()) Fault = "command " + std::to_string(Done) + ": " + why;
   }
@@ -84,6 +87,8 @@ class RecordedDesk : public ui::Desk {
 
  private:
   std::string Answer(std::string_view wanted, const std::string& text) {
+    // It has failed, and the player is told.
+    if (IsAt(kDiskTookBack) || IsAt(kDiskKept)) Next();
     const auto line = Next();
     if (!line) return {};
     const std::string first = line->substr(0, line->find(' '));
@@ -112,6 +117,8 @@ class Player {
     const std::string verb = NextWord(rest);
     if (verb == "session") return Begin(rest);
     if (verb == kCommandRenamed) return Rename(rest);
+    if (line == kDiskTookBack || line == kDiskKept)
+      return desk_.Wrong("the disk failed where there was nothing to keep");
     if (verb == kCommandsFull) return desk_.Wrong("nothing more was recorded");
     if (!game_ || !desk_.Top())
       return desk_.Wrong("\"" + std::string(line) + "\" stands where no game is open");
@@ -226,6 +233,11 @@ Replayed Replay(Disk& machine, const std::vector<NewFile>& files, const std::str
   RecordedDesk desk(
       {reinterpret_cast<const char*>(commands->Contents.data()), commands->Contents.size()});
   std::optional<EndOfRecord> end;
+  // A step stands once it is in the journal.
+  disk.Fails = [&desk](const std::string& path) {
+    return desk.IsAt(kDiskTookBack) ||
+           (desk.IsAt(kDiskKept) && !path.ends_with("/" + std::string(kJournalName)));
+  };
   {
     Player player(disk, desk, home, share);
     while (const auto line = desk.Next()) {

@@ -101,6 +101,13 @@ class Desk {
   /// Whether the shell presses by itself what is to be pressed every so often (Button::Every).
   /// Without, a screen that waits for something waits within its handler.
   virtual bool HasClock() const { return false; }
+  /// Asks within a handler, again and again, whether what it waits for is over; false where the
+  /// player would wait no longer.
+  virtual bool WaitUntil(const std::function<bool()>& isOver) {
+    while (!isOver()) {
+    }
+    return true;
+  }
 
   // Screens that need no argument are opened by name, once the program has said how they are made.
   void Register(std::string name, Factory make);

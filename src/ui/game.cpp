@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "records/checks/checkworld.h"
+#include "records/store/commandlog.h"
 #include "records/store/playedslot.h"
 #include "records/store/slotcare.h"
 #include "records/store/slotfolder.h"
@@ -16,13 +17,9 @@ namespace grapplemont {
 namespace {
 
 void TellMended(const std::vector<Fault>& mended, std::vector<std::string>& remarks) {
-  constexpr std::size_t kTold = 8;
   if (mended.empty()) return;
   remarks.push_back("Numbers that no game can go on with were brought back into their ranges:");
-  for (std::size_t i = 0; i < std::min(kTold, mended.size()); ++i)
-    remarks.push_back(mended[i].Line());
-  if (mended.size() > kTold)
-    remarks.push_back("and " + std::to_string(mended.size() - kTold) + " more.");
+  for (const Fault& fault : mended) remarks.push_back(fault.Line());
 }
 
 }  // namespace
@@ -160,15 +157,22 @@ void Game::Commit() {
   try {
     slot_->Commit(changes, step);
   } catch (const DiskError&) {
-    if (slot_->Committed()) {
-      MarkCommitted(changes);
-      step_.Commands.clear();
-    }
+    const bool isKept = slot_->Committed();
+    if (isKept) MarkCommitted(changes);
+    NoteDiskFault(isKept);
     throw;
   }
   MarkCommitted(changes);
   step_.Commands.clear();  // those of an event that kept nothing belong to the next
   if (Kept) Kept(changes);
+}
+
+/// What the player has done stays in the record, since controls and chance have moved with it; that
+/// the disk failed does too, since the world has not.
+void Game::NoteDiskFault(bool isKept) {
+  const bool isRecorded = !step_.Commands.empty();
+  if (isKept) step_.Commands.clear();
+  if (isRecorded) step_.Commands += std::string(isKept ? kDiskKept : kDiskTookBack) + "\n";
 }
 
 void Game::MarkCommitted(const std::vector<FileChange>& changes) {

@@ -158,6 +158,7 @@ class Game : public ui::Work {
 
  private:
   void MarkCommitted(const std::vector<FileChange>& changes);
+  void NoteDiskFault(bool isKept);
   bool MayChange(const std::vector<FileChange>& changes) const;
   bool IsLookedAt(const std::vector<FileChange>& changes) const;
   void HearAct(ui::Act act);

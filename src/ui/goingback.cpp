@@ -4,6 +4,7 @@
 #include <cstring>
 #include <map>
 #include <memory>
+#include <utility>
 
 #include "records/fields/companies.h"
 #include "records/fields/fields.h"
@@ -48,8 +49,13 @@ void Take(Game& game, const WayBack& way, std::uint64_t digest, const PlayedStep
       table->Load(file->second);
   }
   if (world.Game().SaveName != name) world.Game().SaveName = name;
-  world.Session = {};
+  // What was chosen on a sheet is not of the world: it comes up again with it.
+  const SessionWords chosen = std::exchange(world.Session, {});
   world.Session.StartSize = world.Player().Size;
+  world.Session.EventAnnouncer = chosen.EventAnnouncer;
+  world.Session.EventColour = chosen.EventColour;
+  world.Session.EventColourIsWorker = chosen.EventColourIsWorker;
+  world.Session.EventExtra = chosen.EventExtra;
   game.CommitAs(as);
 }
 

@@ -30,7 +30,7 @@ std::string AsSaid(const std::string& text, const Heading& heading) {
 std::string CodeOf(const WordsFile& file, const WordsText& text) {
   std::ostringstream lines, blocks, out;
   std::size_t first = 0;
-  for (const Section& section : text.Sections) {
+  for (const WordSection& section : text.Sections) {
     const Heading& heading = *FindHeading(file, section.Heading.Text);
     blocks << "    {" << heading.Number << ", " << heading.Band << ", kAll.subspan(" << first
            << ", " << section.Lines.size() << ")},\n";

@@ -40,7 +40,7 @@ void WordsCheck::Report(const std::string& path, int line, const std::string& wh
 void WordsCheck::Check(const WordsFile& file, const WordsText& text) {
   for (const NumberedLine& mistake : text.Mistakes) Report(file.Path, mistake.Number, mistake.Text);
   std::map<std::string, int> seen;
-  for (const Section& section : text.Sections) {
+  for (const WordSection& section : text.Sections) {
     const auto& [line, name] = section.Heading;
     const Heading* heading = FindHeading(file, name);
     const auto [first, isNew] = seen.emplace(name, line);
@@ -57,7 +57,7 @@ void WordsCheck::Check(const WordsFile& file, const WordsText& text) {
       Report(file.Path, text.Last, "the heading \"" + heading.Name + "\" is missing");
 }
 
-void WordsCheck::CheckSection(const WordsFile& file, const Section& section,
+void WordsCheck::CheckSection(const WordsFile& file, const WordSection& section,
                               const Heading& heading) {
   const std::string count = WrongCount(static_cast<int>(section.Lines.size()), heading);
   if (!count.empty()) Report(file.Path, section.Heading.Number, count);

@@ -23,7 +23,7 @@ class WordsCheck {
   const std::vector<std::string>& Mistakes() const { return mistakes_; }
 
  private:
-  void CheckSection(const WordsFile& file, const Section& section, const Heading& heading);
+  void CheckSection(const WordsFile& file, const WordSection& section, const Heading& heading);
   void CheckIsNew(const WordsFile& file, const NumberedLine& line, const Heading& heading);
 
   std::string root_;

@@ -12,12 +12,12 @@ struct NumberedLine {
   std::string Text;
 };
 /// A heading and what stands under it.
-struct Section {
+struct WordSection {
   NumberedLine Heading;
   std::vector<NumberedLine> Lines;
 };
 struct WordsText {
-  std::vector<Section> Sections;
+  std::vector<WordSection> Sections;
   std::vector<NumberedLine> Mistakes;
   int Last = 1;  // the number of the file's last line
 };

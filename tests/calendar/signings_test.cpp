@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "calendar/advanceday.h"
@@ -19,15 +20,17 @@ class MarketWatch {
  public:
   explicit MarketWatch(const World& world) : world_(world) { Remember(); }
 
-  /// Whom the player lets go somebody may take at once, by limits of their own.
+  /// Whom the player lets go somebody may take at once, by limits of their own; whom a rival fires
+  /// another may sign in the same step.
   void Look() {
     for (int number = 1; number <= static_cast<int>(before_.size()); ++number) {
-      const Worker &then = before_[static_cast<std::size_t>(number - 1)],
-                   &now = world_.Workers()[number];
+      Worker then = before_[static_cast<std::size_t>(number - 1)];
+      const Worker& now = world_.Workers()[number];
       const Promotion* employer = world_.FindPromotion(now.Employer);
       if (then.Uid != now.Uid || then.Employer == now.Employer || !employer ||
           then.Employer == world_.PlayerUid() || !IsRival(world_, *employer))
         continue;
+      if (WasFired(then)) then.Employer = 0;
       ++Signed;
       EXPECT_TRUE(IsWithinLimits(then, employer->Size) && IsOpenTo(world_, then, employer->Size))
           << IsoDate(world_.Today()) << " " << employer->Initials.View() << " " << then.Name.View()
@@ -39,6 +42,11 @@ class MarketWatch {
   int Signed = 0;
 
  private:
+  bool WasFired(const Worker& worker) const {
+    return std::ranges::any_of(world_.Deeds(), [&](const Deed& deed) {
+      return deed.Kind == kDeedFired && Day(deed.On) == world_.Today() && deed.Who == worker.Name;
+    });
+  }
   void Remember() { before_.assign(world_.Workers().begin(), world_.Workers().end()); }
 
   const World& world_;

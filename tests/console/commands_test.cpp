@@ -1,5 +1,7 @@
 #include "console/command.h"
 
+#include <csignal>
+
 #include "console/served.h"
 
 namespace grapplemont::test {
@@ -38,6 +40,22 @@ TEST(Commands, WorkTheControls) {
       {"click cmdthrow\nok\nclick cmddoit\n", {"Load", "Return", "cmddoit"}},
   };
   for (const auto& [lines, said] : kRows) EXPECT_EQ(Served(lines, kJson).Log, said) << lines;
+}
+
+TEST(Commands, WaitUntilItIsOverOrThePlayerHasHadEnough) {
+  std::istringstream in;
+  std::ostringstream out;
+  console::Console desk(in, out, {.Prompt = true});
+  int asked = 0;
+  EXPECT_TRUE(desk.WaitUntil([&] { return ++asked == 3; }));
+  EXPECT_EQ(asked, 3);
+  EXPECT_NE(out.str().find("Ctrl+C"), std::string::npos);
+  const auto interrupt = [] {
+    std::raise(SIGINT);
+    return false;
+  };
+  for (int again = 0; again < 2; ++again) EXPECT_FALSE(desk.WaitUntil(interrupt));
+  EXPECT_TRUE(desk.WaitUntil([] { return true; })) << "the last one is forgotten";
 }
 
 TEST(Commands, ShareWhatTheScreenTells) {

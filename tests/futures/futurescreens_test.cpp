@@ -3,7 +3,9 @@
 #include <fstream>
 
 #include "business/tvtalks.h"
+#include "futures/futures.h"
 #include "futures/screens/futurescreens.h"
+#include "records/houserules.h"
 #include "records/store/disk.h"
 #include "support/gameonworld.h"
 
@@ -190,6 +192,31 @@ TEST(frmFutures, ShowWhatBecomesOfEverybody) {
   EXPECT_TRUE(desk.Rows("lsttitles").empty());
   desk.Click("cmdplay");
   EXPECT_EQ(desk.Rows("lstspread").size(), 25u);
+}
+
+TEST(frmFutures, AreStoppedByWhoWaitsNoLonger) {
+  GameOnWorld play(Company().Game("CWA"));
+  ScriptDesk& desk = play.Desk;
+  desk.Open("frmFutures");
+  desk.Pick("cmbyears", "10 years");
+  const World before = CopyOf(play.World());
+  desk.IsImpatient = true;
+  desk.Click("cmdplay");
+  EXPECT_TRUE(desk.Text("lbldone").starts_with("Stopped at ")) << desk.Text("lbldone");
+  EXPECT_FALSE(desk.Enabled("cmdstop"));
+  EXPECT_TRUE(desk.Enabled("cmdplay")) << "to play them after all";
+  ExpectSame(play.World(), before);
+}
+
+TEST(frmFutures, SayWhatIsAssumedInOneSentence) {
+  World world = Company().Game("CWA");
+  EXPECT_TRUE(HabitsText(world, "they agree")
+                  .starts_with("Assumed: they agree; the auto booker books every show, the office"))
+      << HabitsText(world, "they agree");
+  HouseRules rules{};
+  rules.On[static_cast<std::size_t>(HouseRule::NoAutoBooker)] = true;
+  world.Of<HouseRules>().Rewrite({rules});
+  EXPECT_NE(HabitsText(world).find("a rule of the house forbids it"), std::string::npos);
 }
 
 }  // namespace

@@ -112,8 +112,9 @@ void RequireWithin(const std::map<std::string, Bytes>& files) {
   }
 }
 
-void Judge(StoredSlot stored) {
-  const SlotFinding finding = Examine(stored, Known(), {});
+void Judge(const StoredSlot& stored) {
+  StoredSlot examined = stored;
+  const SlotFinding finding = Examine(examined, Known(), {});
   RequireWithin(finding.Files);
   if (!finding.Damage.empty() || !stored.HasId) return;
   std::map<std::string, Bytes> files = stored.Files;
@@ -155,8 +156,9 @@ void Read(ByteSpan bytes) {
   }
   StoredSlot stored = ASlot(in);
   stored.Journal = AJournal(in);
+  stored.JournalSize = std::ssize(stored.Journal);
   ReadChains(stored.Journal);
-  Judge(std::move(stored));
+  Judge(stored);
 }
 
 const Registered kJournal({.Name = "journal", .Run = Read, .Cases = 1000, .Most = 512});

@@ -163,6 +163,13 @@ TEST(BackInTime, ASheetComesUpAgainAsItWas) {
   desk.Click("cmdsheet");
   ASSERT_EQ(desk.TopName(), "frmPPVBooking");
   const auto card = desk.Rows("lstrows");
+  desk.Pick("cmbspecial", 2);
+  const std::string extra = desk.Text("cmbspecial"), cost = desk.Text("lblcost");
+  const auto isSeated = [&] {
+    return desk.Text("cmbannouncer") == "Milo Grant" && desk.Text("cmbspecial") == extra &&
+           desk.Text("lblcost") == cost;
+  };
+  ASSERT_TRUE(isSeated());
   const Bytes booked = BytesIn(play);
   desk.Pick("lstrows", 3);
   desk.Click("cmddown");
@@ -172,6 +179,7 @@ TEST(BackInTime, ASheetComesUpAgainAsItWas) {
   EXPECT_EQ(desk.TopName(), "frmPPVBooking");
   EXPECT_EQ(BytesIn(play), booked);
   EXPECT_EQ(desk.Rows("lstrows"), card);
+  EXPECT_TRUE(isSeated());
   EXPECT_FALSE(desk.Enabled("cmdundo")) << "nothing was done on the sheet since it came up";
   EXPECT_NE(desk.Take(desk.Redo).find("Move Down"), std::string::npos);
   EXPECT_EQ(BytesIn(play), moved);
@@ -185,6 +193,7 @@ TEST(BackInTime, ASheetComesUpAgainAsItWas) {
   EXPECT_NE(desk.Take(desk.Undo).find("Start The Show"), std::string::npos);
   EXPECT_EQ(desk.TopName(), "frmPPVBooking");
   EXPECT_EQ(BytesIn(play), booked);
+  EXPECT_TRUE(isSeated());
   // Where the sheet had not been opened it does not lie on the desk.
   EXPECT_NE(desk.Take(desk.Undo).find("Send To The Sheet"), std::string::npos);
   EXPECT_EQ(desk.TopName(), "frmPPVBooking");

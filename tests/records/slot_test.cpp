@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "records/store/journalfile.h"
 #include "records/store/slotfolder.h"
 #include "support/scratchfolder.h"
 #include "support/storeworld.h"
@@ -51,6 +52,20 @@ class ASlot : public testing::Test {
   std::unique_ptr<Disk> disk_ = RealDisk();
   std::vector<Files> worlds_ = RandomWorlds(9, 91);
 };
+
+TEST_F(ASlot, ReadsItsJournalAsFarAsItCounts) {
+  const SlotOptions usual;
+  const auto read = [&] {
+    JournalFile journal(*disk_, folder_, usual.JournalBytes, usual.Quirks);
+    return std::ssize(journal.Read(usual.JournalBytes));
+  };
+  EXPECT_EQ(read(), kJournalStart);
+  Commit(1, 5);
+  EXPECT_GT(read(), kJournalStart);
+  EXPECT_LT(read(), usual.JournalBytes);
+  Open()->Checkpoint();
+  EXPECT_EQ(read(), kJournalStart) << "the marker is past all records";
+}
 
 TEST_F(ASlot, GivesBackEveryCommitAfterACleanExitAndWithoutOne) {
   EXPECT_EQ(worlds_[0], Open()->Files());

@@ -38,7 +38,7 @@ TEST(PayScale, SpreadsWhatTheBooksBearBySquaresOfOver) {
   const int usual = tuning::kTopWage[kRegional - 1];
   EXPECT_NEAR(PayScale(world, rival).For(100), usual, 1) << "no books yet";
 
-  const tuning::SpendingHabit& even = tuning::kHabits[static_cast<int>(Hand::Even)];
+  const tuning::SpendingHabit& even = tuning::kHabits[static_cast<int>(Spender::Even)];
   Earn(rival, 1000000, 400000);
   EXPECT_EQ(WageBudget(world, rival), 4000 * even.OfWhatIsLeft);
   rival.LastMonth.WrestlerWages = 250000;
@@ -70,10 +70,10 @@ TEST(PayScale, IsTheOwnersHandAndTheSameWheneverAsked) {
     for (int uid = 1; uid <= 300; ++uid) {
       owner.Uid = uid;
       owner.Talent = talent;
-      const Hand hand = HandOf(world, RivalOf(world));
-      EXPECT_EQ(HandOf(world, RivalOf(world)), hand);
+      const Spender hand = SpenderOf(world, RivalOf(world));
+      EXPECT_EQ(SpenderOf(world, RivalOf(world)), hand);
       ++hands[static_cast<int>(hand)];
-      if (hand == Hand::Reckless) reckless += talent == 90 ? -1 : 1;
+      if (hand == Spender::Reckless) reckless += talent == 90 ? -1 : 1;
     }
   for (const int count : hands) EXPECT_GT(count, 60);
   EXPECT_GT(reckless, 40) << "talent knows what it is doing";
@@ -277,19 +277,19 @@ World NearTheEdge(int image, int others) {
   return small.Game("CWA");
 }
 
-Aim RivalsAim(const World& world) {
-  return AimOf(world, Named(world.Promotions(), "XWF"), Rosters(world));
+SizeAim RivalsAim(const World& world) {
+  return SizeAimOf(world, Named(world.Promotions(), "XWF"), Rosters(world));
 }
 
 TEST(RivalAmbition, StaysBelowNearARiseItIsNotReadyFor) {
-  EXPECT_EQ(RivalsAim(NearTheEdge(tuning::kNearARise - 1, 1)), Aim::None);
+  EXPECT_EQ(RivalsAim(NearTheEdge(tuning::kNearARise - 1, 1)), SizeAim::None);
   World near = NearTheEdge(tuning::kNearARise, 1);
-  EXPECT_EQ(RivalsAim(near), Aim::StayBelow);
+  EXPECT_EQ(RivalsAim(near), SizeAim::StayBelow);
 
   RivalOf(near).Money = FairSum(kNational);
   Named(near.Workers(), "Star 0").Over = 60;
   EXPECT_TRUE(IsReadyToRise(near, RivalOf(near), Rosters(near))) << "rich and as good as they are";
-  EXPECT_EQ(RivalsAim(near), Aim::None);
+  EXPECT_EQ(RivalsAim(near), SizeAim::None);
   RivalOf(near).Money -= 1;
   EXPECT_FALSE(IsReadyToRise(near, RivalOf(near), Rosters(near)));
   Named(near.Promotions(), "P0").Size = kCult;
@@ -297,12 +297,12 @@ TEST(RivalAmbition, StaysBelowNearARiseItIsNotReadyFor) {
 }
 
 TEST(RivalAmbition, StaysUpNearAFallWhereItIsAtHome) {
-  EXPECT_EQ(RivalsAim(NearTheEdge(tuning::kNearAFall, 2)), Aim::None) << "its peers are better";
-  EXPECT_EQ(RivalsAim(NearTheEdge(tuning::kNearAFall + 1, 1)), Aim::None);
+  EXPECT_EQ(RivalsAim(NearTheEdge(tuning::kNearAFall, 2)), SizeAim::None) << "its peers are better";
+  EXPECT_EQ(RivalsAim(NearTheEdge(tuning::kNearAFall + 1, 1)), SizeAim::None);
   World home = NearTheEdge(tuning::kNearAFall, 1);
-  EXPECT_EQ(RivalsAim(home), Aim::StayUp);
+  EXPECT_EQ(RivalsAim(home), SizeAim::StayUp);
   RivalOf(home).Size = kBackyard;
-  EXPECT_EQ(RivalsAim(home), Aim::None) << "there is nothing to fall to";
+  EXPECT_EQ(RivalsAim(home), SizeAim::None) << "there is nothing to fall to";
 }
 
 TEST(TalentHunt, IsNotForWhoeverWouldStayBelow) {

@@ -168,6 +168,9 @@ TEST(frmTheEnd, LeavesTheWorldToRead) {
   EXPECT_FALSE(play.Desk.Enabled("cmdnext"));
   EXPECT_FALSE(play.Desk.Enabled("cmduntil"));
   EXPECT_EQ(play.Desk.Tip("cmdnext"), kCareerIsOver);
+  for (const char* said : {kCareerIsOver, "Play On", "Back In Time"})
+    EXPECT_NE(play.Desk.Text("lblfacts").find(said), std::string::npos)
+        << play.Desk.Text("lblfacts");
   play.Desk.Click("cmdotherfed");
   EXPECT_EQ(play.Desk.Tip("cmdbuyout"), kCareerIsOver);
   play.Desk.Click("cmdback");

@@ -160,6 +160,22 @@ TEST_F(SavedGames, GoToAFileAndComeBackFromIt) {
   EXPECT_EQ(home_.Play.Opened().Slot, 3) << "the first slot that is empty";
 }
 
+TEST_F(SavedGames, NameEveryFaultOfAFileBeforeItIsTakenIn) {
+  constexpr int kCrew = 12, kNobody = 999;
+  World spoiled = SmallWorld().Promotion("CWA", kCult).Crew(kCrew).Game("CWA");
+  for (Worker& worker : spoiled.Workers()) worker.Employer = kNobody;
+  const Bytes packed = PackSlot(FilesOf(spoiled), "A game.");
+  home_.Write("spoiled", {reinterpret_cast<const char*>(packed.data()), packed.size()});
+  home_.Desk.ExpectPrompt("Import", kAnyText, "spoiled");
+  home_.Desk.ExpectAsk("Import", kAnyText, false);
+  home_.Desk.Click("cmdimport");
+  const std::string preview = home_.Desk.Boxes().back().Text;
+  for (int record = 1; record <= kCrew; ++record)
+    EXPECT_NE(preview.find("wrestler.dat, record " + std::to_string(record) + " ("),
+              std::string::npos)
+        << record << " in " << preview;
+}
+
 TEST_F(SavedGames, TakeAlongWhatTheyCanGoBackToOnRequest) {
   const auto moments = [this](int slot) {
     home_.Play.OpenSlot(slot);

@@ -92,6 +92,11 @@ class ScriptDesk : public ui::Desk {
   bool Ask(const std::string& title, const std::string& text, ui::Default answer) override;
   std::string Prompt(const std::string& title, const std::string& text,
                      const std::string& offered) override;
+  /// Whatever a handler waits for is stopped at once.
+  bool IsImpatient = false;
+  bool WaitUntil(const std::function<bool()>& isOver) override {
+    return !IsImpatient && ui::Desk::WaitUntil(isOver);
+  }
   void Hear(ui::Sound sound) override { Heard.push_back(sound); }
   void Repaint() override;
 

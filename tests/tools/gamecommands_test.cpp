@@ -125,7 +125,9 @@ TEST_F(GameCommands, RunSumsUpEveryMonth) {
 
 TEST_F(GameCommands, RunStopsWhenTheCareerEnds) {
   for (const auto& [code, said] :
-       {std::pair(3, "The career ended after 0 days, on Sunday, 01 March 2026 (reason 3).\n"),
+       {std::pair(3,
+                  "The career has ended before (reason 3): it is Sunday, 01 March 2026, and no day "
+                  "passes. Load the game to go back in time or to take another chair.\n"),
         {int(kStrangerWaits), "After 3 days it is Wednesday, 04 March 2026.\n"}}) {
     MakeSlot("1", Small().Game("CWA", kGameStart,
                                [code = code](GameInfo& game) { game.EndCode = code; }));

@@ -4,6 +4,7 @@
 #include <iomanip>
 #include <nlohmann/json.hpp>
 
+#include "records/houserules.h"
 #include "records/store/digest.h"
 #include "toolhome.h"
 
@@ -76,6 +77,20 @@ TEST_F(ManyWorlds, SoakInTheSameOrder) {
   const std::string alone = Say("soak H/data --seeds 3 --days 20 --jobs 1");
   EXPECT_EQ(alone, "12 careers, 240 days, 0 ended early, 0 faults.\n");
   EXPECT_EQ(Say("soak H/data --seeds 3 --days 20 --jobs 5"), alone);
+}
+
+TEST_F(ManyWorlds, SayThatTheAutoBookerStandsInForWhoBooksByHand) {
+  New("1", "5");
+  World world = WorldOf(Slot(*Machine, In("s1"), KnownFiles()));
+  HouseRules rules{};
+  rules.On[static_cast<std::size_t>(HouseRule::NoAutoBooker)] = true;
+  world.Of<HouseRules>().Rewrite({rules});
+  Slot::Create(*Machine, In("s1"), FilesOf(world), 1);
+  const std::string run = "run --home H --slot 1 --days 1 --seed 1";
+  EXPECT_NE(Say(run).find("Run it with --shows cancel."), std::string::npos);
+  const std::string copies = Say(run + " --worlds 1");
+  EXPECT_NE(copies.find("it books their shows all the same"), std::string::npos) << copies;
+  EXPECT_EQ(Say(run + " --worlds 1 --shows cancel").find("auto booker"), std::string::npos);
 }
 
 TEST_F(ManyWorlds, SayWhatMakesNoSense) {

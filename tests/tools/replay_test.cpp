@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -74,8 +75,9 @@ void LetMonkey(ScriptDesk& desk, std::uint64_t seed, int clicks) {
 
 /// A game in a slot that records.
 struct Recorded {
-  explicit Recorded(bool goesBack = true, const std::string& chair = "CWA")
-      : Play(CareerWorld(chair)) {
+  explicit Recorded(bool goesBack = true, const std::string& chair = "CWA",
+                    std::unique_ptr<Disk> disk = nullptr)
+      : Play(CareerWorld(chair), std::move(disk)) {
     Play.Desk.IsEasy = true;
     Play.Play.CloseSlot();
     Slot::Create(Play.Play.Disk(), Play.Play.SlotFolder(1),
@@ -134,6 +136,43 @@ TEST(ARecordedCareer, OfManyClicksComesToTheSameBytes) {
   career.Monkey(11, ManyClicks());
   career.Leave();
   ExpectReplayed(PlayAgain(career.Files()));
+}
+
+/// A disk of the machine's whose n-th write fails, once.
+struct FailingDisk {
+  std::unique_ptr<Disk> Machine = RealDisk(Syncs::None);
+  tools::ConfinedDisk* Failing = nullptr;
+  std::unique_ptr<Disk> Make() {
+    auto made = std::make_unique<tools::ConfinedDisk>(
+        *Machine, std::filesystem::temp_directory_path().string(), "");
+    Failing = made.get();
+    return made;
+  }
+  void FailWrite(int n) {
+    Failing->Fails = [n](const std::string&) mutable { return --n == 0; };
+  }
+};
+
+TEST(ARecordedCareer, MeetsTheFaultsOfTheDiskAgain) {
+  FailingDisk disk;
+  Recorded career(true, "CWA", disk.Make());
+  ScriptDesk& desk = career.Play.Desk;
+  for (int n = 1; n <= 12; ++n) {
+    if (desk.TopName() != "frmMainScreen") break;
+    disk.FailWrite(n);
+    desk.Click("cmdnext");
+    disk.Failing->Fails = {};
+  }
+  career.Monkey(5, 10);
+  career.Leave();
+  const auto files = career.Files();
+  const auto found = std::ranges::find(files, kCommandsName, &NewFile::Name);
+  ASSERT_NE(found, files.end());
+  const std::string_view record(reinterpret_cast<const char*>(found->Contents.data()),
+                                found->Contents.size());
+  EXPECT_NE(record.find(kDiskTookBack), record.npos);
+  EXPECT_NE(record.find(kDiskKept), record.npos);
+  ExpectReplayed(PlayAgain(files));
 }
 
 std::string TextIn(const std::string& path) {

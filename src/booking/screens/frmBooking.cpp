@@ -57,7 +57,12 @@ class frmPPVBooking : public SheetScreen {
     FillBox(cmbannouncer, CommentaryStaff(world()));
     FillColour();
     FillExtras();
+    if (game_.ComesUpAgain) ChooseAgain();
     ShowOpened();
+  }
+  void Return() override {
+    SheetScreen::Return();
+    KeepChoices();
   }
 
  protected:
@@ -86,6 +91,7 @@ class frmPPVBooking : public SheetScreen {
       FillColour();
     }
     cmbcolour.SelectKey(team.Colour);
+    KeepChoices();
   }
   std::string TopRow() override {
     const Show* show = ShowOfToday(world());
@@ -120,14 +126,34 @@ class frmPPVBooking : public SheetScreen {
 
   std::function<void(World&)> Beginning() override {
     return [team = Team(), extra = ChosenExtra()](World& world) {
-      world.Session.EventAnnouncer = team.Announcer;
-      world.Session.EventColour = team.Colour;
-      world.Session.EventColourIsWorker = team.ColourIsWorker;
+      SeatIn(world, team);
       StartEvent(world, extra);
     };
   }
 
  private:
+  static void SeatIn(World& world, const CommentaryTeam& team) {
+    world.Session.EventAnnouncer = team.Announcer;
+    world.Session.EventColour = team.Colour;
+    world.Session.EventColourIsWorker = team.ColourIsWorker;
+  }
+
+  /// A sheet that comes up again is another screen than the one on which this was chosen.
+  void KeepChoices() {
+    SeatIn(world(), Team());
+    world().Session.EventExtra = cmbspecial.Key();
+  }
+
+  /// Whoever is not there any more leaves their seat empty.
+  void ChooseAgain() {
+    const SessionWords chosen = world().Session;
+    Seat({chosen.EventAnnouncer, chosen.EventColour, chosen.EventColourIsWorker});
+    cmbspecial.SelectKey(chosen.EventExtra);
+    for (ui::ComboBox* box : {&cmbannouncer, &cmbcolour, &cmbspecial})
+      if (box->Selected() == 0) box->Select(1);
+    cmbspecial_Click();
+  }
+
   template <class People>
   static void FillBox(ui::ComboBox& box, const People& people) {
     box.Clear();
@@ -167,14 +193,22 @@ class frmPPVBooking : public SheetScreen {
 
   void chkcolour_Click() {
     FillColour();
+    SeatChosen();
+  }
+
+  void SeatChosen() {
+    KeepChoices();
     ShowForecast();
   }
 
-  ui::ComboBox cmbannouncer{*this, "cmbannouncer", [this] { ShowForecast(); }};
-  ui::ComboBox cmbcolour{*this, "cmbcolour", [this] { ShowForecast(); }};
+  ui::ComboBox cmbannouncer{*this, "cmbannouncer", &frmPPVBooking::SeatChosen};
+  ui::ComboBox cmbcolour{*this, "cmbcolour", &frmPPVBooking::SeatChosen};
   ui::CheckBox chkcolour{*this, "chkcolour", "Use Wrestler?", false,
                          &frmPPVBooking::chkcolour_Click};
-  ui::ComboBox cmbspecial{*this, "cmbspecial", &frmPPVBooking::cmbspecial_Click};
+  ui::ComboBox cmbspecial{*this, "cmbspecial", [this] {
+                            cmbspecial_Click();
+                            KeepChoices();
+                          }};
   ui::Label lblcost{*this, "lblcost", "Cost : $0"};
 };
 

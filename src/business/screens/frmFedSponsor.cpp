@@ -212,7 +212,7 @@ class frmFedSponsor : public GameScreen {
                           (place == kMainSponsor ? "our main sponsor?" : "a minor sponsor?"),
                       {"they sign", sign},
                       {"the office fills the place by habit", {}},
-                      "That they would say yes."});
+                      sponsor.Name + " agrees"});
   }
 
   int MinorPlace() { return FreeSponsorPlace(world(), player(), kMainSponsor + 1); }

@@ -155,8 +155,8 @@ class frmTvOffer : public GameScreen {
     const auto accept = [name, day = cmbdays.Key()](World& copy) {
       AcceptOffer(copy, *OfferOnTheTable(copy), day, name);
     };
-    game_.OpenWhatIf({"Go on the air with " + offer->From->Name + ", " + cmbdays.Text.Get() + ", " +
-                          std::string(SlotName(offer->Slot)) + "?",
+    game_.OpenWhatIf({"Go on the air with " + offer->From->Name + " (" + cmbdays.Text.Get() + ", " +
+                          std::string(SlotName(offer->Slot)) + ")?",
                       {"you accept for " + Counted(offer->Weeks, "week"), accept},
                       {"you turn it down", DropOffer}});
   }

@@ -191,12 +191,13 @@ class frmTicket : public GameScreen {
   /// By habit the price would be the usual one from the next month on.
   static Answer At(const std::string& words, int dollars) {
     const auto set = [dollars](World& copy) { copy.Player().TicketPrice = dollars; };
-    return {words + Dollars(dollars) + " in any case", set, set};
+    return {words + Dollars(dollars) + ", whatever the office would ask by habit", set, set};
   }
 
   void cmdwhatif_Click() {
     game_.OpenWhatIf({"Ask " + Dollars(hsticket.Value) + " for a ticket?",
-                      At("from today ", hsticket.Value), At("stay at ", player().TicketPrice)});
+                      At("from today a ticket costs ", hsticket.Value),
+                      At("a ticket goes on costing ", player().TicketPrice)});
   }
 
   void cmddoit_Click() {

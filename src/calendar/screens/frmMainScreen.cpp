@@ -234,7 +234,7 @@ class frmMainScreen : public ui::Screen {
     if (WhyNoMeeting(world()).empty())
       today += (today.empty() ? "" : ", ") + std::string("the staff meeting");
     lblfacts.Text = isOver
-                        ? kCareerIsOver
+                        ? WaysAfterTheEnd(game_)
                         : (today.empty() ? "Nothing is due today." : "Due today: " + today + ".") +
                               " " + PeopleText(world()) + done_;
   }

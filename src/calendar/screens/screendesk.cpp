@@ -2,8 +2,10 @@
 
 #include "business/past.h"
 #include "calendar/deskwork.h"
+#include "rivals/endstories.h"
 #include "storylines/feuds.h"
 #include "storylines/titles.h"
+#include "ui/goingback.h"
 #include "ui/pictureof.h"
 
 namespace grapplemont {
@@ -149,6 +151,14 @@ std::vector<ui::Column> DeskCards::WithFaces(const CellColumns<Worker>& table) {
     return worker ? ui::Drawing(PortraitOf(*worker)) : ui::Drawing();
   };
   return columns;
+}
+
+std::string WaysAfterTheEnd(Game& game) {
+  const World& world = game.World();
+  const bool goesBack = WhyNoWayBack(game).empty();
+  return StoryOfTheEnd(world, world.Game().EndCode).Headline + " " + kCareerIsOver +
+         " Play On, behind your name, leads to another chair" +
+         (goesBack ? ", and Back In Time to an earlier morning." : ".");
 }
 
 }  // namespace grapplemont

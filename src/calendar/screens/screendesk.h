@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "storylines/screens/screenpeople.h"
@@ -28,5 +29,8 @@ class DeskCards {
   ui::ListBox lstchampions, lstfeuds, lsthurt, lstunhappy, lstcontracts;
   ui::Chart chtimage, chtmoney;
 };
+
+/// How the career ended and what the player can do now; requires that it has.
+std::string WaysAfterTheEnd(Game& game);
 
 }  // namespace grapplemont

@@ -30,12 +30,12 @@ std::string Others(const std::vector<Chance>& chances, std::size_t from) {
 class frmFutures : public GameScreen {
  public:
   explicit frmFutures(Game& game) : GameScreen(game, "frmFutures", "A Hundred Futures") {
-    lblassumes.Text = HabitsText();
+    lblassumes.Text = HabitsText(world());
     lblassumes.Colour = ui::Tone::Muted;
     for (const int years : kYears) cmbyears.Add(Counted(years, "year"), years);
     cmbyears.Select(1);
     spread_.SetAnswers(kByHabit);
-    lstsizes.SetColumns(ChanceColumns("Your class at last", kByHabit));
+    lstsizes.SetColumns(ChanceColumns("Your class at the end", kByHabit));
     lstchances.SetColumns(ChanceColumns("On the way", kByHabit));
     for (ui::ListBox* list : {&lstsizes, &lstchances, &lsttitles, &lstfeds})
       list->EmptyText = "Play the worlds to see what becomes of them.";
@@ -56,8 +56,7 @@ class frmFutures : public GameScreen {
 
   void Load() override {
     lblfacts.Text =
-        "A hundred copies of the world go on from this morning; you see how far they "
-        "spread.";
+        "A hundred copies of the world go on from this morning, each with luck of its own.";
     ShowButtons();
   }
   /// The world that was looked at may have moved on meanwhile.
@@ -94,12 +93,12 @@ class frmFutures : public GameScreen {
   void ShowButtons() {
     const PlayedWorlds worlds = Worlds();
     const bool any = worlds.Morning && !worlds.Lives.front().empty();
-    EnableUnless(cmdexport, any ? "" : "No world is through yet.");
+    EnableUnless(cmdexport, any ? "" : "No world is finished yet.");
     const std::string why = WhyNoFutures(world());
     EnableUnless(cmdplay, playing_.IsPlaying() ? "The worlds are being played."
-                          : playing_.Played() != nullptr
-                              ? "They have been played: another number of "
-                                "years plays others."
+                          : playing_.IsDone()
+                              ? "They have been played; choose another number of years to play "
+                                "others."
                               : why);
   }
 
@@ -163,8 +162,9 @@ class frmFutures : public GameScreen {
     std::vector<ui::Column> columns{{"Promotion", K::Text, 4},
                                     {"Now", K::Number, 2, "Its class this morning."}};
     for (const Term& size : kSizes)
-      columns.push_back({std::string(size.Says), K::Number, 1, "In so many of a hundred worlds."});
-    columns.push_back({"Gone", K::Number, 1, "In so many of a hundred worlds it is no more."});
+      columns.push_back(
+          {std::string(size.Says), K::Number, 1, "In how many worlds of a hundred it ends there."});
+    columns.push_back({"Gone", K::Number, 1, "In how many worlds of a hundred it has closed."});
     return columns;
   }
 
@@ -192,9 +192,9 @@ class frmFutures : public GameScreen {
                          {"Promotion", K::Text, 1},
                          {"Image", K::Percent, 1},
                          {"Champion now", K::Text, 3},
-                         {"Still", K::Percent, 1, "How often they hold it at last."},
-                         {"Likeliest at last", K::Text, 3},
-                         {"Chance", K::Percent, 1, "How often they hold it at last."},
+                         {"Still", K::Percent, 1, "How often they hold it at the end, too."},
+                         {"Likeliest at the end", K::Text, 3},
+                         {"Chance", K::Percent, 1, "How often the likeliest holds it at the end."},
                          {"Others", K::Text, 4}}};
   ui::ListBox lstfeds{*this, "lstfeds", PromotionColumns()};
   ui::Label lblassumes{*this, "lblassumes"};

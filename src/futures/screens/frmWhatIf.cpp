@@ -19,15 +19,14 @@ class frmWhatIf : public GameScreen {
         asked_(std::move(asked)) {
     lblquestion.Large = true;
     lblfacts.Text =
-        "Three months from this morning, each answer played in the same hundred worlds.";
-    lblassumes.Text = (asked_.Assumes.empty() ? "" : asked_.Assumes + " ") + HabitsText();
+        "The next three months, each answer played in the same hundred copies of the world.";
+    lblassumes.Text = HabitsText(world(), asked_.Assumes);
     lblassumes.Colour = ui::Tone::Muted;
     lblpairs.Colour = ui::Tone::Gold;
     spread_.SetAnswers(kYesAndNo);
     lstsizes.SetColumns(ChanceColumns("Class in three months", kYesAndNo));
     lstchances.SetColumns(ChanceColumns("Until then", kYesAndNo));
     for (ui::ListBox* list : {&lstsizes, &lstchances}) {
-      list->EmptyText = "Worlds are being played.";
       list->Room = 5;
     }
   }
@@ -63,11 +62,14 @@ class frmWhatIf : public GameScreen {
   void ShowWorlds() {
     PlayedWorlds worlds = Worlds();
     const bool any = !worlds.Lives.front().empty();
-    EnableUnless(cmdexport, any ? "" : "No world is through yet.");
+    EnableUnless(cmdexport, any ? "" : "No world is finished yet.");
     FillChances(lstsizes, SizesAtLast(worlds.Lives));
     std::vector<std::vector<Chance>> chances;
     for (const auto& lives : worlds.Lives) chances.push_back(ChancesOf(lives, *worlds.Morning));
     if (any) FillChances(lstchances, chances);
+    for (ui::ListBox* list : {&lstsizes, &lstchances})
+      list->EmptyText =
+          playing_.IsPlaying() ? "Worlds are being played." : "No world was played to its end.";
     lblpairs.Text = any ? PairsText(worlds) : std::string();
     spread_.Show(std::move(worlds));
   }
@@ -77,9 +79,9 @@ class frmWhatIf : public GameScreen {
     const auto of = std::to_string(worlds.Lives.front().size());
     const auto [image, noImage] = PairsWon(worlds.Lives, Measure::Image, *worlds.Morning);
     const auto [money, noMoney] = PairsWon(worlds.Lives, Measure::Money, *worlds.Morning);
-    return "At last Yes has the higher image in " + std::to_string(image) + " of " + of +
-           " pairs of worlds and No in " + std::to_string(noImage) + "; more money Yes in " +
-           std::to_string(money) + " and No in " + std::to_string(noMoney) + ".";
+    return "After three months Yes has the higher image in " + std::to_string(image) + " of " + of +
+           " pairs of worlds, No in " + std::to_string(noImage) + "; Yes has more money in " +
+           std::to_string(money) + ", No in " + std::to_string(noMoney) + ".";
   }
 
   void cmdexport_Click() {

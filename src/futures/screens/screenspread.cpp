@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kLookEvery = 150;  // milliseconds
 constexpr std::chrono::milliseconds kRepaintEvery(100);
+constexpr const char* kNothingPlayed = "Nothing is being played.";
 
 using K = ui::ColumnKind;
 
@@ -66,9 +67,9 @@ PlayingCard::PlayingCard(ui::Screen& screen, Game& game, ui::Handler show)
       }) {
   hsdone.Tells = true;
   hsdone.Enabled = false;
-  hsdone.Tip = "How many worlds are through.";
+  hsdone.Tip = "How many worlds are finished.";
   cmdlook.Plain = true;
-  cmdlook.Tip = "Shows what the worlds that are through come to; it looks by itself, too.";
+  cmdlook.Tip = "Shows the worlds that are finished so far; the page does so by itself, too.";
   lbldone.Fleeting = true;
   cmdstop.Fleeting = true;
   Clear();
@@ -86,7 +87,7 @@ void PlayingCard::Clear() {
   lbldone.Text = "Nothing has been played yet.";
   cmdlook.Every = 0;
   cmdlook.Visible = false;
-  EnableUnless(cmdstop, "Nothing is being played.");
+  EnableUnless(cmdstop, kNothingPlayed);
 }
 
 void PlayingCard::Begin(std::vector<Answer> answers, int days) {
@@ -98,11 +99,22 @@ void PlayingCard::Begin(std::vector<Answer> answers, int days) {
   cmdlook.Visible = true;
   cmdlook.Every = kLookEvery;
   EnableUnless(cmdstop, "");
-  while (!game_.Desk().HasClock() && !futures_->Work().WaitFor(kRepaintEvery)) {
-    Show(futures_->Work().Now());
-    game_.Desk().Repaint();
-  }
+  if (!game_.Desk().HasClock()) Wait();
   Look();
+}
+
+void PlayingCard::Wait() {
+  Jobs& work = futures_->Work();
+  const bool isOver = game_.Desk().WaitUntil([&] {
+    if (work.WaitFor(kRepaintEvery)) return true;
+    Show(work.Now());
+    game_.Desk().Repaint();
+    return false;
+  });
+  if (isOver) return;
+  work.Stop();
+  while (!work.WaitFor(kRepaintEvery)) {
+  }
 }
 
 void PlayingCard::Look() {
@@ -112,7 +124,7 @@ void PlayingCard::Look() {
   shown_ = progress.Done;
   cmdlook.Visible = isPlaying_;
   cmdlook.Every = isPlaying_ ? kLookEvery : 0;
-  EnableUnless(cmdstop, isPlaying_ ? "" : "All that was asked for has been played.");
+  EnableUnless(cmdstop, isPlaying_ ? "" : kNothingPlayed);
   show_();
   Show(progress);
 }
@@ -126,7 +138,7 @@ void PlayingCard::Show(const Progress& progress) {
                      : ProgressText(progress, "worlds");
   if (faults > 0)
     lbldone.Text = lbldone.Text.Get() + "; " + std::to_string(faults) +
-                   " met a fault: " + futures_->Faults().front();
+                   " met a fault and do not count: " + futures_->Faults().front();
 }
 
 std::string ExportWorlds(Game& game, const PlayedWorlds& worlds, const std::string& title,
@@ -135,7 +147,7 @@ std::string ExportWorlds(Game& game, const PlayedWorlds& worlds, const std::stri
   if (file.empty()) return {};
   const std::string csv = FuturesAsCsv(*worlds.Morning, worlds.Days, worlds.Lives, worlds.Answers);
   WriteFile(game.Disk(), file, std::as_bytes(std::span(csv)));
-  return "Wrote what the worlds came to into " + ForScreen(file) + ".";
+  return "Wrote what became of the worlds to " + ForScreen(file) + ".";
 }
 
 ui::Tone ToneOfAnswer(std::size_t answer) {
@@ -146,7 +158,8 @@ std::vector<ui::Column> ChanceColumns(const std::string& what,
                                       const std::vector<std::string>& answers) {
   std::vector<ui::Column> columns{{what, K::Text, 3}};
   for (const std::string& answer : answers)
-    columns.push_back({answer.empty() ? "Chance" : answer, K::Percent, 2, "Of all worlds."});
+    columns.push_back(
+        {answer.empty() ? "Chance" : answer, K::Percent, 2, "In how many worlds of a hundred."});
   return columns;
 }
 
@@ -173,7 +186,7 @@ SpreadCard::SpreadCard(ui::Screen& screen)
     cmbmeasure.Add(std::string(name), static_cast<int>(measure) + 1);
   cmbmeasure.Select(1);
   lblbands.Colour = ui::Tone::Muted;
-  lstspread.EmptyText = "What the worlds come to will stand here.";
+  lstspread.EmptyText = "What becomes of the worlds will stand here.";
   lstspread.Room = 6;
 }
 
@@ -193,7 +206,8 @@ void SpreadCard::SetAnswers(const std::vector<std::string>& answers) {
     columns.push_back({Titled(answer, "high"), K::Number, 2, "One world in ten lies above."});
   }
   if (answers.size() == 2)
-    columns.push_back({"Difference", K::Number, 2, "Of the two in the middle."});
+    columns.push_back(
+        {"Difference", K::Number, 2, "How far the first answer is ahead in the middle world."});
   lstspread.SetColumns(std::move(columns));
 }
 

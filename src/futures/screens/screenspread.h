@@ -29,8 +29,12 @@ class PlayingCard {
   /// nullptr before the first Begin.
   const Futures* Played() const { return futures_.get(); }
   bool IsPlaying() const { return isPlaying_; }
+  /// Everything that was begun has been played to its end.
+  bool IsDone() const { return futures_ && shown_ == hsdone.Max; }
 
  private:
+  /// Until they are through, or the player has had enough.
+  void Wait();
   void Look();
   void Show(const Progress& progress);
 

@@ -6,49 +6,21 @@
 
 namespace grapplemont {
 
-namespace {
-// The years 100 to 9999, the range that the day count's calendar knows.
-constexpr double kFirstDay = -657434, kLastDay = 2958465;
-}  // namespace
-
 FieldOverflow::FieldOverflow(const void* field, long long value, int bits)
     : std::range_error("The value " + std::to_string(value) + " does not fit a field of " +
                        std::to_string(bits) + " bits."),
       field_(field),
       value_(value) {}
 
-Date::operator Day() const {
-  const double days = std::floor(Raw());
-  if (!(days >= kFirstDay && days <= kLastDay)) return kDayZero;
-  return kDayZero + std::chrono::days{static_cast<int>(days)};
-}
-
 Date& Date::operator=(Day day) {
   SetRaw(static_cast<double>((day - kDayZero).count()));
   return *this;
-}
-
-double Date::Raw() const {
-  std::uint64_t bits = 0;
-  for (int i = 0; i < 8; ++i) bits |= std::uint64_t{bytes_[i]} << (8 * i);
-  return std::bit_cast<double>(bits);
 }
 
 void Date::SetRaw(double days) {
   const auto bits = std::bit_cast<std::uint64_t>(days);
   for (int i = 0; i < 8; ++i) bytes_[i] = static_cast<std::uint8_t>(bits >> (8 * i));
 }
-
-namespace detail {
-std::string_view Trimmed(std::string_view text) {
-  // Most of a long field is blank: it is walked over by many letters at once.
-  constexpr std::string_view kBlanks = "                ";
-  while (text.ends_with(kBlanks)) text.remove_suffix(kBlanks.size());
-  while (text.ends_with(' ')) text.remove_suffix(1);
-  while (text.starts_with(' ')) text.remove_prefix(1);
-  return text;
-}
-}  // namespace detail
 
 namespace {
 

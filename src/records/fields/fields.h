@@ -157,9 +157,19 @@ class Date {
   Date() = default;
   explicit Date(Day day) { *this = day; }
   /// The calendar day; day zero for a number that is invalid or lies outside the years 100 to 9999.
-  operator Day() const;
+  operator Day() const {
+    constexpr double kFirst = -657434, kBehindLast = 2958466;
+    const double raw = Raw();
+    if (!(raw >= kFirst && raw < kBehindLast)) return kDayZero;
+    const int cut = static_cast<int>(raw);
+    return kDayZero + std::chrono::days{cut - (cut > raw)};
+  }
   Date& operator=(Day day);
-  double Raw() const;
+  double Raw() const {
+    std::uint64_t bits = 0;
+    for (int i = 0; i < 8; ++i) bits |= std::uint64_t{bytes_[i]} << (8 * i);
+    return std::bit_cast<double>(bits);
+  }
   void SetRaw(double days);
   bool IsNone() const { return Day(*this) == kDayZero; }
 
@@ -169,7 +179,19 @@ class Date {
 
 namespace detail {
 /// The text between the first and the last character that is not a blank.
-std::string_view Trimmed(std::string_view text);
+inline std::string_view Trimmed(std::string_view text) {
+  // Most of a padded field is blanks: eight of them at a time.
+  constexpr char kBlanks[] = "        ";
+  std::size_t from = 0, to = text.size();
+  while (to >= 8 && std::memcmp(text.data() + to - 8, kBlanks, 8) == 0) to -= 8;
+  while (to > 0 && text[to - 1] == ' ') --to;
+  while (from < to && text[from] == ' ') ++from;
+  return text.substr(from, to - from);
+}
+/// Whether two texts begin with different letters and are told apart by that alone, untrimmed.
+inline bool BeginApart(char a, char b) {
+  return a != b && a != ' ' && b != ' ';
+}
 }  // namespace detail
 
 /// N bytes of Windows-1252 text, padded with blanks. Cuts what is longer; reads and compares
@@ -190,12 +212,16 @@ class Text {
     return *this;
   }
   friend bool operator==(const Text& a, std::string_view b) {
+    if (!b.empty() && detail::BeginApart(a.First(), b.front())) return false;
     return a.View() == detail::Trimmed(b);
   }
   template <int M>
   friend bool operator==(const Text& a, const Text<M>& b) {
+    if (detail::BeginApart(a.First(), b.First())) return false;
     return a.View() == b.View();
   }
+  /// As the file has it, untrimmed.
+  char First() const { return bytes_[0]; }
   static constexpr int kWidth = N;
 
  private:

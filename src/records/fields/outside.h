@@ -1,11 +1,11 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <deque>
 #include <functional>
 #include <initializer_list>
 #include <memory>
-#include <random>
 
 #include "records/fields/fields.h"
 
@@ -25,14 +25,22 @@ class Draws {
   virtual int Draw(int n) = 0;
 };
 
-/// The same numbers on every machine for the same seed.
+/// The same numbers on every machine for the same seed: those of std::mt19937_64. That one works
+/// out 624 words before its first number; many streams give two or three and are dropped, so here
+/// each number works out what it alone needs.
 class SeededDraws : public Draws {
  public:
-  explicit SeededDraws(std::uint64_t seed) : engine_(seed) {}
+  explicit SeededDraws(std::uint64_t seed) { words_[0] = seed; }
+  SeededDraws(const SeededDraws& other) : Draws() { *this = other; }
+  SeededDraws& operator=(const SeededDraws& other);
   int Draw(int n) override;
 
  private:
-  std::mt19937_64 engine_;
+  static constexpr std::size_t kWords = 312, kAhead = 156;
+  std::uint64_t Next();
+
+  std::size_t seeded_ = 1, at_ = 0;
+  std::array<std::uint64_t, kWords> words_;  // the first seeded_ have a value
 };
 
 /// A seed from the operating system, for a player.

@@ -37,7 +37,10 @@ std::optional<FileChange> ChangeBetween(const std::string& name, const Bytes* be
                                         const Bytes* after, bool bare) {
   if (!before && !after) return std::nullopt;
   FileChange change{name, before != nullptr, after != nullptr, 0, {}, {}};
-  if (before) change.LengthBefore = std::ssize(*before);
+  if (before) {
+    change.LengthBefore = std::ssize(*before);
+    change.Before = *before;
+  }
   if (after) {
     change.After = *after;
     change.Ranges = ChangedRanges(before ? ByteSpan(*before) : ByteSpan(), change.After, bare);

@@ -49,6 +49,7 @@ struct FileChange {
   std::int64_t LengthBefore = 0;
   ByteSpan After;                    // the whole contents; empty where it does not exist
   std::vector<JournalRange> Ranges;  // of After: all that is not what it was
+  ByteSpan Before = {};  // the whole contents until now; empty where only the disk has them
 };
 
 /// Nothing where both are the same. nullptr stands for no file.

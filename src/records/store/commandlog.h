@@ -22,6 +22,9 @@ inline constexpr std::int64_t kMostBeginning = 8 << 20;
 inline constexpr std::string_view kCommandsFull = "full", kCommandsOutside = "outside";
 /// Where a game is given another name while nobody plays it ("renamed NAME").
 inline constexpr std::string_view kCommandRenamed = "renamed";
+/// Behind the commands of a step that the disk would not take, and of one that was kept before the
+/// disk failed: whoever plays them again meets the same.
+inline constexpr std::string_view kDiskTookBack = "disk taken-back", kDiskKept = "disk kept";
 
 /// The line that ends a record at a world of this digest.
 std::string EndOfCommands(std::uint64_t digest, std::string_view who);

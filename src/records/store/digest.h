@@ -46,6 +46,7 @@ class WorldDigest {
   void Set(const std::string& name, ByteSpan contents) {
     files_[name] = FileDigest(contents, form_);
   }
+  void Set(const std::string& name, FileDigest digest) { files_[name] = std::move(digest); }
   void Set(std::string name, std::uint64_t value) { files_[std::move(name)] = FileDigest(value); }
   /// The files after these changes; gives what they were before, for PutBack. Requires
   /// DigestForm::Blocks and that the files were Set with their contents.

@@ -181,29 +181,41 @@ Bytes PackRecord(const JournalRecord& record) {
   return Sealed(std::move(out));
 }
 
+std::optional<RecordHead> HeadOfRecord(ByteSpan bytes) {
+  if (bytes.size() < kRecordHeader) return std::nullopt;
+  Unpacker in(bytes);
+  const auto form = FormOf(in, kRecordMagic);
+  if (!form) return std::nullopt;
+  return RecordHead{*form,
+                    in.Get<std::uint64_t>(),
+                    in.Get<std::uint64_t>(),
+                    in.Get<std::uint64_t>(),
+                    in.Get<std::int64_t>(),
+                    in.Get<std::uint64_t>(),
+                    in.Get<std::uint32_t>()};
+}
+
 std::optional<JournalEntry> UnpackRecord(ByteSpan journal, std::int64_t offset,
                                          const std::vector<KnownFile>& known,
                                          const JournalQuirks& quirks) {
   if (offset < 0 || offset + kJournalBlock > std::ssize(journal)) return std::nullopt;
   const ByteSpan rest = journal.subspan(static_cast<std::size_t>(offset));
-  Unpacker header(rest);
-  const auto form = FormOf(header, kRecordMagic);
-  if (!form) return std::nullopt;
-  const auto checksum = header.Get<std::uint64_t>();
+  const auto head = HeadOfRecord(rest);
+  if (!head) return std::nullopt;
   JournalEntry entry;
-  entry.Record.Form = *form;
-  entry.Record.Sequence = header.Get<std::uint64_t>();
-  entry.Record.World = header.Get<std::uint64_t>();
-  entry.Size = header.Get<std::int64_t>();
-  entry.Record.Digest = header.Get<std::uint64_t>();
-  const auto files = header.Get<std::uint32_t>();
+  entry.Record.Form = head->Form;
+  entry.Record.Sequence = head->Sequence;
+  entry.Record.World = head->World;
+  entry.Record.Digest = head->Digest;
+  entry.Size = head->Size;
   if (entry.Size < kJournalBlock || entry.Size > std::ssize(rest) ||
       entry.Size % kJournalBlock != 0)
     return std::nullopt;
   const ByteSpan whole = rest.first(static_cast<std::size_t>(entry.Size));
-  if (!quirks.NoChecksum && Checksum(whole.subspan(kChecked)) != checksum) return std::nullopt;
+  if (!quirks.NoChecksum && Checksum(whole.subspan(kChecked)) != head->Checksum)
+    return std::nullopt;
   Unpacker body(whole.subspan(kRecordHeader));
-  for (std::uint32_t i = 0; i < files && body.Whole(); ++i) {
+  for (std::uint32_t i = 0; i < head->Files && body.Whole(); ++i) {
     entry.Record.Files.push_back(UnpackFile(body));
     if (!InBounds(entry.Record.Files.back(), known)) return std::nullopt;
   }

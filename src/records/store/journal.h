@@ -100,6 +100,16 @@ struct JournalEntry {
   JournalRecord Record;   // its ranges point into the journal's bytes
   std::int64_t Size = 0;  // padded
 };
+/// What a record says of itself before its files, however much of it is whole.
+struct RecordHead {
+  DigestForm Form;
+  std::uint64_t Checksum, Sequence, World;
+  std::int64_t Size;  // padded
+  std::uint64_t Digest;
+  std::uint32_t Files;
+};
+/// The head of the record that begins here; nothing where none does.
+std::optional<RecordHead> HeadOfRecord(ByteSpan bytes);
 /// The record that begins at `offset`. Nothing where none is whole, or where it would
 /// touch anything but the known files within their limits.
 std::optional<JournalEntry> UnpackRecord(ByteSpan journal, std::int64_t offset,

@@ -29,12 +29,58 @@ void JournalFile::Drop() {
 
 Bytes JournalFile::Read(std::int64_t limit) {
   const Disk::Kind kind = disk_.Look(path_);
-  if (kind == Disk::Kind::Nothing) return {};
+  if (kind == Disk::Kind::Nothing) {
+    size_ = 0;
+    return {};
+  }
   if (kind != Disk::Kind::File) throw DiskError(path_, "open", "it is not a plain file");
   const Disk::Handle handle = Handle();
-  Bytes bytes(static_cast<std::size_t>(std::min(size_, limit)));
+  const std::int64_t size = std::min(size_, limit);
+  Bytes bytes(static_cast<std::size_t>(quirks_.NoSequence ? size : UsedOf(handle, size)));
   if (!bytes.empty()) disk_.ReadAt(handle, 0, bytes);
   return bytes;
+}
+
+namespace {
+
+/// The marker that the journal goes by; nothing where there is none, or where there are those of
+/// two worlds.
+std::optional<JournalMarker> MarkerOf(ByteSpan journal) {
+  std::optional<JournalMarker> found;
+  for (const std::int64_t at : {std::int64_t{0}, kJournalBlock}) {
+    if (std::ssize(journal) <= at) break;
+    const auto marker = UnpackMarker(journal.subspan(static_cast<std::size_t>(at)));
+    if (!marker) continue;
+    if (found && found->World != marker->World) return std::nullopt;
+    if (!found || found->Sequence < marker->Sequence) found = marker;
+  }
+  return found;
+}
+
+}  // namespace
+
+/// Up to the end of the last record that may count. Those that the marker is past never do, but
+/// they fill the journal from earlier rounds.
+std::int64_t JournalFile::UsedOf(Disk::Handle file, std::int64_t size) {
+  constexpr std::int64_t kStretch = 64 * kJournalBlock;
+  Bytes stretch(static_cast<std::size_t>(std::min(size, kStretch)));
+  std::optional<JournalMarker> marker;
+  std::int64_t used = std::min(size, kJournalStart);
+  for (std::int64_t from = 0; from < size; from += kStretch) {
+    const auto part =
+        std::span(stretch).first(static_cast<std::size_t>(std::min(kStretch, size - from)));
+    disk_.ReadAt(file, from, part);
+    if (from == 0) marker = MarkerOf(part);
+    std::int64_t at = from == 0 ? kJournalStart : 0;
+    for (; at + kJournalBlock <= std::ssize(part); at += kJournalBlock) {
+      const auto head = HeadOfRecord(part.subspan(static_cast<std::size_t>(at)));
+      if (!head) continue;
+      if (marker && head->World == marker->World && head->Sequence <= marker->Sequence) continue;
+      const std::int64_t room = size - from - at;
+      used = std::max(used, from + at + std::clamp(head->Size, kJournalBlock, room));
+    }
+  }
+  return used;
 }
 
 void JournalFile::Continue(std::int64_t end, int markerBlock) {
@@ -195,11 +241,10 @@ class ChainReader {
   /// later one can stand behind its end only when the one between was once on disk, whole.
   void LookBehind() {
     for (std::int64_t at = chain_.End; at < std::ssize(journal_); at += kJournalBlock) {
-      auto entry = At(at);
-      if (!entry || entry->Record.World != chain_.Marker.World ||
-          entry->Record.Sequence <= chain_.Last())
-        continue;
-      chain_.Behind.push_back(std::move(entry->Record));
+      // The head tells it without a checksum of the whole.
+      const auto head = HeadOfRecord(journal_.subspan(static_cast<std::size_t>(at)));
+      if (!head || head->World != chain_.Marker.World || head->Sequence <= chain_.Last()) continue;
+      if (auto entry = At(at)) chain_.Behind.push_back(std::move(entry->Record));
     }
     std::sort(chain_.Behind.begin(), chain_.Behind.end(),
               [](auto& a, auto& b) { return a.Sequence < b.Sequence; });

@@ -16,8 +16,11 @@ class JournalFile {
   JournalFile(const JournalFile&) = delete;
   JournalFile& operator=(const JournalFile&) = delete;
 
-  /// The whole file, but not more than a journal can ever need; empty where there is none.
+  /// The file up to its last record that may count, but not more than a journal can ever need;
+  /// empty where there is none.
   Bytes Read(std::int64_t limit);
+  /// How long the file is, once it has been read.
+  std::int64_t Size() const { return size_; }
   /// Tells where the chain that was read ends and which block its marker stands in.
   void Continue(std::int64_t end, int markerBlock);
   /// Replaces the file by a fresh one with this marker and these records, in one step, all of it on
@@ -38,6 +41,7 @@ class JournalFile {
 
  private:
   Disk::Handle Handle();
+  std::int64_t UsedOf(Disk::Handle file, std::int64_t size);
   void Grow(std::int64_t size);
   void Sync();
 

@@ -54,8 +54,8 @@ PlayedSlot::PlayedSlot(Disk& disk, std::string folder, std::vector<KnownFile> kn
       mornings_(Stored(slot_.Files(), kMorningsName)),
       commands_(Stored(slot_.Files(), kCommandsName)),
       quirks_(quirks) {
-  for (const auto& [name, contents] : slot_.Files())
-    if (!IsOwn(name)) digest_.Set(name, contents);
+  for (const auto& [name, digest] : slot_.Digest().Files())
+    if (!IsOwn(name)) digest_.Set(name, digest);
   if (const auto game = slot_.Files().find(std::string(GameFile())); game != slot_.Files().end())
     today_ = DayIn(game->second);
   if (mornings_.WasSpoiled()) remarks_.push_back(kMomentsSpoiled);
@@ -100,20 +100,27 @@ std::optional<WayBack> PlayedSlot::WayBefore(const std::vector<FileChange>& chan
       way.push_back({change.Name, change.ExistsBefore, {}});
       continue;
     }
+    const KnownFile* known = FindFile(known_, change.Name);
+    const auto back = [&](const ReadBefore& read) {
+      way.push_back(BackFrom(change, known ? known->RecordBytes : 1, read));
+    };
+    if (std::ssize(change.Before) == change.LengthBefore) {
+      back([&](std::int64_t offset, std::span<std::byte> buffer) {
+        std::memcpy(buffer.data(), change.Before.data() + offset, buffer.size());
+      });
+      continue;
+    }
     const OpenedFile file(disk_, folder_ + "/" + change.Name, false);
     if (disk_.Size(file) != change.LengthBefore) return std::nullopt;
-    const KnownFile* known = FindFile(known_, change.Name);
-    way.push_back(BackFrom(change, known ? known->RecordBytes : 1,
-                           [&](std::int64_t offset, std::span<std::byte> buffer) {
-                             disk_.ReadAt(file, offset, buffer);
-                           }));
+    back([&](std::int64_t offset, std::span<std::byte> buffer) {
+      disk_.ReadAt(file, offset, buffer);
+    });
   }
   return way;
 }
 
 std::optional<WayBack> PlayedSlot::Before(const std::vector<FileChange>& changes,
                                           const PlayedStep& step) try {
-  slot_.RequireInPlace();
   // After a fault the record files are what the journal says only once they have been mended. And
   // of a journal that leads to an earlier day than files have, only the last road left may tell.
   if (unsure_ || step.Is == PlayedStep::Left) {
@@ -122,6 +129,11 @@ std::optional<WayBack> PlayedSlot::Before(const std::vector<FileChange>& changes
   }
   return mornings_.Keeps() ? WayBefore(changes) : std::nullopt;
 } catch (const DiskError& fault) {
+  try {
+    slot_.RequireInPlace();
+  } catch (const DiskError& gone) {  // says more than the file that could not be read
+    throw DiskError(gone, kTakenBack);
+  }
   throw DiskError(fault, kTakenBack);
 }
 

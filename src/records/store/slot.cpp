@@ -93,7 +93,8 @@ void Slot::Insides::Open(Damage damage) {
   if (Disk.Look(Folder) != Disk::Kind::Folder)
     throw DiskError(Folder, "open", "it is not a plain folder");
   LookOver();
-  const StoredSlot stored = ReadStoredSlot(Disk, Folder, Known, ReadJournal());
+  Bytes journal = ReadJournal();
+  StoredSlot stored = ReadStoredSlot(Disk, Folder, Known, std::move(journal), Journal.Size());
   SlotFinding finding = Examine(stored, Known, Options);
   World = finding.World;
   if (!finding.Damage.empty()) {
@@ -172,9 +173,9 @@ void Slot::Insides::Adopt(const StoredSlot& stored, SlotFinding finding) {
     Disk.Rename(Path(kJournalName), FreeName(Disk, Path(kOtherJournalName)));
     Disk.SyncFolder(Folder);
   }
-  Remarks.push_back(hasJournal ? "The journal that lay in this folder cannot be known to be its "
-                                 "own. It was left aside."
-                               : "This folder had no journal; it has a new one now.");
+  Remarks.emplace_back(hasJournal ? "The journal that lay in this folder cannot be known to be its "
+                                    "own. It was left aside."
+                                  : "This folder had no journal; it has a new one now.");
   finding.Chain.Marker = {World, 0, finding.Digest.Value()};
   Journal.Replace(finding.Chain.Marker, {});
   GoOn(std::move(finding), stored);
@@ -322,16 +323,6 @@ void Slot::Create(Disk& disk, const std::string& folder, const std::vector<NewFi
   ReplaceSlot(disk, folder, files, worldId, options.JournalBytes, options.Quirks);
 }
 
-std::optional<Bytes> Slot::Peek(Disk& disk, const std::string& folder,
-                                const std::vector<KnownFile>& known, const std::string& name) {
-  const std::string standing = StandingFolder(disk, folder);
-  if (standing.empty()) return std::nullopt;
-  SlotFinding found = ExamineSlot(disk, standing, known);
-  const auto file = found.Files.find(name);
-  if (file == found.Files.end()) return std::nullopt;
-  return std::move(file->second);
-}
-
 Slot::Slot(Disk& disk, std::string folder, std::vector<KnownFile> known, Damage damage,
            const SlotOptions& options) {
   // No lock is left beside a slot that is not there.
@@ -345,6 +336,10 @@ Slot::~Slot() = default;
 
 const std::map<std::string, Bytes>& Slot::Files() const {
   return insides_->Files;
+}
+
+const WorldDigest& Slot::Digest() const {
+  return insides_->Digest;
 }
 
 void Slot::Forget() {

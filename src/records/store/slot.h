@@ -77,6 +77,8 @@ class Slot {
 
   /// The files as they stood when the slot was opened (after replay); absent ones are left out.
   const std::map<std::string, Bytes>& Files() const;
+  /// The digest of the files as of the last commit.
+  const WorldDigest& Digest() const;
   /// Frees what Files() holds once it has been taken over.
   void Forget();
   /// What was met on opening and left aside or mended (a journal of another world, unknown files,

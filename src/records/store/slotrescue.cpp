@@ -71,8 +71,7 @@ bool IsLater(const Files& files, const Files& than) {
 
 class Examination {
  public:
-  Examination(const StoredSlot& stored, const std::vector<KnownFile>& known,
-              const SlotOptions& options)
+  Examination(StoredSlot& stored, const std::vector<KnownFile>& known, const SlotOptions& options)
       : stored_(stored), known_(known), options_(options) {}
 
   SlotFinding Find() {
@@ -81,7 +80,10 @@ class Examination {
     if (stored_.HasId)
       out_.Chain = ReadChain(stored_.Journal, world, known_, ~std::uint64_t{0}, options_.Quirks);
     const RecordSpan records = out_.Chain.Records;
-    Take(Applied(stored_.Files, records), records);
+    if (records.empty())
+      TakeStored();
+    else
+      Take(Applied(stored_.Files, records), records);
     LookForTooLong();
     if (stored_.HasId) LookForDamage();
     if (options_.Quirks.TrustTheChain && out_.Chain.Found == JournalChain::State::Sound)
@@ -89,6 +91,9 @@ class Examination {
     if (!out_.Damage.empty()) Choose();
     out_.World = world.value_or(out_.Chain.Marker.World);
     if (out_.World == 0) out_.World = out_.Digest.Value();
+    // Who mends a slot compares both.
+    if (isStored_ && out_.Damage.empty()) out_.Files = std::move(stored_.Files);
+    if (isStored_ && !out_.Damage.empty()) out_.Files = stored_.Files;
     return std::move(out_);
   }
 
@@ -101,20 +106,30 @@ class Examination {
     out_.Files = std::move(files);
     out_.Digest = DigestOf(out_.Files);
     applied_ = records;
+    isStored_ = false;
   }
+
+  /// The files as they are, which are not copied for it.
+  void TakeStored() {
+    out_.Files.clear();
+    out_.Digest = DigestOf(stored_.Files);
+    applied_ = {};
+    isStored_ = true;
+  }
+  const Files& Found() const { return isStored_ ? stored_.Files : out_.Files; }
 
   static bool IsWorld(const Files& files, std::uint64_t digest, DigestForm form) {
     return DigestOf(files, form).Value() == digest;
   }
 
   /// The files that are found, in the form of the seal.
-  WorldDigest AsSealed() const { return DigestOf(out_.Files, stored_.Seal->Files.Form()); }
+  WorldDigest AsSealed() const { return DigestOf(Found(), stored_.Seal->Files.Form()); }
 
   /// Whether what is found is what the chain leads to.
   bool IsOfChain() const {
     const JournalChain& chain = out_.Chain;
     return chain.Form() == out_.Digest.Form() ? out_.Digest.Value() == chain.Digest()
-                                              : IsWorld(out_.Files, chain.Digest(), chain.Form());
+                                              : IsWorld(Found(), chain.Digest(), chain.Form());
   }
 
   bool IsFleeting(const std::string& name) const {
@@ -131,7 +146,7 @@ class Examination {
       if (IsFleeting(name)) continue;
       const bool isRewritten = written.contains(name);
       Note(name + " is " + std::to_string(size) + " bytes long, more than its most of " +
-           std::to_string(out_.Files.at(name).size()) + "; what is too much goes.");
+           std::to_string(Found().at(name).size()) + "; what is too much goes.");
       hasSurplus_ |= !isRewritten;
     }
   }
@@ -147,9 +162,9 @@ class Examination {
                                    : "Its journal cannot be read: it is another kind of file.");
     const std::int64_t reserved =
         chain.Marker.Reserved > 0 ? chain.Marker.Reserved : options_.JournalBytes;
-    isCut_ = chain.MarkerRead && std::ssize(stored_.Journal) < reserved;
+    isCut_ = chain.MarkerRead && stored_.JournalSize < reserved;
     if (isCut_)
-      Note("Its journal was cut short: " + std::to_string(stored_.Journal.size()) + " of " +
+      Note("Its journal was cut short: " + std::to_string(stored_.JournalSize) + " of " +
            std::to_string(reserved) + " bytes are left.");
     if (chain.Found == State::Sound) LookForStrangers();
   }
@@ -158,11 +173,11 @@ class Examination {
   void LookForStrangers() {
     const JournalChain& chain = out_.Chain;
     const auto& seal = stored_.Seal;
-    isBehind_ = IsLater(stored_.Files, out_.Files);
+    isBehind_ = IsLater(stored_.Files, Found());
     if (isBehind_ ||
         (seal && seal->Sequence > chain.Last() && seal->Files.Value() != chain.Digest()))
       return Note("Its files" + DayOf(stored_.Files) + " hold more than its journal" +
-                  DayOf(out_.Files) + ".");
+                  DayOf(Found()) + ".");
     if (!chain.Vouches() || IsOfChain()) return;
     if (seal && seal->Sequence == chain.Last()) {
       const auto strangers = AsSealed().Differing(seal->Files);
@@ -186,7 +201,7 @@ class Examination {
     if (seal && IsWorld(stored_.Files, seal->Files.Value(), seal->Files.Form()) &&
         (!proven || seal->Sequence >= *proven)) {
       proven = seal->Sequence;
-      Take(stored_.Files, {});
+      TakeStored();
     }
     if (!run.empty() && (!proven || last > *proven)) {
       Files behind = Applied(stored_.Files, run);
@@ -195,7 +210,7 @@ class Examination {
         Take(std::move(behind), run);
       }
     }
-    if (!proven) Take(stored_.Files, {});
+    if (!proven) TakeStored();
     // What a journal held that was cut short nobody knows, except for the seal.
     const bool mayBeOld = isCut_ && !applied_.empty() && !(seal && seal->Sequence == proven);
     const bool losesSteps = proven ? *proven < out_.Newest || mayBeOld : hasRecords;
@@ -214,7 +229,7 @@ class Examination {
   }
 
   void Conclude(bool proven, bool losesSteps, const std::string& spoiled) {
-    const std::string day = DayOf(out_.Files);
+    const std::string day = DayOf(Found());
     if (proven && !losesSteps) return Note("Every step could be found again" + day + ".");
     if (proven)
       return Note("The game goes on from the last state that is whole" + day +
@@ -225,10 +240,11 @@ class Examination {
     Note("Have the world checked with: grapplemont-world check FOLDER.");
   }
 
-  const StoredSlot& stored_;
+  StoredSlot& stored_;
   const std::vector<KnownFile>& known_;
   const SlotOptions& options_;
   SlotFinding out_;
+  bool isStored_ = false;    // the stored files are what is found, and out_.Files is empty
   RecordSpan applied_;       // to the stored files, for out_.Files
   bool isCut_ = false;       // the journal is shorter than it was made
   bool isBehind_ = false;    // the files are of a later day than the journal
@@ -246,13 +262,14 @@ void RefuseNewer(const std::string& folder, ByteSpan journal) {
 
 }  // namespace
 
-SlotFinding Examine(const StoredSlot& stored, const std::vector<KnownFile>& known,
+SlotFinding Examine(StoredSlot& stored, const std::vector<KnownFile>& known,
                     const SlotOptions& options) {
   return Examination(stored, known, options).Find();
 }
 
 StoredSlot ReadStoredSlot(Disk& disk, const std::string& folder,
-                          const std::vector<KnownFile>& known, Bytes journal) {
+                          const std::vector<KnownFile>& known, Bytes journal,
+                          std::int64_t journalSize) {
   RefuseNewer(folder, journal);
   StoredSlot stored;
   for (const KnownFile& each : known) {
@@ -281,6 +298,7 @@ StoredSlot ReadStoredSlot(Disk& disk, const std::string& folder,
   stored.Id = ReadWorldId(disk, folder);
   if (stored.Seal && stored.Id && stored.Seal->World != *stored.Id) stored.Seal.reset();
   stored.Journal = std::move(journal);
+  stored.JournalSize = journalSize;
   return stored;
 }
 
@@ -295,11 +313,21 @@ SlotFinding ExamineSlot(Disk& disk, const std::string& folder,
                         const std::vector<KnownFile>& known) {
   const SlotOptions usual;
   JournalFile journal(disk, folder, usual.JournalBytes, usual.Quirks);
-  const StoredSlot stored =
-      ReadStoredSlot(disk, folder, known, journal.Read(LongestJournal(known, usual.JournalBytes)));
+  Bytes read = journal.Read(LongestJournal(known, usual.JournalBytes));
+  StoredSlot stored = ReadStoredSlot(disk, folder, known, std::move(read), journal.Size());
   SlotFinding found = Examine(stored, known, usual);
   found.Chain = {};  // it points into what is gone now
   return found;
+}
+
+std::optional<Bytes> Slot::Peek(Disk& disk, const std::string& folder,
+                                const std::vector<KnownFile>& known, const std::string& name) {
+  const std::string standing = StandingFolder(disk, folder);
+  if (standing.empty()) return std::nullopt;
+  SlotFinding found = ExamineSlot(disk, standing, known);
+  const auto file = found.Files.find(name);
+  if (file == found.Files.end()) return std::nullopt;
+  return std::move(file->second);
 }
 
 FilePatch PatchOf(const FileChange& change) {

@@ -19,13 +19,15 @@ struct StoredSlot {
   bool HasId = false;               // or seal and journal agree on one; else no slot yet
   std::optional<std::uint64_t> Id;  // nothing where the id is missing or spoiled
   std::optional<WorldSeal> Seal;    // of this world
-  Bytes Journal;
+  Bytes Journal;                    // up to what counts in it
+  std::int64_t JournalSize = 0;     // of the file
 };
 
-/// `journal` is what stands in its place; of a folder without an id it does not count. Throws
-/// DiskError.
+/// `journal` is what stands in its place, in a file of `journalSize` bytes; of a folder without an
+/// id it does not count. Throws DiskError.
 StoredSlot ReadStoredSlot(Disk& disk, const std::string& folder,
-                          const std::vector<KnownFile>& known, Bytes journal);
+                          const std::vector<KnownFile>& known, Bytes journal,
+                          std::int64_t journalSize);
 
 /// The world that a slot comes to.
 struct SlotFinding {
@@ -43,8 +45,9 @@ struct SlotFinding {
 /// Where journal and files do not go together, the newest world that can be proven whole: the files
 /// as they are by their seal, or the files with the records before a gap or behind one by the
 /// digest of the last. Where none can be proven, the files as they are: whatever is applied to
-/// files that are not known mixes days.
-SlotFinding Examine(const StoredSlot& stored, const std::vector<KnownFile>& known,
+/// files that are not known mixes days. Where the stored files are found in order as they are, the
+/// finding takes them over.
+SlotFinding Examine(StoredSlot& stored, const std::vector<KnownFile>& known,
                     const SlotOptions& options);
 
 /// More than the longest record of these files and a usual journal before it.

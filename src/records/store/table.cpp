@@ -9,8 +9,8 @@ TableFull::TableFull(const RecordLayout& layout)
                          std::to_string(layout.Limit) + " records.") {}
 
 std::optional<FileChange> Table::Difference() const {
-  FileChange change{std::string(File()), committedExists_, exists_,
-                    CommittedLength(),   Contents(),       ChangedSince()};
+  FileChange change{std::string(File()), committedExists_, exists_, CommittedLength(),
+                    Contents(),          ChangedSince(),   image_};
   if (exists_ == committedExists_ && std::ssize(change.After) == change.LengthBefore &&
       change.Ranges.empty())
     return std::nullopt;

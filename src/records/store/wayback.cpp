@@ -55,6 +55,11 @@ void PutNumber(Bytes& out, std::uint64_t number) {
 }
 
 std::optional<std::uint64_t> TakeNumber(ByteSpan& in) {
+  if (!in.empty() && in.front() < std::byte{0x80}) {  // most are small
+    const auto small = std::to_integer<std::uint64_t>(in.front());
+    in = in.subspan(1);
+    return small;
+  }
   std::uint64_t number = 0;
   for (unsigned shift = 0; shift < 64 && !in.empty(); shift += 7) {
     const auto next = std::to_integer<std::uint64_t>(in.front());
@@ -86,8 +91,10 @@ std::optional<Bytes> BytesBack::Of(ByteSpan newer, std::int64_t most) const {
     if (piece.From > newer.size() || piece.Taken > newer.size() - piece.From) return std::nullopt;
   // A sum of many takings could pass every bound before it is compared with one.
   std::uint64_t length = own_.size();
-  for (const Piece& piece : pieces_)
-    if ((length += piece.Taken) > static_cast<std::uint64_t>(most)) return std::nullopt;
+  for (const Piece& piece : pieces_) {
+    length += piece.Taken;
+    if (length > static_cast<std::uint64_t>(most)) return std::nullopt;
+  }
   Bytes older;
   older.reserve(Index(length));
   std::size_t own = 0;

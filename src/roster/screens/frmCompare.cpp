@@ -279,7 +279,7 @@ class frmCompare : public GameScreen {
     std::vector<ui::ListBox::Row> rows;
     for (std::size_t a = 0; a < uids_.size(); ++a)
       for (std::size_t b = a + 1; b < uids_.size(); ++b) {
-        const Meetings met = MeetingsOf(world(), uids_[a], uids_[b]);
+        const Encounters met = EncountersOf(world(), uids_[a], uids_[b]);
         const bool never = met.Count() == 0;
         rows.push_back({{At(a).ShortName + " v " + At(b).ShortName.Str(),
                          never ? ui::Cell("Never", ui::Tone::Muted)

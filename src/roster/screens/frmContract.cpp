@@ -16,7 +16,7 @@ namespace grapplemont {
 namespace {
 
 constexpr int kOfferedMonths = 24;
-constexpr const char* kIfTheyAgree = "That they agree to these terms.";
+constexpr const char* kIfTheyAgree = "they agree to these terms";
 
 /// Talks with a worker of the player's: staying, being let go, being thrown out.
 class frmWresContract : public TalkWith<Worker> {
@@ -60,7 +60,7 @@ class frmWresContract : public TalkWith<Worker> {
     const auto renew = [uid = uid_, offer](World& copy) { Renew(*copy.FindWorker(uid), offer); };
     return WhatIf{"Keep " + Who()->Name + " for " + TermsText(offer) + "?",
                   {"the contract is renewed on these terms", renew},
-                  {"the contract runs on, and the office renews it by habit or not", {}},
+                  {"the contract runs on, and the office decides by habit whether to renew it", {}},
                   kIfTheyAgree};
   }
 
@@ -181,8 +181,8 @@ class frmOtherContract : public TalkWith<Worker> {
       Sign(copy, *copy.FindWorker(uid), offer);
     };
     return WhatIf{"Sign " + Who()->Name + " for " + TermsText(offer) + "?",
-                  {"they come on these terms", sign},
-                  {"you make no offer, and the office signs whom it would by habit", {}},
+                  {"they work for you on these terms", sign},
+                  {"you make no offer, and the office signs people by habit", {}},
                   kIfTheyAgree};
   }
 
@@ -275,7 +275,7 @@ class StaffTalk : public TalkWith<Staff> {
       own ? PutInto(staff, offer) : HireStaff(copy, staff, offer);
     };
     return WhatIf{(own_ ? "Keep " : "Hire ") + Who()->Name + " for " + TermsText(offer) + "?",
-                  {"they agree to these terms", hire},
+                  {"they work for you on these terms", hire},
                   {"you make no offer, and the office fills its posts by habit", {}},
                   kIfTheyAgree};
   }

@@ -14,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 
 /// Whether the angle is the Commissioner's, and its boxes.
-std::string CastCode(const Column& column, const std::string& cell) {
+std::string CastCode(const WordColumn& column, const std::string& cell) {
   std::string boxes;
   bool hasCommissioner = false;
   for (const BoxText& box : BoxesOf(cell)) {
@@ -27,39 +27,39 @@ std::string CastCode(const Column& column, const std::string& cell) {
 }
 
 /// "1 Leader" as {1, kLeader}, "2>1 3?>1" as {{{2, 1}, {3, 1, true}}}.
-std::string PlacesCode(const Column& column, const std::string& cell) {
+std::string PlacesCode(const WordColumn& column, const std::string& cell) {
   std::string code;
   for (const std::string& each : CellsOf(cell, ' ')) {
     std::string places;
     for (const std::string& place : PlacesIn(each))
       places += (places.empty() ? "" : ", ") +
                 (std::isdigit(place[0]) ? place : std::string(column.Before) + place);
-    if (column.Is == Column::Pairs)
+    if (column.Is == WordColumn::Pairs)
       places = "{" + places + (each.find('?') == each.npos ? "}" : ", true}");
     code += (code.empty() ? "" : ", ") + places;
   }
-  return column.Is == Column::Pairs ? "{{" + code + "}}" : "{" + code + "}";
+  return column.Is == WordColumn::Pairs ? "{{" + code + "}}" : "{" + code + "}";
 }
 
 std::string CellCode(const WordTable& table, const TableRow& row, std::string_view title) {
   if (title[0] == '"') return std::string(title.substr(1));
   const std::size_t number = ColumnOf(table, title);
-  const Column& column = table.Columns[number];
+  const WordColumn& column = table.Columns[number];
   const std::string& cell = row.Cells[number];
   if (cell == kEmptyCell)
     return column.Empty[0] == '=' ? CellCode(table, row, column.Empty.substr(1))
                                   : std::string(column.Empty);
   switch (column.Is) {
-    case Column::Number:
+    case WordColumn::Number:
       return cell;
-    case Column::Rule:
+    case WordColumn::Rule:
       return "k" + cell;
-    case Column::Choice:
+    case WordColumn::Choice:
       return std::string(column.Before) + cell;
-    case Column::Cast:
+    case WordColumn::Cast:
       return CastCode(column, cell);
-    case Column::Places:
-    case Column::Pairs:
+    case WordColumn::Places:
+    case WordColumn::Pairs:
       return PlacesCode(column, cell);
     default:
       return Quoted(cell + std::string(column.Behind));

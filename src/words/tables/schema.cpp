@@ -6,7 +6,7 @@ namespace grapplemont {
 
 namespace {
 
-using enum Column::Kind;
+using enum WordColumn::Kind;
 
 constexpr std::string_view kSame = "=Says";
 
@@ -43,7 +43,7 @@ WordTable Purposes(std::string_view heading, std::string_view space, std::string
 }
 
 /// Rows with a code and a rule name of their own, in one array.
-WordTable Coded(std::string_view heading, std::vector<Column> more, std::string_view rules,
+WordTable Coded(std::string_view heading, std::vector<WordColumn> more, std::string_view rules,
                 RowArray array) {
   WordTable table{heading, {{"Code", Number}, {"Rule", RuleName}, {"Says"}}, {"Code"}};
   table.Columns.insert(table.Columns.end(), more.begin(), more.end());

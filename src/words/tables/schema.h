@@ -10,7 +10,7 @@ namespace grapplemont {
 /// The cell of a table that is empty.
 inline constexpr std::string_view kEmptyCell = "-";
 
-struct Column {
+struct WordColumn {
   enum Kind {
     Number,
     Text,
@@ -43,7 +43,7 @@ struct RowArray {
 
 struct WordTable {
   std::string_view Heading;
-  std::vector<Column> Columns;
+  std::vector<WordColumn> Columns;
   std::vector<std::string_view> Keys = {};  // no two rows are alike in all of them
   bool Counts = false;                      // the first column counts from 1
   /// What becomes of the rule names: the enumeration, in its namespace, with the numbers of a

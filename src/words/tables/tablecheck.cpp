@@ -69,7 +69,7 @@ std::string WhyNoPhrase(std::string_view text) {
   return why;
 }
 
-std::string WhyNoBox(const BoxText& box, const Column& column, unsigned& taken) {
+std::string WhyNoBox(const BoxText& box, const WordColumn& column, unsigned& taken) {
   const bool isPlain = box.Casting.empty();
   const Texts& castings = column.Choices;
   const bool takesNoWorker = box.Casting == "Stables" || box.Casting.ends_with("Titles");
@@ -86,7 +86,7 @@ std::string WhyNoBox(const BoxText& box, const Column& column, unsigned& taken) 
   return {};
 }
 
-std::string WhyNoCast(const std::string& cell, const Column& column) {
+std::string WhyNoCast(const std::string& cell, const WordColumn& column) {
   const auto boxes = BoxesOf(cell);
   if (boxes.size() > kPlaces) return "an angle has four boxes at most";
   unsigned taken = 0;
@@ -95,8 +95,8 @@ std::string WhyNoCast(const std::string& cell, const Column& column) {
   return {};
 }
 
-std::string WhyNoPlaces(const std::string& cell, const Column& column) {
-  const bool arePairs = column.Is == Column::Pairs;
+std::string WhyNoPlaces(const std::string& cell, const WordColumn& column) {
+  const bool arePairs = column.Is == WordColumn::Pairs;
   for (const std::string& each : CellsOf(cell, ' ')) {
     const auto places = PlacesIn(each);
     if (places.size() != (arePairs ? 2 : 1))
@@ -117,7 +117,7 @@ class Reader {
 
   TableTexts Read(const WordsText& text) {
     for (const NumberedLine& mistake : text.Mistakes) Report(mistake.Number, mistake.Text);
-    for (const Section& section : text.Sections) ReadSection(section);
+    for (const WordSection& section : text.Sections) ReadSection(section);
     for (const std::string_view heading : Headings())
       if (!seen_.contains(heading))
         Report(text.Last, "the heading " + InQuotes(heading) + " is missing");
@@ -139,7 +139,7 @@ class Reader {
     return headings;
   }
 
-  void ReadSection(const Section& section) {
+  void ReadSection(const WordSection& section) {
     const auto& [line, name] = section.Heading;
     const Texts headings = Headings();
     const auto heading = std::find(headings.begin(), headings.end(), name);
@@ -153,9 +153,9 @@ class Reader {
         if (!each.empty()) texts_.Names[*heading].push_back({names.Number, each});
   }
 
-  void ReadTable(const WordTable& table, const Section& section) {
+  void ReadTable(const WordTable& table, const WordSection& section) {
     Texts titles;
-    for (const Column& column : table.Columns) titles.push_back(column.Title);
+    for (const WordColumn& column : table.Columns) titles.push_back(column.Title);
     const auto& lines = section.Lines;
     const auto cells = lines.empty() ? std::vector<std::string>() : CellsOf(lines[0].Text, '|');
     if (!std::equal(cells.begin(), cells.end(), titles.begin(), titles.end()))
@@ -185,26 +185,26 @@ class Reader {
     return before == mistakes_.size();
   }
 
-  std::string WhyNotIn(const Column& column, const std::string& cell) const {
+  std::string WhyNotIn(const WordColumn& column, const std::string& cell) const {
     if (cell.empty()) return "an empty cell is written as \"-\"";
     if (cell == kEmptyCell)
-      return column.Empty.empty() && column.Is != Column::RuleName ? "may not be empty"
-                                                                   : std::string();
+      return column.Empty.empty() && column.Is != WordColumn::RuleName ? "may not be empty"
+                                                                       : std::string();
     switch (column.Is) {
-      case Column::Number:
+      case WordColumn::Number:
         return IsNumber(cell) ? "" : InQuotes(cell) + " is not a number";
-      case Column::Phrase:
+      case WordColumn::Phrase:
         return WhyNoPhrase(cell);
-      case Column::RuleName:
+      case WordColumn::RuleName:
         return IsRuleName(cell) ? "" : "letters and digits only, the first a capital";
-      case Column::Choice:
+      case WordColumn::Choice:
         return WhyNotOneOf(column.Choices, cell);
-      case Column::Rule:
+      case WordColumn::Rule:
         return WhyNotOneOf(RulesOf(column.Of), cell);
-      case Column::Cast:
+      case WordColumn::Cast:
         return WhyNoCast(cell, column);
-      case Column::Places:
-      case Column::Pairs:
+      case WordColumn::Places:
+      case WordColumn::Pairs:
         return WhyNoPlaces(cell, column);
       default:
         return {};
@@ -281,7 +281,7 @@ class Reader {
 
 std::size_t ColumnOf(const WordTable& table, std::string_view title) {
   const auto found = std::find_if(table.Columns.begin(), table.Columns.end(),
-                                  [&](const Column& column) { return column.Title == title; });
+                                  [&](const WordColumn& column) { return column.Title == title; });
   return static_cast<std::size_t>(found - table.Columns.begin());
 }
 

@@ -30,7 +30,7 @@ void SayLine(const std::string& said, const Heading& heading) {
 }
 
 void SayAll(const WordsFile& file, const WordsText& text) {
-  for (const Section& section : text.Sections) {
+  for (const WordSection& section : text.Sections) {
     const Heading* heading = FindHeading(file, section.Heading.Text);
     if (!heading) continue;
     for (const NumberedLine& line : section.Lines) {
@@ -63,7 +63,7 @@ void Read(ByteSpan bytes) {
   const auto which = static_cast<std::size_t>(in.Byte()) % (files.size() + tables.size());
   const std::string_view utf8 = TextOf(in.Rest());
   const WordsText text = ReadWordsText(utf8);
-  for (const Section& section : text.Sections)
+  for (const WordSection& section : text.Sections)
     for (const NumberedLine& line : section.Lines) SayAnything(line.Text);
   if (which < files.size()) {
     WordsCheck check("words");
