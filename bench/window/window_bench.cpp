@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <algorithm>
+#include <cstdio>
+#include <ranges>
 #include <vector>
 
 #include "bench/worlds.h"
@@ -26,9 +28,17 @@ using test::Evening;
 /// Milliseconds to the painted frame, and what was pressed.
 using Frame = std::pair<double, std::string>;
 
+/// Where it takes long: as many of the slowest acts as the variable asks for, for whoever mends it.
+void PrintSlowest(const std::vector<Frame>& sorted) {
+  const int wanted = qEnvironmentVariableIntValue("GRAPPLEMONT_SLOWEST");
+  for (const auto& [took, act] : sorted | std::views::reverse | std::views::take(wanted))
+    std::fprintf(stderr, "%9.1f ms  %s\n", took, act.c_str());
+}
+
 /// Gives what was pressed where it took longest.
 std::string Tell(benchmark::State& state, std::vector<Frame> frames) {
   std::ranges::sort(frames);
+  PrintSlowest(frames);
   const auto share = [&](double part) {
     return frames[static_cast<std::size_t>(part * static_cast<double>(frames.size() - 1))].first;
   };

@@ -48,8 +48,8 @@ BareButton::BareButton(QWidget* parent, const QString& caption) : QAbstractButto
 }
 
 bool BareButton::event(QEvent* event) {
-  return TipWhatIsCut(*event, *this, text(), WidthWanted() > width()) ||
-         QAbstractButton::event(event);
+  const bool cut = event->type() == QEvent::ToolTip && WidthWanted() > width();
+  return TipWhatIsCut(*event, *this, text(), cut) || QAbstractButton::event(event);
 }
 
 /// Some desktops have Enter press whatever button has the keyboard; here it is the page's.
@@ -66,9 +66,8 @@ int BareButton::BadgeWidth() const {
 void BareButton::DrawBadge(QPainter& painter, double left) const {
   const QRectF spot(left, (height() - Px(kBadgeHeight)) / 2.0, BadgeWidth(), Px(kBadgeHeight));
   DrawBox(painter, spot, ColoursOf(this).RedFill, QColor(), spot.height() / 2);
-  painter.setFont(BadgeFont());
   painter.setPen(Qt::white);
-  painter.drawText(spot, Qt::AlignCenter, badge_);
+  DrawWords(painter, spot, Qt::AlignCenter, BadgeFont(), badge_);
 }
 
 PushButton::PushButton(QWidget* parent, const QString& caption) : BareButton(parent, caption) {
@@ -120,9 +119,8 @@ void PushButton::paintEvent(QPaintEvent*) {
   const QString caption = WordsWithin(CaptionFont(), text(), room);
   const int words = WordsWidth(CaptionFont(), caption);
   double x = (width() - words - TailWidth(enter_)) / 2.0;
-  painter.setFont(CaptionFont());
   painter.setPen(ink);
-  painter.drawText(QRectF(x, 0, words + 2, height()), Qt::AlignVCenter | Qt::AlignLeft, caption);
+  DrawWords(painter, QRectF(x, 0, words + 2, height()), Qt::AlignVCenter, CaptionFont(), caption);
   x += words + Px(kGap);
   if (!badge_.isEmpty()) {
     DrawBadge(painter, x);

@@ -97,7 +97,7 @@ Scale ChartView::MakeScale() const {
   const QFontMetrics small = fontMetrics();
   int left = 0;
   for (int line = 0; line < scale.Lines(); ++line)
-    left = std::max(left, FiguresWidth(small, scale.Label(line)) + Px(8));
+    left = std::max(left, FiguresWidth(font(), scale.Label(line)) + Px(8));
   const bool named = std::any_of(control_.Lines->begin(), control_.Lines->end(),
                                  [](const auto& series) { return !series.Name.empty(); });
   const int top = small.height() + (named ? small.height() + Px(6) : 0);
@@ -116,7 +116,7 @@ void ChartView::DrawAxis(QPainter& painter, const Scale& scale) const {
     if (!measures) continue;
     painter.setPen(c.Muted);
     DrawFigures(painter, QRectF(0, y - Px(8), scale.Plot.left() - Px(8), Px(16)), Qt::AlignRight,
-                scale.Label(line));
+                font(), scale.Label(line));
   }
 }
 
@@ -170,11 +170,11 @@ void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
       painter.fillRect(bar, place == hover_ ? fill.lighter(115) : fill);
       const QString number = Short(value);
       const QFontMetrics small = fontMetrics();
-      if (FiguresWidth(small, number) > width + gap) continue;
+      if (FiguresWidth(font(), number) > width + gap) continue;
       painter.setPen(now ? c.Gold : c.Muted);
       DrawFigures(painter,
                   QRectF(bar.left(), bar.top() - small.height() - 1, bar.width(), small.height()),
-                  Qt::AlignHCenter, number);
+                  Qt::AlignHCenter, font(), number);
     }
   }
 }

@@ -83,7 +83,8 @@ class ComboView : public ViewOf<Calm<QComboBox>, ui::ComboBox> {
 
  protected:
   bool event(QEvent* event) override {
-    const bool cut = fontMetrics().horizontalAdvance(currentText()) > width() - Px(kAround);
+    const bool cut = event->type() == QEvent::ToolTip &&
+                     fontMetrics().horizontalAdvance(currentText()) > width() - Px(kAround);
     return TipWhatIsCut(*event, *this, currentText(), cut) || Calm::event(event);
   }
   void Show() override {

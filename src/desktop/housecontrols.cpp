@@ -4,6 +4,7 @@
 
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
+#include "desktop/wordswidth.h"
 
 // The larger parts of the style: combo boxes, sliders, scroll bars, tabs, menus.
 
@@ -54,9 +55,9 @@ void DrawTab(const QStyleOptionTab& option, QPainter& painter) {
   const Colours& c = ColoursOf(option.palette);
   const bool chosen = Has(option, QStyle::State_Selected);
   const bool hover = Has(option, QStyle::State_MouseOver);
-  painter.setFont(TextFont(13, chosen ? QFont::DemiBold : QFont::Normal));
   painter.setPen(chosen ? c.Text : hover ? c.Soft : c.Muted);
-  painter.drawText(option.rect, Qt::AlignCenter, option.text);
+  DrawWords(painter, option.rect, Qt::AlignCenter,
+            TextFont(13, chosen ? QFont::DemiBold : QFont::Normal), option.text);
   QRect line = option.rect;
   line.setTop(line.bottom() - Px(2) + 1);
   if (chosen) painter.fillRect(line.adjusted(Px(8), 0, -Px(8), 0), c.GoldFill);
@@ -131,9 +132,9 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption* option,
         const Colours& c = ColoursOf(option->palette);
         painter->setPen(Has(*option, State_Enabled) ? c.Text : c.Faint);
         const QRect text = option->rect.adjusted(Px(11), 0, -Px(26), 0);
-        painter->drawText(
-            text, Qt::AlignVCenter | Qt::AlignLeft,
-            option->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, text.width()));
+        const QFont& font = painter->font();
+        DrawWords(*painter, text, Qt::AlignVCenter, font,
+                  WordsWithin(font, combo->currentText, text.width()));
         return;
       }
       break;

@@ -1,6 +1,7 @@
 #include "desktop/housestyle.h"
 
 #include <QPainter>
+#include <QPixmapCache>
 #include <QTableView>
 #include <algorithm>
 #include <cmath>
@@ -101,14 +102,32 @@ void DrawRounded(QPainter& painter, const QRectF& where, const QColor& fill, con
   painter.restore();
 }
 
-/// Whether a box lies on whole pixels and is so large that its corners are the least of it.
-bool IsLarge(const QPainter& painter, const QRectF& where, int corner) {
-  constexpr int kLarge = 64;
+/// Whether a box lies on whole pixels.
+bool IsOnPixels(const QPainter& painter, const QRectF& where) {
   const QTransform& moved = painter.combinedTransform();
   const auto isWhole = [](double at) { return at == std::floor(at); };
-  return std::min(where.width(), where.height()) > 2 * corner + kLarge &&
-         QRectF(where.toRect()) == where && moved.type() <= QTransform::TxTranslate &&
+  return QRectF(where.toRect()) == where && moved.type() <= QTransform::TxTranslate &&
          isWhole(moved.dx()) && isWhole(moved.dy()) && painter.device()->devicePixelRatioF() == 1;
+}
+
+/// A small box as it is drawn again and again.
+QPixmap BoxOf(const QSize& size, const QColor& fill, const QColor& edge, double radius) {
+  const auto rgba = [](const QColor& colour) { return colour.isValid() ? colour.rgba() : 0; };
+  const QString key = QString("box %1 %2 %3 %4 %5")
+                          .arg(size.width())
+                          .arg(size.height())
+                          .arg(rgba(fill), 0, 16)
+                          .arg(rgba(edge), 0, 16)
+                          .arg(radius);
+  QPixmap picture;
+  if (QPixmapCache::find(key, &picture)) return picture;
+  picture = QPixmap(size);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  DrawRounded(painter, QRectF({}, size), fill, edge, radius);
+  painter.end();
+  QPixmapCache::insert(key, picture);
+  return picture;
 }
 
 /// All of it but the corners.
@@ -129,20 +148,25 @@ void FillBetweenCorners(QPainter& painter, const QRect& box, const QColor& fill,
 
 }  // namespace
 
-/// Curves are slow to fill: of a large box the corners alone are drawn so.
+/// Curves are slow to fill: a box that has straight sides is put together from one with hardly any.
 void DrawBox(QPainter& painter, const QRectF& where, const QColor& fill, const QColor& edge,
              double radius) {
+  if (!IsOnPixels(painter, where)) return DrawRounded(painter, where, fill, edge, radius);
   const int corner = static_cast<int>(std::ceil(radius)) + 1;
-  if (!IsLarge(painter, where, corner)) return DrawRounded(painter, where, fill, edge, radius);
   const QRect box = where.toRect();
+  if (std::min(box.width(), box.height()) <= 2 * corner) {
+    constexpr int kSmall = 256;
+    if (std::max(box.width(), box.height()) > kSmall || box.isEmpty())
+      return DrawRounded(painter, where, fill, edge, radius);
+    return painter.drawPixmap(box.topLeft(), BoxOf(box.size(), fill, edge, radius));
+  }
   FillBetweenCorners(painter, box, fill, edge, corner);
-  for (const int x : {box.left(), box.right() + 1 - corner})
-    for (const int y : {box.top(), box.bottom() + 1 - corner}) {
-      painter.save();
-      painter.setClipRect(x, y, corner, corner, Qt::IntersectClip);
-      DrawRounded(painter, where, fill, edge, radius);
-      painter.restore();
-    }
+  const QPixmap corners = BoxOf(QSize(2 * corner, 2 * corner), fill, edge, radius);
+  for (const int x : {0, corner})
+    for (const int y : {0, corner})
+      painter.drawPixmap(x == 0 ? box.left() : box.right() + 1 - corner,
+                         y == 0 ? box.top() : box.bottom() + 1 - corner, corners, x, y, corner,
+                         corner);
 }
 
 void DrawFocus(QPainter& painter, const QRectF& where, double radius, const QPalette& palette) {

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFontInfo>
+#include <QHash>
 #include <QList>
 #include <QStyleHints>
 #include <algorithm>
@@ -159,15 +160,20 @@ struct Desktop {
 };
 Desktop desktop;
 
-/// The letters that the look is drawn with, and what stands in for them.
-QFont SansFont(int pixels) {
+/// The letters that the look is drawn with, and what stands in for them. A font looks for its
+/// letters in the system once: those that are asked for again are kept.
+QFont SansFont(int pixels, QFont::Weight weight = QFont::Normal) {
   static const QStringList kFamilies = {"Inter", "Noto Sans", "Cantarell", "DejaVu Sans",
                                         "sans-serif"};
+  static QHash<std::pair<int, int>, QFont> kept;
+  const std::pair key(pixels, int(weight));
+  if (const auto found = kept.constFind(key); found != kept.constEnd()) return *found;
   QFont font;
   font.setFamilies(kFamilies);
   font.setPixelSize(pixels);
+  font.setWeight(weight);
   font.setHintingPreference(QFont::PreferNoHinting);
-  return font;
+  return *kept.insert(key, font);
 }
 
 /// What Qt paints a window with where no desktop tells it anything.
@@ -216,9 +222,7 @@ int Px(double drawn) {
 }
 
 QFont TextFont(double drawn, QFont::Weight weight) {
-  QFont font = SansFont(Px(drawn));
-  font.setWeight(weight);
-  return font;
+  return SansFont(Px(drawn), weight);
 }
 
 QFont ProseFont(double drawn) {
@@ -227,41 +231,6 @@ QFont ProseFont(double drawn) {
   font.setFamilies(kFamilies);
   font.setPixelSize(Px(drawn));
   return font;
-}
-
-namespace {
-
-/// The width that every figure is given.
-qreal FigureWidth(const QFontMetricsF& metrics) {
-  qreal widest = 0;
-  for (char figure = '0'; figure <= '9'; ++figure)
-    widest = std::max(widest, metrics.horizontalAdvance(QLatin1Char(figure)));
-  return widest;
-}
-
-}  // namespace
-
-int FiguresWidth(const QFontMetricsF& metrics, const QString& text) {
-  const qreal figure = FigureWidth(metrics);
-  qreal width = 0;
-  for (const QChar letter : text)
-    width += letter.isDigit() ? figure : metrics.horizontalAdvance(letter);
-  return static_cast<int>(std::ceil(width));
-}
-
-void DrawFigures(QPainter& painter, const QRectF& where, Qt::Alignment align, const QString& text) {
-  const QFontMetricsF metrics(painter.font());
-  const qreal figure = FigureWidth(metrics);
-  qreal x = where.left();
-  if (align & Qt::AlignRight) x = where.right() - FiguresWidth(metrics, text);
-  if (align & Qt::AlignHCenter) x = where.center().x() - FiguresWidth(metrics, text) / 2.0;
-  const qreal y = where.center().y() + (metrics.ascent() - metrics.descent()) / 2;
-  for (const QChar letter : text) {
-    const qreal own = metrics.horizontalAdvance(letter);
-    const qreal width = letter.isDigit() ? figure : own;
-    painter.drawText(QPointF(x + (width - own) / 2, y), QString(letter));
-    x += width;
-  }
 }
 
 QString Shown(std::string_view text) {

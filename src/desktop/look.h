@@ -76,10 +76,6 @@ int Px(double drawn);
 QFont TextFont(double drawn = kUsualText, QFont::Weight weight = QFont::Normal);
 QFont ProseFont(double drawn = 15);
 
-/// Text whose figures are all of one width, so that columns of numbers stand straight.
-void DrawFigures(QPainter& painter, const QRectF& where, Qt::Alignment align, const QString& text);
-int FiguresWidth(const QFontMetricsF& metrics, const QString& text);
-
 // The program's texts are Windows-1252; Qt's are Unicode.
 
 QString Shown(std::string_view text);

@@ -40,7 +40,11 @@ QSize WrappedLabel::minimumSizeHint() const {
 
 int WrappedLabel::heightForWidth(int width) const {
   const QMargins sides = contentsMargins();
-  return QLabel::heightForWidth(std::min(width, ReadableWidth() + sides.left() + sides.right()));
+  const int across = sides.left() + sides.right();
+  const int room = std::min(width - across, ReadableWidth());
+  if (text().isEmpty()) return QLabel::heightForWidth(room + across);
+  const int words = WordsHeight(font(), text(), room);
+  return std::max(words + sides.top() + sides.bottom(), minimumHeight());
 }
 
 void WrappedLabel::paintEvent(QPaintEvent*) {
@@ -48,7 +52,7 @@ void WrappedLabel::paintEvent(QPaintEvent*) {
   painter.setPen(palette().color(foregroundRole()));
   QRect room = contentsRect();
   if (alignment() & Qt::AlignLeft) room.setWidth(std::min(room.width(), ReadableWidth()));
-  painter.drawText(room, static_cast<int>(alignment()) | Qt::TextWordWrap, text());
+  DrawWrapped(painter, room, alignment(), font(), text());
 }
 
 int ReadableWidth() {

@@ -3,6 +3,7 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextEdit>
+#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -111,6 +112,9 @@ void ReportView::Show() {
     Write(cursor, paragraph, letters);
     first = false;
   }
+  // Letters that have been shaped are not shaped again for another width, nor to be painted.
+  for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+    block.layout()->setCacheEnabled(true);
   cursor.endEditBlock();
   moveCursor(QTextCursor::Start);  // a size that changes later keeps the cursor in sight
   verticalScrollBar()->setValue(0);

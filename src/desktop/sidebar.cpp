@@ -6,6 +6,7 @@
 #include "desktop/housestyle.h"
 #include "desktop/pieces.h"
 #include "desktop/spoken.h"
+#include "desktop/wordswidth.h"
 
 namespace grapplemont::desktop {
 
@@ -28,9 +29,8 @@ class Heading : public QWidget {
     QPainter painter(this);
     QFont font = TextFont(10.5);
     font.setLetterSpacing(QFont::AbsoluteSpacing, 0.8);
-    painter.setFont(font);
     painter.setPen(ColoursOf(this).Muted);
-    painter.drawText(rect().adjusted(Px(kSide), 0, 0, -Px(5)), Qt::AlignBottom, title_);
+    DrawWords(painter, rect().adjusted(Px(kSide), 0, 0, -Px(5)), Qt::AlignBottom, font, title_);
   }
 
  private:
@@ -53,9 +53,8 @@ class Logo : public QAbstractButton {
     QPainter painter(this);
     QFont font = TextFont(16, QFont::Bold);
     font.setLetterSpacing(QFont::AbsoluteSpacing, 0.6);
-    painter.setFont(font);
     painter.setPen(ColoursOf(this).Gold);
-    painter.drawText(rect().adjusted(Px(kSide), 0, 0, 0), Qt::AlignVCenter, text());
+    DrawWords(painter, rect().adjusted(Px(kSide), 0, 0, 0), Qt::AlignVCenter, font, text());
   }
 };
 
@@ -75,12 +74,11 @@ QFont SideLine::CaptionFont() const {
 
 int SideLine::TailWidth() const {
   if (!badge_.isEmpty()) return BadgeWidth() + Px(kBarGap);
-  return key_.isEmpty() ? 0 : QFontMetrics(TextFont(11)).horizontalAdvance(key_) + Px(kBarGap);
+  return key_.isEmpty() ? 0 : WordsAdvance(TextFont(11), key_) + Px(kBarGap);
 }
 
 int SideLine::WidthWanted() const {
-  return 2 * Px(kSide) + QFontMetrics(CaptionFont()).horizontalAdvance(text()) +
-         (badge_.isEmpty() ? 0 : TailWidth());
+  return 2 * Px(kSide) + WordsAdvance(CaptionFont(), text()) + (badge_.isEmpty() ? 0 : TailWidth());
 }
 
 /// A key that has no room beside the caption goes before the caption is cut.
@@ -90,20 +88,16 @@ void SideLine::paintEvent(QPaintEvent*) {
   if (now_ || (isEnabled() && underMouse())) painter.fillRect(rect(), c.Now);
   if (now_) painter.fillRect(0, 0, Px(3), height(), c.GoldFill);
   const QRect room = rect().adjusted(Px(kSide), 0, -Px(kSide), 0);
-  const QFontMetrics metrics(CaptionFont());
-  const bool tail =
-      !badge_.isEmpty() || metrics.horizontalAdvance(text()) + TailWidth() <= room.width();
-  painter.setFont(CaptionFont());
+  const QFont font = CaptionFont();
+  const bool tail = !badge_.isEmpty() || WordsAdvance(font, text()) + TailWidth() <= room.width();
   painter.setPen(!isEnabled() ? c.Faint : now_ ? c.Text : quiet_ ? c.Muted : c.Soft);
-  painter.drawText(
-      room, Qt::AlignVCenter | Qt::AlignLeft,
-      metrics.elidedText(text(), Qt::ElideRight, room.width() - (tail ? TailWidth() : 0)));
+  DrawWords(painter, room, Qt::AlignVCenter, font,
+            WordsWithin(font, text(), room.width() - (tail ? TailWidth() : 0)));
   if (!badge_.isEmpty()) {
     DrawBadge(painter, room.right() + 1 - BadgeWidth());
   } else if (tail) {
-    painter.setFont(TextFont(11));
     painter.setPen(isEnabled() ? c.Muted : c.Faint);
-    painter.drawText(room, Qt::AlignVCenter | Qt::AlignRight, key_);
+    DrawWords(painter, room, Qt::AlignVCenter | Qt::AlignRight, TextFont(11), key_);
   }
   if (hasFocus()) DrawFocus(painter, rect().adjusted(2, 1, -2, -1), Px(4), palette());
 }

@@ -56,9 +56,8 @@ void DrawTag(QPainter& painter, const QRect& room, const QString& word, ui::Tone
   const QRectF box(room.left(), room.center().y() - Px(kTagHeight) / 2.0 + 1, width,
                    Px(kTagHeight));
   DrawBox(painter, box, QColor(), EdgeColour(c, tone), Px(4));
-  painter.setFont(TagFont());
   painter.setPen(tone == ui::Tone::Plain ? c.Soft : TextColour(c, tone));
-  painter.drawText(box, Qt::AlignCenter, words);
+  DrawWords(painter, box, Qt::AlignCenter, TagFont(), words);
 }
 
 int TagWidth(const QString& words) {
@@ -93,10 +92,9 @@ void DrawWord(QPainter& painter, const QRect& room, const QString& word, ui::Ton
   const QColor ink = tone == ui::Tone::Plain ? c.Soft : TextColour(c, tone);
   const QRect sign(room.left(), room.center().y() + 1 - Px(kSign) / 2, Px(kSign), Px(kSign));
   DrawSign(painter, sign, drawn.As, ink);
-  painter.setFont(TagFont());
   painter.setPen(ink);
-  painter.drawText(room.adjusted(Px(kSign) + Px(kSignGap), 0, 0, 0),
-                   Qt::AlignVCenter | Qt::AlignLeft, drawn.Number);
+  DrawWords(painter, room.adjusted(Px(kSign) + Px(kSignGap), 0, 0, 0), Qt::AlignVCenter, TagFont(),
+            drawn.Number);
 }
 
 /// One after the other; what has no room stands in the tip.
@@ -111,7 +109,8 @@ void DrawTags(QPainter& painter, QRect room, const ui::Cell& cell, const ui::Col
   }
 }
 
-void DrawBar(QPainter& painter, const QRect& room, const ui::Cell& cell, const Colours& c) {
+void DrawBar(QPainter& painter, const QRect& room, const QFont& font, const ui::Cell& cell,
+             const Colours& c) {
   const double height = Px(kBarHeight);
   const QRectF track(room.left(), room.center().y() + 1 - height / 2, Px(kBarWidth), height);
   DrawBox(painter, track, c.Track, QColor(), height / 2);
@@ -128,7 +127,7 @@ void DrawBar(QPainter& painter, const QRect& room, const ui::Cell& cell, const C
   painter.setPen(TextColour(c, cell.Colour));
   const int from = static_cast<int>(track.right()) + Px(8);
   DrawFigures(painter, QRectF(from, room.top(), room.right() + 1 - from, room.height()),
-              Qt::AlignLeft, Shown(cell.Text));
+              Qt::AlignLeft, font, Shown(cell.Text));
 }
 
 /// Says "best" beside a colour.
@@ -146,14 +145,15 @@ void DrawStar(QPainter& painter, const QPointF& centre, const Colours& c) {
   painter.drawPolygon(star);
 }
 
-void DrawText(QPainter& painter, const QRect& room, const ui::Cell& cell, ColumnKind kind) {
+void DrawText(QPainter& painter, const QRect& room, const QFont& font, const ui::Cell& cell,
+              ColumnKind kind) {
   // A row has room for one line, however many the text has.
   const QString line = CellText(cell, kind).replace('\n', ' ');
-  const QString text = WordsWithin(painter.font(), line, room.width() + 1);
+  const QString text = WordsWithin(font, line, room.width() + 1);
   if (kind == ColumnKind::Number || kind == ColumnKind::Date) {
-    DrawFigures(painter, room, AlignsRight(kind) ? Qt::AlignRight : Qt::AlignLeft, text);
+    DrawFigures(painter, room, AlignsRight(kind) ? Qt::AlignRight : Qt::AlignLeft, font, text);
   } else {
-    painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft, text);
+    DrawWords(painter, room, Qt::AlignVCenter, font, text);
   }
 }
 
@@ -229,10 +229,9 @@ int CellWidth(const ui::Cell& cell, const ui::Column& column) {
       width += WordWidth(word, column) + Px(kTagGap);
     return width;
   }
-  const QFontMetrics metrics(TextFont());
-  if (IsBar(cell, kind)) return Px(kBarWidth) + Px(8) + FiguresWidth(metrics, text) + sides;
+  if (IsBar(cell, kind)) return Px(kBarWidth) + Px(8) + FiguresWidth(TextFont(), text) + sides;
   if (kind == ColumnKind::Number || kind == ColumnKind::Date)
-    return FiguresWidth(metrics, text) + sides;
+    return FiguresWidth(TextFont(), text) + sides;
   return WordsWidth(TextFont(), text) + sides + 1;
 }
 
@@ -288,7 +287,7 @@ void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option
                DrawSmall(&painter, room, column, model_.Table().RowAt(index.row()).Key));
   if (column.Under)
     room = DrawUnder(painter, room, column.Under(model_.Table().RowAt(index.row()).Key), c);
-  painter.setFont(TextFont(kUsualText, column.Under ? QFont::DemiBold : QFont::Normal));
+  const QFont font = TextFont(kUsualText, column.Under ? QFont::DemiBold : QFont::Normal);
   if (cell.Best) {
     const int width = CellWidth(cell, column) - 2 * Px(kCellSide);
     DrawStar(painter, QPointF(room.left() + width - Px(kStar) / 3.0, room.center().y() + 1), c);
@@ -298,12 +297,12 @@ void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option
   } else if (column.Kind == ColumnKind::Tags) {
     DrawTags(painter, room, cell, column, c);
   } else if (IsBar(cell, column.Kind) && !cut) {
-    DrawBar(painter, room, cell, c);
+    DrawBar(painter, room, font, cell, c);
   } else {
     const bool link = cell.Colour == ui::Tone::Plain && IsLink(index);
     const bool enabled = option.state.testFlag(QStyle::State_Enabled);
     painter.setPen(!enabled ? c.Faint : link ? c.Blue : TextColour(c, cell.Colour));
-    DrawText(painter, room, cell, column.Kind);
+    DrawText(painter, room, font, cell, column.Kind);
   }
 }
 

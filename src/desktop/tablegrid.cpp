@@ -18,6 +18,11 @@ TableGrid::TableGrid(TableModel& model, QWidget* parent)
       cells_(new TableCells(model, this)),
       heading_(new TableHeading(model, this)) {
   setHorizontalHeader(heading_);
+  // Before there are rows: each would be sized again by itself.
+  verticalHeader()->hide();
+  verticalHeader()->setMinimumSectionSize(1);
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setDefaultSectionSize(Px(RowHeight(model_.List())));
   setModel(&model);
   setItemDelegate(cells_);
   setFrameShape(QFrame::NoFrame);
@@ -32,9 +37,6 @@ TableGrid::TableGrid(TableModel& model, QWidget* parent)
   setMouseTracking(true);
   viewport()->setMouseTracking(true);
   viewport()->setAutoFillBackground(false);
-  verticalHeader()->hide();
-  verticalHeader()->setMinimumSectionSize(1);
-  verticalHeader()->setDefaultSectionSize(Px(RowHeight(model_.List())));
   heading_->viewport()->setAutoFillBackground(false);
 }
 

@@ -105,9 +105,9 @@ void TableHeading::DrawHeading(QPainter& painter, const QRect& rect, int column)
       sliver ? QString() : WordsWithin(HeadingFont(), WordsOf(shown), room.width() - marks + 1);
   const int width = WordsWidth(HeadingFont(), title);
   int x = AlignsRight(shown.Kind) ? room.right() + 1 - width - marks : room.left();
-  painter.setFont(HeadingFont());
   painter.setPen(place > 0 ? c.Text : c.Soft);
-  painter.drawText(QRect(x, room.top(), width + 1, room.height()), Qt::AlignVCenter, title);
+  DrawWords(painter, QRect(x, room.top(), width + 1, room.height()), Qt::AlignVCenter,
+            HeadingFont(), title);
   x += width;
   if (place > 0) {
     DrawArrow(painter, QPointF(x + Px(7), rect.center().y() + 1), table.SortsDown(column),

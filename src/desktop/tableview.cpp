@@ -3,6 +3,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/button.h"
 #include "desktop/dates.h"
@@ -159,7 +160,7 @@ void TableView::Rearrange() {
   const int top = grid_->verticalScrollBar()->value(), before = grid_->CurrentRow();
   const int across = grid_->horizontalScrollBar()->value();
   const bool seen = grid_->SeesCursor(grid_->viewport()->height());
-  model_.Reset();
+  if (!std::exchange(isNew_, false)) model_.Reset();
   ApplyColumns();
   natural_.clear();
   FitColumns();

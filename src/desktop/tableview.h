@@ -123,6 +123,7 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   std::vector<int> natural_;
   int naturalScale_ = 0;
   bool arranging_ = false;
+  bool isNew_ = true;  // its grid has just been given the rows
   int currentKey_ = 0;
   int anchorKey_ = 0;  // of the row that was picked last, from which Shift reaches
 };

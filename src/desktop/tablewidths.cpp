@@ -62,16 +62,19 @@ std::vector<int> TableView::MeasuredWidths() const {
   const auto widen = [&](std::size_t place, const ui::Cell& cell) {
     widths[place] = std::max(widths[place], CellWidth(cell, model_.Column(columns[place])));
   };
-  std::vector<const ui::Cell*> longest(columns.size());
   const int rows = model_.rowCount();
-  for (int row = 0; row < rows; ++row)
+  for (int row = 0; row < std::min(rows, kMeasuredRows); ++row)
+    for (std::size_t place = 0; place < columns.size(); ++place)
+      widen(place, table_.At(row, columns[place]));
+  std::vector<const ui::Cell*> longest(columns.size());
+  for (int row = kMeasuredRows; row < rows; ++row) {
+    const std::vector<ui::Cell>& cells = table_.RowAt(row).Cells;
     for (std::size_t place = 0; place < columns.size(); ++place) {
-      const ui::Cell& cell = table_.At(row, columns[place]);
-      if (row < kMeasuredRows)
-        widen(place, cell);
-      else if (!longest[place] || cell.Text.size() > longest[place]->Text.size())
-        longest[place] = &cell;
+      if (Index(columns[place]) >= cells.size()) continue;
+      const ui::Cell& cell = cells[Index(columns[place])];
+      if (!longest[place] || cell.Text.size() > longest[place]->Text.size()) longest[place] = &cell;
     }
+  }
   for (std::size_t place = 0; place < columns.size(); ++place) {
     if (longest[place]) widen(place, *longest[place]);
     if (rows > 0) widths[place] += DrawnWidth(model_.Column(columns[place]), table_.RowAt(0).Key);

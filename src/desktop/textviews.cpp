@@ -48,7 +48,8 @@ class LineView : public ViewOf<QLineEdit, ui::TextBox> {
     setCursorPosition(hasFocus() ? cursor : 0);  // what is too long is seen from its beginning
   }
   bool event(QEvent* event) override {
-    const bool cut = fontMetrics().horizontalAdvance(text()) > width() - Px(20);
+    const bool cut = event->type() == QEvent::ToolTip &&
+                     fontMetrics().horizontalAdvance(text()) > width() - Px(20);
     return TipWhatIsCut(*event, *this, text(), cut) || QLineEdit::event(event);
   }
   void focusInEvent(QFocusEvent* event) override {

@@ -8,6 +8,7 @@
 #include "desktop/dates.h"
 #include "desktop/spoken.h"
 #include "desktop/textviews.h"
+#include "desktop/wordswidth.h"
 
 namespace grapplemont::desktop {
 
@@ -46,13 +47,12 @@ QString WithoutWeekday(QString date) {
 
 /// How wide a date may come to be: the widest month with the widest day of the week.
 int WidestDate(const QFont& font, bool shortened, bool weekday) {
-  const QFontMetrics metrics(font);
   const auto widest = [&](const std::vector<QString>& dates) {
     int width = 0;
     for (QString date : dates) {
       if (shortened) date = WithShortNames(date);
       if (!weekday) date = WithoutWeekday(date);
-      width = std::max(width, metrics.horizontalAdvance(date));
+      width = std::max(width, WordsAdvance(font, date));
     }
     return width;
   };
@@ -119,13 +119,11 @@ class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
     for (const Piece& piece : pieces) {
       // What is too long is cut in its first words; what follows them stays.
       rest -= WidthOf({piece});
-      const QFontMetrics metrics(FontOf(piece));
-      const QString words =
-          metrics.elidedText(piece.Words, Qt::ElideRight, std::max(0, width() - x - rest));
-      painter.setFont(FontOf(piece));
+      const QFont font = FontOf(piece);
+      const QString words = WordsWithin(font, piece.Words, std::max(0, width() - x - rest));
       painter.setPen(piece.Matters ? TextColour(c, control_.Colour.Get()) : c.Muted);
-      painter.drawText(QRect(x, 0, width() - x, height()), Qt::AlignVCenter, words);
-      x += metrics.horizontalAdvance(words);
+      DrawWords(painter, QRect(x, 0, width() - x, height()), Qt::AlignVCenter, font, words);
+      x += WordsAdvance(font, words);
     }
   }
 
@@ -140,8 +138,7 @@ class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
 
   int WidthOf(const Pieces& pieces) const {
     int width = 0;
-    for (const Piece& piece : pieces)
-      width += QFontMetrics(FontOf(piece)).horizontalAdvance(piece.Words);
+    for (const Piece& piece : pieces) width += WordsAdvance(FontOf(piece), piece.Words);
     return width;
   }
 

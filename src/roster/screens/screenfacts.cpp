@@ -157,10 +157,24 @@ void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
 
 namespace {
 
-std::vector<ui::Link> LinksOf(Game& game, NameIndex& names, std::string_view text) {
+/// A page asks for the names in each of its lines, between two events, when none can change.
+struct PageNames {
+  NameIndex Index;
+  const World* Of = nullptr;
+  unsigned Moment = 0;
+
+  std::vector<NameSpan> Find(const World& world, unsigned moment, std::string_view text) {
+    const bool known = moment > 0 && moment == Moment && Of == &world;
+    Moment = moment;
+    Of = &world;
+    return Index.Find(world, text, known);
+  }
+};
+
+std::vector<ui::Link> LinksOf(Game& game, PageNames& names, std::string_view text) {
   std::vector<ui::Link> links;
   if (!game.HasWorld()) return links;
-  for (const NameSpan& name : names.Find(game.World(), text)) {
+  for (const NameSpan& name : names.Find(game.World(), game.Desk().Moment(), text)) {
     const auto& page = name.Of == NameSpan::Kind::Worker ? game.OpenWorker : game.OpenPromotion;
     if (page) links.push_back({name.From, name.Length, [&page, uid = name.Uid] { page(uid); }});
   }
@@ -171,7 +185,7 @@ std::vector<ui::Link> LinksOf(Game& game, NameIndex& names, std::string_view tex
 
 void ConnectRoster(Game& game) {
   game.OpenWorker = [&game](int uid) { OpenWorkerPage(game, uid); };
-  game.Desk().FindLinks = [&game, names = std::make_shared<NameIndex>()](std::string_view text) {
+  game.Desk().FindLinks = [&game, names = std::make_shared<PageNames>()](std::string_view text) {
     return LinksOf(game, *names, text);
   };
 }

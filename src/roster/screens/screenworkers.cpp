@@ -1,5 +1,7 @@
 #include "roster/screens/screenworkers.h"
 
+#include <algorithm>
+
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "roster/postings.h"
@@ -38,7 +40,8 @@ template <class Person, std::size_t N>
 ui::ListBox::Row RowIn(PeopleList list, const PersonColumn<Person> (&table)[N], const World& world,
                        const Person& person) {
   ui::ListBox::Row row{{}, person.Uid};
-  row.Cells.reserve(N);
+  row.Cells.reserve(static_cast<std::size_t>(std::ranges::count_if(
+      table, [list](const PersonColumn<Person>& column) { return column.IsIn(list); })));
   for (const PersonColumn<Person>& column : table)
     if (column.IsIn(list)) row.Cells.push_back(column.Show(world, person));
   return row;

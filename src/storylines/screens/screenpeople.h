@@ -30,6 +30,7 @@ std::vector<ui::Column> HeadingsOf(const CellColumns<Record>& columns) {
 template <class Record>
 ui::ListBox::Row RowOf(const CellColumns<Record>& columns, const Record& record, int key) {
   ui::ListBox::Row row{{}, key};
+  row.Cells.reserve(columns.size());
   for (const CellColumn<Record>& column : columns) row.Cells.push_back(column.Show(record));
   return row;
 }
