@@ -196,6 +196,9 @@ void Album::Visit() {
 void Album::Try(ui::Screen& screen, const std::string& control) {
   const ui::Control* pressed = screen.Find(control);
   if (!pressed || !pressed->Enabled || !pressed->Visible) return;
+  // A way tried before may have emptied the list.
+  if (const auto* list = dynamic_cast<const ui::ListBox*>(pressed); list && list->Count() == 0)
+    return;
   Click(screen, control);
   VisitAbove(screen);
 }

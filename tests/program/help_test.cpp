@@ -49,7 +49,7 @@ TEST(Help, TellsWhatAPageIsForItsKeysItsWordsAndWhatIsNotPossible) {
   play.Desk.Open("frmShortlist");
   EXPECT_TRUE(play.Desk.OpenHelp());
   ASSERT_EQ(play.Desk.TopName(), "frmHelp");
-  const std::string text = play.Desk.Text("txthelp");
+  const std::string text = play.Desk.Text("txthelp") + "\n" + play.Desk.Text("txtkeys");
   for (const char* part : {"Whom you keep an eye on", "Keys\n", "Enter: Talks", "Escape: Back",
                            "Words\n", "Over: How many people care", "0 to 100 percent.",
                            "Not possible now\n", "Remove: Choose a worker first."})

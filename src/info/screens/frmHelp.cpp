@@ -96,7 +96,7 @@ void AddDisabled(Paragraphs& words, ui::Screen& screen) {
       AddLine(words, control->Text.Get() + ": " + control->Tip.Get());
 }
 
-Paragraphs HelpFor(ui::Screen& screen, const ShellKeys& keys) {
+Paragraphs HelpFor(ui::Screen& screen) {
   Paragraphs words;
   if (const HelpRow* row = RowFor(screen.Name())) {
     words.push_back({Style::Body, std::string(row->For)});
@@ -104,6 +104,11 @@ Paragraphs HelpFor(ui::Screen& screen, const ShellKeys& keys) {
   }
   AddPart(words, "Not possible now", [&] { AddDisabled(words, screen); });
   AddPart(words, "Words", [&] { AddWords(words, screen); });
+  return words;
+}
+
+Paragraphs KeysFor(ui::Screen& screen, const ShellKeys& keys) {
+  Paragraphs words;
   AddPart(words, "Keys", [&] { AddKeys(words, screen, keys); });
   if (screen.Is() != ui::Role::Hub)
     words.push_back(
@@ -118,11 +123,14 @@ class frmHelp : public GameScreen {
  public:
   frmHelp(Game& game, ui::Screen& of)
       : GameScreen(game, "frmHelp", "Help: " + of.Title.Get(), {.Is = kOver}) {
-    txthelp.Write(HelpFor(of, desk().Help.Keys));
+    txthelp.Write(HelpFor(of));
+    txtkeys.Write(KeysFor(of, desk().Help.Keys));
   }
 
   ui::Page Layout() override {
-    ui::Page page = PageOf(ui::Group("", {ui::Grow(txthelp)}), nullptr, {&cmdglossary});
+    ui::Page page = PageOf(ui::Columns({ui::Group("", {ui::Grow(txthelp)}).Grow(),
+                                        ui::Group("", {ui::Grow(txtkeys)}).Grow()}),
+                           nullptr, {&cmdglossary});
     page.Large = true;
     return page;
   }
@@ -130,6 +138,7 @@ class frmHelp : public GameScreen {
 
  private:
   ui::Report txthelp{*this, "txthelp"};
+  ui::Report txtkeys{*this, "txtkeys"};
   ui::Button cmdglossary{*this, "cmdglossary", "Glossary", [this] { desk().OpenGlossary({}); }};
 };
 

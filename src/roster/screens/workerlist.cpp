@@ -111,7 +111,9 @@ void WorkerListScreen::ShowSkills(const Worker* chosen) {
 
 ui::Box WorkerListScreen::PageBox() {
   return ui::Rows(
-      {ui::Group("Skills", {ui::Columns({picworker, ui::Grow(lstskills)})}).From(kLettersOfWide),
+      {ui::Group("Skills",
+                 {ui::Columns({ui::Rows({picworker, ui::Spacer()}), ui::Grow(lstskills)})})
+           .From(kLettersOfWide),
        ui::Group("", {ui::Grow(txtpage), ui::Columns({cmdpage, cmdcompare, ui::Grow(lblchosen)})})
            .Grow()});
 }

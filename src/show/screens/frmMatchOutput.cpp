@@ -80,7 +80,9 @@ class frmMatchOutput : public ui::Screen {
          ui::Columns({ui::Rows({ui::Group("", std::move(figures)).Grow(9),
                                 ui::Group("Road agent", {ui::Grow(txtroad)}).Grow(4)})
                           .Grow(2),
-                      ui::Group("The show so far", {txtannouncers, ui::Grow(chtshow)}).Grow(1)})
+                      ui::Group("The show so far",
+                                {ui::Field("Announcers", txtannouncers), ui::Grow(chtshow)})
+                          .Grow(1)})
              .Wide(kLettersOfCard)
              .Grow(5)});
     return page;
