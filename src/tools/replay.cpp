@@ -233,10 +233,15 @@ Replayed Replay(Disk& machine, const std::vector<NewFile>& files, const std::str
   RecordedDesk desk(
       {reinterpret_cast<const char*>(commands->Contents.data()), commands->Contents.size()});
   std::optional<EndOfRecord> end;
-  // A step stands once it is in the journal.
-  disk.Fails = [&desk](const std::string& path) {
-    return desk.IsAt(kDiskTookBack) ||
-           (desk.IsAt(kDiskKept) && !path.ends_with("/" + std::string(kJournalName)));
+  // A step stands once it is in the journal. The disk fails once for each line: what is mended at
+  // once is mended here too.
+  disk.Fails = [&desk, failedAt = -1](const std::string& path) mutable {
+    const bool isJournal = path.ends_with("/" + std::string(kJournalName));
+    if (failedAt == desk.Done ||
+        !(desk.IsAt(kDiskTookBack) || (desk.IsAt(kDiskKept) && !isJournal)))
+      return false;
+    failedAt = desk.Done;
+    return true;
   };
   {
     Player player(disk, desk, home, share);
