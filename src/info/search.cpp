@@ -65,19 +65,24 @@ int WrongLetters(std::string_view word, std::string_view text, int most) {
   if (std::popcount(LettersIn(word) & ~LettersIn(text)) > most) return most + 1;
   std::array<std::array<int, kLongest + 1>, 3> rows{};
   for (std::size_t at = 0; at <= word.size(); ++at) rows[0][at] = static_cast<int>(at);
-  int best = rows[0][word.size()];
+  int best = rows[0][word.size()], leastBefore = 0;
   for (std::size_t row = 1; row <= text.size(); ++row) {
     auto& now = rows[row % 3];
     const auto &last = rows[(row + 2) % 3], &before = rows[(row + 1) % 3];
     now[0] = static_cast<int>(row);
+    int least = now[0];
     for (std::size_t at = 1; at <= word.size(); ++at) {
       now[at] = std::min(
           {last[at] + 1, now[at - 1] + 1, last[at - 1] + (word[at - 1] == text[row - 1] ? 0 : 1)});
       const bool swapped =
           at > 1 && row > 1 && word[at - 1] == text[row - 2] && word[at - 2] == text[row - 1];
       if (swapped) now[at] = std::min(now[at], before[at - 2] + 1);
+      least = std::min(least, now[at]);
     }
     best = std::min(best, now[word.size()]);
+    // Letters that are swapped look back over two rows.
+    if (least > most && leastBefore > most) break;
+    leastBefore = least;
   }
   return std::min(best, most + 1);
 }
@@ -222,7 +227,7 @@ NameSearch::NameSearch(const World& world) : world_(world) {
   const auto add = [this](Kind kind, int number, std::string_view name, int standing = 0) {
     std::string letters = PlainWords(name);
     if (letters.size() > 1 && name != kToBeDeleted)
-      names_.push_back({kind, number, standing, std::move(letters)});
+      names_.push_back({kind, number, standing, letters, LettersIn(letters)});
   };
   const auto all = [](const auto& records, auto visit) {
     for (int number = 1; number <= records.Count(); ++number) visit(number, records[number]);
@@ -289,8 +294,18 @@ std::vector<Found> NameSearch::Find(std::string_view typed, std::size_t most) co
 
 std::vector<NameSearch::Hit> NameSearch::HitsFor(const std::vector<std::string>& words,
                                                  bool forgiving) const {
+  // Most names are done with by letters that they do not have.
+  std::vector<std::pair<std::uint64_t, int>> wanted;
+  for (const std::string& word : words)
+    wanted.emplace_back(LettersIn(word), forgiving ? Forgiven(word.size() - 1) : 0);
+  const auto mayFit = [&wanted](const Name& name) {
+    return std::ranges::all_of(wanted, [&name](const auto& word) {
+      return std::popcount(word.first & ~name.Has) <= word.second;
+    });
+  };
   std::vector<Hit> hits;
   for (const Name& name : names_) {
+    if (!mayFit(name)) continue;
     const bool isMail = name.Is == Kind::Mail;
     const int fit = FitOf(name.Letters, words, forgiving && !isMail);
     if (fit >= 0) hits.push_back({&name, fit + (isMail ? kBehindAll : 0)});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,6 +54,7 @@ class NameSearch {
     int Number;
     int Standing;  // the smaller the better known
     std::string Letters;
+    std::uint64_t Has;  // which letters, a bit each
   };
   struct Hit {
     const Name* Of;
