@@ -17,7 +17,7 @@ TEST(OfferedAngles, GoByRiskSizeCommissionerAndDate) {
     Day Today;
     const char* WhyNot;
   };
-  const auto day = [](int month, int day) { return Day{std::chrono::year{2026} / month / day}; };
+  const auto day = [](int month, int of) { return Day{std::chrono::year{2026} / month / of}; };
   const Row kRows[] = {
       {1, 0, kBackyard, false, kGameStart, ""},
       {kAmbush, 36, kBackyard, false, kGameStart, ""},

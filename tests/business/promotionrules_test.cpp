@@ -196,9 +196,9 @@ TEST(Development, SendsItsPeopleBackWhenItCloses) {
 TEST(Offices, GoToWhomTheyAreFor) {
   World world = Schools();
   const auto names = [&](Office office) {
-    std::string names;
-    for (const OfficeSeeker& seeker : CandidatesFor(world, office)) names += seeker.Name + ";";
-    return names;
+    std::string all;
+    for (const OfficeSeeker& seeker : CandidatesFor(world, office)) all += seeker.Name + ";";
+    return all;
   };
   EXPECT_EQ(names(Office::Commissioner), "Suit;");
   EXPECT_EQ(names(Office::HeadTrainer), "Coach;");

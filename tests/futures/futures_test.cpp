@@ -125,7 +125,7 @@ TEST(Jobs, DoEachNumberOnceInOneWorldAThread) {
     const std::lock_guard hold(lock);
     ++made;
     return [&](int number, const std::stop_token&) {
-      const std::lock_guard hold(lock);
+      const std::lock_guard holdHere(lock);
       numbers.insert(number);
     };
   });

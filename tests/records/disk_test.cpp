@@ -40,7 +40,7 @@ class EveryDisk : public testing::TestWithParam<const char*> {
 };
 
 INSTANTIATE_TEST_SUITE_P(, EveryDisk, testing::Values("Real", "Unsynced", "Double"),
-                         [](const auto& info) { return std::string(info.param); });
+                         [](const auto& disk) { return std::string(disk.param); });
 
 TEST_P(EveryDisk, KeepsWhatIsWrittenWhereItIsWritten) {
   const OpenedFile file(*disk_, At("a"), true);

@@ -145,9 +145,9 @@ TEST(AGrowingFile, TellsOfAllThatHappensToItsRecordsButAnAppend) {
   mails.Append({});
   unsigned changes = mails.Changes(), moves = mails.Moves();
   const auto told = [&] {
-    const std::pair told(std::exchange(changes, mails.Changes()) != mails.Changes(),
-                         std::exchange(moves, mails.Moves()) != mails.Moves());
-    return std::string(told.first ? "changed" : "") + (told.second ? ", moved" : "");
+    const std::pair now(std::exchange(changes, mails.Changes()) != mails.Changes(),
+                        std::exchange(moves, mails.Moves()) != mails.Moves());
+    return std::string(now.first ? "changed" : "") + (now.second ? ", moved" : "");
   };
   mails.Append({});
   EXPECT_EQ("", told());
