@@ -3,6 +3,7 @@
 #include <array>
 #include <ctime>
 #include <limits>
+#include <random>
 
 #include "records/arithmetic.h"
 #include "records/fields/outside.h"
@@ -210,6 +211,19 @@ TEST(SeededDraws, AreTheSameOnEveryMachineAndSpendADrawWhereThereIsNoChoice) {
   EXPECT_EQ(1, draws.Draw(1));
   for (const int expected : {92, 48, 8, 57, 64}) EXPECT_EQ(expected, draws.Draw(100));
   EXPECT_NE(MachineSeed(), MachineSeed());
+}
+
+TEST(SeededDraws, AreThoseOfTheMersenneTwisterAlsoInACopy) {
+  for (const std::uint64_t seed : {0ull, 1ull, 0x123456789ABCDEFull, ~0ull}) {
+    std::mt19937_64 engine(seed);
+    SeededDraws draws(seed);
+    constexpr int kMost = 2147483647;
+    for (int i = 0; i < 1300; ++i) {  // four rounds of its 312 words
+      const double uniform = static_cast<double>(engine() >> 11) * 0x1.0p-53;
+      if (i % 97 == 0) draws = SeededDraws(draws);
+      ASSERT_EQ(draws.Draw(kMost), static_cast<int>(uniform * kMost) + 1) << seed << ", " << i;
+    }
+  }
 }
 
 TEST(SeededDraws, HitEveryNumberAboutAsOften) {
