@@ -157,6 +157,7 @@ class frmLoadGame : public SlotScreen {
     lbllastshow.Text = summary.LastShow;
     lbllastshow.Visible = !summary.LastShow.empty();
     ShowPage(played_, imgpage);
+    imglast(played_).Visible = false;  // it is the same
   }
 
   void ShowActs() {

@@ -51,6 +51,8 @@ class SlotScreen : public GameScreen {
   ui::Array<ui::Label> lblworth = EachSlot<ui::Label>("lblworth");
   ui::Array<ui::Label> lbllast = EachSlot<ui::Label>("lbllast");
   ui::Array<ui::Label> lblhouse = EachSlot<ui::Label>("lblhouse");
+
+ protected:
   ui::Array<ui::Picture> imglast = EachSlot<ui::Picture>("imglast");
 };
 
