@@ -219,15 +219,27 @@ std::optional<BytesBack> BytesBack::Unpack(ByteSpan& in) {
 
 namespace {
 
+/// Where the two differ first from `from` on; `both` where they do not before it. Most bytes of
+/// most files are alike: they are compared eight, and four times eight, at a time.
+std::size_t SameUntil(ByteSpan one, ByteSpan two, std::size_t from, std::size_t both) {
+  const auto differs = [&](std::size_t at) {
+    std::uint64_t a, b;
+    std::memcpy(&a, one.data() + at, sizeof(a));
+    std::memcpy(&b, two.data() + at, sizeof(b));
+    return a ^ b;
+  };
+  std::size_t i = from;
+  while (i + 32 <= both && (differs(i) | differs(i + 8) | differs(i + 16) | differs(i + 24)) == 0)
+    i += 32;
+  while (i + 8 <= both && differs(i) == 0) i += 8;
+  while (i < both && one[i] == two[i]) ++i;
+  return i;
+}
+
 /// Tells `before` by `now`, which begin at the same place of their file.
 void TellInPlace(BytesBack& back, std::uint64_t at, ByteSpan before, ByteSpan now) {
   const std::size_t both = std::min(before.size(), now.size());
-  const auto sameFrom = [&](std::size_t from) {
-    std::size_t i = from;
-    while (i + 8 <= both && std::memcmp(before.data() + i, now.data() + i, 8) == 0) i += 8;
-    while (i < both && before[i] == now[i]) ++i;
-    return i;
-  };
+  const auto sameFrom = [&](std::size_t from) { return SameUntil(before, now, from, both); };
   std::size_t i = 0;
   while (i < both) {
     const std::size_t same = sameFrom(i);
