@@ -151,7 +151,7 @@ void Pace::After(Teller& teller, char step, bool isSaid) {
     return;
   }
   for (int said = isSaid ? 1 : 0; due_ >= 1 && said < kMostAtOnce; ++said) {
-    const int beat = Choose(teller, step);
+    const int beat = Choose(teller, step, isSaid);
     if (beat < 0) return;
     due_ -= 1;
     Say(teller, beat);
@@ -178,7 +178,7 @@ bool Pace::IsToWake(const Teller& teller) const {
 }
 
 /// One that is true of how the match stands, and not of the same kind as the one before.
-int Pace::Choose(Teller& teller, char step) const {
+int Pace::Choose(Teller& teller, char step, bool isSaid) const {
   constexpr std::string_view kHard = "CDXLWKS", kNothingToSay = "TRP";
   if (kNothingToSay.find(step) != std::string_view::npos) return -1;
   const double part = static_cast<double>(at_) / steps_;
@@ -192,11 +192,13 @@ int Pace::Choose(Teller& teller, char step) const {
     fits.push_back(kWakes);
   else if (const int beat = CrowdBeat(teller); beat >= 0 && crowds_ > 0 && told_[kWakes] == 0)
     fits.push_back(beat);
-  // Nobody feels out who is being beaten, or who has just been covered.
-  const bool isEven = d && d->Trouble < kMomentum && step != '2';
+  // Nobody feels out who is or was being beaten, or who has just been covered.
+  const bool isEven = d && std::max(d->Trouble, a ? a->Trouble : 0) < kMomentum && step != '2';
   if (part < kEarly && !isHard && hasRoom && isEven) fits.push_back(kFeeling);
-  if (isTurned && a && a->Trouble >= kMomentum && !isLate && isFree) fits.push_back(kHope);
-  if (!isTurned && d && d->Trouble >= kMomentum && hasRoom) fits.push_back(kInControl);
+  // Who leads or has come back is not said twice.
+  if (isTurned && a && a->Trouble >= kMomentum && !isLate && isFree && !isSaid)
+    fits.push_back(kHope);
+  if (!isTurned && d && d->Trouble >= kMomentum && hasRoom && !isSaid) fits.push_back(kInControl);
   if (isHard && isFree && d && d->Taken >= kMomentum) fits.push_back(kHurting);
   if (isLate && a && (falls_ > 0 || a->Taken >= kSpent) && hasRoom) fits.push_back(kDesperate);
   if (isLate && !isTurned && hasRoom && a && d && std::min(a->Taken, d->Taken) >= kMomentum)
@@ -224,7 +226,8 @@ void Pace::HoldBreath(Teller& teller) {
 }
 
 void Pace::AfterBell(Teller& teller) {
-  if (!Matters() || teller.cast.Of('w').Empty()) return;
+  // Nobody looks back on what was over at once.
+  if (!Matters() || teller.IsTitleSquash || teller.cast.Of('w').Empty()) return;
   teller.Paragraph();
   Say(teller, kAfterBell);
   if (importance_ >= kHuge) Say(teller, kAfterBell);
