@@ -27,6 +27,8 @@ constexpr std::string_view kProposes = "frmFill";
 constexpr std::string_view kLeavesTheGame = "cmdquit";
 /// Its ways lead to another day, on which the walk would begin anew.
 constexpr std::string_view kLeavesTheDay = "frmMornings";
+/// Double clicks lead from step to step of a booking, and past the whole that this button shows.
+constexpr std::string_view kWholeBooking = "frmBookSheet", kShowsWhole = "cmddone";
 /// A new game needs a name.
 constexpr std::string_view kAsksForAName = "txtname", kName = "Pat Lee";
 
@@ -148,8 +150,7 @@ void Album::FillIn(ui::Screen& screen) {
     if (!list || list->Multi || !list->Visible || !list->Enabled) continue;
     if (list->Count() == 0 || list->Selected() != 0) continue;
     const auto alike = std::ranges::count_if(filled, [&](const ui::ListBox* other) {
-      return other->Count() == list->Count() &&
-             other->Rows().front().Cells == list->Rows().front().Cells;
+      return other->Count() == list->Count() && other->RowOf(1).Cells == list->RowOf(1).Cells;
     });
     const int row = std::min(static_cast<int>(alike) + 1, list->Count());
     window_.Act([&] { return ui::Pick(desk_, screen, list->Name(), row); });
@@ -181,6 +182,7 @@ void Album::Visit() {
   FillIn(*screen);
   LetItCome(*screen);
   Take(screen->Name());
+  if (SeeBooking(*screen)) return;
   for (const std::string& way : WaysOn(*screen)) {
     if (desk_.Top() != screen.get()) return;
     Try(*screen, way);
@@ -191,6 +193,20 @@ void Album::Visit() {
   if (screen->Is() != ui::Role::Hub) return;
   if (desk_.Top() == screen.get()) PlayOn(*screen);
   if (desk_.Top() == screen.get()) VisitTheRest(*screen);
+}
+
+/// Goes on from there to the next step, which is visited as any other.
+bool Album::SeeBooking(ui::Screen& step) {
+  const auto& screens = desk_.Screens();
+  if (taken_.contains(std::string(kWholeBooking)) || screens.size() < 2) return false;
+  const std::shared_ptr<ui::Screen> whole = screens[screens.size() - 2];
+  if (whole->Name() != kWholeBooking) return false;
+  Click(step, std::string(kShowsWhole));
+  if (desk_.Top() != whole.get()) return false;
+  taken_.insert(whole->Name());
+  Take(whole->Name());
+  Click(*whole, whole->Layout().Main->Name());
+  return true;
 }
 
 void Album::Try(ui::Screen& screen, const std::string& control) {

@@ -45,6 +45,8 @@ class Album {
   void LookAtFinder(const Step& look);
   void LookAtBox(const Step& look);
   void FillIn(ui::Screen& screen);
+  /// From a step of a booking, takes the booking as a whole once; true when the step has been left.
+  bool SeeBooking(ui::Screen& step);
   /// Clicks a control; what lies above the screen then is visited and left again.
   void Try(ui::Screen& screen, const std::string& control);
   void Try(ui::Screen& screen, const ui::Handler& opens);

@@ -46,6 +46,32 @@ bool IsRowOfCards(const Box& box) {
              box.Parts, [](const Box& part) { return part.Is == Kind::Group && !Grows(part); });
 }
 
+namespace {
+
+/// What is chosen from, ticked or told in a word.
+bool IsShort(const Box& box) {
+  if (box.Is != Kind::Item && box.Is != Kind::Field) return false;
+  const ui::Kind kind = box.Shown->Is();
+  return kind == ui::Kind::ComboBox || kind == ui::Kind::CheckBox ||
+         (kind == ui::Kind::Label && box.Is == Kind::Field);
+}
+
+}  // namespace
+
+bool HasFilterRow(const Box& card) {
+  if (!card.Title.empty() || card.Parts.size() < 2) return false;
+  const Box& first = card.Parts.front();
+  const bool isForm = first.Is == Kind::Field && card.Parts[1].Is == Kind::Field;
+  const bool isLine = first.Is == Kind::Columns && std::ranges::any_of(first.Parts, IsShort) &&
+                      std::ranges::all_of(first.Parts, [](const Box& part) {
+                        return IsShort(part) || part.Is == Kind::Spacer;
+                      });
+  if (isForm || !(IsShort(first) || isLine)) return false;
+  std::vector<ui::Control*> controls;
+  CollectControls(card, controls);
+  return std::ranges::count(controls, ui::Kind::ListBox, &ui::Control::Is) == 1;
+}
+
 bool Grows(const Box& box) {
   switch (box.Is) {
     case Kind::Item:

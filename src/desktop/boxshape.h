@@ -18,6 +18,9 @@ bool IsCalmButton(const ui::Box& box);
 bool IsPlainRow(const ui::Box& box);
 /// A row of many cards on which nothing grows, such as one of several below each other.
 bool IsRowOfCards(const ui::Box& box);
+/// A card without a title whose one table stands below a line of what is chosen for it: there the
+/// table's own search finds room.
+bool HasFilterRow(const ui::Box& card);
 /// Whether a box makes use of more room than it needs, upright.
 bool Grows(const ui::Box& box);
 /// A card on which nothing grows but prose.

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QPointer>
 #include <algorithm>
 
 #include "desktop/housestyle.h"
@@ -45,6 +46,7 @@ QFont BadgeFont() {
 BareButton::BareButton(QWidget* parent, const QString& caption) : QAbstractButton(parent) {
   setText(caption);
   setFocusPolicy(Qt::TabFocus);
+  connect(this, &QAbstractButton::released, this, [this] { setUpdatesEnabled(true); });
 }
 
 bool BareButton::event(QEvent* event) {
@@ -56,6 +58,20 @@ bool BareButton::event(QEvent* event) {
 void BareButton::keyPressEvent(QKeyEvent* event) {
   if (IsEnter(event->key())) return event->ignore();
   QAbstractButton::keyPressEvent(event);
+}
+
+/// Qt would paint a button that is let go at once, and again what its click makes of it.
+void BareButton::mouseReleaseEvent(QMouseEvent* event) {
+  const QPointer<BareButton> still(this);
+  setUpdatesEnabled(!isDown());
+  QAbstractButton::mouseReleaseEvent(event);
+  if (still) setUpdatesEnabled(true);
+}
+void BareButton::keyReleaseEvent(QKeyEvent* event) {
+  const QPointer<BareButton> still(this);
+  setUpdatesEnabled(!isDown());
+  QAbstractButton::keyReleaseEvent(event);
+  if (still) setUpdatesEnabled(true);
 }
 
 int BareButton::BadgeWidth() const {

@@ -28,6 +28,8 @@ class BareButton : public QAbstractButton {
   }
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
   /// The width at which the whole caption is shown; a narrower one tells it in a tip.
   virtual int WidthWanted() const { return sizeHint().width(); }
   void enterEvent(QEnterEvent*) override { update(); }

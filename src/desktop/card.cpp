@@ -55,8 +55,7 @@ void FlowLayout::SetOneRow(bool oneRow) {
   invalidate();
 }
 
-QSize FlowLayout::minimumSize() const {
-  if (oneRow_) return sizeHint();
+QSize FlowLayout::LeastSize() const {
   QSize least;
   for (const QLayoutItem* item : items_)
     if (!item->isEmpty()) least = least.expandedTo(item->minimumSize());

@@ -30,7 +30,9 @@ class FlowLayout : public QLayout {
   bool hasHeightForWidth() const override { return true; }
   int heightForWidth(int width) const override { return Arrange(QRect(0, 0, width, 0), false); }
   QSize sizeHint() const override;
-  QSize minimumSize() const override;
+  QSize minimumSize() const override { return oneRow_ ? sizeHint() : LeastSize(); }
+  /// That of its widest part, whether it stays in one row now or not.
+  QSize LeastSize() const;
   void setGeometry(const QRect& rect) override;
 
  private:

@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QSpinBox>
+#include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
 #include <algorithm>
@@ -15,6 +16,7 @@
 #include "desktop/pieces.h"
 #include "desktop/spoken.h"
 #include "desktop/views.h"
+#include "desktop/wordswidth.h"
 #include "ui/acts.h"
 
 // What is chosen by a click: combo boxes, check boxes, options, sliders.
@@ -63,7 +65,7 @@ constexpr int kAround = 37;  // beside a combo box's words
 class ComboView : public ViewOf<Calm<QComboBox>, ui::ComboBox> {
  public:
   ComboView(ui::ComboBox& combo, Stage& stage, QWidget* parent) : ViewOf(combo, stage, parent) {
-    setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMaxVisibleItems(kRowsShown);
     setItemDelegate(new Choices(this));
     setMinimumContentsLength(8);
@@ -72,6 +74,19 @@ class ComboView : public ViewOf<Calm<QComboBox>, ui::ComboBox> {
       Do<int>(ui::Pick, row + 1);
       Show();  // what the screen made of it, even if that is what it was before
     });
+  }
+  /// As wide as its longest row. Qt's own way to that would have the box grow beyond its place for
+  /// a moment whenever the rows change.
+  QSize sizeHint() const override {
+    int longest = 0;
+    for (int row = 0; row < count(); ++row)
+      longest = std::max(longest, WordsWidth(font(), itemText(row)));
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QSize least = Calm::sizeHint();
+    const QSize whole = style()->sizeFromContents(QStyle::CT_ComboBox, &option,
+                                                  QSize(longest, least.height()), this);
+    return {std::max(least.width(), whole.width()), least.height()};
   }
   /// The list is as wide as its longest row, wherever the screen has the room.
   void showPopup() override {

@@ -1,5 +1,6 @@
 #include "desktop/layoutbuilder.h"
 
+#include <QComboBox>
 #include <QScopedValueRollback>
 #include <QTabBar>
 #include <algorithm>
@@ -22,14 +23,12 @@ namespace {
 using ui::Box;
 using Kind = ui::Box::Kind;
 
-constexpr int kWide = 14, kClose = 8;  // between cards, within a card
-constexpr int kCardSide = 14;
-constexpr int kScrollBar = 16;
-constexpr int kLetter = 7;
+constexpr int kWide = 14;  // between cards
 constexpr int kWidestField = 420;
 constexpr int kFieldsShare = 1000;  // of a form's width, as long as they are not that wide
+constexpr int kLettersChosen = 17;  // of what a form's drop-down shows, before its label turns
+constexpr int kLeastWords = 70;     // beside the buttons of their row
 constexpr int kLeastCard = 220;     // beside another; a narrower one stands below it
-constexpr int kLeastSearch = 180;   // so that what is searched can be read in the empty line
 constexpr int kLeastAlike = 180;    // the same of many that hold as little each
 
 /// What a line is typed into, chosen from or slid on needs no more width than what it can hold.
@@ -60,16 +59,6 @@ Grid* NewGrid(int gap) {
 }
 
 }  // namespace
-
-TableView* OnlyTable(const std::vector<ControlView*>& views) {
-  TableView* only = nullptr;
-  for (ControlView* view : views)
-    if (auto* table = dynamic_cast<TableView*>(view)) {
-      if (only) return nullptr;
-      only = table;
-    }
-  return only;
-}
 
 ControlView* LayoutBuilder::View(ui::Control& control) {
   ControlView* view = MakeView(control, stage_, holder_);
@@ -193,6 +182,7 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
     if (!alike) Add(part, columns);
   }
   if (alike) AddAlike(box.Parts, columns);
+  if (box.Parts.front().Waits) columns->LetFirstWait();
   if (!filled) columns->addStretch(1);
 }
 
@@ -211,68 +201,6 @@ void LayoutBuilder::AddAlike(std::span<const Box> parts, TurningLayout* into) {
     AddAlike(line, within);
   }
   into->KeepRowsWhole();
-}
-
-void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
-  const QScopedValueRollback<QString> heading(heading_,
-                                              box.Title.empty() ? heading_ : Shown(box.Title));
-  const QFont bold = TextFont(13, QFont::DemiBold);
-  if (inCard_) {  // a card on a card is a heading with what belongs to it
-    auto* part = NewLayout<QVBoxLayout>(nullptr, kClose);
-    if (!box.Title.empty()) part->addWidget(new WrappedLabel(holder_, Shown(box.Title), bold));
-    into->addLayout(part, ShareOf(box));
-    return AddAll(box.Parts, part);
-  }
-  auto* card = new Card(holder_);
-  if (std::exchange(calm_, false))
-    card->setMaximumWidth(ReadableWidth() + 2 * Px(kCardSide) + Px(kScrollBar));
-  Means(*card, QAccessible::Grouping);
-  card->setAccessibleName(heading_);
-  QVBoxLayout* const inside =
-      peers_ ? new LevelColumn(card, peers_) : NewLayout<QVBoxLayout>(card, kClose);
-  inside->setSpacing(Px(kClose));
-  inside->setContentsMargins(Px(kCardSide), Px(kCardSide), Px(kCardSide), Px(kCardSide));
-  auto* head = new TurningLayout(kClose);
-  inside->addLayout(head);
-  if (!box.Title.empty()) head->addWidget(new WrappedLabel(card, Shown(box.Title), bold), 1);
-  QWidget* const outer = holder_;
-  holder_ = card;
-  inCard_ = true;
-  const std::size_t before = views_.size();
-  AddAll(box.Parts, inside);
-  inCard_ = false;
-  holder_ = outer;
-  const std::vector<ControlView*> views(views_.begin() + static_cast<std::ptrdiff_t>(before),
-                                        views_.end());
-  AddSearch(views, box.Title.empty(), *head);
-  cards_.push_back({card, views, Px(box.Spare * kLetter)});
-  into->addWidget(card, ShareOf(box));
-}
-
-/// The search row of a card's only table, beside its title or the page's own search line.
-void LayoutBuilder::AddSearch(const std::vector<ControlView*>& views, bool untitled,
-                              QBoxLayout& head) {
-  TableView* table = OnlyTable(views);
-  if (!table || !table->CanSearch()) return;
-  const auto own = std::ranges::find_if(views, [table](const ControlView* view) {
-    return &view->Shows() == dynamic_cast<const ui::ListBox&>(table->Shows()).Search;
-  });
-  if (own == views.end() && untitled) return;
-  QWidget* const row = table->TakeSearchRow();
-  // The panel below keeps its place when the row comes and goes beside the title; below the title
-  // it would leave a hole.
-  head.addStrut(row->sizeHint().height());
-  if (own != views.end()) {
-    (*own)->Widget()->setMinimumWidth(Px(kLeastSearch));
-    head.addWidget((*own)->Widget(), 4);
-  }
-  head.addWidget(row, own != views.end() ? 0 : 4);
-}
-
-/// Cards of one kind in several rows are all of one height.
-void LayoutBuilder::AddCards(const Run& rows, QBoxLayout* into) {
-  const QScopedValueRollback<std::shared_ptr<Peers>> level(peers_, std::make_shared<Peers>());
-  for (const Box* row : rows) AddColumns(*row, into);
 }
 
 /// As high and as wide as the page that is shown needs: the others have their turn.
@@ -322,6 +250,8 @@ void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
     label->setBuddy(view->FocusTarget());
     const bool tall = Grows(*field);
     if (!tall && IsNarrow(*field->Shown)) Narrow(*view->Widget(), *form);
+    if (auto* combo = qobject_cast<QComboBox*>(view->Widget()); combo && !across)
+      combo->setMinimumContentsLength(kLettersChosen);
     grows = grows || tall;
     form->addWidget(label, row, 0,
                     tall ? Qt::AlignTop | Qt::AlignLeft : Qt::AlignVCenter | Qt::AlignLeft);
@@ -371,6 +301,8 @@ void LayoutBuilder::AddGrid(const Run& rows, QBoxLayout* into) {
     for (const Box& part : line->Parts) {
       ControlView* view = View(*part.Shown);
       Widen(*view->Widget(), part);
+      if (part.Stretch > 0 && part.Shown->Is() == ui::Kind::Label)
+        view->Widget()->setMinimumWidth(Px(kLeastWords));
       grid->addWidget(view->Widget(), row, column, Qt::AlignVCenter);
       grid->setColumnStretch(column, part.Stretch);
       most = std::max(most, part.Stretch);

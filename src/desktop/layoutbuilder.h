@@ -16,6 +16,9 @@ class TableView;
 class LevelColumn;
 class TurningLayout;
 
+inline constexpr int kClose = 8;   // between what stands within a card
+inline constexpr int kLetter = 7;  // the width that a page reckons with for one
+
 /// Makes widgets and layouts of a screen's boxes.
 class LayoutBuilder {
  public:
@@ -49,6 +52,7 @@ class LayoutBuilder {
   void AddColumns(const ui::Box& box, QBoxLayout* into);
   void AddAlike(std::span<const ui::Box> parts, TurningLayout* into);
   void AddGroup(const ui::Box& box, QBoxLayout* into);
+  void AddPartOfCard(const ui::Box& box, QBoxLayout* into);
   void AddSearch(const std::vector<ControlView*>& views, bool untitled, QBoxLayout& head);
   void AddTabs(const ui::Box& box, QBoxLayout* into);
   void AddForm(const Run& fields, QBoxLayout* into);

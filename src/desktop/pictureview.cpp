@@ -1,9 +1,12 @@
 #include "desktop/pictureview.h"
 
+#include <QDateTime>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmapCache>
 #include <algorithm>
 
 #include "desktop/drawn/drawn.h"
@@ -39,11 +42,8 @@ void FadeEdges(QImage& image) {
   }
 }
 
-/// A picture read at a size in its own proportions, within `room` or covering it; null when there
-/// is none.
-QPixmap ReadPicture(const QString& file, const QSize& room, Qt::AspectRatioMode mode, double ratio,
-                    bool fading = false) {
-  if (file.isEmpty()) return {};
+QPixmap DecodePicture(const QString& file, const QSize& room, Qt::AspectRatioMode mode,
+                      double ratio, bool fading) {
   QImageReader reader(file);
   const QSize full = reader.size();
   if (!full.isValid() || room.isEmpty()) return {};
@@ -52,6 +52,28 @@ QPixmap ReadPicture(const QString& file, const QSize& room, Qt::AspectRatioMode 
   if (fading && !image.isNull()) FadeEdges(image);
   QPixmap pixmap = QPixmap::fromImage(image);
   pixmap.setDevicePixelRatio(ratio);
+  return pixmap;
+}
+
+/// A picture read at a size in its own proportions, within `room` or covering it; null when there
+/// is none. One that was read before is still known, as long as its file is as it was.
+QPixmap ReadPicture(const QString& file, const QSize& room, Qt::AspectRatioMode mode, double ratio,
+                    bool fading = false) {
+  if (file.isEmpty()) return {};
+  const QFileInfo now(file);
+  const QString key = QString("%1|%2|%3|%4x%5|%6|%7|%8")
+                          .arg(file)
+                          .arg(now.lastModified().toMSecsSinceEpoch())
+                          .arg(now.size())
+                          .arg(room.width())
+                          .arg(room.height())
+                          .arg(static_cast<int>(mode))
+                          .arg(ratio)
+                          .arg(fading);
+  QPixmap pixmap;
+  if (QPixmapCache::find(key, &pixmap)) return pixmap;
+  pixmap = DecodePicture(file, room, mode, ratio, fading);
+  if (!pixmap.isNull()) QPixmapCache::insert(key, pixmap);
   return pixmap;
 }
 

@@ -6,6 +6,7 @@
 
 #include "desktop/boxshape.h"
 #include "desktop/dates.h"
+#include "desktop/facedhead.h"
 #include "desktop/tableview.h"
 #include "desktop/turninglayout.h"
 #include "ui/acts.h"
@@ -146,29 +147,27 @@ void ScreenView::BuildWait() {
 /// Title and facts; there is room for actions at their right, or below where they have none there.
 /// Beside a face much is said: the actions stand beside the title alone.
 QLayout* ScreenView::BuildHead() {
-  auto* head = new TurningLayout(12, page_.Face ? kLeastName : kLeastTitle);
-  auto* words = NewLayout<QVBoxLayout>(nullptr, 1);
   title_ = new WrappedLabel(this, {}, TextFont(19, QFont::DemiBold));
   title_->setObjectName("title");
-  auto* faced = page_.Face ? NewLayout<QHBoxLayout>(nullptr, kPartGap) : nullptr;
-  if (faced) {
+  auto* tail = screen_->Is() == ui::Role::Dialog ? nullptr : new TurningLayout(12);
+  if (tail) tail->KeepRowsWhole();
+  tail_ = tail;
+  auto* words = NewLayout<QVBoxLayout>(nullptr, 1);
+  if (page_.Face) {
+    auto* faced = NewLayout<QHBoxLayout>(nullptr, kPartGap);
     faced->addWidget(Add(*page_.Face), 0, Qt::AlignTop);
-    faced->addLayout(words, 1);
-    head->addWidget(title_, 1);
-    words->addLayout(head);
-  } else {
-    words->addWidget(title_);
-    head->addLayout(words, 1);
+    AddFacts(*words);
+    faced->addLayout(new FacedHead(title_, words, tail, kLeastName), 1);
+    return faced;
   }
+  auto* head = new TurningLayout(12, kLeastTitle);
+  words->addWidget(title_);
+  head->addLayout(words, 1);
   AddFacts(*words);
-  if (screen_->Is() != ui::Role::Dialog) {
-    auto* tail = new TurningLayout(12);
-    tail->KeepRowsWhole();
-    head->addLayout(tail);
-    tail_ = tail;
-    head->KeepRowsWhole();
-  }
-  return faced ? static_cast<QLayout*>(faced) : head;
+  if (!tail) return head;
+  head->addLayout(tail);
+  head->KeepRowsWhole();
+  return head;
 }
 
 void ScreenView::AddFacts(QBoxLayout& words) {

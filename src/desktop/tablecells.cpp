@@ -263,7 +263,7 @@ void TableCells::paint(QPainter* painter, const QStyleOptionViewItem& option,
 /// What a cell shows of its row: that it is chosen or under the mouse, and the line below it.
 void TableCells::PaintRow(QPainter& painter, const QStyleOptionViewItem& option, int row) const {
   const Colours& c = ColoursOf(option.palette);
-  if (model_.Table().RowAt(row).Selected) {
+  if (model_.Table().IsSelected(row)) {
     painter.fillRect(option.rect, c.Chosen);
   } else if (row == hover_ && option.state.testFlag(QStyle::State_Enabled)) {
     painter.fillRect(option.rect, c.Field);
@@ -283,10 +283,9 @@ void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option
   const bool cut = room.right() > edge;
   if (cut) room.setRight(edge);
   if (cut && room.width() < Px(kSliver)) return;
-  room.setLeft(room.left() +
-               DrawSmall(&painter, room, column, model_.Table().RowAt(index.row()).Key));
+  room.setLeft(room.left() + DrawSmall(&painter, room, column, model_.Table().KeyAt(index.row())));
   if (column.Under)
-    room = DrawUnder(painter, room, column.Under(model_.Table().RowAt(index.row()).Key), c);
+    room = DrawUnder(painter, room, column.Under(model_.Table().KeyAt(index.row())), c);
   const QFont font = TextFont(kUsualText, column.Under ? QFont::DemiBold : QFont::Normal);
   if (cell.Best) {
     const int width = CellWidth(cell, column) - 2 * Px(kCellSide);
@@ -308,7 +307,7 @@ void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option
 
 QSize TableCells::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const {
   const ui::Column& column = model_.Column(index.column());
-  const int drawn = DrawnWidth(column, model_.Table().RowAt(index.row()).Key);
+  const int drawn = DrawnWidth(column, model_.Table().KeyAt(index.row()));
   return {CellWidth(model_.Table().At(index.row(), index.column()), column) + drawn,
           Px(RowHeight(model_.List()))};
 }
@@ -324,7 +323,7 @@ bool TableCells::helpEvent(QHelpEvent* event, QAbstractItemView* view,
         CellText(model_.Table().At(index.row(), index.column()), model_.Column(index.column()).Kind)
             .toHtmlEscaped());
   if (const auto& under = model_.Column(index.column()).Under)
-    lines.append(Shown(under(model_.Table().RowAt(index.row()).Key)).toHtmlEscaped());
+    lines.append(Shown(under(model_.Table().KeyAt(index.row()))).toHtmlEscaped());
   if (const QString hint = HintOf ? HintOf(index) : QString(); !hint.isEmpty())
     lines.append(hint.toHtmlEscaped());
   if (lines.isEmpty()) {
@@ -349,13 +348,13 @@ bool TableModel::IsPinned(int column) const {
 QVariant TableModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
   if (role == Qt::AccessibleDescriptionRole)
-    return table_.RowAt(index.row()).Selected ? QString("selected") : QString();
+    return table_.IsSelected(index.row()) ? QString("selected") : QString();
   if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
   const ui::Cell& cell = table_.At(index.row(), index.column());
   const bool tells = role == Qt::AccessibleTextRole && cell.Best;
   QString text = CellText(cell, Column(index.column()).Kind);
   if (const auto& under = Column(index.column()).Under; under && role == Qt::AccessibleTextRole)
-    text += ". " + Shown(under(table_.RowAt(index.row()).Key));
+    text += ". " + Shown(under(table_.KeyAt(index.row())));
   return tells ? text + ", the best" : text;
 }
 

@@ -245,7 +245,7 @@ void TableGrid::DrawCursor(QPainter& painter) {
   const QRect row(0, rowViewportPosition(CurrentRow()), viewport()->width(),
                   rowHeight(CurrentRow()));
   // A selected row stands out already.
-  if (model_.Table().RowAt(CurrentRow()).Selected)
+  if (model_.Table().IsSelected(CurrentRow()))
     return painter.fillRect(QRect(0, row.top(), Px(2), row.height() - 1), ColoursOf(this).Blue);
   DrawFocus(painter, QRectF(row).adjusted(0, 0, 0, -1), Px(3), palette());
 }

@@ -18,15 +18,15 @@ void TableView::PickShown(const std::vector<int>& shownRows) {
 }
 
 void TableView::AddRow(int shownRow) {
-  currentKey_ = anchorKey_ = table_.RowAt(shownRow).Key;
+  currentKey_ = anchorKey_ = table_.KeyAt(shownRow);
   Do<int>(ui::PickToo, table_.Rows()[static_cast<std::size_t>(shownRow)] + 1);
 }
 
 void TableView::ReachRow(int shownRow) {
-  currentKey_ = table_.RowAt(shownRow).Key;
+  currentKey_ = table_.KeyAt(shownRow);
   int from = shownRow;
   for (int row = 0; row < model_.rowCount(); ++row)
-    if (table_.RowAt(row).Key == anchorKey_) from = row;
+    if (table_.KeyAt(row) == anchorKey_) from = row;
   std::vector<int> rows;
   for (int row = std::min(from, shownRow); row <= std::max(from, shownRow); ++row)
     rows.push_back(row);
@@ -43,7 +43,7 @@ void TableView::DropUnseen() {
   const std::size_t chosen = control_.Multi ? 0 : control_.Keys().size();
   std::vector<int> seen;
   for (int row = 0; row < model_.rowCount(); ++row)
-    if (table_.RowAt(row).Selected) seen.push_back(row);
+    if (table_.IsSelected(row)) seen.push_back(row);
   if (seen.size() == chosen || control_.Multi) return;
   if (seen.empty() && model_.rowCount() > 0) return Act(0, false);
   if (control_.Extends) PickShown(seen);

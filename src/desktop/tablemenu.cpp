@@ -123,7 +123,7 @@ void TableView::OpenColumnsMenu(const QPoint& globally) {
 void TableView::OpenRowMenu(const QPoint& at) {
   const QModelIndex cell = grid_->indexAt(at);
   const bool canAct = cell.isValid() && !control_.Acts.empty();
-  if (canAct && !table_.RowAt(cell.row()).Selected) Act(cell.row(), false);
+  if (canAct && !table_.IsSelected(cell.row())) Act(cell.row(), false);
   QMenu* menu = NewMenu(this, "rowmenu");
   menu->setToolTipsVisible(true);
   if (canAct) AddActs(*menu);

@@ -23,9 +23,9 @@ QString SearchHint(const ui::ListBox& list) {
         column.Kind == ui::ColumnKind::Number || column.Kind == ui::ColumnKind::Percent;
     // A place or a date is a number to the table, but nobody would look for one by its size.
     const bool place = column.Title == "#" || column.Title == "Place";
-    const bool plain =
-        list.Count() == 0 || i >= list.Rows().front().Cells.size() ||
-        list.Rows().front().Cells[i].Text.find_first_not_of("0123456789%") == std::string::npos;
+    const bool plain = list.Count() == 0 ||
+                       list.CellOf(1, static_cast<int>(i)).Text.find_first_not_of("0123456789%") ==
+                           std::string::npos;
     if (number && plain && !place && !column.Title.empty())
       return "Filter: " + Shown(column.Title) + " >60\u2026";
   }
@@ -126,7 +126,7 @@ void TableView::ConnectGrid() {
   grid_->Reached = [this](int row) { ReachRow(row); };
   grid_->AllPicked = [this] { PickAll(); };
   grid_->Dragged = [this](int row, int to) {
-    currentKey_ = table_.RowAt(to).Key;
+    currentKey_ = table_.KeyAt(to);
     const auto& rows = table_.Rows();
     Do<int, int>(ui::MoveRow, rows[Index(row)] + 1, rows[Index(to)] + 1);
   };
@@ -144,7 +144,7 @@ void TableView::ConnectGrid() {
 }
 
 void TableView::Act(int shownRow, bool open) {
-  currentKey_ = anchorKey_ = table_.RowAt(shownRow).Key;
+  currentKey_ = anchorKey_ = table_.KeyAt(shownRow);
   const int row = table_.Rows()[Index(shownRow)] + 1;
   open ? Do<int>(ui::OpenRow, row) : Do<int>(ui::Pick, row);
 }
@@ -168,7 +168,7 @@ void TableView::Rearrange() {
   const int rows = model_.rowCount();
   int row = -1;
   for (int i = 0; currentKey_ != 0 && i < rows && row < 0; ++i)
-    if (table_.RowAt(i).Key == currentKey_) row = i;
+    if (table_.KeyAt(i) == currentKey_) row = i;
   if (row < 0 && before >= 0) row = std::min(before, rows - 1);
   grid_->SetCurrentRow(row);
   grid_->verticalScrollBar()->setValue(top);
@@ -222,7 +222,7 @@ void TableView::ShowSelection() {
   if (row < 0 || row == current) return;
   // Of several it may stand on any.
   if (control_.Extends && current >= 0 && control_.Keys().size() > 1) return;
-  currentKey_ = control_.Rows()[Index(selected)].Key;
+  currentKey_ = control_.KeyOf(selected + 1);
   grid_->SetCurrentRow(row);
   grid_->scrollTo(grid_->currentIndex());
 }
@@ -298,21 +298,24 @@ void TableView::SetRowButtons(std::vector<ButtonView*> buttons) {
   PlaceRowButtons();
 }
 
-/// A button whose row is not shown stands out of sight.
+/// A button whose row is not shown stands out of sight. Each is placed once, since each place is
+/// painted.
 void TableView::PlaceRowButtons() {
   if (rowButtons_.empty() || !table_.Follows()) return;
-  for (ButtonView* button : rowButtons_) button->move(-Px(1000), 0);
+  std::vector<QRect> places(rowButtons_.size());
   int column = -1;
   for (const int shown : table_.Columns())
     if (model_.Column(shown).Kind == ui::ColumnKind::Button) column = shown;
-  if (column < 0) return;
-  for (int row = 0; row < model_.rowCount(); ++row) {
-    const int key = table_.RowAt(row).Key;
+  for (int row = 0; column >= 0 && row < model_.rowCount(); ++row) {
+    const int key = table_.KeyAt(row);
     if (key < 1 || key > static_cast<int>(rowButtons_.size())) continue;
-    const QRect cell = grid_->visualRect(model_.index(row, column));
     const int side = Px(kCellSide), above = Px(4);
-    rowButtons_[Index(key - 1)]->setGeometry(cell.adjusted(side, above, -side, -above - 1));
+    places[Index(key - 1)] =
+        grid_->visualRect(model_.index(row, column)).adjusted(side, above, -side, -above - 1);
   }
+  for (std::size_t i = 0; i < places.size(); ++i)
+    places[i].isEmpty() ? rowButtons_[i]->move(-Px(1000), 0)
+                        : rowButtons_[i]->setGeometry(places[i]);
 }
 
 ControlView* NewView(ui::ListBox& list, Stage& stage, QWidget* parent) {

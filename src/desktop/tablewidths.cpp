@@ -13,6 +13,7 @@ namespace grapplemont::desktop {
 namespace {
 
 constexpr int kMeasuredRows = 200;  // rows that are measured one by one for a column's width
+constexpr int kReadRows = 2000;     // of those behind them; of more, some that lie far apart
 constexpr int kSentence = 200;      // texts from this width on are read at length
 constexpr int kTagsRead = 124;      // two tags, or one and the beginning of the next
 
@@ -66,18 +67,16 @@ std::vector<int> TableView::MeasuredWidths() const {
   for (int row = 0; row < std::min(rows, kMeasuredRows); ++row)
     for (std::size_t place = 0; place < columns.size(); ++place)
       widen(place, table_.At(row, columns[place]));
-  std::vector<const ui::Cell*> longest(columns.size());
-  for (int row = kMeasuredRows; row < rows; ++row) {
-    const std::vector<ui::Cell>& cells = table_.RowAt(row).Cells;
-    for (std::size_t place = 0; place < columns.size(); ++place) {
-      if (Index(columns[place]) >= cells.size()) continue;
-      const ui::Cell& cell = cells[Index(columns[place])];
-      if (!longest[place] || cell.Text.size() > longest[place]->Text.size()) longest[place] = &cell;
-    }
-  }
+  std::vector<ui::Cell> longest(columns.size(), ui::Cell(""));
+  const int step = std::max(1, (rows - kMeasuredRows) / kReadRows);
+  for (int row = kMeasuredRows; row < rows; row += step)
+    for (std::size_t place = 0; place < columns.size(); ++place)
+      if (ui::Cell cell = table_.CellAt(row, columns[place]);
+          cell.Text.size() > longest[place].Text.size())
+        longest[place] = std::move(cell);
   for (std::size_t place = 0; place < columns.size(); ++place) {
-    if (longest[place]) widen(place, *longest[place]);
-    if (rows > 0) widths[place] += DrawnWidth(model_.Column(columns[place]), table_.RowAt(0).Key);
+    if (!longest[place].Text.empty()) widen(place, longest[place]);
+    if (rows > 0) widths[place] += DrawnWidth(model_.Column(columns[place]), table_.KeyAt(0));
   }
   return widths;
 }
@@ -140,7 +139,7 @@ int TableView::PinnedIn(const std::vector<int>& widths) const {
 /// Whether nothing stands below the heading.
 bool TableView::IsEmpty(int column) const {
   for (int row = 0; row < model_.rowCount(); ++row)
-    if (!table_.At(row, column).Text.empty()) return false;
+    if (!table_.CellAt(row, column).Text.empty()) return false;
   return model_.rowCount() > 0;
 }
 

@@ -17,6 +17,13 @@ int RowWidth(QLayoutItem& item) {
   return flow ? flow->WidthInOneRow() : -1;
 }
 
+int LeastWidthOf(QLayoutItem& item) {
+  if (const auto* turning = dynamic_cast<const TurningLayout*>(item.layout()))
+    return turning->LeastWidth();
+  const auto* flow = dynamic_cast<const FlowLayout*>(item.layout());
+  return flow ? flow->LeastSize().width() : item.minimumSize().width();
+}
+
 }  // namespace
 
 bool PlaceTight(QBoxLayout& column, const QRect& rect) {
@@ -89,13 +96,16 @@ int TurningLayout::WidthAcross() const {
   return width;
 }
 
-/// It can be as narrow as its widest part.
-QSize TurningLayout::minimumSize() const {
-  QSize least = QBoxLayout::minimumSize();
+int TurningLayout::LeastWidth() const {
   int widest = 0;
   for (int i = 0; i < count(); ++i)
-    if (!itemAt(i)->isEmpty()) widest = std::max(widest, itemAt(i)->minimumSize().width());
-  least.setWidth(oneRow_ ? WidthAcross() : std::min(least.width(), widest));
+    if (!itemAt(i)->isEmpty()) widest = std::max(widest, LeastWidthOf(*itemAt(i)));
+  return widest;
+}
+
+QSize TurningLayout::minimumSize() const {
+  QSize least = QBoxLayout::minimumSize();
+  least.setWidth(oneRow_ ? WidthAcross() : std::min(least.width(), LeastWidth()));
   return least;
 }
 
@@ -153,13 +163,26 @@ int TurningLayout::HeightAt(int width, bool least) const {
   return height;
 }
 
+void TurningLayout::MovePart(int from, int to) {
+  const int share = stretch(from);
+  QLayoutItem* const part = takeAt(from);
+  if (QLayout* layout = part->layout())
+    insertLayout(to, layout);
+  else
+    insertItem(to, part);
+  setStretch(to, share);
+}
+
+void TurningLayout::Turn(Direction wanted) {
+  setDirection(wanted);
+  if (firstWaits_) wanted == TopToBottom ? MovePart(0, count() - 1) : MovePart(count() - 1, 0);
+  HoldRows(wanted == LeftToRight);
+  update();  // what stands around it has another height to reckon with
+}
+
 void TurningLayout::setGeometry(const QRect& rect) {
   const Direction wanted = DirectionAt(rect.width());
-  if (wanted != direction()) {
-    setDirection(wanted);
-    HoldRows(wanted == LeftToRight);
-    update();  // what stands around it has another height to reckon with
-  }
+  if (wanted != direction()) Turn(wanted);
   if (wanted == LeftToRight || !PlaceTight(*this, rect)) QBoxLayout::setGeometry(rect);
 }
 

@@ -23,9 +23,14 @@ class TurningLayout : public QBoxLayout {
   void KeepRowsWhole();
   /// Whether it must stay a row.
   void SetOneRow(bool oneRow);
+  /// Has the first part go last while the parts stand one below the other.
+  void LetFirstWait() { firstWaits_ = true; }
 
   /// The width from which on the parts stand in a row.
   int WidthAcross() const;
+  /// It can be as narrow as its widest part, even while its rows are held in one line: who holds
+  /// them lets go once there is no more room.
+  int LeastWidth() const;
   QSize minimumSize() const override;
   /// One of which all is hidden takes no room, whatever its share.
   QSize maximumSize() const override { return isEmpty() ? QSize(0, 0) : QBoxLayout::maximumSize(); }
@@ -43,9 +48,11 @@ class TurningLayout : public QBoxLayout {
   std::vector<int> WidthsAcross(int width) const;
   /// Lets the rows in it be whole while it is a row itself.
   void HoldRows(bool oneRow);
+  void Turn(Direction wanted);
+  void MovePart(int from, int to);
 
   int gap_, least_;
-  bool whole_ = false, oneRow_ = false;
+  bool whole_ = false, oneRow_ = false, firstWaits_ = false;
 };
 
 }  // namespace grapplemont::desktop

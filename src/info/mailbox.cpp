@@ -16,7 +16,7 @@ void SetAllMailOptions(GameInfo& game, int choice) {
 std::vector<std::string> MailSenders(const World& world) {
   std::set<std::string_view> senders;
   for (const Mail& mail : world.News())
-    if (!mail.From.View().empty()) senders.insert(mail.From.View());
+    if (const std::string_view from = mail.From.View(); !from.empty()) senders.insert(from);
   return {senders.begin(), senders.end()};
 }
 

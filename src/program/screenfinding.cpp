@@ -30,12 +30,11 @@ struct Room {
 
 /// The row of this key, or without a key the first that shows these words; 0 for none.
 int RowIn(const ui::ListBox& list, int key, std::string_view words) {
-  const auto& rows = list.Rows();
-  const auto found = std::ranges::find_if(rows, [&](const ui::ListBox::Row& row) {
-    if (key != 0) return row.Key == key;
-    return std::ranges::any_of(row.Cells, [&](const ui::Cell& cell) { return cell.Text == words; });
-  });
-  return found == rows.end() ? 0 : static_cast<int>(found - rows.begin()) + 1;
+  const auto shows = [words](const ui::Cell& cell) { return cell.Text == words; };
+  for (int row = 1; row <= list.Count(); ++row)
+    if (key != 0 ? list.KeyOf(row) == key : std::ranges::any_of(list.RowOf(row).Cells, shows))
+      return row;
+  return 0;
 }
 
 void EnterAt(ui::Desk& desk, const Room& room, int key, std::string_view words = {}) {

@@ -59,12 +59,11 @@ void Choose(Screen& screen, OptionButton& chosen) {
 }
 
 /// What a row's first column says.
-std::string_view TextOf(const ComboBox& combo, int row) {
+std::string TextOf(const ComboBox& combo, int row) {
   return combo.Rows()[static_cast<std::size_t>(row - 1)];
 }
-std::string_view TextOf(const ListBox& list, int row) {
-  const auto& cells = list.Rows()[static_cast<std::size_t>(row - 1)].Cells;
-  return cells.empty() ? std::string_view() : cells.front().Text;
+std::string TextOf(const ListBox& list, int row) {
+  return list.CellOf(row, 0).Text;
 }
 
 /// A row as a player names it.
@@ -200,9 +199,8 @@ std::string MoveRow(Desk& desk, Screen& screen, std::string_view name, int row, 
     if (!list.OnMove) return CannotBe(list, "put in another order");
     for (const int wanted : {row, to})
       if (wanted < 1 || wanted > list.Count()) return NoRow(list, {std::to_string(wanted), false});
-    const auto keyOf = [&](int at) { return list.Rows()[static_cast<std::size_t>(at - 1)].Key; };
     Note(desk, screen, list, "move", std::to_string(row) + " " + std::to_string(to));
-    desk.Event([&, from = keyOf(row), onto = keyOf(to)] { list.OnMove(from, onto); });
+    desk.Event([&, from = list.KeyOf(row), onto = list.KeyOf(to)] { list.OnMove(from, onto); });
     return {};
   });
 }

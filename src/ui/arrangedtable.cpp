@@ -13,11 +13,6 @@ std::size_t Index(int number) {
   return static_cast<std::size_t>(number);
 }
 
-const Cell& CellOf(const ListBox::Row& row, int column) {
-  static const Cell kNone("");
-  return Index(column) < row.Cells.size() ? row.Cells[Index(column)] : kNone;
-}
-
 }  // namespace
 
 std::string ColumnId(const std::vector<Column>& columns, int column) {
@@ -38,12 +33,22 @@ bool Table::Follow() {
   return true;
 }
 
-const ListBox::Row& Table::RowAt(int shownRow) const {
-  return list_.Rows()[Index(rows_[Index(shownRow)])];
+const Cell& Table::At(int shownRow, int listColumn) const {
+  static const Cell kNone("");
+  const std::vector<Cell>& cells = list_.RowOf(ListRow(shownRow)).Cells;
+  return Index(listColumn) < cells.size() ? cells[Index(listColumn)] : kNone;
 }
 
-const Cell& Table::At(int shownRow, int listColumn) const {
-  return CellOf(RowAt(shownRow), listColumn);
+Cell Table::CellAt(int shownRow, int listColumn) const {
+  return list_.CellOf(ListRow(shownRow), listColumn);
+}
+
+int Table::KeyAt(int shownRow) const {
+  return list_.KeyOf(ListRow(shownRow));
+}
+
+bool Table::IsSelected(int shownRow) const {
+  return list_.IsSelected(ListRow(shownRow));
 }
 
 int Table::ShownRow(int listRow) const {
@@ -75,28 +80,28 @@ void Table::ArrangeRows() {
 
   rows_.clear();
   for (int row = 0; row < list_.Count(); ++row) {
-    const ListBox::Row& candidate = list_.Rows()[Index(row)];
     const bool fits = std::ranges::all_of(
-        filters, [&](const auto& filter) { return Fits(filter.second, candidate, filter.first); });
-    if (fits && Fits(search, candidate)) rows_.push_back(row);
+        filters, [&](const auto& filter) { return Fits(filter.second, row, filter.first); });
+    if (fits && Fits(search, row)) rows_.push_back(row);
   }
   SortRows();
 }
 
-bool Table::Fits(const Search& search, const ListBox::Row& row) const {
+bool Table::Fits(const Search& search, int listRow) const {
+  if (search.Empty()) return true;
   const auto& columns = list_.Columns();
-  if (!reads_ || search.Empty()) return search.Fits(row.Cells, columns);
+  const ListBox::Row& row = list_.RowOf(listRow + 1);
+  if (!reads_) return search.Fits(row.Cells, columns);
   std::vector<Cell> cells = row.Cells;
   for (std::size_t i = 0; i < cells.size() && i < columns.size(); ++i)
     cells[i].Text = reads_(cells[i], columns[i].Kind);
   return search.Fits(cells, columns);
 }
 
-bool Table::Fits(const Filter& filter, const ListBox::Row& row, int listColumn) const {
+bool Table::Fits(const Filter& filter, int listRow, int listColumn) const {
   const ColumnKind kind = list_.Columns()[Index(listColumn)].Kind;
-  if (!reads_) return filter.Fits(CellOf(row, listColumn), kind);
-  Cell cell = CellOf(row, listColumn);
-  cell.Text = reads_(cell, kind);
+  Cell cell = list_.CellOf(listRow + 1, listColumn);
+  if (reads_) cell.Text = reads_(cell, kind);
   return filter.Fits(cell, kind);
 }
 
@@ -127,8 +132,8 @@ void Table::SortRows() {
       SortColumn& key = keys.emplace_back();
       key.Descending = descending;
       const bool numeric = IsNumeric(list_.Columns()[Index(column)].Kind);
-      for (const ListBox::Row& row : list_.Rows()) {
-        const Cell& cell = CellOf(row, column);
+      for (int row = 1; row <= list_.Count(); ++row) {
+        const Cell cell = list_.CellOf(row, column);
         key.Numbers.push_back(numeric ? cell.Number : 0);
         key.Texts.push_back(Folded(cell.Text));
       }
@@ -249,20 +254,23 @@ int Table::NamePlace() const {
   return 0;
 }
 
+int Table::RowsWhere(const std::function<bool(int listRow)>& holds) const {
+  int count = 0;
+  for (int row = 0; row < list_.Count(); ++row) count += holds(row) ? 1 : 0;
+  return count;
+}
+
 int Table::RowsHidden(int listColumn) const {
   const Filter filter(FilterOf(listColumn));
-  return static_cast<int>(std::ranges::count_if(
-      list_.Rows(), [&](const ListBox::Row& row) { return !Fits(filter, row, listColumn); }));
+  return RowsWhere([&](int row) { return !Fits(filter, row, listColumn); });
 }
 
 std::vector<Table::Hider> Table::Hiders() const {
   const auto& columns = list_.Columns();
   std::vector<Hider> hiders;
-  if (const Search search(state_.Search, columns); !search.Empty()) {
-    const auto hidden = std::ranges::count_if(
-        list_.Rows(), [&](const ListBox::Row& row) { return !Fits(search, row); });
-    hiders.push_back({"\"" + state_.Search + "\"", static_cast<int>(hidden)});
-  }
+  if (const Search search(state_.Search, columns); !search.Empty())
+    hiders.push_back(
+        {"\"" + state_.Search + "\"", RowsWhere([&](int row) { return !Fits(search, row); })});
   for (int column = 0; Index(column) < columns.size(); ++column)
     if (!FilterOf(column).empty())
       hiders.push_back({Id(column) + " " + FilterOf(column), RowsHidden(column)});

@@ -63,10 +63,13 @@ class Table {
   const std::vector<Column>& ListColumns() const { return list_.Columns(); }
   /// An empty cell where the row has none.
   const Cell& At(int shownRow, int listColumn) const;
-  const ListBox::Row& RowAt(int shownRow) const;
+  /// The same for one column of many rows: rows that are made late stay unmade.
+  Cell CellAt(int shownRow, int listColumn) const;
+  int KeyAt(int shownRow) const;
+  bool IsSelected(int shownRow) const;
   /// -1 when the row is filtered away.
   int ShownRow(int listRow) const;
-  bool Filtered() const { return rows_.size() != list_.Rows().size(); }
+  bool Filtered() const { return static_cast<int>(rows_.size()) != list_.Count(); }
 
   const TableState& State() const { return state_; }
   /// Rows that can be moved have an order of their own, and a column without a heading has none.
@@ -117,10 +120,12 @@ class Table {
  private:
   void ArrangeColumns();
   void ArrangeRows();
+  int RowsWhere(const std::function<bool(int listRow)>& holds) const;
   int RowsHidden(int listColumn) const;
   void SortRows();
-  bool Fits(const Search& search, const ListBox::Row& row) const;
-  bool Fits(const Filter& filter, const ListBox::Row& row, int listColumn) const;
+  bool Fits(const Search& search, int listRow) const;
+  bool Fits(const Filter& filter, int listRow, int listColumn) const;
+  int ListRow(int shownRow) const { return rows_[static_cast<std::size_t>(shownRow)] + 1; }
   std::string Id(int listColumn) const { return ColumnId(list_.Columns(), listColumn); }
 
   const ListBox& list_;

@@ -161,8 +161,31 @@ void ListBox::SetColumns(std::vector<Column> columns) {
   ContentsChanged();
 }
 
+const ListBox::Row& ListBox::RowOf(int row) const {
+  Row& asked = rows_.at(static_cast<std::size_t>(row - 1));
+  if (IsMade(asked)) return asked;
+  asked.Cells.reserve(columns_.size());
+  for (int column = 0; static_cast<std::size_t>(column) < columns_.size(); ++column)
+    asked.Cells.push_back(makes_(asked.Key, column));
+  return asked;
+}
+
+const std::vector<ListBox::Row>& ListBox::Rows() const {
+  for (int row = 1; makes_ && row <= Count(); ++row) RowOf(row);
+  makes_ = {};
+  return rows_;
+}
+
+Cell ListBox::CellOf(int row, int column) const {
+  const Row& asked = rows_.at(static_cast<std::size_t>(row - 1));
+  const auto place = static_cast<std::size_t>(column);
+  if (!IsMade(asked)) return place < columns_.size() ? makes_(asked.Key, column) : Cell("");
+  return place < asked.Cells.size() ? asked.Cells[place] : Cell("");
+}
+
 void ListBox::Clear() {
   rows_.clear();
+  makes_ = {};
   ContentsChanged();
 }
 
@@ -171,12 +194,28 @@ void ListBox::Add(std::vector<Cell> cells, int key) {
   ContentsChanged();
 }
 
-void ListBox::Fill(std::vector<Row> rows, bool keepSelection) {
-  std::vector<int> kept = keepSelection ? Keys() : std::vector<int>{};
+void ListBox::KeepSelected(std::vector<Row>& rows) const {
+  std::vector<int> kept = Keys();
   std::sort(kept.begin(), kept.end());
   for (Row& row : rows) row.Selected = std::binary_search(kept.begin(), kept.end(), row.Key);
-  if (rows == rows_) return;
+}
+
+void ListBox::Fill(std::vector<Row> rows, bool keepSelection) {
+  for (Row& row : rows) row.Selected = false;
+  if (keepSelection) KeepSelected(rows);
+  if (!makes_ && rows == rows_) return;
   rows_ = std::move(rows);
+  makes_ = {};
+  ContentsChanged();
+}
+
+void ListBox::FillLate(const std::vector<int>& keys, CellMaker makes, bool keepSelection) {
+  std::vector<Row> rows;
+  rows.reserve(keys.size());
+  for (const int key : keys) rows.push_back({{}, key});
+  if (keepSelection) KeepSelected(rows);
+  rows_ = std::move(rows);
+  makes_ = std::move(makes);
   ContentsChanged();
 }
 

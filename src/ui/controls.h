@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "ui/cells.h"
 #include "ui/controlarray.h"
 #include "ui/drawings.h"
 
@@ -60,9 +61,6 @@ enum class Kind {
 };
 /// "Label", "TextBox" and so on.
 std::string_view KindName(Kind kind);
-
-/// What a colour says; a shell has one colour for each.
-enum class Tone : unsigned char { Plain, Muted, Gold, Blue, Red, Green, Amber };
 
 class Control {
   unsigned revision_ = 1;  // stands before the properties that count in it
@@ -207,57 +205,6 @@ class ComboBox : public Control {
   int selected_ = 0;
 };
 
-/// How a column's cells are shown, aligned and sorted.
-enum class ColumnKind {
-  Text,
-  Number,   // right-aligned, sorted by Cell::Number
-  Percent,  // a bar with the number beside it, green to amber to red
-  Tag,      // one of a few words in a frame, by the cell's tone
-  Tags,     // several, parted by ", ", each by Column::ToneOf
-  Date,     // sorted by Cell::Number (day count)
-  Button    // empty cells, in which the buttons of the rows stand (layout.h, WithButtons)
-};
-
-struct Column {
-  std::string Title;
-  ColumnKind Kind = ColumnKind::Text;
-  int Width = 0;  // share of the width; 0: by contents
-  std::string Tip = {};
-  /// The small picture before a cell's text, by the key of its row.
-  std::function<Drawing(int key)> Draws = {};
-  /// What a word of Tags says by its colour.
-  Tone (*ToneOf)(std::string_view word) = nullptr;
-  /// The sign that a Tag, or a word of Tags, is drawn as, with the number behind the word; the
-  /// words are read out and told in tips. None: the word itself; nullptr: words alone.
-  Sign (*SignOf)(std::string_view word) = nullptr;
-  /// What stands above it where the column before it says the rest; empty: the title.
-  std::string Short = {};
-  /// A sentence below a cell's text, by the key of its row; it makes cards of the rows.
-  std::function<std::string(int key)> Under = {};
-  /// What the glossary calls it; empty: the title.
-  std::string Term = {};
-
-  const std::string& Meant() const { return Term.empty() ? Title : Term; }
-};
-
-struct Cell {
-  std::string Text;
-  double Number = 0;
-  Tone Colour = Tone::Plain;
-  int Tick = -1;      // what a percentage is compared with, a tick on its bar; -1 for nothing
-  bool Best = false;  // of those it stands beside
-
-  Cell(std::string text, Tone tone = Tone::Plain) : Text(std::move(text)), Colour(tone) {}
-  Cell(const char* text, Tone tone = Tone::Plain) : Text(text), Colour(tone) {}
-  Cell(std::string_view text, Tone tone = Tone::Plain) : Text(text), Colour(tone) {}
-  /// A number that is shown as it is, or behind a text that reads otherwise ("$1,284,500").
-  Cell(int number, Tone tone = Tone::Plain)
-      : Text(std::to_string(number)), Number(number), Colour(tone) {}
-  Cell(double number, std::string text, Tone tone = Tone::Plain)
-      : Text(std::move(text)), Number(number), Colour(tone) {}
-  friend bool operator==(const Cell&, const Cell&) = default;
-};
-
 /// A table: any number of typed columns, one row or several selected.
 class ListBox : public Control {
  public:
@@ -285,11 +232,25 @@ class ListBox : public Control {
   };
   const std::vector<Column>& Columns() const { return columns_; }
   void SetColumns(std::vector<Column> columns);
-  const std::vector<Row>& Rows() const { return rows_; }
+  /// Whole rows, each and every one: of a long table that makes its rows late, better RowOf.
+  const std::vector<Row>& Rows() const;
+  /// A row, from 1.
+  const Row& RowOf(int row) const;
+  /// The key of a row, from 1.
+  int KeyOf(int row) const { return rows_[static_cast<std::size_t>(row - 1)].Key; }
+  bool IsSelected(int row) const { return rows_[static_cast<std::size_t>(row - 1)].Selected; }
+  /// A cell of a row from 1 and a column from 0, without making the rest of the row; an empty one
+  /// where the row has none.
+  Cell CellOf(int row, int column) const;
   void Clear();
   void Add(std::vector<Cell> cells, int key = 0);
   /// Puts other rows in; the selection stays on the same key when `keepSelection`.
   void Fill(std::vector<Row> rows, bool keepSelection = true);
+  /// How a key stands in a column, from 0.
+  using CellMaker = std::function<Cell(int key, int column)>;
+  /// Puts rows of these keys in, whose cells are made when somebody first asks for them: most rows
+  /// of a long table are never seen. The maker lives as long as the rows, and knows every key.
+  void FillLate(const std::vector<int>& keys, CellMaker makes, bool keepSelection = true);
   /// Puts other cells into one row, from 1; all else stays.
   void ChangeRow(int row, std::vector<Cell> cells);
   int Count() const { return static_cast<int>(rows_.size()); }
@@ -331,9 +292,12 @@ class ListBox : public Control {
 
  private:
   void ContentsChanged();
+  void KeepSelected(std::vector<Row>& rows) const;
+  bool IsMade(const Row& row) const { return !makes_ || !row.Cells.empty(); }
 
   std::vector<Column> columns_;
-  std::vector<Row> rows_;
+  mutable std::vector<Row> rows_;  // of those that are made late some have no cells yet
+  mutable CellMaker makes_;        // none: all have theirs
   unsigned contents_ = 1;
 };
 

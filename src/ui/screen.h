@@ -20,6 +20,7 @@ struct Box {
   int Stretch = 0;              // share of the room left over; 0 takes what it needs
   int Letters = 0;  // of Columns: the width of a part that may stand beside others; 0: the shell's
   int Spare = 0;    // of a Group: the width in letters from which on a page has room for it
+  bool Waits = false;  // of the first part of Columns: goes last where they stand below each other
 
   Box() = default;
   Box(Control& control) : Is(Kind::Item), Shown(&control) {}
@@ -33,6 +34,12 @@ struct Box {
   /// The same Group, which a narrower page leaves out: it shows what is to be had elsewhere, too.
   Box From(int letters) && {
     Spare = letters;
+    return std::move(*this);
+  }
+  /// The same first part of Columns, which lets the others go first where there is no room for all
+  /// of them beside each other: it helps with what they ask.
+  Box AfterOthers() && {
+    Waits = true;
     return std::move(*this);
   }
   /// The same Columns, with parts below each other that would be narrower than so many letters.

@@ -160,7 +160,7 @@ void Writer::Rows(const ui::Table& table, bool chosenAlone) {
   }
   const int count = static_cast<int>(table.Rows().size());
   for (int row = 0; row < count; ++row) {
-    if (chosenAlone && !table.RowAt(row).Selected) continue;
+    if (chosenAlone && !table.IsSelected(row)) continue;
     text_ += marks_.Row.Open;
     for (const int column : shown)
       Put(IsFigure(kind(column)) ? marks_.NumberCell : marks_.Cell, table.At(row, column).Text);

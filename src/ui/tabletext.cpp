@@ -71,7 +71,7 @@ std::string Table::Csv(bool chosenAlone) const {
   std::string csv;
   const int rows = static_cast<int>(rows_.size());
   for (int row = -1; row < rows; ++row) {
-    if (row >= 0 && chosenAlone && !RowAt(row).Selected) continue;
+    if (row >= 0 && chosenAlone && !IsSelected(row)) continue;
     std::string_view part;
     for (const int column : columns_) {
       csv += part;

@@ -4,6 +4,7 @@
 #include <QSlider>
 #include <QSpinBox>
 #include <QTextEdit>
+#include <utility>
 
 #include "desktop/player.h"
 #include "program/screens.h"
@@ -64,6 +65,37 @@ TEST_F(TheControls, ShowWhatTheScreenPutsInAndDoNothingWhileDisabled) {
   EXPECT_FALSE(Play.Sees("chkday"));
   Play.Click("cmdoff");
   EXPECT_EQ(Notes, Log({"off"}));
+}
+
+/// Counts how often a widget is painted.
+class Paints : public QObject {
+ public:
+  explicit Paints(QWidget& of) { of.installEventFilter(this); }
+  int Count() {
+    for (int i = 0; i < 4; ++i) QApplication::processEvents();
+    return std::exchange(count_, 0);
+  }
+
+ private:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count_;
+    return false;
+  }
+  int count_ = 0;
+};
+
+TEST_F(TheControls, PaintAButtonOncePressedAndOnceLetGo) {
+  QWidget& done = *Play.See("cmddone");
+  Paints paints(done);
+  for (const bool byMouse : {true, false}) {
+    done.setFocus(Qt::TabFocusReason);
+    paints.Count();
+    byMouse ? QTest::mousePress(&done, Qt::LeftButton) : QTest::keyPress(&done, Qt::Key_Space);
+    EXPECT_EQ(paints.Count(), 1) << byMouse;
+    byMouse ? QTest::mouseRelease(&done, Qt::LeftButton) : QTest::keyRelease(&done, Qt::Key_Space);
+    EXPECT_EQ(paints.Count(), 1) << byMouse;
+  }
+  EXPECT_EQ(Notes, Log({"done", "done"}));
 }
 
 TEST_F(TheControls, AreChosenFromByMouseAndKeys) {

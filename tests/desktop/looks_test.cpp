@@ -9,6 +9,7 @@
 #include <set>
 
 #include "desktop/album.h"
+#include "desktop/card.h"
 #include "desktop/player.h"
 #include "desktop/topbar.h"
 #include "program/richworld.h"
@@ -25,7 +26,8 @@ namespace {
 bool IsPiece(const QWidget& widget) {
   if (qobject_cast<const QTabBar*>(widget.parentWidget())) return false;
   return qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
-         qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QLabel*>(&widget);
+         qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QLabel*>(&widget) ||
+         qobject_cast<const QTextEdit*>(&widget);
 }
 
 /// Pieces of the window that overlap beside each other: "cmdback over txtname". Buttons of rows
@@ -44,6 +46,30 @@ QStringList Overlaps(const QWidget& window) {
           found << pieces[i]->objectName() + " over " + pieces[k]->objectName();
   }
   return found;
+}
+
+/// Whatever a card shows that reaches beyond its sides or below it.
+QStringList OutOfCards(const QWidget& window) {
+  QStringList found;
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    const auto* card = dynamic_cast<const desktop::Card*>(widget);
+    if (!card || !card->isVisible()) continue;
+    for (const QWidget* part :
+         card->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+      const QRect place = part->geometry();
+      if (part->isVisible() && (place.right() > card->width() || place.bottom() > card->height()))
+        found << part->objectName() + " runs out of its card";
+    }
+  }
+  return found;
+}
+
+/// Whether a page does, which is as wide as the window lets it.
+bool ScrollsAcross(const QWidget& window) {
+  return std::ranges::any_of(window.findChildren<QWidget*>(), [](const QWidget* widget) {
+    const auto* scroller = dynamic_cast<const desktop::Scroller*>(widget);
+    return scroller && scroller->isVisible() && scroller->horizontalScrollBar()->maximum() > 0;
+  });
 }
 
 /// The most height that a window has for a dialog's card.
@@ -91,12 +117,16 @@ TEST(TheAlbum, ComesToTheScreensAndNothingOverlapsInASmallWindowWithLargeText) {
   play.Desk.Event([&] { play.Desk.Open("frmTitleScreen"); });
   play.Window.Sync();
   desktop::Album::Looks looks;
-  looks.Sizes = {{1024, 640}};
+  looks.Sizes = {{1024, 640}, {1280, 800}};
   looks.Schemes = {desktop::Scheme::Dark};
   const auto check = [&](const std::string& screen, const QString& look) {
     const QStringList overlaps = Overlaps(play.Window);
     EXPECT_TRUE(overlaps.isEmpty())
         << screen << " " << look.toStdString() << ": " << overlaps.join(", ").toStdString();
+    const QStringList out = OutOfCards(play.Window);
+    EXPECT_TRUE(out.isEmpty()) << screen << " " << look.toStdString() << ": "
+                               << out.join(", ").toStdString();
+    EXPECT_FALSE(ScrollsAcross(play.Window)) << screen << " " << look.toStdString();
     const QStringList scrolled = BadlyScrolled(play.Window, *play.Desk.Top());
     EXPECT_TRUE(scrolled.isEmpty())
         << screen << " " << look.toStdString() << ": " << scrolled.join(", ").toStdString();
@@ -185,6 +215,62 @@ TEST(TheCards, StandInALineWhereEachHasTheLettersItNeeds) {
       tops.insert(play.See(name)->mapTo(&play.Window, QPoint()).y());
     EXPECT_EQ(std::ssize(tops), lines) << width;
   }
+}
+
+TEST(TheCards, LetAFirstOneThatWaitsGoLastBelowEachOther) {
+  class Steps : public ui::Screen {
+   public:
+    explicit Steps(ui::Desk& desk) : Screen(desk, "frmSteps", "Steps") {}
+    ui::Page Layout() override {
+      return {.Body = ui::Columns({ui::Group("Steps", {ui::Grow(lststeps)}).Grow().AfterOthers(),
+                                   ui::Group("Choice", {ui::Grow(lstchoice)}).Grow(3)})
+                          .Wide(80)};
+    }
+    ui::ListBox lststeps{*this, "lststeps"}, lstchoice{*this, "lstchoice"};
+  };
+  Player play;
+  play.Open(std::make_unique<Steps>(play.Desk));
+  const auto at = [&](const char* list) { return play.See(list)->mapTo(&play.Window, QPoint()); };
+  for (const bool wide : {true, false, true, false}) {
+    play.Window.resize(wide ? 1600 : 1024, 800);
+    QApplication::processEvents();
+    const QPoint steps = at("lststeps"), choice = at("lstchoice");
+    EXPECT_EQ(steps.x() < choice.x(), wide);
+    EXPECT_EQ(steps.y() > choice.y(), !wide);
+    EXPECT_EQ(play.See("lstchoice")->width() > 2 * play.See("lststeps")->width(), wide)
+        << "the shares go along";
+  }
+}
+
+TEST(TheSearch, OfATableStandsBesideWhatFiltersItWhereThereIsRoom) {
+  class Mails : public ui::Screen {
+   public:
+    explicit Mails(ui::Desk& desk) : Screen(desk, "frmMails", "Mails") {
+      for (int row = 1; row <= 20; ++row) lstmails.Add({"Somebody writes"}, row);
+      cmbfrom.Add("Everybody who has ever written to anybody");
+      cmbfrom.Select(1);
+    }
+    ui::Page Layout() override {
+      return {.Body = ui::Group(
+                  "", {ui::Columns({ui::Field("From", cmbfrom), chkday}), ui::Grow(lstmails)})};
+    }
+    ui::ComboBox cmbfrom{*this, "cmbfrom"};
+    ui::CheckBox chkday{*this, "chkday", "One row a day for all the others"};
+    ui::ListBox lstmails{*this, "lstmails", {{"Mail"}}};
+  };
+  Player play;
+  play.Open(std::make_unique<Mails>(play.Desk));
+  for (const auto& [width, percent, beside] : {std::tuple(1280, 100, true), {1024, 200, false}}) {
+    play.Window.resize(width, 800);
+    play.Window.SetLook(desktop::Scheme::Dark, desktop::DesktopText() * (percent - 100) / 100);
+    for (int i = 0; i < 4; ++i) QApplication::processEvents();
+    const auto top = [&](const char* name) {
+      return play.See(name)->mapTo(&play.Window, QPoint()).y();
+    };
+    EXPECT_EQ(top("lstmails_search") < top("cmbfrom") + play.See("cmbfrom")->height(), beside);
+    EXPECT_LT(top("cmbfrom"), top("lstmails"));
+  }
+  play.Window.SetLook(desktop::Scheme::Dark, 0);
 }
 
 TEST(TheCards, AreLeftOutWhereThePageHasNoRoomToSpare) {

@@ -186,7 +186,7 @@ TEST_F(ASpokenWindow, NamesEveryControlOfEveryScreenWithItsRoleAndItsValue) {
   Play.Window.Sync();
   const std::set<std::string> heard = Walk();
   for (const char* screen : {"frmHelp", "frmGlossary", "frmWindow", "frmWorker", "frmPromotion",
-                             "frmCompare", "finder", "box"})
+                             "frmBookSheet", "frmCompare", "finder", "box"})
     EXPECT_TRUE(heard.contains(screen)) << screen;
   EXPECT_GT(Checked, 500) << "most controls can be seen";
 }

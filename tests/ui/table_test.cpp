@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/samplescreen.h"
 #include "support/scriptdesk.h"
 #include "ui/filter.h"
@@ -82,7 +84,7 @@ class TheTable : public testing::Test {
   std::vector<int> Keys() const {
     std::vector<int> keys;
     for (int row = 0; row < static_cast<int>(Table.Rows().size()); ++row)
-      keys.push_back(Table.RowAt(row).Key);
+      keys.push_back(Table.KeyAt(row));
     return keys;
   }
   using Numbers = std::vector<int>;
@@ -245,6 +247,34 @@ TEST(ATableState, CanBeReadFromAnyText) {
                            "filter:a", "width:Name:99999999999999999999;", "nonsense:1:2:3:4"})
     EXPECT_LE(ui::ReadTableState(text).Sort.size(), 2U) << text;
   EXPECT_EQ(ui::ReadTableState("down:Over;what:1;search:x").Search, "x");
+}
+
+TEST_F(TheTable, MakesRowsThatComeLateWhereTheyAreLookedAt) {
+  const std::vector<ui::ListBox::Row> whole = List.Rows();
+  std::vector<int> keys, asked;
+  for (const ui::ListBox::Row& row : whole) keys.push_back(row.Key);
+  List.SelectKey(13);
+  List.FillLate(keys, [&](int key, int column) {
+    asked.push_back(key);
+    return std::ranges::find(whole, key, &ui::ListBox::Row::Key)
+        ->Cells[static_cast<std::size_t>(column)];
+  });
+  EXPECT_TRUE(Table.Follow());
+  EXPECT_EQ(List.Key(), 13) << "what was chosen stays so";
+  Table.SetFilter(1, "!Face");
+  Table.TurnSort(2, false);
+  EXPECT_EQ(Keys(), Numbers({12, 13, 15, 14}));
+  asked.clear();
+  EXPECT_EQ(Table.At(0, 0).Text, "Ludo Marsh");
+  EXPECT_EQ(Table.At(0, 3).Text, "71");
+  EXPECT_EQ(asked, Numbers({12, 12, 12, 12})) << "the one row, once";
+  EXPECT_EQ(Table.Csv(), ui::Table(List, Table.State()).Csv());
+  for (std::size_t row = 0; row < whole.size(); ++row)
+    EXPECT_EQ(List.Rows()[row].Cells, whole[row].Cells) << row;
+  List.Fill(whole);
+  asked.clear();
+  EXPECT_EQ(List.RowOf(2).Cells, whole[1].Cells);
+  EXPECT_TRUE(asked.empty()) << "they all came whole";
 }
 
 TEST_F(TheTable, IgnoresAStateOfColumnsThatAreGone) {

@@ -97,7 +97,7 @@ class frmAltBelts : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return PageOf(ui::Columns({ui::Group("", {ui::Grow(lsttitles)}).Grow(8),
+    return PageOf(ui::Columns({ui::Group("", {ui::Grow(lsttitles)}).Grow(9),
                                ui::Group("Who has held it", {ui::Grow(lsthistory)}).Grow(5)}),
                   &lblfacts);
   }

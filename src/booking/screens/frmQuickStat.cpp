@@ -226,7 +226,7 @@ class frmDebut : public GameScreen {
                     [](const Worker& worker) { return PositionText(worker.Position); }},
                    {{"", K::Tag, 2}, StatusCell}});
   const CellColumns<DebutWay> ways_ = {
-      {{"In a", K::Tag}, [](const DebutWay& way) { return way.Kind; }},
+      {{"Segment", K::Tag}, [](const DebutWay& way) { return way.Kind; }},
       {{"How the wizard calls it", K::Text, 3}, [](const DebutWay& way) { return way.How; }},
       {{"", K::Text, 2}, [](const DebutWay& way) {
          return way.WhyNot.empty() ? ui::Cell("Today", ui::Tone::Green)

@@ -25,6 +25,10 @@ constexpr StepMaker* kInterviewSteps[] = {MakeChoiceStep, MakeChoiceStep, MakeSe
                                           MakeSeatsStep, MakeTalkPurposeStep};
 constexpr StepMaker* kAngleSteps[] = {MakeChoiceStep, MakeAngleStep, MakeCastStep};
 
+constexpr const char* kStepAlone =
+    "Done with this step alone: keeps the choice and shows all steps, from which the booking is "
+    "completed. Next goes straight on.";
+
 /// A battle royal may have many objections; these are read out beforehand.
 constexpr std::size_t kShown = 4;
 
@@ -43,7 +47,7 @@ ui::Page StepScreen::Layout() {
   page.Main = cmdnext.get();
   page.Cancel = cmdback.get();
   page.Large = true;
-  ui::Box steps = ui::Group("Steps", StepBoxes()).Grow(ListsAbreast() == 1 ? 4 : 3);
+  ui::Box steps = ui::Group("Steps", StepBoxes()).Grow(ListsAbreast() == 1 ? 4 : 3).AfterOthers();
   std::vector<ui::Box> outlook = Outlook();
   if (ListsAbreast() == 1) {
     outlook.push_back(ui::Spacer());
@@ -96,6 +100,8 @@ void StepScreen::MakeButtons() {
   cmdnext = std::make_unique<ui::Button>(*this, "cmdnext",
                                          IsLast() ? "Complete Booking This Segment" : "Next",
                                          [this] { Finish(true); });
+  cmddone->Plain = !IsLast();  // nothing is done yet but this step
+  cmddone->Tip = kStepAlone;
   cmdwhy = std::make_unique<ui::Button>(*this, "cmdwhy", "Why?",
                                         [this] { desk().Open(MakefrmForecast(game_, typical_)); });
   cmdjump = std::make_unique<ui::Array<ui::Button>>(
@@ -245,10 +251,9 @@ std::vector<const Worker*> StepScreen::WorkersOf(const std::vector<int>& uids) {
 }
 
 void StepScreen::AllowDone(bool allowed, const std::string& why) {
-  for (ui::Button* button : {cmddone.get(), cmdnext.get()}) {
-    button->Enabled = allowed;
-    button->Tip = allowed ? std::string() : why;
-  }
+  cmddone->Enabled = cmdnext->Enabled = allowed;
+  cmddone->Tip = allowed ? kStepAlone : why;
+  cmdnext->Tip = allowed ? std::string() : why;
 }
 
 void StepScreen::GoOn() {

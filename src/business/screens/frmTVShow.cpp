@@ -147,7 +147,7 @@ ui::Cell KindCell(const Commentator& person) {
 
 const CellColumns<Commentator> kCommentatorTable = {
     {{"Name", K::Text, 4}, [](const Commentator& person) { return person.Name; }},
-    {{"Is", K::Text, 2}, KindCell},
+    {{"Works as", K::Text, 2}, KindCell},
     {{"Talent", K::Percent, 3, "A worker's is their charisma."},
      [](const Commentator& person) {
        return person.Uid == 0 ? ui::Cell("") : ui::Cell(person.Skill);

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
 #include "calendar/advanceday.h"
 #include "calendar/deskwork.h"
@@ -215,9 +216,10 @@ class frmMainScreen : public ui::Screen {
       const int day = static_cast<int>((show.On - kDayZero).count());
       const bool isToday = show.On == world().Today();
       if (isToday) today += (today.empty() ? "" : ", ") + show.What;
+      const std::string booked = BookedText(world(), show);
       rows.push_back({{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)),
                        show.What,
-                       BookedText(world(), show),
+                       {std::atof(booked.c_str()), booked},
                        {double(DayNumber(DayName(show.On))), std::string(DayName(show.On))},
                        ui::Cell(show.Kind, ToneOf(show))},
                       static_cast<int>(rows.size()) + 1});
@@ -225,8 +227,7 @@ class frmMainScreen : public ui::Screen {
     lstahead.Fill(std::move(rows), false);
     const bool isOver = HasEnded(world().Game());
     const bool isDue = !isOver && HasShowTonight();
-    cmdbook.Visible = isDue;
-    lbltonight.Visible = isDue;
+    cmdbook.Visible = lbltonight.Visible = isDue;
     lbltonight.Text = TonightText(world());
     cmdmorning.Visible = !isOver && HasAnyNight(world());
     cmdfutures.Visible = !isOver;
@@ -340,7 +341,7 @@ class frmMainScreen : public ui::Screen {
                        "lstahead",
                        {{"Date", K::Number},
                         {"Show"},
-                        {"Booked", K::Text, 0,
+                        {"Booked", K::Date, 0,  // by its number, and as seldom cut
                          "Segments of the least that the show needs, and the rows of its sheet."},
                         {"Day", K::Date},
                         {"Kind", K::Tag}},

@@ -124,7 +124,7 @@ class frmNews : public GameScreen {
     unread_ = own_;
     unread_.Add(unread.Others);
     digests_ = Gathers() ? DigestsOf(world()) : std::vector<Digest>{};
-    lstnews.Fill(Rows());
+    lstnews.FillLate(RowKeys(), [this](int key, int column) { return CellOf(key, column); });
     ShowCount();
   }
 
@@ -147,14 +147,20 @@ class frmNews : public GameScreen {
 
   bool IsOnTop(int number) const { return Gathers() && top_.Has(number); }
 
+  ui::Cell CellOf(int key, int column) {
+    const auto place = static_cast<std::size_t>(column);
+    if (const Digest* digest = DigestAt(key)) return RowOf(*digest).Cells[place];
+    return key <= world().News().Count() ? mails_[place].Show(world().News()[key]) : ui::Cell("");
+  }
+
   /// The news of others stand below all else that came on their day.
-  std::vector<ui::ListBox::Row> Rows() {
+  std::vector<int> RowKeys() {
     MailSet gathered;
     for (const Digest& digest : digests_) gathered.Add(digest.Mails);
-    std::vector<ui::ListBox::Row> rows;
+    std::vector<int> keys;
     const auto add = [&](int number) {
       if (firstOwn_ == 0) firstOwn_ = number;
-      rows.push_back(grapplemont::RowOf(mails_, world().News()[number], number));
+      keys.push_back(number);
     };
     firstOwn_ = 0;
     const std::vector<int> numbers = MailsNewestFirst(world(), From());
@@ -162,7 +168,8 @@ class frmNews : public GameScreen {
       if (IsOnTop(number)) add(number);
     const Digest* waits = nullptr;
     const auto close = [&] {
-      if (const Digest* digest = std::exchange(waits, nullptr)) rows.push_back(RowOf(*digest));
+      if (const Digest* digest = std::exchange(waits, nullptr))
+        keys.push_back(digest->Mails.front());
     };
     for (const int number : numbers) {
       const Mail& mail = world().News()[number];
@@ -171,7 +178,7 @@ class frmNews : public GameScreen {
       if (!gathered.Has(number) && !IsOnTop(number)) add(number);
     }
     close();
-    return rows;
+    return keys;
   }
 
   /// Of the row that a mail is in.

@@ -1,6 +1,7 @@
 #include "roster/screens/screenworkers.h"
 
-#include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -34,17 +35,6 @@ std::vector<ui::Column> ColumnsIn(PeopleList list, const PersonColumn<Person> (&
   for (const PersonColumn<Person>& column : table)
     if (column.IsIn(list)) columns.push_back({column.Title, column.Kind, 0, column.Tip});
   return columns;
-}
-
-template <class Person, std::size_t N>
-ui::ListBox::Row RowIn(PeopleList list, const PersonColumn<Person> (&table)[N], const World& world,
-                       const Person& person) {
-  ui::ListBox::Row row{{}, person.Uid};
-  row.Cells.reserve(static_cast<std::size_t>(std::ranges::count_if(
-      table, [list](const PersonColumn<Person>& column) { return column.IsIn(list); })));
-  for (const PersonColumn<Person>& column : table)
-    if (column.IsIn(list)) row.Cells.push_back(column.Show(world, person));
-  return row;
 }
 
 // How anybody stands in a column.
@@ -181,14 +171,23 @@ constexpr PersonColumn<Staff> kStaff[] = {
 std::vector<ui::Column> WorkerColumns(PeopleList list) {
   return ColumnsIn(list, kWorkers);
 }
-ui::ListBox::Row WorkerRow(const World& world, const Worker& worker, PeopleList list) {
-  return RowIn(list, kWorkers, world, worker);
+ui::ListBox::CellMaker WorkerCells(const World& world, PeopleList list) {
+  std::vector<const PersonColumn<Worker>*> shown;
+  for (const PersonColumn<Worker>& column : kWorkers)
+    if (column.IsIn(list)) shown.push_back(&column);
+  return [&world, shown = std::move(shown)](int uid, int column) {
+    const Worker* worker = world.FindWorker(uid);
+    return worker ? shown[static_cast<std::size_t>(column)]->Show(world, *worker) : ui::Cell("");
+  };
 }
 std::vector<ui::Column> StaffColumns(PeopleList list) {
   return ColumnsIn(list, kStaff);
 }
 ui::ListBox::Row StaffRow(const World& world, const Staff& staff, PeopleList list) {
-  return RowIn(list, kStaff, world, staff);
+  ui::ListBox::Row row{{}, staff.Uid};
+  for (const PersonColumn<Staff>& column : kStaff)
+    if (column.IsIn(list)) row.Cells.push_back(column.Show(world, staff));
+  return row;
 }
 
 }  // namespace grapplemont

@@ -13,7 +13,8 @@ namespace grapplemont {
 enum class PeopleList { Own, Market };
 
 std::vector<ui::Column> WorkerColumns(PeopleList list);
-ui::ListBox::Row WorkerRow(const World& world, const Worker& worker, PeopleList list);
+/// How workers stand in these columns, by their uids. Holds on to the world.
+ui::ListBox::CellMaker WorkerCells(const World& world, PeopleList list);
 std::vector<ui::Column> StaffColumns(PeopleList list);
 ui::ListBox::Row StaffRow(const World& world, const Staff& staff, PeopleList list);
 

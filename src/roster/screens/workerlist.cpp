@@ -76,10 +76,10 @@ void WorkerListScreen::ShowList() {
     if (FitsFilters(worker)) people.push_back(&worker);
   }
   SortByOver(people);
-  std::vector<ui::ListBox::Row> rows;
-  rows.reserve(people.size());
-  for (const Worker* worker : people) rows.push_back(WorkerRow(world(), *worker, list_));
-  lstwres.Fill(std::move(rows));
+  std::vector<int> uids;
+  uids.reserve(people.size());
+  for (const Worker* worker : people) uids.push_back(worker->Uid);
+  lstwres.FillLate(uids, WorkerCells(world(), list_));
   if (lstwres.Selected() == 0) lstwres.Select(1);
   ShowFilters();
   ShowChoice();

@@ -156,10 +156,7 @@ class frmLoadGame : public SlotScreen {
     }
     lbllastshow.Text = summary.LastShow;
     lbllastshow.Visible = !summary.LastShow.empty();
-    const std::string page = game_.PageFile(played_);
-    imgpage.Visible = game_.Disk().Look(page) == Disk::Kind::File;
-    // It lies in the home, where pictures are looked for last.
-    imgpage.File = page.substr(page.rfind('/') + 1);
+    ShowPage(played_, imgpage);
   }
 
   void ShowActs() {

@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kCardsARow = 4;
 constexpr int kCrestHeight = 50;
+constexpr int kLettersOfWide = 330;  // of a window in which each card has room for a picture
 
 }  // namespace
 
@@ -28,7 +29,8 @@ ui::Box SlotScreen::Card(int slot) {
       ui::Field("Image, money", lblworth(slot)),
       ui::Field("Last show", lbllast(slot)),
       lbldetails(slot),
-      lblhouse(slot)};
+      lblhouse(slot),
+      ui::Group("", {imglast(slot)}).From(kLettersOfWide)};
   std::vector<ui::Box> acts = Acts(slot);
   if (!acts.empty()) parts.push_back(ui::Columns(std::move(acts)));
   return ui::Group("", std::move(parts)).Grow();
@@ -60,7 +62,15 @@ void SlotScreen::Show(int slot) {
   lblhouse(slot).Text = summary.House.empty() ? "" : "House rules: " + summary.House;
   for (ui::Label* label : {&lblday(slot), &lblworth(slot), &lbllast(slot), &lblhouse(slot)})
     label->Visible = !label->Text->empty();
+  ShowPage(slot, imglast(slot));
   Offer(cmdload(slot), summary);
+}
+
+void SlotScreen::ShowPage(int slot, ui::Picture& picture) {
+  const std::string page = game_.PageFile(slot);
+  picture.Visible = !In(slot).Empty && game_.Disk().Look(page) == Disk::Kind::File;
+  // It lies in the home, where pictures are looked for last.
+  picture.File = page.substr(page.rfind('/') + 1);
 }
 
 void SlotScreen::Return() {

@@ -16,6 +16,8 @@ class SlotScreen : public GameScreen {
   ui::Box Cards();
   ui::Button& ButtonOf(int slot) { return cmdload(slot); }
   const SlotSummary& In(int slot) const { return summaries_[static_cast<std::size_t>(slot - 1)]; }
+  /// The page that the game was left on.
+  void ShowPage(int slot, ui::Picture& picture);
   /// Says whether the slot's button can be pressed.
   virtual void Offer(ui::Button&, const SlotSummary&) {}
   /// What goes into an empty slot.
@@ -49,6 +51,7 @@ class SlotScreen : public GameScreen {
   ui::Array<ui::Label> lblworth = EachSlot<ui::Label>("lblworth");
   ui::Array<ui::Label> lbllast = EachSlot<ui::Label>("lbllast");
   ui::Array<ui::Label> lblhouse = EachSlot<ui::Label>("lblhouse");
+  ui::Array<ui::Picture> imglast = EachSlot<ui::Picture>("imglast");
 };
 
 }  // namespace grapplemont
