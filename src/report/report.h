@@ -83,7 +83,7 @@ class LineMemory {
   SaidLines& Said() { return said_; }
 
  private:
-  explicit LineMemory(SaidLines said) : said_(std::move(said)) {}
+  explicit LineMemory(const SaidLines& said) : said_(said) {}
   /// Those that fit and that tonight's show has not used; where it has used them all, the band
   /// begins again, but not with the one that ended it.
   std::vector<std::size_t> Open(const void* band, std::vector<bool>& fits);
