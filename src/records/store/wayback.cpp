@@ -291,11 +291,8 @@ FileBack BackFrom(const FileChange& change, std::int64_t recordBytes, const Read
   FileBack file{change.Name, change.ExistsBefore, {}};
   if (!change.ExistsBefore) return file;
   const std::int64_t before = change.LengthBefore, now = std::ssize(change.After);
-  Bytes buffer;
   const auto older = [&](std::int64_t from, std::int64_t to) {
-    buffer.resize(static_cast<std::size_t>(std::max<std::int64_t>(0, to - from)));
-    if (!buffer.empty()) read(from, buffer);
-    return ByteSpan(buffer);
+    return to > from ? read(from, to - from) : ByteSpan();
   };
   std::int64_t at = 0;
   std::uint64_t compared = 0;
