@@ -206,7 +206,8 @@ void LayoutBuilder::AddAlike(std::span<const Box> parts, TurningLayout* into) {
 /// As high and as wide as the page that is shown needs: the others have their turn.
 void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   auto* holder = new QWidget(holder_);
-  auto* rows = NewLayout<QVBoxLayout>(holder, kWide);
+  auto* rows = new Column(false, holder);
+  rows->setSpacing(Px(kWide));
   auto* bar = new QTabBar(holder);
   bar->setDrawBase(false);
   bar->setExpanding(false);

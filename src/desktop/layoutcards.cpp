@@ -48,7 +48,7 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   Means(*card, QAccessible::Grouping);
   card->setAccessibleName(heading_);
   QVBoxLayout* const inside =
-      peers_ ? new LevelColumn(card, peers_) : NewLayout<QVBoxLayout>(card, kClose);
+      peers_ ? static_cast<QVBoxLayout*>(new LevelColumn(card, peers_)) : new Column(false, card);
   inside->setSpacing(Px(kClose));
   inside->setContentsMargins(Px(kCardSide), Px(kCardSide), Px(kCardSide), Px(kCardSide));
   auto* head = new TurningLayout(kClose);
@@ -81,7 +81,8 @@ void LayoutBuilder::AddPartOfCard(const Box& box, QBoxLayout* into) {
   const std::size_t before = views_.size();
   auto* sheet = box.Spare > 0 ? new QWidget(holder_) : nullptr;
   const QScopedValueRollback<QWidget*> holder(holder_, sheet ? sheet : holder_);
-  auto* part = NewLayout<QVBoxLayout>(sheet, kClose);
+  auto* part = new Column(false, sheet);
+  part->setSpacing(Px(kClose));
   if (!box.Title.empty())
     part->addWidget(new WrappedLabel(holder_, Shown(box.Title), CardTitleFont()));
   sheet ? into->addWidget(sheet, ShareOf(box)) : into->addLayout(part, ShareOf(box));

@@ -17,7 +17,9 @@ namespace grapplemont::desktop {
 /// of which all is hidden takes no room, whatever its share.
 class Column : public QVBoxLayout {
  public:
-  explicit Column(bool calm) : calm_(calm) {}
+  explicit Column(bool calm, QWidget* on = nullptr) : QVBoxLayout(on), calm_(calm) {
+    setContentsMargins(0, 0, 0, 0);
+  }
   Qt::Orientations expandingDirections() const override {
     const auto all = QVBoxLayout::expandingDirections();
     return calm_ ? all & ~Qt::Vertical : all;

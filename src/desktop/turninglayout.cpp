@@ -32,24 +32,25 @@ bool PlaceTight(QBoxLayout& column, const QRect& rect) {
     int Least, Wish;
   };
   std::vector<Part> parts;
-  int rest = rect.height() + column.spacing(), wishes = 0;
+  const QRect room = rect.marginsRemoved(column.contentsMargins());
+  int rest = room.height() + column.spacing(), wishes = 0;
   for (int i = 0; i < column.count(); ++i) {
     QLayoutItem* item = column.itemAt(i);
     if (item->isEmpty()) continue;
     const bool bends = item->hasHeightForWidth();
     const int least =
-        bends ? item->minimumHeightForWidth(rect.width()) : item->minimumSize().height();
-    const int liked = bends ? item->heightForWidth(rect.width()) : item->sizeHint().height();
+        bends ? item->minimumHeightForWidth(room.width()) : item->minimumSize().height();
+    const int liked = bends ? item->heightForWidth(room.width()) : item->sizeHint().height();
     parts.push_back({item, least, std::max(0, liked - least)});
     rest -= least + column.spacing();
     wishes += parts.back().Wish;
   }
   if (rest < 0 || wishes <= rest) return false;
   column.QLayout::setGeometry(rect);
-  int top = rect.top();
+  int top = room.top();
   for (const Part& part : parts) {
     const int more = wishes > 0 ? rest * part.Wish / wishes : 0;
-    part.Item->setGeometry({rect.left(), top, rect.width(), part.Least + more});
+    part.Item->setGeometry({room.left(), top, room.width(), part.Least + more});
     top += part.Least + more + column.spacing();
     rest -= more;
     wishes -= part.Wish;

@@ -294,5 +294,31 @@ TEST(TheWorkersPage, StandsBesideTheSideBarWithAllOfItSideBySide) {
   game.CloseSlot();
 }
 
+TEST(ACard, TakesFromWhatItsPartsWouldLikeBeforeTheyCoverEachOther) {
+  class Facts : public ui::Screen {
+   public:
+    explicit Facts(ui::Desk& desk) : Screen(desk, "frmFacts", "Facts") {
+      txtabout.Brief = true;
+      txtabout.WriteLines("1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n11\n12\n13\n14");
+      for (int row = 1; row <= 5; ++row) lstdeals.Add({"A deal"}, row);
+    }
+    ui::Page Layout() override {
+      return {.Body = ui::Tabs({ui::Group(
+                  "One", {txtabout, ui::Group("", {lbldeals, ui::Grow(lstdeals)}).Grow()})})};
+    }
+    ui::Report txtabout{*this, "txtabout"};
+    ui::Label lbldeals{*this, "lbldeals", "What has been agreed"};
+    ui::ListBox lstdeals{*this, "lstdeals", {{"Deal"}}};
+  };
+  Player play;
+  play.Open(std::make_unique<Facts>(play.Desk));
+  for (int height = 760; height >= 640; height -= 8) {
+    play.Window.resize(1024, height);
+    for (int i = 0; i < 4; ++i) QApplication::processEvents();
+    EXPECT_LT(play.See("txtabout")->geometry().bottom(), play.See("lbldeals")->y()) << height;
+    EXPECT_LT(play.See("lbldeals")->geometry().bottom(), play.See("lstdeals")->y()) << height;
+  }
+}
+
 }  // namespace
 }  // namespace grapplemont::test
