@@ -4,6 +4,7 @@
 #include "bench/worlds.h"
 #include "booking/auto/autobooker.h"
 #include "records/segments.h"
+#include "show/holdshow.h"
 
 // A card of the auto booker for a roster of 120, beside a baseline: the rosters that the wizard's
 // lists show for the same card, each read from the file record by record.
@@ -11,7 +12,7 @@
 namespace grapplemont {
 namespace {
 
-constexpr int kRoster = 120, kShowRows = 11, kEventRows = 9;
+constexpr int kRoster = 120;
 
 /// The world with the player's roster filled up by free agents, in feuds and in shape.
 World FullHouse(int size) {
@@ -32,8 +33,7 @@ void BM_AutoBook(benchmark::State& state) {
   const bool isEvent = state.range(0) != 0;
   const int size = static_cast<int>(state.range(1));
   World world = FullHouse(size);
-  for (auto _ : state)
-    benchmark::DoNotOptimize(AutoBook(world, isEvent, isEvent ? kEventRows : kShowRows));
+  for (auto _ : state) benchmark::DoNotOptimize(AutoBook(world, isEvent, RowsOf(isEvent)));
   state.SetLabel(std::string(isEvent ? "Event, " : "show, ") + bench::SizeText(size));
 }
 BENCHMARK(BM_AutoBook)
@@ -52,10 +52,10 @@ int ListsFor(const AutoCard& card) {
 
 void BM_AutoBookBaseline(benchmark::State& state) {
   World world = FullHouse(bench::kDefaultSize);
-  const int lists = ListsFor(AutoBook(world, false, kShowRows));
+  const int lists = ListsFor(AutoBook(world, false, RowsOf(false)));
   const bench::WorldInFiles files(world);
   for (auto _ : state)
-    for (int list = 0; list < lists; ++list) files.Walk(LayoutOf<Worker>(), false);
+    for (int list = 0; list < lists; ++list) files.Go({&LayoutOf<Worker>(), false});
 }
 BENCHMARK(BM_AutoBookBaseline)->Unit(benchmark::kMicrosecond)->Iterations(3);
 

@@ -102,19 +102,12 @@ void BM_BaselineOneSync(benchmark::State& state) {
   state.SetLabel(bench::AgeText(age));
 }
 
-/// Five workers far apart, another mood for each: 20 kB.
-void Click(World& world, int turn) {
-  const int step = std::max(1, world.Workers().Count() / 5);
-  for (int number = 1; number <= world.Workers().Count(); number += step)
-    world.Workers()[number].Morale = 40 + turn % 20;
-}
-
 void BM_Click(benchmark::State& state) {
   const int age = static_cast<int>(state.range(0));
   test::GameOnWorld career(bench::Played(age), RealDisk());
   int turn = 0;
   for (auto _ : state) {
-    Click(career.World(), ++turn);
+    bench::Click(career.World(), ++turn);
     bench::Time(state, [&] { career.Play.Commit(); });
   }
   state.SetLabel(bench::AgeText(age));
@@ -127,7 +120,7 @@ void BM_ClickBaselineOneSync(benchmark::State& state) {
   OneFile file;
   int turn = 0;
   for (auto _ : state) {
-    Click(world, ++turn);
+    bench::Click(world, ++turn);
     const Bytes bytes = BytesOf(world.Changes());
     bench::Time(state, [&] { file.Keep(bytes); });
     world.MarkCommitted();

@@ -1,5 +1,7 @@
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 #include "bench/walks.h"
@@ -13,8 +15,8 @@
 #include "tools/officework.h"
 #include "ui/game.h"
 
-// The day and the new game, each beside a baseline: the same walks done by opening the file,
-// reading and writing back every record, once for each walk that the steps make.
+// The day and the new game, each beside a baseline: for each walk that the steps make, the file is
+// opened, and every record read, and written back where the step writes.
 
 namespace grapplemont {
 namespace {
@@ -128,23 +130,23 @@ void BM_DayBaseline(benchmark::State& state) {
   const int age = static_cast<int>(state.range(0));
   const Example& morning = kMornings[state.range(1)];
   const bench::WorldInFiles files(bench::Played(age));
-  const int walks = bench::WalksOn(morning.Date);
-  for (auto _ : state) files.WalkAll(walks);
+  const auto walks = bench::WalksOf(morning.Date);
+  for (auto _ : state) files.Go(walks);
   state.SetLabel(std::string(morning.Text) + ", " + bench::AgeText(age));
 }
 BENCHMARK(BM_DayBaseline)
     ->ArgsProduct(kAgesAndMornings)
     ->Unit(benchmark::kMicrosecond)
     ->UseRealTime()
-    ->Iterations(2);
+    ->Iterations(5);
 
 /// The same bytes moved from memory to memory.
 void BM_DayLimit(benchmark::State& state) {
   const int age = static_cast<int>(state.range(0));
   const Example& morning = kMornings[state.range(1)];
   bench::WorldInMemory bytes(bench::Played(age));
-  const int walks = bench::WalksOn(morning.Date);
-  for (auto _ : state) bytes.CopyAll(walks);
+  const auto walks = bench::WalksOf(morning.Date);
+  for (auto _ : state) bytes.Go(walks);
   state.SetLabel(std::string(morning.Text) + ", " + bench::AgeText(age));
 }
 BENCHMARK(BM_DayLimit)->ArgsProduct(kAgesAndMornings)->Unit(benchmark::kMicrosecond);
@@ -196,16 +198,18 @@ void BM_NewGameBaseline(benchmark::State& state) {
   const int size = static_cast<int>(state.range(0));
   World world = bench::DataWorld(size);
   const bench::WorldInFiles files(world);
-  int walks = 0;
-  bench::Begin(world, bench::kSomeDay, [&](std::string_view) { ++walks; });
-  for (auto _ : state) files.WalkAll(walks);
+  std::vector<bench::Walk> walks;
+  bench::Begin(world, bench::kSomeDay, [&](std::string_view step) {
+    std::ranges::copy(bench::WalksOf(step), std::back_inserter(walks));
+  });
+  for (auto _ : state) files.Go(walks);
   state.SetLabel(bench::SizeText(size));
 }
 BENCHMARK(BM_NewGameBaseline)
     ->DenseRange(bench::kDefaultSize, bench::kMiddleSize)
     ->Unit(benchmark::kMicrosecond)
     ->UseRealTime()
-    ->Iterations(2);
+    ->Iterations(5);
 
 }  // namespace
 }  // namespace grapplemont

@@ -36,7 +36,7 @@ void BM_FindNamesBaseline(benchmark::State& state) {
   const std::string text = Prose(world);
   const bench::WorldInFiles files(world);
   for (auto _ : state)
-    files.Walk(LayoutOf<Worker>(), false, [&](ByteSpan record) {
+    files.Go({&LayoutOf<Worker>(), false}, [&](ByteSpan record) {
       const auto& worker = reinterpret_cast<const Worker&>(*record.data());
       benchmark::DoNotOptimize(text.find(worker.Name.View()));
     });

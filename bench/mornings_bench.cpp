@@ -9,8 +9,9 @@
 #include "ui/goingback.h"
 
 // What it costs to keep mornings and clicks: a commit of a slot that keeps them beside the same
-// commit of one that never goes back. Then the way back to the oldest morning of a year, beside
-// reading as many bytes from a file that has the world whole.
+// commit of one that never goes back, nothing synced, since a sync would hide it. Then the way back
+// to the oldest morning of a year, beside reading as many bytes from a file that has the world
+// whole.
 
 namespace grapplemont {
 namespace {
@@ -18,8 +19,7 @@ namespace {
 /// A slot of the world that keeps moments, or none.
 class KeptWorld {
  public:
-  KeptWorld(World world, bool goesBack, Syncs syncs)
-      : disk_(RealDisk(syncs)), world_(std::move(world)) {
+  KeptWorld(World world, bool goesBack) : world_(std::move(world)) {
     Slot::Create(*disk_, folder_ / "s1", BeginningFiles(world_, false, goesBack), 1);
     slot_.emplace(*disk_, folder_ / "s1");
     slot_->Forget();
@@ -40,22 +40,16 @@ class KeptWorld {
 
  private:
   test::ScratchFolder folder_;
-  std::unique_ptr<Disk> disk_;
+  std::unique_ptr<Disk> disk_ = RealDisk(Syncs::None);
   World world_;
   std::optional<PlayedSlot> slot_;
 };
 
-void FiveMoods(World& world, int turn) {
-  const int step = std::max(1, world.Workers().Count() / 5);
-  for (int number = 1; number <= world.Workers().Count(); number += step)
-    world.Workers()[number].Morale = 40 + turn % 20;
-}
-
 /// Commits of one kind, in a slot with moments or without.
 template <class Change>
-void Compare(benchmark::State& state, bool goesBack, Syncs syncs, const Change& change) {
+void Compare(benchmark::State& state, bool goesBack, const Change& change) {
   const int age = static_cast<int>(state.range(0));
-  KeptWorld kept(bench::Played(age), goesBack, syncs);
+  KeptWorld kept(bench::Played(age), goesBack);
   int turn = 0;
   for (auto _ : state) {
     change(kept.Kept(), ++turn);
@@ -70,28 +64,16 @@ void PlayADay(World& world, int) {
 }
 
 void BM_KeptClick(benchmark::State& state) {
-  Compare(state, true, Syncs::Real, FiveMoods);
+  Compare(state, true, bench::Click);
 }
 void BM_KeptClickBaseline(benchmark::State& state) {
-  Compare(state, false, Syncs::Real, FiveMoods);
-}
-void BM_KeptClickUnsynced(benchmark::State& state) {
-  Compare(state, true, Syncs::None, FiveMoods);
-}
-void BM_KeptClickUnsyncedBaseline(benchmark::State& state) {
-  Compare(state, false, Syncs::None, FiveMoods);
+  Compare(state, false, bench::Click);
 }
 void BM_KeptDay(benchmark::State& state) {
-  Compare(state, true, Syncs::Real, PlayADay);
+  Compare(state, true, PlayADay);
 }
 void BM_KeptDayBaseline(benchmark::State& state) {
-  Compare(state, false, Syncs::Real, PlayADay);
-}
-void BM_KeptDayUnsynced(benchmark::State& state) {
-  Compare(state, true, Syncs::None, PlayADay);
-}
-void BM_KeptDayUnsyncedBaseline(benchmark::State& state) {
-  Compare(state, false, Syncs::None, PlayADay);
+  Compare(state, false, PlayADay);
 }
 
 void KeptAges(benchmark::internal::Benchmark* figure) {
@@ -100,12 +82,8 @@ void KeptAges(benchmark::internal::Benchmark* figure) {
 }
 BENCHMARK(BM_KeptClick)->Apply(KeptAges);
 BENCHMARK(BM_KeptClickBaseline)->Apply(KeptAges);
-BENCHMARK(BM_KeptClickUnsynced)->Apply(KeptAges);
-BENCHMARK(BM_KeptClickUnsyncedBaseline)->Apply(KeptAges);
 BENCHMARK(BM_KeptDay)->Apply(KeptAges);
 BENCHMARK(BM_KeptDayBaseline)->Apply(KeptAges);
-BENCHMARK(BM_KeptDayUnsynced)->Apply(KeptAges);
-BENCHMARK(BM_KeptDayUnsyncedBaseline)->Apply(KeptAges);
 
 /// From the end of a year to its first morning and, by the road that was left, to its end again.
 void BM_GoBack(benchmark::State& state) {

@@ -54,7 +54,7 @@ void BM_ReadFileBaseline(benchmark::State& state, const char* name) {
   for (auto _ : state)
     for (const Table* table : world.Tables())
       if (table->Layout() && table->Exists() && (!name || table->File() == name))
-        files.Walk(*table->Layout(), false);
+        files.Go({table->Layout(), false});
   state.SetLabel(bench::AgeText(static_cast<int>(state.range(0))));
 }
 

@@ -5,7 +5,7 @@
 #include "info/search.h"
 
 // What a letter costs in the search of everything, and how long it takes to begin one; beside them
-// the bytes of all names searched once.
+// one letter looked for in the workers' names, read from the file record by record.
 
 namespace grapplemont {
 namespace {
@@ -35,7 +35,7 @@ void BM_SearchBaseline(benchmark::State& state) {
   const World world = bench::Played(static_cast<int>(state.range(0)));
   const bench::WorldInFiles files(world);
   for (auto _ : state)
-    files.Walk(LayoutOf<Worker>(), false, [&](ByteSpan record) {
+    files.Go({&LayoutOf<Worker>(), false}, [&](ByteSpan record) {
       const auto& worker = reinterpret_cast<const Worker&>(*record.data());
       benchmark::DoNotOptimize(worker.Name.View().find("a"));
     });

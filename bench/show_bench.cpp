@@ -69,13 +69,13 @@ void RunFromFiles(const bench::WorldInFiles& files, const World& world, const Se
     for (int i = 0; i < visits.Reads; ++i) files.Touch(LayoutOf<Worker>(), record, false);
     for (int i = 0; i < visits.Writes; ++i) files.Touch(LayoutOf<Worker>(), record, true);
   }
-  for (int i = 0; i < visits.Feuds; ++i) files.Walk(LayoutOf<Feud>(), false);
+  for (int i = 0; i < visits.Feuds; ++i) files.Go({&LayoutOf<Feud>(), false});
   if (isMatch && segment.Style == kTag)  // chemistry, experience
-    for (const bool writes : {false, true}) files.Walk(LayoutOf<Team>(), writes);
+    for (const bool writes : {false, true}) files.Go({&LayoutOf<Team>(), writes});
   if (!(segment.TitleName == "None"))  // the champion, the change, the image
-    for (int i = 0; i < 3; ++i) files.Walk(LayoutOf<Title>(), i > 0);
-  if (segment.Kind == kAngle) files.Walk(LayoutOf<Staff>(), false);  // the writers
-  if (!isMatch) files.Walk(LayoutOf<Stable>(), false);
+    for (int i = 0; i < 3; ++i) files.Go({&LayoutOf<Title>(), i > 0});
+  if (segment.Kind == kAngle) files.Go({&LayoutOf<Staff>(), false});  // the writers
+  if (!isMatch) files.Go({&LayoutOf<Stable>(), false});
 }
 
 /// Everybody is looked up on the whole sheet.
@@ -83,10 +83,10 @@ void CloseFromFiles(const bench::WorldInFiles& files, const World& world) {
   for (const Worker& worker : world.Workers()) {
     const bool isOwn = worker.Employer == world.PlayerUid();
     files.Touch(LayoutOf<Worker>(), world.Workers().NumberOf(worker), isOwn);
-    if (isOwn) files.Walk(LayoutOf<Segment>(), false);
+    if (isOwn) files.Go({&LayoutOf<Segment>(), false});
   }
-  files.Walk(LayoutOf<Feud>(), true);
-  files.Walk(LayoutOf<Title>(), true);
+  files.Go({&LayoutOf<Feud>(), true});
+  files.Go({&LayoutOf<Title>(), true});
 }
 
 void BM_EventBaseline(benchmark::State& state) {

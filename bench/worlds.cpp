@@ -1,8 +1,9 @@
 #include "bench/worlds.h"
 
-#include <map>
+#include <algorithm>
 #include <stdexcept>
 
+#include "bench/keptworlds.h"
 #include "editor/keeping.h"
 #include "roster/invented.h"
 #include "session/newgame.h"
@@ -108,9 +109,7 @@ World Live(World world, int days) {
 }  // namespace
 
 World DataWorld(int size) {
-  static std::map<int, World> made;
-  if (!made.contains(size)) made.emplace(size, Sized(kSizes[size]));
-  return test::CopyOf(made.at(size));
+  return Kept("size-" + std::to_string(size), [&] { return Sized(kSizes[size]); });
 }
 
 const char* SizeText(int size) {
@@ -133,17 +132,21 @@ World StartedWorld(int size, Day start) {
 }
 
 World Played(int age) {
-  static std::map<int, World> played;
-  if (!played.contains(age)) {
+  return Kept("age-" + std::to_string(age), [&] {
     const Life& life = kLives[age];
-    World before = life.From == kNobody ? StartedWorld(life.Size, kSomeDay) : Played(life.From);
-    played.emplace(age, Live(std::move(before), life.Days));
-  }
-  return test::CopyOf(played.at(age));
+    return Live(life.From == kNobody ? StartedWorld(life.Size, kSomeDay) : Played(life.From),
+                life.Days);
+  });
 }
 
 const char* AgeText(int age) {
   return kLives[age].Text;
+}
+
+void Click(World& world, int turn) {
+  const int step = std::max(1, world.Workers().Count() / 5);
+  for (int number = 1; number <= world.Workers().Count(); number += step)
+    world.Workers()[number].Morale = 40 + turn % 20;
 }
 
 }  // namespace grapplemont::bench

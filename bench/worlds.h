@@ -26,10 +26,13 @@ World StartedWorld(int size, Day start);
 /// The worlds that are played: the default one after some years, and those of other sizes.
 enum Age { kNew, kTenYears, kTwentyYears, kLargest, kFiftyYears, kSmall, kMiddle };
 /// The world at that age, its shows auto-booked from a fixed seed, and a month older: by then
-/// rivals have brought what a new game gave them to the size they want. Each is played once.
+/// rivals have brought what a new game gave them to the size they want.
 World Played(int age);
 /// "after 10 years".
 const char* AgeText(int age);
+
+/// What a click changes, another mood for five workers far apart: 20 kB of blocks.
+void Click(World& world, int turn);
 
 /// A world that each repetition finds as it was, with the same draws before it.
 class FreshWorld {

@@ -63,7 +63,7 @@ void BM_YearBaseline(benchmark::State& state) {
   const bench::WorldInFiles files(bench::Played(bench::kNew));
   for (auto _ : state)
     for (int day = 0; day < kYear; ++day)
-      files.WalkAll(bench::WalksOn(bench::kSomeDay + std::chrono::days{day}));
+      files.Go(bench::WalksOf(bench::kSomeDay + std::chrono::days{day}));
 }
 BENCHMARK(BM_YearBaseline)->Unit(benchmark::kMicrosecond)->UseRealTime()->Iterations(1);
 

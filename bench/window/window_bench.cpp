@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <algorithm>
 #include <cstdio>
@@ -69,20 +70,27 @@ void BM_KeyToFrame(benchmark::State& state) {
                  ", longest: " + longest);
 }
 
-/// The same keys in a bare window with a line of text.
+/// Keys in a bare window with a line of text; as above, what 95 in 100 stay below.
 void BM_KeyToFrameBaseline(benchmark::State& state) {
+  constexpr int kKeys = 200;
   QWidget window;
   window.resize(1280, 800);
   QLineEdit line(&window);
   window.show();
   line.setFocus();
   QApplication::processEvents();
-  for (auto _ : state)
-    bench::Time(state, [&] {
+  for (auto _ : state) {
+    std::vector<Frame> frames;
+    QElapsedTimer since;
+    for (int key = 0; key < kKeys; ++key) {
+      since.start();
       QTest::keyClick(&line, Qt::Key_A);
       QApplication::processEvents();
       window.repaint();
-    });
+      frames.emplace_back(static_cast<double>(since.nsecsElapsed()) / 1e6, "a letter");
+    }
+    Tell(state, std::move(frames));
+  }
 }
 
 /// Each letter of the search of everything, with a slip in the name.
@@ -158,7 +166,7 @@ BENCHMARK(BM_KeyToFrame)
     ->Iterations(1)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
-BENCHMARK(BM_KeyToFrameBaseline)->Iterations(200)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_KeyToFrameBaseline)->Iterations(1)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SearchKeyToFrame)
     ->Arg(0)
     ->Arg(1)

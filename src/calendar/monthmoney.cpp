@@ -176,7 +176,7 @@ void TellOfLeaving(World& world, int employerUid, int option, bool isWatched,
 }
 
 void LeaveRival(World& world, Worker& worker) {
-  NoteDeed(world, kDeedLeft, world.FindPromotion(worker.Employer), worker.Name);
+  NoteDeed(world, kDeedLeft, world.FindPromotion(worker.Employer), worker);
   TellOfLeaving(world, worker.Employer, world.Game().MailWorkerFire,
                 IsShortlisted(world, worker.Uid), worker.Name + " has left ");
   PartWays(world, {&worker});

@@ -75,12 +75,12 @@ void Announce(World& world, Worker& worker) {
                  std::string(" has announced ") + (worker.Gender ? "he" : "she") + " will retire" +
                      FromEmployer(world, worker.Employer) + " in one month.");
   worker.RetiringSoon = true;
-  NoteDeed(world, kDeedRetiring, world.FindPromotion(worker.Employer), worker.Name);
+  NoteDeed(world, kDeedRetiring, world.FindPromotion(worker.Employer), worker);
 }
 
 void Retire(World& world, Worker& worker) {
   TellRetirement(world, worker, " has retired" + FromEmployer(world, worker.Employer) + "!");
-  NoteDeed(world, kDeedRetired, world.FindPromotion(worker.Employer), worker.Name);
+  NoteDeed(world, kDeedRetired, world.FindPromotion(worker.Employer), worker);
   PartWith(world, worker);
   ForgetWorker(world, worker);
   ReplaceByRookie(world, worker);

@@ -24,11 +24,11 @@ void Tour(World& world, Promotion& rival, SizeAim aim) {
 }  // namespace
 
 void RivalHouseShows(World& world) {
-  std::map<int, int> crews = HouseShowCrews(world);
-  HoldHouseShows(world);
+  const HouseShowCrews crews = CrewsFor(world);
+  HoldHouseShows(world, crews);
   const Rosters rosters(world);
   for (Promotion& rival : world.Promotions())
-    if (IsRival(world, rival) && HouseShowIncome(rival, crews[rival.Uid]) > 0)
+    if (IsRival(world, rival) && HouseShowIncome(rival, crews.Of(rival.Uid)) > 0)
       Tour(world, rival, SizeAimOf(world, rival, rosters));
 }
 

@@ -141,6 +141,7 @@ void Futures::Play(World& copy, int number, const std::stop_token& stop) {
   std::vector<WorldLife> lives;
   for (const Answer& answer : answers_) {
     copy.CopyFrom(now_);
+    copy.Session.CountsNoPast = true;
     GiveChance(copy, seed);
     lives.push_back(Live(copy, answer, stop));
   }

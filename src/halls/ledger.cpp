@@ -273,6 +273,7 @@ Ledger PastOf(const World& world) {
 
 void CountThePast(World& world) {
   UpdateReigns(world);  // what the last day changed is not in them yet
+  if (world.Session.CountsNoPast) return;
   Ledger ledger(world);
   ledger.CountUntil(world.Today());
   ledger.CountMonth();

@@ -241,6 +241,7 @@ YearSection SectionOf(const Ledger& ledger, const SectionRow& kind, int year) {
 
 void CloseTheYear(World& world) {
   UpdateReigns(world);
+  if (world.Session.CountsNoPast) return;
   Ledger ledger(world);
   ledger.CountUntil(world.Today());
   ledger.CountYear();

@@ -41,13 +41,6 @@ constexpr DeedKept kKept[] = {
     {kDeedRenamed, kAnnalRenamed, Names::Worker, Names::Words},
 };
 
-const Worker* WorkerCalled(const World& world, std::string_view name) {
-  const auto found = std::ranges::find_if(world.Workers(), [=](const Worker& worker) {
-    return worker.Uid != 0 && worker.Name == name;
-  });
-  return found == world.Workers().end() ? nullptr : &*found;
-}
-
 /// What a spoiled record adds up to may be more than an event holds.
 int Held(long long count) {
   return static_cast<int>(std::clamp<long long>(count, INT16_MIN, INT16_MAX));
@@ -135,7 +128,6 @@ void KeepDeed(World& world, const Deed& deed, const Worker* who) {
   event.Promotion = deed.Promotion;
   event.House = deed.House;
   event.Number = deed.Number;
-  if (row->Who == Names::Worker && !who) who = WorkerCalled(world, deed.Who);
   const bool isOwn = deed.Promotion == world.PlayerUid();
   if (!isOwn && who && who->Over < row->LeastOver) return;
   SetNamed(world, event, row->Who, deed, who);

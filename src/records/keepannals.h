@@ -20,8 +20,8 @@ void SetWhom(const World& world, Annal& event, int worker, int partner = 0);
 
 // Nothing is kept of a world that nobody plays in, such as the editor's.
 
-/// What the annals keep of a deed, if anything. `who` is whom it is about; nullptr: whoever is
-/// called so.
+/// What the annals keep of a deed, if anything. `who` is the worker it is about; nullptr where it
+/// is about none.
 void KeepDeed(World& world, const Deed& deed, const Worker* who);
 /// What becomes of a feud of the player's; whoever won its last match comes first.
 void KeepFeud(World& world, AnnalKind kind, const Feud& feud, bool secondWon = false);

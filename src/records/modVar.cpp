@@ -78,6 +78,11 @@ void NoteDeed(World& world, DeedKind kind, const Promotion* house, std::string_v
   KeepDeed(world, deed, worker);
 }
 
+void NoteDeed(World& world, DeedKind kind, const Promotion* house, const Worker& worker,
+              std::string_view other, int number) {
+  NoteDeed(world, kind, house, worker.Name, other, number, &worker);
+}
+
 void NoteShow(World& world, DeedKind kind, const Promotion& house, std::string_view show, int draw,
               int viewers, int people) {
   Deed deed = NewDeed(world, kind, &house, show);

@@ -17,10 +17,13 @@ void AddNews(World& world, std::string_view from, std::string_view body);
 bool HasNews(const World& world);
 
 /// Notes what happened today, and what of it is worth it for good (keepannals.h). `house` nullptr:
-/// it is nobody's. `worker` is who it is about; nullptr: whoever is called `who`. A full file drops
-/// its five hundred oldest deeds.
+/// it is nobody's. `worker` is who it is about where it is about one. A full file drops its five
+/// hundred oldest deeds.
 void NoteDeed(World& world, DeedKind kind, const Promotion* house, std::string_view who,
               std::string_view other = {}, int number = 0, const Worker* worker = nullptr);
+/// The same of a worker, by their name.
+void NoteDeed(World& world, DeedKind kind, const Promotion* house, const Worker& worker,
+              std::string_view other = {}, int number = 0);
 /// The same of a show that was held, with a rival's draw of 0 to 100.
 void NoteShow(World& world, DeedKind kind, const Promotion& house, std::string_view show, int draw,
               int viewers, int people);

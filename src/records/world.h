@@ -30,6 +30,7 @@ struct SessionWords {
   int EventColour = 0;               // Staff uid, or a Worker's; 0 for nobody
   bool EventColourIsWorker = false;  // EventColour is a Worker's uid
   int EventExtra = 0;                // its place among the player's extras, from 1; 0 for none
+  bool CountsNoPast = false;         // nobody will read the halls of this world
 };
 
 /// An open folder of the game: a table per file, and the sources of chance. Rules change records in

@@ -33,16 +33,18 @@ enum LineTag : unsigned {
   kLegTag = 2048,  // what of {d} it hurts
   kArmTag = 4096,
   kBackTag = 8192,
-  kUpTag = 16384,     // {d} stands behind it: no hold is on, and no count comes next
+  kUpTag = 16384,     // {d} stands behind it: no hold is on, and no count comes next; of a
+                      // Counter: {a} does, whom no hold has on the mat
   kCleanTag = 32768,  // the match was won fairly, and nobody strikes behind the bell
   kColdTag = 65536,   // the crowd is rated low, in the middle, high: one of those that it names
   kWarmTag = 131072,
-  kHotTag = 262144
+  kHotTag = 262144,
+  kMatTag = 524288  // a hold has {d} on the mat
 };
 inline constexpr unsigned kLevelTags = kLowTag | kMidTag | kHighTag;
 inline constexpr std::string_view kLineTags[] = {
     "down", "hold", "floor", "held", "anyway", "trouble", "worn", "pin",  "low", "mid",
-    "high", "leg",  "arm",   "back", "up",     "clean",   "cold", "warm", "hot"};
+    "high", "leg",  "arm",   "back", "up",     "clean",   "cold", "warm", "hot", "mat"};
 
 /// What a line is wished to be where several would do.
 enum class LineWish { Any, Short, Long };

@@ -7,6 +7,7 @@
 
 #include "records/segments.h"
 #include "report/pasttold.h"
+#include "report/ring.h"
 #include "report/stages.h"
 
 namespace grapplemont {
@@ -17,22 +18,35 @@ constexpr int kMiddle = 50;
 constexpr int kForLast = 6, kForTitle = 5, kForEvent = 3, kForCareer = 10;
 constexpr int kPerHeat = 14, kPerOver = 8;
 constexpr double kPerSpread = 26, kMostSpreads = 2, kLeastSpread = 4;
-/// Where fewer have been rated, so many are made up around the middle.
-constexpr int kBoutsToJudgeBy = 60, kFewBouts = 12, kMadeUp = 2, kMadeUpSpread = 15;
+/// Where fewer have been rated, so many are made up, around what the roster's mean lets expect of
+/// those who are booked.
+constexpr int kBoutsToJudgeBy = 60, kFewBouts = 12, kMadeUp = 6, kMadeUpSpread = 8;
+constexpr int kBookedAbove = 15;
 
 /// What a match has to matter for more than its row, and how its room grows from there.
-constexpr int kMattersFrom = 51, kRoomFrom = 42, kSaysLittle = 47, kSaysMuch = 62;
-constexpr double kRoomPerPoint = 1.9;
+constexpr int kMattersFrom = 51, kRoomFrom = 42, kSaysLittle = 50, kSaysMuch = 57;
+constexpr double kRoomPerPoint = 2.1;
 constexpr double kMostPerStep = 3, kLeastPerStep = 0.05;
 constexpr int kShort = 9;  // steps more that a row of few may have
 constexpr int kBig = 72, kHuge = 86;
 
 constexpr double kEarly = 0.3, kLate = 0.7;
-constexpr int kMostAtOnce = 3, kMostOfAKind = 4;
+constexpr int kMostAtOnce = 4, kMostOfAKind = 6;
 /// Moves that make a momentum if no answer came, and moves that use somebody up.
 constexpr int kMomentum = 2, kSpent = 4;
-constexpr int kMostCrowds = 1;  // sentences about the hall in a match; one more in the greatest
+constexpr int kMostCrowds = 1;  // sentences about the hall in a match; one or two more in big ones
 constexpr int kAlike = 8;       // of Over
+
+/// Of the player's roster; 0 for an empty one.
+int MeanOver(const World& world) {
+  int all = 0, sum = 0;
+  for (const Worker& worker : world.Workers())
+    if (worker.Employer == world.PlayerUid()) {
+      ++all;
+      sum += worker.Over;
+    }
+  return all == 0 ? 0 : sum / all;
+}
 
 /// How the player's last matches were rated.
 struct Usual {
@@ -42,9 +56,10 @@ Usual UsualRating(const World& world) {
   const auto& bouts = world.Bouts();
   const int first = std::max(1, bouts.Count() - kBoutsToJudgeBy + 1);
   const int held = bouts.Count() - first + 1, madeUp = held < kFewBouts ? kMadeUp : 0;
-  const double count = held + madeUp;
-  double sum = madeUp * kMiddle;
-  double squares = madeUp * (kMiddle * kMiddle + kMadeUpSpread * kMadeUpSpread);
+  const int over = madeUp == 0 ? 0 : MeanOver(world);
+  const double middle = over == 0 ? kMiddle : over + kBookedAbove, count = held + madeUp;
+  double sum = madeUp * middle;
+  double squares = madeUp * (middle * middle + kMadeUpSpread * kMadeUpSpread);
   for (int number = first; number <= bouts.Count(); ++number) {
     const double rating = bouts[number].Rating;
     sum += rating;
@@ -56,18 +71,14 @@ Usual UsualRating(const World& world) {
 
 /// How far the people of a match stand above the roster's mean.
 int AboveTheRest(const World& world, const std::vector<int>& people) {
-  int all = 0, sum = 0, here = 0, over = 0;
-  for (const Worker& worker : world.Workers())
-    if (worker.Employer == world.PlayerUid()) {
-      ++all;
-      sum += worker.Over;
-    }
+  int here = 0, over = 0;
   for (const int uid : people)
     if (const Worker* worker = world.FindWorker(uid)) {
       ++here;
       over += worker->Over;
     }
-  return all == 0 || here == 0 ? 0 : over / here - sum / all;
+  const int mean = MeanOver(world);
+  return mean == 0 || here == 0 ? 0 : over / here - mean;
 }
 
 /// As popular as each other, and not one cheered and one booed.
@@ -106,7 +117,7 @@ void Pace::Open(Teller& teller) {
   importance_ = ImportanceOf(teller);
   isOpen_ = true;
   if (importance_ < kMattersFrom) return;
-  crowds_ = importance_ >= kHuge ? kMostCrowds + 1 : kMostCrowds;
+  crowds_ = kMostCrowds + (importance_ >= kBig) + (importance_ >= kHuge);
   units_ = static_cast<int>((importance_ - kRoomFrom) * kRoomPerPoint);
   teller.Paragraph();
   Say(teller, kWalkIn);
@@ -151,7 +162,7 @@ void Pace::After(Teller& teller, char step, bool isSaid) {
     return;
   }
   for (int said = isSaid ? 1 : 0; due_ >= 1 && said < kMostAtOnce; ++said) {
-    const int beat = Choose(teller, step);
+    const int beat = Choose(teller, step, isSaid);
     if (beat < 0) return;
     due_ -= 1;
     Say(teller, beat);
@@ -178,7 +189,7 @@ bool Pace::IsToWake(const Teller& teller) const {
 }
 
 /// One that is true of how the match stands, and not of the same kind as the one before.
-int Pace::Choose(Teller& teller, char step) const {
+int Pace::Choose(Teller& teller, char step, bool isSaid) const {
   constexpr std::string_view kHard = "CDXLWKS", kNothingToSay = "TRP";
   if (kNothingToSay.find(step) != std::string_view::npos) return -1;
   const double part = static_cast<double>(at_) / steps_;
@@ -192,11 +203,13 @@ int Pace::Choose(Teller& teller, char step) const {
     fits.push_back(kWakes);
   else if (const int beat = CrowdBeat(teller); beat >= 0 && crowds_ > 0 && told_[kWakes] == 0)
     fits.push_back(beat);
-  // Nobody feels out who is being beaten, or who has just been covered.
-  const bool isEven = d && d->Trouble < kMomentum && step != '2';
-  if (part < kEarly && !isHard && hasRoom && isEven) fits.push_back(kFeeling);
-  if (isTurned && a && a->Trouble >= kMomentum && !isLate && isFree) fits.push_back(kHope);
-  if (!isTurned && d && d->Trouble >= kMomentum && hasRoom) fits.push_back(kInControl);
+  // Nobody feels out who is or was being beaten, or who has just been covered.
+  const bool isEven = d && std::max(d->Trouble, a ? a->Trouble : 0) < kMomentum && step != '2';
+  if (part < kEarly && !isHard && hasRoom && isEven && told_[kHope] == 0) fits.push_back(kFeeling);
+  // Who leads or has come back is not said twice.
+  if (isTurned && a && a->Trouble >= kMomentum && !isLate && isFree && !isSaid)
+    fits.push_back(kHope);
+  if (!isTurned && d && d->Trouble >= kMomentum && hasRoom && !isSaid) fits.push_back(kInControl);
   if (isHard && isFree && d && d->Taken >= kMomentum) fits.push_back(kHurting);
   if (isLate && a && (falls_ > 0 || a->Taken >= kSpent) && hasRoom) fits.push_back(kDesperate);
   if (isLate && !isTurned && hasRoom && a && d && std::min(a->Taken, d->Taken) >= kMomentum)
@@ -224,10 +237,12 @@ void Pace::HoldBreath(Teller& teller) {
 }
 
 void Pace::AfterBell(Teller& teller) {
-  if (!Matters() || teller.cast.Of('w').Empty()) return;
+  // Nobody looks back on what was over at once.
+  const bool isBrief = steps_ > 0 && steps_ <= static_cast<int>(kSquashSteps);
+  if (!Matters() || isBrief || teller.cast.Of('w').Empty()) return;
   teller.Paragraph();
   Say(teller, kAfterBell);
-  if (importance_ >= kHuge) Say(teller, kAfterBell);
+  if (importance_ >= kBig) Say(teller, kAfterBell);
 }
 
 }  // namespace grapplemont

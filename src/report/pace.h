@@ -42,7 +42,7 @@ class Pace {
   int CrowdBeat(Teller& teller) const;
   /// A warm crowd has seen something, and has not been told to wake.
   bool IsToWake(const Teller& teller) const;
-  int Choose(Teller& teller, char step) const;
+  int Choose(Teller& teller, char step, bool isSaid) const;
 
   bool isOpen_ = false;  // Open has been called
   int importance_ = 0;

@@ -78,7 +78,13 @@ constexpr OutcomeRow kOutcomes[] = {
     {kReignLong, Who::One, false, kReignGrows},   {kReignLong, Who::Two, true, kReignOver},
     {kOnceChampion, Who::One, true, kCrownBack},  {kTitleAgain, Who::One, true, kCrownBack},
     {kAwayLong, Who::One, false, kBackWithAWin},  {kMetFiftyTimes, Who::Either, false, kFiftyDone},
+    {kTitleAgain, Who::Two, false, kSameAgain},
 };
+
+/// What another fact that is told says as well: their last match was that for the Title.
+bool IsToldBy(const PastFact& other, const PastFact& fact) {
+  return fact.Is == kMetLately && other.Is == kTitleAgain && other.DaysAgo == fact.DaysAgo;
+}
 
 bool Share(const std::vector<int>& some, const std::vector<int>& others) {
   return std::any_of(some.begin(), some.end(), [&](int uid) {
@@ -169,6 +175,10 @@ void TellPast(Teller& teller) {
   const auto sameKind = [](const PastFact& a, const PastFact& b) { return a.Is == b.Is; };
   auto& told = teller.Told;
   told.erase(std::unique(told.begin(), told.end(), sameKind), told.end());
+  std::erase_if(told, [&, facts = told](const PastFact& fact) {
+    return std::any_of(facts.begin(), facts.end(),
+                       [&](const PastFact& other) { return IsToldBy(other, fact); });
+  });
   if (told.size() > kMostFacts) told.resize(kMostFacts);
   for (const PastFact& fact : told) SayOf(teller, fact, Family::PastOpening, fact.Is);
 }

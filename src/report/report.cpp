@@ -109,7 +109,14 @@ std::vector<std::size_t> LineMemory::Open(const void* band, std::vector<bool>& f
   for (std::size_t line = 0; line < fits.size(); ++line)
     if (fits[line]) used[line] = false;
   look();
+  if (open.size() > 1) std::erase(open, last_[band]);
   return open;
+}
+
+int LineMemory::Take(const void* band, std::size_t line) {
+  used_[band][line] = true;
+  last_[band] = line;
+  return static_cast<int>(line);
 }
 
 int LineMemory::Pick(Draws& draws, const void* band, std::vector<bool> fits,
@@ -123,8 +130,7 @@ int LineMemory::Pick(Draws& draws, const void* band, std::vector<bool> fits,
   auto picked = static_cast<std::size_t>(draws.Draw(static_cast<int>(fits.size())) - 1);
   if (std::find(choice.begin(), choice.end(), picked) == choice.end())
     picked = choice[static_cast<std::size_t>(draws.Draw(static_cast<int>(choice.size())) - 1)];
-  used_[band][picked] = true;
-  return static_cast<int>(picked);
+  return Take(band, picked);
 }
 
 int LineMemory::PickAsWished(Draws& draws, const void* band, std::vector<bool> fits,
@@ -142,10 +148,7 @@ int LineMemory::PickAsWished(Draws& draws, const void* band, std::vector<bool> f
            std::pair(wish == LineWish::Long ? -lengths[b] : lengths[b], b);
   });
   const std::size_t best = std::min<std::size_t>(choice.size(), 2);
-  const std::size_t picked =
-      choice[static_cast<std::size_t>(draws.Draw(static_cast<int>(best)) - 1)];
-  used_[band][picked] = true;
-  return static_cast<int>(picked);
+  return Take(band, choice[static_cast<std::size_t>(draws.Draw(static_cast<int>(best)) - 1)]);
 }
 
 bool LineMemory::Used(const void* band, int line) const {

@@ -83,13 +83,15 @@ class LineMemory {
   SaidLines& Said() { return said_; }
 
  private:
-  explicit LineMemory(SaidLines said) : said_(std::move(said)) {}
+  explicit LineMemory(const SaidLines& said) : said_(said) {}
   /// Those that fit and that tonight's show has not used; where it has used them all, the band
-  /// begins again.
+  /// begins again, but not with the one that ended it.
   std::vector<std::size_t> Open(const void* band, std::vector<bool>& fits);
+  int Take(const void* band, std::size_t line);
 
   SaidLines said_;
   std::unordered_map<const void*, std::vector<bool>> used_;
+  std::unordered_map<const void*, std::size_t> last_;  // of each band
 };
 
 /// The prose of a match, an interview or an angle, in paragraphs. Draws from World::Prose alone, so

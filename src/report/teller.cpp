@@ -164,7 +164,8 @@ bool Teller::FitsFooting(const TaggedLine& line, Family family) const {
     return false;
   const bool isAside = family == Family::Interlude || family == Family::Beat;
   if (isAside && Under == Footing::Held && (line.Tags & (kUpTag | kDownTag)) != 0) return false;
-  if (line.Is(kUpTag) && IsCoverNext) return false;
+  const bool isPinnedByHold = Under == Footing::Held && isHeldOnMat_;
+  if (line.Is(kUpTag) && (IsCoverNext || isPinnedByHold)) return false;
   return !line.Is(kFloorTag) || Under == Footing::Down;
 }
 
@@ -181,6 +182,7 @@ void Hurt(Person& defender, const TaggedLine& line) {
 }  // namespace
 
 void Teller::Move(Family family, const TaggedLine& line) {
+  if (line.Is(kHoldTag)) isHeldOnMat_ = line.Is(kMatTag);
   const auto leave = [&](Footing otherwise) {
     Under = line.Is(kDownTag) ? Footing::Down : line.Is(kHoldTag) ? Footing::Held : otherwise;
   };

@@ -92,6 +92,7 @@ class Teller {
   std::vector<SaidSentence> sentences_;
   std::vector<std::size_t> ends_;  // of the sentences of the line that is said
   int linesHere_ = 0;
+  bool isHeldOnMat_ = false;  // where {d} is held
 };
 
 /// The band of an offence line: Brawl, Technical and Speed each with a draw of 10 on top, the

@@ -2,7 +2,6 @@
 
 #include "records/fields/fields.h"
 #include "rivals/rivalcards.h"
-#include "rivals/rivals.h"
 #include "rivals/tuning.h"
 
 namespace grapplemont {
@@ -15,8 +14,8 @@ bool IsEnough(int crew) {
 
 }  // namespace
 
-std::map<int, int> HouseShowCrews(const World& world) {
-  std::map<int, int> crews;
+HouseShowCrews CrewsFor(const World& world) {
+  HouseShowCrews crews;
   for (const Worker& worker : world.Workers())
     if (IsFit(worker)) ++crews[worker.Employer];
   return crews;
@@ -28,21 +27,20 @@ int HouseShowIncome(const Promotion& rival, int crew) {
   return sure + sure * rival.Image / 100;
 }
 
-void HoldHouseShows(World& world) {
-  std::map<int, int> crews = HouseShowCrews(world);
+void HoldHouseShows(World& world, const HouseShowCrews& crews) {
   for (Promotion& promotion : world.Promotions()) {
     if (!IsRival(world, promotion)) continue;
-    const int dollars = HouseShowIncome(promotion, crews[promotion.Uid]);
+    const int dollars = HouseShowIncome(promotion, crews.Of(promotion.Uid));
     promotion.Money += dollars;
     promotion.ThisMonth.TicketIncome += dollars;
   }
   for (Worker& worker : world.Workers()) {
     const Promotion* employer = world.FindPromotion(worker.Employer);
-    if (employer && IsRival(world, *employer) && IsFit(worker) && IsEnough(crews[employer->Uid]))
+    if (employer && IsRival(world, *employer) && IsFit(worker) && IsEnough(crews.Of(employer->Uid)))
       worker.Condition -= world.Life().Draw(tuning::kHouseShowWear);
   }
   for (const Promotion& promotion : world.Promotions())
-    if (IsRival(world, promotion) && IsEnough(crews[promotion.Uid]))
+    if (IsRival(world, promotion) && IsEnough(crews.Of(promotion.Uid)))
       HoldCard(world, promotion, kUnseenHouseShow);
 }
 

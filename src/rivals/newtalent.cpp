@@ -81,7 +81,7 @@ Worker* NextToGiveUp(World& world) {
 void FindNewTalent(World& world) {
   for (int n = 0; n < tuning::kGiveUpAMonth; ++n)
     if (Worker* worker = NextToGiveUp(world)) {
-      NoteDeed(world, kDeedRetired, nullptr, worker->Name);
+      NoteDeed(world, kDeedRetired, nullptr, *worker);
       PartWith(world, *worker);
       ForgetWorker(world, *worker);
       *worker = DrawTalent(world, Census(world));

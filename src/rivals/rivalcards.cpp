@@ -70,6 +70,8 @@ class CardMaker {
       free_.push_back(&worker);
       FreeAt(worker) = true;
     }
+    for (const Grudge& grudge : world.Grudges())
+      if (grudge.Promotion == rival.Uid) grudges_.push_back(grudge);
     std::ranges::stable_sort(free_, [](const Worker* a, const Worker* b) {
       return std::pair<int, int>(a->Position, -a->Over) <
              std::pair<int, int>(b->Position, -b->Over);
@@ -204,16 +206,20 @@ class CardMaker {
   }
 
   int HeatBetween(const Corner& one, const Corner& two) const {
-    const Grudge* grudge = GrudgeOf(std::as_const(world_), rival_.Uid, one.First->Uid);
-    return grudge && OpponentIn(*grudge, one.First->Uid) == two.First->Uid ? int(grudge->Heat) : 0;
+    const int uid = one.First->Uid;
+    const auto grudge = std::ranges::find_if(
+        grudges_, [=](const Grudge& each) { return each.One == uid || each.Two == uid; });
+    return grudge != grudges_.end() && OpponentIn(*grudge, uid) == two.First->Uid
+               ? int(grudge->Heat)
+               : 0;
   }
 
   // The rest of the card.
 
   void BookGrudges() {
-    for (const Grudge& grudge : world_.Grudges()) {
-      if (grudge.Promotion != rival_.Uid || !HasRoom() || !IsFree(grudge.One) ||
-          !IsFree(grudge.Two) || !(IsEvent() || OneIn(tuning::kGrudgeMatchIn)))
+    for (const Grudge& grudge : grudges_) {
+      if (!HasRoom() || !IsFree(grudge.One) || !IsFree(grudge.Two) ||
+          !(IsEvent() || OneIn(tuning::kGrudgeMatchIn)))
         continue;
       Corner one{world_.FindWorker(grudge.One)}, two{world_.FindWorker(grudge.Two)};
       const Corner *mine = TeamOf(*one.First), *theirs = TeamOf(*two.First);
@@ -371,6 +377,7 @@ class CardMaker {
   std::vector<Worker*> free_;  // the card from the top down
   std::vector<char> isFree_;   // by record number
   std::vector<Corner> teams_;
+  std::vector<Grudge> grudges_;  // of the promotion, as the card was put together
   std::vector<CardBout> bouts_;
 };
 

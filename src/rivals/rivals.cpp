@@ -14,49 +14,31 @@ bool IsOnMainRoster(const Worker& worker) {
 }
 
 Rosters::Rosters(const World& world) : workers_(world.Workers()) {
-  for (int number = 1; number <= workers_.Count(); ++number) {
-    const Worker& worker = workers_[number];
-    if (worker.Employer == 0) continue;
-    House& house = HouseOf(worker.Employer);
-    house.Numbers.push_back(number);
-    house.OnMainRoster += IsOnMainRoster(worker);
-  }
-}
-
-const Rosters::House* Rosters::FindHouse(int promotionUid) const {
-  if (promotionUid >= 0 && promotionUid < kNear)
-    return &near_[static_cast<std::size_t>(promotionUid)];
-  const auto found = far_.find(promotionUid);
-  return found == far_.end() ? nullptr : &found->second;
-}
-
-Rosters::House& Rosters::HouseOf(int promotionUid) {
-  const House* near = promotionUid < kNear ? FindHouse(promotionUid) : nullptr;
-  return near ? const_cast<House&>(*near) : far_[promotionUid];
-}
-
-int Rosters::Of(int promotionUid) const {
-  const House* house = FindHouse(promotionUid);
-  return house ? house->OnMainRoster : 0;
+  for (const Worker& worker : workers_)
+    if (worker.Employer != 0 && IsOnMainRoster(worker)) ++onMainRoster_[worker.Employer];
 }
 
 const std::vector<int>& Rosters::NumbersOf(int promotionUid) const {
-  static const std::vector<int> kNobody;
-  const House* house = FindHouse(promotionUid);
-  return house ? house->Numbers : kNobody;
+  if (!numbers_) {
+    numbers_ = std::make_unique<Numbers>();
+    for (int number = 1; number <= workers_.Count(); ++number)
+      if (const int employer = workers_[number].Employer; employer != 0)
+        (*numbers_)[employer].push_back(number);
+  }
+  return numbers_->Of(promotionUid);
 }
 
 void Rosters::Move(const Worker& worker, int fromUid, int toUid) {
-  const int number = static_cast<int>(&worker - &workers_[1]) + 1;
-  if (fromUid != 0) {
-    House& house = HouseOf(fromUid);
-    std::erase(house.Numbers, number);
-    house.OnMainRoster -= IsOnMainRoster(worker);
-  }
-  if (toUid != 0) {
-    House& house = HouseOf(toUid);
-    house.Numbers.insert(std::ranges::upper_bound(house.Numbers, number), number);
-    house.OnMainRoster += IsOnMainRoster(worker);
+  const int number = workers_.NumberOf(worker);
+  for (const auto& [uid, step] : {std::pair(fromUid, -1), std::pair(toUid, 1)}) {
+    if (uid == 0) continue;
+    onMainRoster_[uid] += step * IsOnMainRoster(worker);
+    if (!numbers_) continue;
+    std::vector<int>& numbers = (*numbers_)[uid];
+    if (step < 0)
+      std::erase(numbers, number);
+    else
+      numbers.insert(std::ranges::upper_bound(numbers, number), number);
   }
 }
 

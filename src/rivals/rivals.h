@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -30,29 +31,45 @@ inline bool IsRival(const World& world, const Promotion& promotion) {
 /// development or at the camp.
 bool IsOnMainRoster(const Worker& worker);
 
+/// What is known of each promotion, by its uid.
+template <class T>
+class ByPromotion {
+ public:
+  /// Of one that nothing is known of: what T begins as.
+  const T& Of(int uid) const {
+    static const T kNothing{};
+    if (IsNear(uid)) return near_[static_cast<std::size_t>(uid)];
+    const auto found = far_.find(uid);
+    return found == far_.end() ? kNothing : found->second;
+  }
+  T& operator[](int uid) { return IsNear(uid) ? near_[static_cast<std::size_t>(uid)] : far_[uid]; }
+
+ private:
+  static constexpr int kNear = 256;  // uids that a world usually has
+  static bool IsNear(int uid) { return uid >= 0 && uid < kNear; }
+
+  std::array<T, kNear> near_{};
+  std::map<int, T> far_;
+};
+
 /// Who works for each promotion, and how many are on its main roster: looked up once, kept up to
 /// date by whoever moves them.
 class Rosters {
  public:
   explicit Rosters(const World& world);
   /// How many are on the main roster.
-  int Of(int promotionUid) const;
-  /// The record numbers of everybody whom it employs, in the order of the file.
+  int Of(int promotionUid) const { return onMainRoster_.Of(promotionUid); }
+  /// The record numbers of everybody whom it employs, in the order of the file. Where a move is
+  /// being made it must be done, in the record too.
   const std::vector<int>& NumbersOf(int promotionUid) const;
   void Move(const Worker& worker, int fromUid, int toUid);
 
  private:
-  struct House {
-    int OnMainRoster = 0;
-    std::vector<int> Numbers;
-  };
-  const House* FindHouse(int promotionUid) const;
-  House& HouseOf(int promotionUid);
+  using Numbers = ByPromotion<std::vector<int>>;
 
-  static constexpr int kNear = 256;  // uids that a world usually has
   const Records<Worker>& workers_;
-  std::vector<House> near_{kNear};
-  std::map<int, House> far_;
+  ByPromotion<int> onMainRoster_;
+  mutable std::unique_ptr<Numbers> numbers_;  // once somebody asks: on most days nobody does
 };
 
 /// The workers leave their employers, and all that tied them there ends: Titles, feuds, corner,

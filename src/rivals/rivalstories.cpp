@@ -154,7 +154,7 @@ void ChangeName(World& world, const Promotion& rival, Worker& worker) {
   old.Name = before;
   AppendRolling(world.RingNames(), old, kNamesDropped);
   worker.Name = name;
-  NoteDeed(world, kDeedRenamed, &rival, name, before);
+  NoteDeed(world, kDeedRenamed, &rival, worker, before);
 }
 
 void Tell(World& world, const Promotion& rival, Troupe& troupe) {

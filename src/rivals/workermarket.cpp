@@ -41,7 +41,7 @@ int LoyaltyInClasses(int behaviour) {
 }
 
 void TellOfFiring(World& world, const Promotion& rival, const Worker& worker) {
-  NoteDeed(world, kDeedFired, &rival, worker.Name);
+  NoteDeed(world, kDeedFired, &rival, worker);
   if (IsShortlisted(world, worker.Uid) ||
       ShouldTell(world, world.Game().MailWorkerFire, rival.Size))
     AddNews(world, rival.Initials + " News",
@@ -106,7 +106,7 @@ int WageOnceSigned(const Worker& worker, int size) {
 
 void SignFor(World& world, const Promotion& rival, Worker& worker) {
   const bool isFree = worker.Employer == 0;
-  NoteDeed(world, isFree ? kDeedSigned : kDeedStolen, &rival, worker.Name,
+  NoteDeed(world, isFree ? kDeedSigned : kDeedStolen, &rival, worker,
            isFree ? "" : PromotionInitials(world, worker.Employer));
   TellOf(world, world.Game().MailWorkerHire, rival,
          rival.Initials + (isFree ? " have signed " : " have stolen ") + worker.Name.Str() +

@@ -53,7 +53,7 @@ void SignWith(World& world, Worker& worker, const Promotion& rival) {
   if (ShouldTell(world, world.Game().MailWorkerHire, rival.Size))
     AddNews(world, rival.Initials + " News",
             worker.Name + " has signed for " + rival.Initials.Str() + "!");
-  NoteDeed(world, kDeedSigned, &rival, worker.Name);
+  NoteDeed(world, kDeedSigned, &rival, worker);
   worker.Over += world.RandomDraw(3);
   worker.Employer = rival.Uid;
   worker.Position = PlacementPosition(worker, rival.Size);
@@ -150,7 +150,7 @@ void PartWith(World& world, Worker& worker) {
 }
 
 void ReleaseWorker(World& world, Worker& worker) {
-  NoteDeed(world, kDeedLeft, world.FindPromotion(worker.Employer), worker.Name);
+  NoteDeed(world, kDeedLeft, world.FindPromotion(worker.Employer), worker);
   PartWith(world, worker);
   if (world.RandomDraw(3) != 1) return;
   if (const Promotion* rival = BestBidder(world, worker)) SignWith(world, worker, *rival);

@@ -233,8 +233,8 @@ void Injure(World& world, Worker& worker, int kind, int months) {
   worker.Status = "Inj";
   worker.InjuryName = kInjuries[static_cast<std::size_t>(kind - 1)];
   worker.StatusMonths = months;
-  NoteDeed(world, kDeedInjured, world.FindPromotion(worker.Employer), worker.Name,
-           worker.InjuryName, worker.StatusMonths);
+  NoteDeed(world, kDeedInjured, world.FindPromotion(worker.Employer), worker, worker.InjuryName,
+           worker.StatusMonths);
 }
 
 void DrawInjuries(SegmentRun& run) {

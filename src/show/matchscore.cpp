@@ -1,5 +1,9 @@
 #include "show/matchscore.h"
 
+#include <algorithm>
+#include <array>
+#include <vector>
+
 #include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "show/aftermatch.h"
@@ -144,10 +148,21 @@ int Given(const Band (&bands)[N], int value) {
 }
 
 /// Whether the two are a side of a match of teams.
-bool IsSide(const Team& team, const Segment& segment) {
+/// The teams whose two stand in one corner.
+template <class Teams>
+auto TeamsIn(Teams& teams, const Segment& segment) {
+  std::vector<decltype(&*teams.begin())> found;
   const MatchStyleRow* style = FindMatchStyle(segment.Style);
-  return style && style->PerSide == 2 && team.Worker2 != 0 &&
-         PartnerOf(segment, team.Worker1) == team.Worker2;
+  if (!style || style->PerSide != 2) return found;
+  const auto sides = SidesOf(segment);
+  for (auto& team : teams)
+    if (team.Worker1 != 0 && team.Worker2 != 0 &&
+        std::ranges::any_of(sides, [&](const std::vector<int>& side) {
+          return std::ranges::is_permutation(side,
+                                             std::array{int(team.Worker1), int(team.Worker2)});
+        }))
+      found.push_back(&team);
+  return found;
 }
 
 constexpr int kNoMood = 30;
@@ -237,18 +252,17 @@ void ScoreMatch(SegmentRun& run) {
 
 Chemistry ChemistryOf(const World& world, const Segment& segment) {
   Chemistry chemistry;
-  for (const Team& team : world.Teams()) {
-    const int level = IsSide(team, segment) ? Given(kLevels, team.Experience) : 0;
+  for (const Team* team : TeamsIn(world.Teams(), segment)) {
+    const int level = Given(kLevels, team->Experience);
     if (level == 0) continue;
     chemistry.Level += level;
-    chemistry.Teams.push_back(team.Name.Str());
+    chemistry.Teams.push_back(team->Name.Str());
   }
   return chemistry;
 }
 
 void GainTeamExperience(SegmentRun& run) {
-  for (Team& team : run.World.Teams())
-    if (IsSide(team, run.Segment)) ++team.Experience;
+  for (Team* team : TeamsIn(run.World.Teams(), run.Segment)) ++team->Experience;
 }
 
 void AddChemistry(SegmentRun& run, const Chemistry& chemistry) {

@@ -73,7 +73,7 @@ Hands RivalsHands(const World& world, const Promotion& promotion) {
           spending.Production,
           MeanSponsors(world, fits),
           std::vector<int>(kMonths, NewEventType(promotion)),
-          HouseShowIncome(promotion, HouseShowCrews(world)[promotion.Uid])};
+          HouseShowIncome(promotion, CrewsFor(world).Of(promotion.Uid))};
 }
 
 /// Television shows in a year: the last Sunday of a month is an Event's.

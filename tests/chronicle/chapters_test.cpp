@@ -81,9 +81,10 @@ class Chronicles : public testing::Test {
     CrownIs("Bram Okafor");
     EndFeudOffCamera(World_, 1);
     const Promotion& rival = Named(World_.Promotions(), "NEW");
-    NoteDeed(World_, kDeedStolen, &rival, "Cal Drift", "CWA");
+    NoteDeed(World_, kDeedStolen, &rival, Named(World_.Workers(), "Cal Drift"), "CWA");
     NoteDeed(World_, kDeedRisen, &rival, rival.Name, {}, kRegional);
-    NoteDeed(World_, kDeedInjured, &World_.Player(), "Ilya Marsh", "Knee", 7);
+    NoteDeed(World_, kDeedInjured, &World_.Player(), Named(World_.Workers(), "Ilya Marsh"), "Knee",
+             7);
     FormTeam(World_, "Salt and Tar", Uid("Eli Fenn"), Uid("Fay Loose"), "");
     ASSERT_TRUE(BeginGrudge(World_, rival, Uid("Eli Fenn"), Uid("Fay Loose"), kGrudgeCard));
     Pass(60);
@@ -193,13 +194,13 @@ TEST_F(Chronicles, KnowWhoHasGoneFromSomebodyElseOfTheSameName) {
   Pass(20);
   CrownIs("Bram Okafor");
   Pass(5);
-  NoteDeed(World_, kDeedRetired, &World_.Player(), "Cal Drift");
+  NoteDeed(World_, kDeedRetired, &World_.Player(), Named(World_.Workers(), "Cal Drift"));
   Worker& cal = Named(World_.Workers(), "Cal Drift");
   cal.Employer = 0;
   ForgetWorker(World_, cal);
   cal.Uid = uid + 100;  // somebody new, of the same name
   Pass(300);
-  NoteDeed(World_, kDeedSigned, &World_.Player(), "Cal Drift");
+  NoteDeed(World_, kDeedSigned, &World_.Player(), Named(World_.Workers(), "Cal Drift"));
 
   const Archive archive(World_);
   std::vector<std::string> texts;

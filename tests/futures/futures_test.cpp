@@ -64,6 +64,31 @@ TEST(Futures, AreTheSameInAnyNumberOfThreadsAndChangeNothing) {
   EXPECT_GT(moneys.size(), 1u) << "each world has chance of its own";
 }
 
+/// What is counted of the past for those who read it, and the mails that tell of it.
+bool IsOfTheHalls(std::string_view file) {
+  const std::set<std::string_view> halls{LayoutOf<TotalsState>().File, LayoutOf<Career>().File,
+                                         LayoutOf<Tenure>().File,      LayoutOf<Partnership>().File,
+                                         LayoutOf<Feat>().File,        LayoutOf<YearLine>().File,
+                                         LayoutOf<HallMember>().File,  LayoutOf<Mail>().File};
+  return halls.contains(file);
+}
+
+TEST(Futures, ComeToTheSameThoughNobodyCountsTheirPast) {
+  const World morning = Morning();
+  World counted = CopyOf(morning), uncounted = CopyOf(morning);
+  uncounted.Session.CountsNoPast = true;
+  for (World* world : {&counted, &uncounted})
+    LiveOn(*world, 400, {.Then = AfterTheEnd::AnotherJob, .Words = Prose::Skipped},
+           [](int) { return true; });
+  EXPECT_GT(counted.Of<Career>().Count(), 0);
+  EXPECT_EQ(uncounted.Of<Career>().Count(), 0);
+  for (std::size_t i = 0; i < World::kTables; ++i) {
+    const Table &one = *std::as_const(counted).Tables()[i], &other = *uncounted.Tables()[i];
+    if (!IsOfTheHalls(one.File()))
+      EXPECT_TRUE(std::ranges::equal(one.Contents(), other.Contents())) << one.File();
+  }
+}
+
 TEST(Futures, PlayEachAnswerInTheSameWorlds) {
   const World world = Morning();
   const auto pay = [](World& copy) { copy.Player().Money -= 500000; };

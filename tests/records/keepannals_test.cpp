@@ -33,11 +33,11 @@ const Annal& Last(const World& world) {
 TEST(Annals, BeginWithTheirVersionAndKeepWhatIsWorthIt) {
   World world = TwoHouses();
   const Promotion& rival = Named(world.Promotions(), "NEW");
-  NoteDeed(world, kDeedInjured, &rival, "Eli Fenn", "Leg", 5);
+  NoteDeed(world, kDeedInjured, &rival, Named(world.Workers(), "Eli Fenn"), "Leg", 5);
   NoteDeed(world, kDeedRenewed, &rival, "Friday Fire", "Channel Nine", 26);
   EXPECT_EQ(world.Annals().Count(), 0) << "soon forgotten";
 
-  NoteDeed(world, kDeedInjured, &rival, "Eli Fenn", "Leg", 6);
+  NoteDeed(world, kDeedInjured, &rival, Named(world.Workers(), "Eli Fenn"), "Leg", 6);
   ASSERT_EQ(world.Annals().Count(), 2);
   EXPECT_EQ(world.Annals()[1].Kind, kAnnalsBegin);
   EXPECT_EQ(world.Annals()[1].Number, kAnnalsVersion);
@@ -48,11 +48,11 @@ TEST(Annals, BeginWithTheirVersionAndKeepWhatIsWorthIt) {
 
   Named(world.Workers(), "Eli Fenn").Over = 20;
   const int before = world.Annals().Count();
-  NoteDeed(world, kDeedFired, &rival, "Eli Fenn");
+  NoteDeed(world, kDeedFired, &rival, Named(world.Workers(), "Eli Fenn"));
   EXPECT_EQ(world.Annals().Count(), before) << "the public does not know them";
-  NoteDeed(world, kDeedFired, &world.Player(), "Eli Fenn");
+  NoteDeed(world, kDeedFired, &world.Player(), Named(world.Workers(), "Eli Fenn"));
   EXPECT_EQ(world.Annals().Count(), before + 1) << "the player does";
-  NoteDeed(world, kDeedStolen, &rival, "Ilya Marsh", "CWA");
+  NoteDeed(world, kDeedStolen, &rival, Named(world.Workers(), "Ilya Marsh"), "CWA");
   EXPECT_EQ(Last(world).Sex, kWoman);
   EXPECT_EQ(Last(world).Other, "CWA");
   NoteDeed(world, kDeedOwner, &rival, "Ruth Vane");

@@ -16,8 +16,9 @@ std::int64_t AnyLength(const std::string&) {
 }
 
 ReadBefore Reads(const Bytes& before) {
-  return [&before](std::int64_t offset, std::span<std::byte> buffer) {
-    std::memcpy(buffer.data(), before.data() + offset, buffer.size());
+  return [&before](std::int64_t offset, std::int64_t count) {
+    return ByteSpan(before).subspan(static_cast<std::size_t>(offset),
+                                    static_cast<std::size_t>(count));
   };
 }
 

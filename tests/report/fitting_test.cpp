@@ -67,6 +67,29 @@ TEST_P(Fitting, LetsNobodyUpBeforeACountOrOutOfAHold) {
     }
 }
 
+/// Nobody stamps on a foot from under a half crab.
+TEST_P(Fitting, GetsOutOfAHoldOnTheMatWithoutStanding) {
+  World world = Ten().Game("CWA");
+  world.Game().Reporter = GetParam();
+  const Segment match = Match(kSingles);
+  const Scene scene;
+  LineMemory memory;
+  Teller teller(world, match, scene, memory);
+  Person *one = teller.cast.Find(world, 1), *two = teller.cast.Find(world, 2);
+  for (int i = 0; i < 12; ++i) {
+    teller.Act(one, two);
+    teller.Say(Family::Spot, kHoldSpot, kHoldTag);
+    ASSERT_EQ(teller.Under, Footing::Held);
+    teller.TurnRound(two, one);
+    teller.Say(Family::Counter);
+  }
+  const auto lines = ReadLinesOf(GetParam(), Family::Counter, 0);
+  for (std::size_t line = 0; line < lines.size(); ++line)
+    EXPECT_FALSE(lines[line].Is(kUpTag) &&
+                 memory.Used(BlockOf(GetParam(), Family::Counter, 0), static_cast<int>(line)))
+        << lines[line].Text;
+}
+
 TEST_P(Fitting, PutsWhomeverItPinsDownFirst) {
   World world = Ten().Game("CWA");
   for (Worker& worker : world.Workers()) worker.Finisher1 = worker.Finisher2 = "None";

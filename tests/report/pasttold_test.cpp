@@ -53,6 +53,24 @@ TEST(Past, KnowsRunsReignsAndAbsence) {
   EXPECT_EQ(past.Has(kTitleAgain)->One, std::vector<int>{2}) << "who lost it to the champion";
 }
 
+/// The match in which the Title was lost is no second fact.
+TEST(Past, SaysOnceThatTheLastMatchWasForTheTitle) {
+  for (const int daysAgo : {20, 10}) {
+    World world = Two();
+    Held(world, 1, daysAgo);
+    Reign(world, 2, 400, 20);
+    Reign(world, 1, 20, 0);
+    const Segment segment = AdaBeatsBo("Crown");
+    Scene scene;
+    scene.Champion = 1;
+    LineMemory memory;
+    Teller teller(world, segment, scene, memory);
+    TellPast(teller);
+    ASSERT_EQ(teller.Told.size(), daysAgo == 20 ? 1U : 2U);
+    EXPECT_EQ(teller.Told[0].Is, kTitleAgain);
+  }
+}
+
 TEST(Past, RecallsWhatWasSaidAndDoneBefore) {
   World world = Two();
   Segment talk = EmptySegment();

@@ -124,11 +124,11 @@ TEST(LineMemory, TakesOfTheLinesThatFit) {
   LineMemory memory;
   const int band = 0;
   const std::vector<bool> lastTwo = {false, true, true};
-  ScriptedDraws draws{{3, 3}, {3, 3}, {1, 1}, {3, 1}, {2, 1}, {3, 3}, {3, 1}};
+  ScriptedDraws draws{{3, 3}, {3, 3}, {1, 1}, {3, 2}, {1, 1}, {3, 2}, {3, 1}};
   EXPECT_EQ(memory.Pick(draws, &band, lastTwo), 2);
   EXPECT_EQ(memory.Pick(draws, &band, lastTwo), 1);  // the only one left of those that fit
-  EXPECT_EQ(memory.Pick(draws, &band, lastTwo), 1);  // both were used: these begin again
-  EXPECT_EQ(memory.Pick(draws, &band, {false, false, false}), 2);  // none fits: all
+  EXPECT_EQ(memory.Pick(draws, &band, lastTwo), 2);  // both were used, this one not just now
+  EXPECT_EQ(memory.Pick(draws, &band, {false, false, false}), 1);  // none fits: all
   EXPECT_EQ(memory.Pick(draws, &band, {true, true, true}), 0);
 }
 

@@ -77,7 +77,6 @@ void CheckResult(Reasons& reasons, const World&, const Segment& match, const Boo
 
 void CheckRunIns(Reasons& reasons, const World& world, const Segment& match,
                  const BookingView& view) {
-  const auto allowed = RunInRoster(world, match, view);
   std::vector<int> due = FinishRunIns(match);
   for (const int uid : AftermathRunIns(match)) {
     if (Holds(due, uid)) reasons.push_back(NameOf(world, uid) + " runs in twice.");
@@ -86,7 +85,8 @@ void CheckRunIns(Reasons& reasons, const World& world, const Segment& match,
   for (const int uid : {match.Other1, match.Other2, match.Other3, match.Other4}) {
     if (uid == 0) continue;
     if (!Holds(due, uid)) reasons.push_back(NameOf(world, uid) + " has no reason to run in.");
-    if (std::ranges::none_of(allowed, [&](auto* worker) { return worker->Uid == uid; }))
+    if (std::ranges::none_of(RunInRoster(world, match, view),
+                             [=](auto* worker) { return worker->Uid == uid; }))
       reasons.push_back(NameOf(world, uid) + " cannot run in.");
   }
 }

@@ -182,8 +182,12 @@ void Mornings::Cut(std::size_t length) {
 }
 
 void Mornings::Append(Moment of, const WayBack& way) {
-  Touch();
   const Bytes packed = PackEntry(of, way);
+  Append(std::move(of), packed);
+}
+
+void Mornings::Append(Moment of, const Bytes& packed) {
+  Touch();
   entries_.push_back({std::move(of), file_.size(), packed.size()});
   file_.insert(file_.end(), packed.begin(), packed.end());
 }
@@ -262,22 +266,33 @@ void Mornings::Fold(std::vector<bool> goes) {
   DropOldest(static_cast<std::size_t>(oldest));
   const auto first = static_cast<std::size_t>(std::ranges::find(goes, true) - goes.begin());
   if (first == goes.size()) return;
-  std::vector<std::pair<Moment, WayBack>> stay;
+  std::vector<Staying> stay;
   for (std::size_t i = first - 1; i < entries_.size(); ++i) {
-    auto step = Step(i);
-    if (step && goes[i]) step = Joined(*step, std::move(stay.back().second));
-    if (!step) return Clear();
-    if (goes[i]) {
-      auto& [of, way] = stay.back();
-      way = *std::move(step);
-      if (of.Is == MomentKind::Morning) of.Name.clear();  // it is more than that click
-    } else {
-      stay.emplace_back(entries_[i].Of, *std::move(step));
+    if (!goes[i]) {
+      stay.push_back({entries_[i].Of, i, {}});
+      continue;
     }
+    Staying& last = stay.back();
+    if (!last.Way) last.Way = Step(last.At);
+    auto step = Step(i);
+    if (step && last.Way) step = Joined(*step, *std::move(last.Way));
+    if (!step || !last.Way) return Clear();
+    last.Way = std::move(step);
+    if (last.Of.Is == MomentKind::Morning) last.Of.Name.clear();  // it is more than that click
   }
-  Cut(entries_[first - 1].At);
-  entries_.resize(first - 1);
-  for (auto& [of, way] : stay) Append(std::move(of), way);
+  Keep(std::move(stay), first - 1);
+}
+
+/// Those from entry `first` on go, but for what stays.
+void Mornings::Keep(std::vector<Staying> stay, std::size_t first) {
+  std::vector<Bytes> packed;
+  for (const Staying& each : stay) {
+    const ByteSpan entry = ByteSpan(file_).subspan(entries_[each.At].At, entries_[each.At].Size);
+    packed.push_back(each.Way ? PackEntry(each.Of, *each.Way) : Bytes(entry.begin(), entry.end()));
+  }
+  Cut(entries_[first].At);
+  entries_.resize(first);
+  for (std::size_t i = 0; i < stay.size(); ++i) Append(std::move(stay[i].Of), packed[i]);
 }
 
 /// Lets the oldest go where there are too many bytes, and moves together what counts where the file

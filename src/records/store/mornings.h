@@ -91,16 +91,25 @@ class Mornings {
     std::optional<Entries> All = std::nullopt;  // where more than appended ones are others
   };
 
+  /// An entry where it stands now, and its way where that is another.
+  struct Staying {
+    Moment Of;
+    std::size_t At;
+    std::optional<WayBack> Way;
+  };
+
   bool Read();
   bool IsNewDay(Day on) const;
   std::optional<WayBack> Onward(WayBack nearer, std::size_t from, std::size_t to) const;
   Past& Touch();
   void Cut(std::size_t length);
   void Append(Moment of, const WayBack& way);
+  void Append(Moment of, const Bytes& packed);
   void DropOldest(std::size_t count);
   void WriteStart();
   void Thin(bool dayIsOver);
   void Fold(std::vector<bool> goes);
+  void Keep(std::vector<Staying> stay, std::size_t first);
   void Bound();
 
   Bytes file_;

@@ -105,15 +105,19 @@ std::optional<WayBack> PlayedSlot::WayBefore(const std::vector<FileChange>& chan
       way.push_back(BackFrom(change, known ? known->RecordBytes : 1, read));
     };
     if (std::ssize(change.Before) == change.LengthBefore) {
-      back([&](std::int64_t offset, std::span<std::byte> buffer) {
-        std::memcpy(buffer.data(), change.Before.data() + offset, buffer.size());
+      back([&](std::int64_t offset, std::int64_t count) {
+        return change.Before.subspan(static_cast<std::size_t>(offset),
+                                     static_cast<std::size_t>(count));
       });
       continue;
     }
     const OpenedFile file(disk_, folder_ + "/" + change.Name, false);
     if (disk_.Size(file) != change.LengthBefore) return std::nullopt;
-    back([&](std::int64_t offset, std::span<std::byte> buffer) {
+    Bytes buffer;
+    back([&](std::int64_t offset, std::int64_t count) {
+      buffer.resize(static_cast<std::size_t>(count));
       disk_.ReadAt(file, offset, buffer);
+      return ByteSpan(buffer);
     });
   }
   return way;

@@ -8,6 +8,10 @@ TableFull::TableFull(const RecordLayout& layout)
     : std::runtime_error(std::string(layout.File) + " is full: it holds its most of " +
                          std::to_string(layout.Limit) + " records.") {}
 
+void ThrowNoRecord(std::string_view file, int number) {
+  throw std::out_of_range(std::string(file) + " has no record " + std::to_string(number));
+}
+
 std::optional<FileChange> Table::Difference() const {
   FileChange change{std::string(File()), committedExists_, exists_, CommittedLength(),
                     Contents(),          ChangedSince(),   image_};

@@ -29,6 +29,9 @@ class TableFull : public std::runtime_error {
   explicit TableFull(const RecordLayout& layout);
 };
 
+/// Apart from the look-up itself, which is made in place wherever a record is asked for.
+[[noreturn]] void ThrowNoRecord(std::string_view file, int number);
+
 /// One file of a world in memory, and what it was when it was committed last.
 class Table {
  public:
@@ -258,8 +261,7 @@ class Records : public Table {
       records_.reserve(static_cast<std::size_t>(LayoutOf<T>().Limit) + 1);
   }
   std::size_t Place(int number) const {
-    if (number < 1 || number > Count())
-      throw std::out_of_range(std::string(File()) + " has no record " + std::to_string(number));
+    if (number < 1 || number > Count()) ThrowNoRecord(File(), number);
     return static_cast<std::size_t>(number - 1);
   }
 

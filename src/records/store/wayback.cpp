@@ -219,15 +219,27 @@ std::optional<BytesBack> BytesBack::Unpack(ByteSpan& in) {
 
 namespace {
 
+/// Where the two differ first from `from` on; `both` where they do not before it. Most bytes of
+/// most files are alike: they are compared eight, and four times eight, at a time.
+std::size_t SameUntil(ByteSpan one, ByteSpan two, std::size_t from, std::size_t both) {
+  const auto differs = [&](std::size_t at) {
+    std::uint64_t a, b;
+    std::memcpy(&a, one.data() + at, sizeof(a));
+    std::memcpy(&b, two.data() + at, sizeof(b));
+    return a ^ b;
+  };
+  std::size_t i = from;
+  while (i + 32 <= both && (differs(i) | differs(i + 8) | differs(i + 16) | differs(i + 24)) == 0)
+    i += 32;
+  while (i + 8 <= both && differs(i) == 0) i += 8;
+  while (i < both && one[i] == two[i]) ++i;
+  return i;
+}
+
 /// Tells `before` by `now`, which begin at the same place of their file.
 void TellInPlace(BytesBack& back, std::uint64_t at, ByteSpan before, ByteSpan now) {
   const std::size_t both = std::min(before.size(), now.size());
-  const auto sameFrom = [&](std::size_t from) {
-    std::size_t i = from;
-    while (i + 8 <= both && std::memcmp(before.data() + i, now.data() + i, 8) == 0) i += 8;
-    while (i < both && before[i] == now[i]) ++i;
-    return i;
-  };
+  const auto sameFrom = [&](std::size_t from) { return SameUntil(before, now, from, both); };
   std::size_t i = 0;
   while (i < both) {
     const std::size_t same = sameFrom(i);
@@ -279,11 +291,8 @@ FileBack BackFrom(const FileChange& change, std::int64_t recordBytes, const Read
   FileBack file{change.Name, change.ExistsBefore, {}};
   if (!change.ExistsBefore) return file;
   const std::int64_t before = change.LengthBefore, now = std::ssize(change.After);
-  Bytes buffer;
   const auto older = [&](std::int64_t from, std::int64_t to) {
-    buffer.resize(static_cast<std::size_t>(std::max<std::int64_t>(0, to - from)));
-    if (!buffer.empty()) read(from, buffer);
-    return ByteSpan(buffer);
+    return to > from ? read(from, to - from) : ByteSpan();
   };
   std::int64_t at = 0;
   std::uint64_t compared = 0;

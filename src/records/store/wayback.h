@@ -51,8 +51,8 @@ struct FileBack {
 /// All files that a step has changed, as they were before it.
 using WayBack = std::vector<FileBack>;
 
-/// Reads bytes of a file as it is before a step: fills the buffer from an offset on.
-using ReadBefore = std::function<void(std::int64_t offset, std::span<std::byte> buffer)>;
+/// Some bytes of a file as it is before a step; they hold until the next are asked for.
+using ReadBefore = std::function<ByteSpan(std::int64_t offset, std::int64_t count)>;
 /// What the change has changed. `recordBytes` is what records that have moved are found by.
 FileBack BackFrom(const FileChange& change, std::int64_t recordBytes, const ReadBefore& read);
 
