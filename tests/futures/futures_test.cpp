@@ -84,8 +84,8 @@ TEST(Futures, ComeToTheSameThoughNobodyCountsTheirPast) {
   EXPECT_EQ(uncounted.Of<Career>().Count(), 0);
   for (std::size_t i = 0; i < World::kTables; ++i) {
     const Table &one = *std::as_const(counted).Tables()[i], &other = *uncounted.Tables()[i];
-    if (!IsOfTheHalls(one.File()))
-      EXPECT_TRUE(std::ranges::equal(one.Contents(), other.Contents())) << one.File();
+    if (IsOfTheHalls(one.File())) continue;
+    EXPECT_TRUE(std::ranges::equal(one.Contents(), other.Contents())) << one.File();
   }
 }
 

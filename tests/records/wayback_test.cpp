@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 #include "support/storeworld.h"
 
 // Older worlds told by newer ones: exact, in few bytes, and harmless when they are spoiled.
