@@ -81,9 +81,9 @@ constexpr OutcomeRow kOutcomes[] = {
     {kTitleAgain, Who::Two, false, kSameAgain},
 };
 
-/// What another fact that is told says as well: their last match was that for the Title.
+/// What another fact that is told says as well: who has lost the Title has not won it back since.
 bool IsToldBy(const PastFact& other, const PastFact& fact) {
-  return fact.Is == kMetLately && other.Is == kTitleAgain && other.DaysAgo == fact.DaysAgo;
+  return fact.Is == kMetLately && other.Is == kTitleAgain && other.Two == fact.One;
 }
 
 bool Share(const std::vector<int>& some, const std::vector<int>& others) {

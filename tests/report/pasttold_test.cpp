@@ -53,11 +53,12 @@ TEST(Past, KnowsRunsReignsAndAbsence) {
   EXPECT_EQ(past.Has(kTitleAgain)->One, std::vector<int>{2}) << "who lost it to the champion";
 }
 
-/// The match in which the Title was lost is no second fact.
-TEST(Past, SaysOnceThatTheLastMatchWasForTheTitle) {
-  for (const int daysAgo : {20, 10}) {
+/// That who took the Title won their last match as well is no second fact.
+TEST(Past, SaysOnceWhoLostTheTitleToWhom) {
+  for (const int last : {1, 2}) {
     World world = Two();
-    Held(world, 1, daysAgo);
+    Held(world, 1, 20);
+    Held(world, last, 10);
     Reign(world, 2, 400, 20);
     Reign(world, 1, 20, 0);
     const Segment segment = AdaBeatsBo("Crown");
@@ -66,7 +67,7 @@ TEST(Past, SaysOnceThatTheLastMatchWasForTheTitle) {
     LineMemory memory;
     Teller teller(world, segment, scene, memory);
     TellPast(teller);
-    ASSERT_EQ(teller.Told.size(), daysAgo == 20 ? 1U : 2U);
+    ASSERT_EQ(teller.Told.size(), last == 1 ? 1U : 2U);
     EXPECT_EQ(teller.Told[0].Is, kTitleAgain);
   }
 }
