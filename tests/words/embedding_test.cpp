@@ -65,7 +65,7 @@ TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
       {"{T} is here. {.}", "{.} ends no condition"},
       {"<dwon> {T} is here, too.",
        "there is no such tag; there are down, hold, floor, held, anyway, trouble, worn, pin, low, "
-       "mid, high, leg, arm, back, up, clean, cold, warm, hot"},
+       "mid, high, leg, arm, back, up, clean, cold, warm, hot, mat"},
       {"{T} is in.  Camera on.", "two blanks in a row"},
       {"{T} talks to himself.",
        "write {a:himself}, with the letter of whoever it is: it goes by sex and number"},
