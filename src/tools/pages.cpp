@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "records/fields/fields.h"
-#include "records/tables/cells.h"
+#include "records/tables/fieldcells.h"
 #include "records/tables/tablekinds.h"
 #include "records/world.h"
 #include "tools/commands.h"

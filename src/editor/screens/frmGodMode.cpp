@@ -4,7 +4,7 @@
 #include "records/fields/charset.h"
 #include "records/fields/wording.h"
 #include "records/houserules.h"
-#include "records/tables/cells.h"
+#include "records/tables/fieldcells.h"
 #include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
 

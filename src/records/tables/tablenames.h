@@ -6,7 +6,7 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "records/tables/cells.h"
+#include "records/tables/fieldcells.h"
 
 // In tables records lead to each other by name: a promotion by its initials, all others by their
 // name. "#17" is the record of that number, for what no name can tell.

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "records/tables/cells.h"
+#include "records/tables/fieldcells.h"
 
 // Tables of comma-separated values as RFC 4180 has them, with the place of everything kept for
 // messages.

@@ -1,4 +1,4 @@
-#include "records/tables/cells.h"
+#include "records/tables/fieldcells.h"
 
 #include <algorithm>
 #include <array>
