@@ -26,7 +26,7 @@ struct HallMerit {
 std::span<const HallMerit, kHallMerits> Merits();
 
 /// So many points it takes, and so many are elected in a year at most.
-inline constexpr int kHallBar = 200, kElectedAYear = 2;
+inline constexpr int kHallBar = 190, kElectedAYear = 2;
 /// Whoever has not retired must be that old, and nobody is elected after fewer years.
 inline constexpr int kHallAge = 40, kHallYears = 5;
 

@@ -209,7 +209,7 @@ inline constexpr int kGivesUpBelow = 40;
 inline constexpr int kWomenWanted = 25;
 inline constexpr int kMenAskedToWait = 3;
 /// From this many of a hundred on, lightweights alone give up.
-inline constexpr int kLightweightsEnough = 36;
+inline constexpr int kLightweightsEnough = 34;
 
 // Cards and stories.
 
@@ -221,7 +221,7 @@ inline constexpr int kHouseShowMatches = 6;
 /// loses it this often in a hundred; a vacant one is fought for on one show in this many.
 inline constexpr int kDefenceIn = 4;
 inline constexpr int kTvUpset = 4;
-inline constexpr int kVacancyIn = 2;
+inline constexpr int kVacancyIn = 1;
 /// Matches out of this many end without a winner.
 inline constexpr int kDrawIn = 20;
 /// Heels who win cheat once in this many matches.
