@@ -160,6 +160,13 @@ void Album::FillIn(ui::Screen& screen) {
 
 void Album::Click(ui::Screen& screen, const std::string& control) {
   const bool isList = screen.Find(control)->Is() == ui::Kind::ListBox;
+  // The window remembers which of its rooms was opened, and marks it.
+  auto* const command =
+      screen.Is() == ui::Role::Hub ? window_.findChild<QAbstractButton*>(Shown(control)) : nullptr;
+  if (command && command->isVisible() && command->isEnabled()) {
+    command->click();
+    return LetItPaint();
+  }
   window_.Act([&] {
     return isList ? ui::OpenRow(desk_, screen, control, 1) : ui::Click(desk_, screen, control);
   });

@@ -115,13 +115,13 @@ PushButton::Paints PushButton::PaintsNow() const {
   Paints paints{lit ? c.Hover : c.Button, c.Edge, textColour_.isValid() ? textColour_ : c.Text};
   if (!isEnabled()) paints = {c.Card, c.Line, c.Faint};
   if (gold_) {
-    const QColor fill = !isEnabled() ? c.DimGold : lit ? c.GoldFill.lighter(108) : c.GoldFill;
-    paints = {fill, QColor(), c.OnGold};
+    paints = {lit ? c.GoldFill.lighter(108) : c.GoldFill, QColor(), c.OnGold};
+    if (!isEnabled()) paints = {c.DimGold, QColor(), c.OnDimGold};
   }
   if (isDown()) paints.Fill = paints.Fill.darker(108);
   if (plain_) {
     const QColor ink = textColour_.isValid() ? textColour_ : c.Blue;
-    paints = {lit ? c.Hover : QColor(), QColor(), isEnabled() ? ink : c.Faint};
+    paints = {lit ? c.Hover : QColor(), QColor(), isEnabled() ? ink : c.Muted};
   }
   return paints;
 }

@@ -168,7 +168,8 @@ void Veil::PlaceCard() {
   const auto* body = dynamic_cast<const Scroller*>(card_->findChild<QScrollArea*>());
   if (body && !wanted_.isValid()) wanted.rheight() += body->Lacks();
   wanted = wanted.boundedTo(most);
-  const int top = atTop_ ? Px(80) : std::max(0, (height() - wanted.height()) / 2);
+  const int middle = std::max(0, (height() - wanted.height()) / 2);
+  const int top = atTop_ ? std::min(Px(80), middle) : middle;
   card_->setGeometry((width() - wanted.width()) / 2, top, wanted.width(), wanted.height());
 }
 

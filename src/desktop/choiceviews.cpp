@@ -60,6 +60,7 @@ class Choices : public QStyledItemDelegate {
 };
 
 constexpr int kRowsShown = 18;
+constexpr int kLettersAtLeast = 8;
 constexpr int kAround = 37;  // beside a combo box's words
 
 class ComboView : public ViewOf<Calm<QComboBox>, ui::ComboBox> {
@@ -68,7 +69,7 @@ class ComboView : public ViewOf<Calm<QComboBox>, ui::ComboBox> {
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMaxVisibleItems(kRowsShown);
     setItemDelegate(new Choices(this));
-    setMinimumContentsLength(8);
+    setMinimumContentsLength(kLettersAtLeast);
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QComboBox::activated, this, [this](int row) {
       Do<int>(ui::Pick, row + 1);
@@ -76,17 +77,16 @@ class ComboView : public ViewOf<Calm<QComboBox>, ui::ComboBox> {
     });
   }
   /// As wide as its longest row. Qt's own way to that would have the box grow beyond its place for
-  /// a moment whenever the rows change.
+  /// a moment whenever the rows change, and keeps what it has measured in letters of another size.
   QSize sizeHint() const override {
-    int longest = 0;
+    int longest = LettersWidth(kLettersAtLeast);
     for (int row = 0; row < count(); ++row)
       longest = std::max(longest, WordsWidth(font(), itemText(row)));
-    QStyleOptionComboBox option;
-    initStyleOption(&option);
-    const QSize least = Calm::sizeHint();
-    const QSize whole = style()->sizeFromContents(QStyle::CT_ComboBox, &option,
-                                                  QSize(longest, least.height()), this);
-    return {std::max(least.width(), whole.width()), least.height()};
+    return Around(longest);
+  }
+  /// Nothing is cut of rows as short as what is asked for.
+  QSize minimumSizeHint() const override {
+    return Around(LettersWidth(minimumContentsLength())).boundedTo(sizeHint());
   }
   /// The list is as wide as its longest row, wherever the screen has the room.
   void showPopup() override {
@@ -111,6 +111,15 @@ class ComboView : public ViewOf<Calm<QComboBox>, ui::ComboBox> {
       addItems(rows);
     }
     setCurrentIndex(control_.Selected() - 1);
+  }
+
+ private:
+  int LettersWidth(int count) const { return WordsWidth(font(), QString(count, u'X')); }
+  QSize Around(int words) const {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option,
+                                     QSize(words, fontMetrics().height()), this);
   }
 };
 

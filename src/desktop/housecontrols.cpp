@@ -56,8 +56,9 @@ void DrawTab(const QStyleOptionTab& option, QPainter& painter) {
   const bool chosen = Has(option, QStyle::State_Selected);
   const bool hover = Has(option, QStyle::State_MouseOver);
   painter.setPen(chosen ? c.Text : hover ? c.Soft : c.Muted);
-  DrawWords(painter, option.rect, Qt::AlignCenter,
-            TextFont(13, chosen ? QFont::DemiBold : QFont::Normal), option.text);
+  const QFont font = TextFont(13, chosen ? QFont::DemiBold : QFont::Normal);
+  DrawWords(painter, option.rect, Qt::AlignCenter, font,
+            WordsWithin(font, option.text, option.rect.width() - Px(8)));
   QRect line = option.rect;
   line.setTop(line.bottom() - Px(2) + 1);
   if (chosen) painter.fillRect(line.adjusted(Px(8), 0, -Px(8), 0), c.GoldFill);

@@ -26,7 +26,7 @@ using Kind = ui::Box::Kind;
 constexpr int kWide = 14;  // between cards
 constexpr int kWidestField = 420;
 constexpr int kFieldsShare = 1000;  // of a form's width, as long as they are not that wide
-constexpr int kLettersChosen = 17;  // of what a form's drop-down shows, before its label turns
+constexpr int kLettersChosen = 25;  // of what a form's drop-down shows, before its label turns
 constexpr int kLeastWords = 70;     // beside the buttons of their row
 constexpr int kLeastCard = 220;     // beside another; a narrower one stands below it
 constexpr int kLeastAlike = 180;    // the same of many that hold as little each
@@ -211,6 +211,7 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   auto* bar = new QTabBar(holder);
   bar->setDrawBase(false);
   bar->setExpanding(false);
+  bar->setElideMode(Qt::ElideRight);
   bar->setFocusPolicy(Qt::TabFocus);
   rows->addWidget(bar, 0, Qt::AlignLeft);
   const QScopedValueRollback<QWidget*> within(holder_);
@@ -224,7 +225,7 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
     Build(untitled, NewLayout<QVBoxLayout>(holder_, -1));
     rows->addWidget(holder_, 1);
     holder_->setVisible(pages.size() == 1);
-    bar->addTab(Shown(part.Title));
+    bar->setTabToolTip(bar->addTab(Shown(part.Title)), Shown(part.Title));
   }
   QObject::connect(bar, &QTabBar::currentChanged, holder, [pages](int shown) {
     for (QWidget* page : pages) page->hide();

@@ -24,7 +24,8 @@ struct Colours {
   QColor Track;                              // what a bar or a slider runs in
   QColor Text, Soft, Muted, Faint;           // Soft: the side bar's; Faint: what is disabled
   QColor Gold, Blue, Green, Amber, Red;      // as texts
-  QColor GoldFill, OnGold, DimGold;          // the main button; DimGold: disabled
+  QColor GoldFill, OnGold;                   // the main button
+  QColor DimGold, OnDimGold;                 // the same while it is disabled
   QColor BlueFill, GreenFill, AmberFill, RedFill, YellowFill;  // bars and spots
   QColor BlueEdge, RedEdge;                                    // frames of tags
   QColor Shade;                                                // over what lies below a dialog

@@ -19,7 +19,7 @@ constexpr int kPageSide = 20;
 constexpr int kCoverSide = 36;
 constexpr int kPartGap = 14;       // between head, body and foot
 constexpr int kWidestPage = 1160;  // of a page with nothing on it that would show more
-constexpr int kLeastTitle = 260;   // what the title and its facts have beside actions
+constexpr int kLeastTitle = 220;   // what the title and its facts have beside actions
 constexpr int kLeastName = 150;    // the same of a title alone
 constexpr int kAllThereIs = 1 << 16;
 
@@ -161,6 +161,7 @@ QLayout* ScreenView::BuildHead() {
     return faced;
   }
   auto* head = new TurningLayout(12, kLeastTitle);
+  head->AskNoMoreThanWished();
   words->addWidget(title_);
   head->addLayout(words, 1);
   AddFacts(*words);

@@ -20,7 +20,7 @@ namespace {
 
 using ui::ColumnKind;
 
-constexpr int kBarWidth = 56, kBarHeight = 6;
+constexpr int kBarEnd = 8, kBarWidth = kBarRoom - kBarEnd, kBarHeight = 6;
 constexpr int kTagHeight = 19, kTagSide = 6, kTagGap = 4;
 constexpr int kSign = 14, kSignGap = 2;  // before its number
 constexpr int kRowButton = 76;
@@ -125,7 +125,7 @@ void DrawBar(QPainter& painter, const QRect& room, const QFont& font, const ui::
                             track.center().y() - Px(6), 2, Px(12)),
                      c.Text);
   painter.setPen(TextColour(c, cell.Colour));
-  const int from = static_cast<int>(track.right()) + Px(8);
+  const int from = static_cast<int>(track.right()) + Px(kBarEnd);
   DrawFigures(painter, QRectF(from, room.top(), room.right() + 1 - from, room.height()),
               Qt::AlignLeft, font, Shown(cell.Text));
 }
@@ -229,7 +229,7 @@ int CellWidth(const ui::Cell& cell, const ui::Column& column) {
       width += WordWidth(word, column) + Px(kTagGap);
     return width;
   }
-  if (IsBar(cell, kind)) return Px(kBarWidth) + Px(8) + FiguresWidth(TextFont(), text) + sides;
+  if (IsBar(cell, kind)) return Px(kBarRoom) + FiguresWidth(TextFont(), text) + sides;
   if (kind == ColumnKind::Number || kind == ColumnKind::Date)
     return FiguresWidth(TextFont(), text) + sides;
   return WordsWidth(TextFont(), text) + sides + 1;
@@ -244,6 +244,10 @@ bool TableCells::IsLink(const QModelIndex& index) const {
   if (!model_.List().OnOpen || hasButtons) return false;
   const int column = model_.Table().Columns()[static_cast<std::size_t>(model_.Table().NamePlace())];
   return column == index.column() && model_.Column(column).Kind == ColumnKind::Text;
+}
+
+bool TableCells::IsBare(int column) const {
+  return std::ranges::find(model_.Bare, column) != model_.Bare.end();
 }
 
 /// One pass paints what scrolls, and nothing of it beneath what stays; another what stays.
@@ -287,15 +291,20 @@ void TableCells::PaintCell(QPainter& painter, const QStyleOptionViewItem& option
   if (column.Under)
     room = DrawUnder(painter, room, column.Under(model_.Table().KeyAt(index.row())), c);
   const QFont font = TextFont(kUsualText, column.Under ? QFont::DemiBold : QFont::Normal);
+  const bool isNumber = column.Kind == ColumnKind::Number || column.Kind == ColumnKind::Date ||
+                        IsBar(cell, column.Kind);
+  // Half a number would be another number.
+  if (cut && isNumber && FiguresWidth(font, CellText(cell, column.Kind)) > room.width()) return;
   if (cell.Best) {
     const int width = CellWidth(cell, column) - 2 * Px(kCellSide);
-    DrawStar(painter, QPointF(room.left() + width - Px(kStar) / 3.0, room.center().y() + 1), c);
+    const double x = std::min(room.left() + width, room.right()) - Px(kStar) / 3.0;
+    DrawStar(painter, QPointF(x, room.center().y() + 1), c);
   }
   if (IsTag(cell, column.Kind)) {
     DrawWord(painter, room, CellText(cell, column.Kind), cell.Colour, column, c);
   } else if (column.Kind == ColumnKind::Tags) {
     DrawTags(painter, room, cell, column, c);
-  } else if (IsBar(cell, column.Kind) && !cut) {
+  } else if (IsBar(cell, column.Kind) && !cut && !IsBare(index.column())) {
     DrawBar(painter, room, font, cell, c);
   } else {
     const bool link = cell.Colour == ui::Tone::Plain && IsLink(index);

@@ -4,6 +4,7 @@
 #include <QStyledItemDelegate>
 #include <functional>
 #include <span>
+#include <vector>
 
 #include "ui/arrangedtable.h"
 
@@ -42,6 +43,8 @@ class TableModel : public QAbstractTableModel {
   std::function<std::string(const std::string& title)> MeaningOf;
 
   Pinned Pin;
+  /// Columns that show the numbers of their bars alone.
+  std::vector<int> Bare;
   /// In the order shown; none while nothing is scrolled.
   std::span<const int> PinnedColumns() const;
   bool IsPinned(int column) const;
@@ -71,6 +74,7 @@ class TableCells : public QStyledItemDelegate {
 
  private:
   bool IsLink(const QModelIndex& index) const;
+  bool IsBare(int column) const;
   void PaintRow(QPainter& painter, const QStyleOptionViewItem& option, int row) const;
   void PaintCell(QPainter& painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const;
@@ -88,6 +92,7 @@ bool AlignsRight(ui::ColumnKind kind);
 /// In drawn pixels; rows with a sentence below a text are as high as cards.
 int RowHeight(const ui::ListBox& list);
 inline constexpr int kCellSide = 8;
-inline constexpr int kSliver = 28;  // of a column that the table's edge cuts: no words fit less
+inline constexpr int kBarRoom = 64;  // of a bar before its number
+inline constexpr int kSliver = 28;   // of a column that the table's edge cuts: no words fit less
 
 }  // namespace grapplemont::desktop

@@ -67,11 +67,15 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   const std::vector<int>& NaturalWidths();
   std::vector<int> MeasuredWidths() const;
   bool IsText(std::size_t place) const;
+  bool IsWords(std::size_t place) const;  // texts and tags
+  int HeadingWidth(std::size_t place) const;
   std::size_t SentencePlace(const std::vector<int>& widths) const;
   bool IsEmpty(int column) const;
   int DropEmpty(int room, std::vector<int>& widths) const;
   int PinnedIn(const std::vector<int>& widths) const;
   void SqueezeTexts(int missing, std::vector<int>& widths);
+  int DropBars(int missing, std::vector<int>& widths);
+  void ScrollRest(const std::vector<int>& asked, std::vector<int>& widths);
   void ApplyColumns();
   void TakeOrder();
   void RestorePlace();

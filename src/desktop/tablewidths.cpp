@@ -16,6 +16,9 @@ constexpr int kMeasuredRows = 200;  // rows that are measured one by one for a c
 constexpr int kReadRows = 2000;     // of those behind them; of more, some that lie far apart
 constexpr int kSentence = 200;      // texts from this width on are read at length
 constexpr int kTagsRead = 124;      // two tags, or one and the beginning of the next
+// What columns of words keep where there is little room.
+constexpr int kNameWhole = 220, kNameCut = 110;
+constexpr int kTextRead = 180, kTextGlanced = 110, kTextCut = 80;
 
 /// Hands out the room left over by shares.
 void Spread(int room, const std::vector<double>& shares, std::vector<int>& widths) {
@@ -86,6 +89,14 @@ bool TableView::IsText(std::size_t place) const {
   return kind == ui::ColumnKind::Text || kind == ui::ColumnKind::Tags;
 }
 
+bool TableView::IsWords(std::size_t place) const {
+  return IsText(place) || model_.Column(table_.Columns()[place]).Kind == ui::ColumnKind::Tag;
+}
+
+int TableView::HeadingWidth(std::size_t place) const {
+  return grid_->Heading().HeadingWidth(table_.Columns()[place]);
+}
+
 /// The place of the sentences beside the name: the widest texts, if they are wide; else the name's.
 std::size_t TableView::SentencePlace(const std::vector<int>& widths) const {
   const std::size_t name = Index(table_.NamePlace());
@@ -97,36 +108,77 @@ std::size_t TableView::SentencePlace(const std::vector<int>& widths) const {
   return widest;
 }
 
-/// What is read first gives way last, and sentences before it, but not to nothing. No heading is
-/// ever cut, and what is no text keeps its width. Where that is not enough the rest is scrolled
-/// beside the name, which is shown whole, as long as half of the room is left; then tags are not
-/// cut to nothing either.
+/// What is read first gives way last, and no further than a usual name needs; bars leave their
+/// number alone before that. No heading is ever cut, and a number keeps its width.
 void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
   const std::size_t name = Index(table_.NamePlace()), sentence = SentencePlace(widths);
-  const int whole = widths[name];
+  const int room = grid_->viewport()->width();
+  const int least = std::max(Px(kNameCut), std::min(Px(kNameWhole), room * 55 / 100));
   const std::vector<int> asked = widths;
-  const struct {
-    int Name, Sentence, Other;
-  } steps[] = {{whole, Px(180), Px(110)},
-               {Px(220), Px(180), Px(80)},
-               {Px(220), Px(80), Px(80)},
-               {Px(170), Px(80), Px(80)},
-               {Px(110), Px(80), Px(80)}};
-  for (const auto& step : steps) {
-    std::vector<int> least = widths;
+  const auto shrink = [&](int ofName, int ofSentence, int ofOthers) {
+    std::vector<int> floors = widths;
     for (std::size_t place = 0; place < widths.size(); ++place) {
-      if (!IsText(place)) continue;
-      const int text = place == name ? step.Name : place == sentence ? step.Sentence : step.Other;
-      const int heading = grid_->Heading().HeadingWidth(table_.Columns()[place]);
-      least[place] = std::min(widths[place], std::max(heading, text));
+      if (!IsWords(place)) continue;
+      const int text = place == name ? ofName : place == sentence ? ofSentence : ofOthers;
+      floors[place] = std::min(widths[place], std::max(HeadingWidth(place), text));
     }
-    missing = Squeeze(missing, least, widths);
+    missing = Squeeze(missing, floors, widths);
+  };
+  shrink(asked[name], Px(kTextRead), Px(kTextGlanced));
+  missing -= DropBars(missing, widths);
+  if (missing < 0) {
+    std::vector<double> shortened(widths.size());
+    for (std::size_t place = 0; place < widths.size(); ++place)
+      if (IsWords(place)) shortened[place] = asked[place] - widths[place];
+    shortened[name] += 1;
+    return Spread(-missing, shortened, widths);
   }
-  if (missing <= 0) return;
-  widths[name] = std::min(whole, std::max(widths[name], grid_->viewport()->width() * 45 / 100));
-  for (std::size_t place = 0; place < widths.size(); ++place)
-    if (model_.Column(table_.Columns()[place]).Kind == ui::ColumnKind::Tags)
-      widths[place] = std::max(widths[place], std::min(asked[place], Px(kTagsRead)));
+  shrink(least, Px(kTextRead), Px(kTextCut));
+  shrink(least, Px(kTextCut), Px(kTextCut));
+  if (missing > 0) ScrollRest(asked, widths);
+}
+
+/// Takes the bars from where they stand before a number, from the last column on, until nothing
+/// is missing; gives the room that has come free.
+int TableView::DropBars(int missing, std::vector<int>& widths) {
+  int freed = 0;
+  for (std::size_t place = widths.size(); place-- > 0 && freed < missing;) {
+    const int column = table_.Columns()[place];
+    if (model_.Column(column).Kind != ui::ColumnKind::Percent) continue;
+    const int bare = std::max(HeadingWidth(place), widths[place] - Px(kBarRoom));
+    if (bare >= widths[place]) continue;
+    freed += widths[place] - bare;
+    widths[place] = bare;
+    model_.Bare.push_back(column);
+  }
+  return freed;
+}
+
+/// Where it does not all fit, the rest is scrolled beside the name, which is shown whole as long as
+/// half of the room is left. Then nothing need be cut short any more.
+void TableView::ScrollRest(const std::vector<int>& asked, std::vector<int>& widths) {
+  const std::size_t name = Index(table_.NamePlace()), sentence = SentencePlace(asked);
+  const int room = grid_->viewport()->width();
+  for (std::size_t place = 0; place < widths.size(); ++place) {
+    if (!IsWords(place)) continue;
+    const bool tags = model_.Column(table_.Columns()[place]).Kind == ui::ColumnKind::Tags;
+    const int read = place == name       ? room * 45 / 100
+                     : tags              ? Px(kTagsRead)
+                     : place == sentence ? Px(kTextRead)
+                                         : Px(kTextGlanced);
+    widths[place] = std::max(widths[place], std::min(asked[place], read));
+  }
+  // Where the edge would leave a stump of a column, those before it share its room.
+  std::size_t cut = 0;
+  int rest = room;
+  while (cut < widths.size() && widths[cut] <= rest) rest -= widths[cut++];
+  if (cut <= name || cut == widths.size() || (IsWords(cut) && rest >= Px(kTextCut))) return;
+  std::vector<double> shares(widths.size());
+  for (std::size_t place = 0; place < cut; ++place)
+    if (IsWords(place) && (place != name || widths[name] < asked[name]))
+      shares[place] = widths[place];
+  if (std::accumulate(shares.begin(), shares.end(), 0.0) == 0) shares[cut - 1] = 1;
+  Spread(rest, shares, widths);
 }
 
 /// The columns up to the name, unless they take most of the room.
@@ -180,6 +232,7 @@ void TableView::FitColumns() {
   }
   Spread(room, shares, widths);
   room = DropEmpty(room, widths);
+  model_.Bare.clear();
   if (room < 0 && !widths.empty()) SqueezeTexts(-room, widths);
   const QScopedValueRollback<bool> arranging(arranging_, true);
   for (std::size_t i = 0; i < shown.size(); ++i) {

@@ -72,10 +72,7 @@ class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
   }
   QSize sizeHint() const override {
-    return {!IsName() || form_ == Form::Bare ? Least(form_)
-            : form_ == Form::Least           ? Px(kBareName)
-                                             : WidthOf(pieces_) + 2,
-            Px(32)};
+    return {IsName() ? WidthOf(InForm(form_)) + 2 : Least(form_), Px(32)};
   }
   QSize minimumSizeHint() const override { return {Least(form_), Px(32)}; }
   /// What it needs at least, whatever the day puts in.

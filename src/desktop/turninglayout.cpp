@@ -91,8 +91,10 @@ int TurningLayout::WidthAcross() const {
     if (item->isEmpty()) continue;
     const bool shares = stretch(i) > 0 || item->expandingDirections().testFlag(Qt::Horizontal);
     const int whole = whole_ ? RowWidth(*item) : -1;
+    int least = shares ? Px(least_) : 0;
+    if (modest_) least = std::min(least, item->sizeHint().width());
     width += (width > 0 ? spacing() : 0) +
-             (whole >= 0 ? whole : std::max(item->minimumSize().width(), shares ? Px(least_) : 0));
+             (whole >= 0 ? whole : std::max(item->minimumSize().width(), least));
   }
   return width;
 }

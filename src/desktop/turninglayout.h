@@ -26,6 +26,9 @@ class TurningLayout : public QBoxLayout {
   /// Has the first part go last while the parts stand one below the other.
   void LetFirstWait() { firstWaits_ = true; }
 
+  /// Lets a part that wishes for less than the least of its kind stand with that in a row.
+  void AskNoMoreThanWished() { modest_ = true; }
+
   /// The width from which on the parts stand in a row.
   int WidthAcross() const;
   /// It can be as narrow as its widest part, even while its rows are held in one line: who holds
@@ -52,7 +55,7 @@ class TurningLayout : public QBoxLayout {
   void MovePart(int from, int to);
 
   int gap_, least_;
-  bool whole_ = false, oneRow_ = false, firstWaits_ = false;
+  bool whole_ = false, oneRow_ = false, firstWaits_ = false, modest_ = false;
 };
 
 }  // namespace grapplemont::desktop

@@ -35,8 +35,7 @@ Window::Window(WindowDesk& desk, Options options)
   desk_.Help.Keys = [this](ui::Screen& of) { return KeyLines(of); };
   settings_.Game = options_.Game;
   UseDateForm(settings_.Dates());
-  ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
-  setPalette(QApplication::palette());
+  TakeLook();
   setWindowTitle("Grapplemont");
   setCentralWidget(ground_);
   setMinimumSize(kLeastSize);

@@ -73,6 +73,7 @@ class Window : public QMainWindow, public Stage {
   void FollowDesktop(bool dark);
   /// All views are made again: their sizes and colours were taken when they were built.
   void Relook();
+  void TakeLook();
 
   // What the desk asks for.
   /// Waits for the answer to a box: the place of its button from 0, the careful answer when there

@@ -268,11 +268,20 @@ void Window::SetLook(Scheme scheme, int zoom) {
   SetZoom(zoom);
 }
 
+/// The application tells its windows of another font only later: what is built meanwhile would be
+/// measured in the old one.
+void Window::TakeLook() {
+  ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
+  setPalette(QApplication::palette());
+  setFont(QApplication::font());
+}
+
 void Window::Relook() {
   const ui::Control* const keyboard = TopView() ? TopView()->KeyboardOn() : nullptr;
   RetireAll();
-  ApplyLook(settings_.Colours(), DesktopText() + settings_.Zoom());
-  setPalette(QApplication::palette());
+  TakeLook();
+  // What is on is shown where it is chosen, whichever way it was changed.
+  if (ui::Screen* const top = desk_.Top(); top && top->Name() == kWindowOptions) top->Return();
   Sync();
   if (keyboard && TopView()) TopView()->GiveKeyboard(*keyboard);
 }

@@ -59,12 +59,17 @@ class frmWindow : public ui::Screen {
     return page;
   }
 
-  void Load() override {
-    Settings& kept = window_.Kept();
+  void Return() override {
+    const Settings& kept = window_.Kept();
     cmbtheme.Select(static_cast<int>(kept.Colours()) + 1);
     const int now = (DesktopText() + kept.Zoom()) * 100 / kUsualText;
     cmbtext.SelectKey(
         *std::ranges::min_element(kTexts, {}, [now](int text) { return std::abs(text - now); }));
+  }
+
+  void Load() override {
+    Return();
+    const Settings& kept = window_.Kept();
     cmbscale.SelectKey(kept.Scale());
     chkfull.Checked = window_.isFullScreen();
     chkstill.Checked = kept.Still();

@@ -11,6 +11,7 @@
 #include "desktop/album.h"
 #include "desktop/card.h"
 #include "desktop/player.h"
+#include "desktop/tablegrid.h"
 #include "desktop/topbar.h"
 #include "program/richworld.h"
 #include "program/screens.h"
@@ -104,6 +105,37 @@ QStringList BadlyScrolled(const desktop::Window& window, ui::Screen& top) {
   return found;
 }
 
+/// Tables that cut what is read first in them while it has not even half of their room, or that end
+/// in a stump of a column.
+QStringList BadlyShared(const QWidget& window) {
+  QStringList found;
+  for (const QWidget* widget : window.findChildren<QWidget*>()) {
+    const auto* grid = dynamic_cast<const desktop::TableGrid*>(widget);
+    if (!grid || !grid->isVisible()) continue;
+    const auto* model = dynamic_cast<const desktop::TableModel*>(grid->model());
+    const auto& columns = model->Table().Columns();
+    if (columns.empty() || model->rowCount() == 0) continue;
+    const QString table = grid->parentWidget()->objectName();
+    const int room = grid->viewport()->width();
+    const int name = columns[static_cast<std::size_t>(model->Table().NamePlace())];
+    const int usual = std::min(desktop::Px(200), room * 4 / 10);
+    for (int row = 0; row < model->rowCount(); ++row)
+      if (const int wanted = grid->sizeHintForIndex(model->index(row, name)).width();
+          grid->columnWidth(name) < std::min(wanted, usual)) {
+        found << table + " cuts " + model->index(row, name).data().toString();
+        break;
+      }
+    for (const int column : columns) {
+      const int seen = room - grid->columnViewportPosition(column);
+      if (!grid->isColumnHidden(column) && seen > 0 && seen < grid->columnWidth(column) &&
+          seen < std::min(desktop::Px(70), grid->columnWidth(column)))
+        found << table + " ends in a stump of " +
+                     QString::fromStdString(model->Column(column).Title);
+    }
+  }
+  return found;
+}
+
 TEST(TheAlbum, ComesToTheScreensAndNothingOverlapsInASmallWindowWithLargeText) {
   HomeFolder home(RichWorld().Build());
   home.StartNewGame();
@@ -123,6 +155,9 @@ TEST(TheAlbum, ComesToTheScreensAndNothingOverlapsInASmallWindowWithLargeText) {
     const QStringList overlaps = Overlaps(play.Window);
     EXPECT_TRUE(overlaps.isEmpty())
         << screen << " " << look.toStdString() << ": " << overlaps.join(", ").toStdString();
+    const QStringList shared = BadlyShared(play.Window);
+    EXPECT_TRUE(shared.isEmpty()) << screen << " " << look.toStdString() << ": "
+                                  << shared.join(", ").toStdString();
     const QStringList out = OutOfCards(play.Window);
     EXPECT_TRUE(out.isEmpty()) << screen << " " << look.toStdString() << ": "
                                << out.join(", ").toStdString();
@@ -163,6 +198,48 @@ TEST(TheFields, StandBelowTheirLabelsWhereTheyHaveNoRoomBesideThem) {
     for (int i = 0; i < 4; ++i) QApplication::processEvents();
     const QWidget& price = *play.See("hsprice");
     EXPECT_EQ(price.visibleRegion().boundingRect().width(), price.width()) << percent;
+  }
+  play.Window.SetLook(desktop::Scheme::Dark, 0);
+}
+
+/// Also on a page that was there already in letters of another size.
+TEST(TheThemes, AreOfOneGeometry) {
+  class Form : public ui::Screen {
+   public:
+    explicit Form(ui::Desk& desk) : Screen(desk, "frmForm", "Form") {
+      cmbsize.Add("Small");
+      lstpeople.Add({"Zane Tempest", 40, "Heel"}, 1);
+    }
+    ui::Page Layout() override {
+      return {.Body = ui::Rows(
+                  {ui::Columns({ui::Field("Size", cmbsize), ui::Spacer()}),
+                   ui::Group("Price", {ui::Field("Price", hsprice), ui::Field("Size", cmbother)}),
+                   ui::Group("People", {ui::Grow(lstpeople)})})};
+    }
+    ui::ComboBox cmbsize{*this, "cmbsize"}, cmbother{*this, "cmbother"};
+    ui::ScrollBar hsprice{*this, "hsprice", 5, 100};
+    ui::ListBox lstpeople{
+        *this,
+        "lstpeople",
+        {{"Name"}, {"Over", ui::ColumnKind::Percent}, {"Side", ui::ColumnKind::Tag}}};
+  };
+  Log notes;
+  Player play;
+  play.Open(std::make_unique<Hub>(play.Desk, notes));
+  play.Open(std::make_unique<Form>(play.Desk));
+  const auto places = [&](desktop::Scheme scheme, int percent) {
+    play.Window.SetLook(scheme, desktop::DesktopText() * (percent - 100) / 100);
+    for (int i = 0; i < 4; ++i) QApplication::processEvents();
+    std::vector<std::pair<std::string, QRect>> all;
+    for (const QWidget* widget : play.Window.findChildren<QWidget*>())
+      if (widget->isVisible())
+        all.emplace_back(widget->metaObject()->className() + widget->objectName().toStdString(),
+                         QRect(widget->mapTo(&play.Window, QPoint()), widget->size()));
+    return all;
+  };
+  for (const int percent : {200, 100}) {
+    const auto dark = places(desktop::Scheme::Dark, percent);
+    EXPECT_EQ(dark, places(desktop::Scheme::Light, percent)) << percent;
   }
   play.Window.SetLook(desktop::Scheme::Dark, 0);
 }

@@ -132,7 +132,7 @@ class frmMornings : public GameScreen {
   ui::Button cmdundo{*this, "cmdundo", "Undo", [this] { desk().Take(desk().Undo); }};
   ui::Button cmdredo{*this, "cmdredo", "Redo", [this] { desk().Take(desk().Redo); }};
   ui::Button cmdname{*this, "cmdname", "Name This Moment", &frmMornings::cmdname_Click};
-  ui::Button cmdgo{*this, "cmdgo", "Go Back", &frmMornings::cmdgo_Click};
+  ui::Button cmdgo{*this, "cmdgo", "Go There", &frmMornings::cmdgo_Click};
 };
 
 }  // namespace
