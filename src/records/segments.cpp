@@ -202,13 +202,20 @@ int EntrantsOf(const Segment& segment) {
   return style ? style->Sides * style->PerSide : 0;
 }
 
+namespace {
+
+int PlacesOf(const Segment& segment) {
+  if (segment.Kind == kAngle) return kAnglePlaces;
+  if (segment.Kind != kInterview) return EntrantsOf(segment);
+  const InterviewStyleRow* style = FindInterviewStyle(segment.Style);
+  return style ? style->Speakers + style->Targets : 0;
+}
+
+}  // namespace
+
 std::vector<int> PeopleOf(const Segment& segment) {
-  int places = segment.Kind == kAngle ? kAnglePlaces : EntrantsOf(segment);
-  if (const InterviewStyleRow* style = FindInterviewStyle(segment.Style);
-      style && segment.Kind == kInterview)
-    places = style->Speakers + style->Targets;
   std::vector<int> people;
-  for (int place = 1; place <= places; ++place)
+  for (int place = 1, places = PlacesOf(segment); place <= places; ++place)
     if (const int uid = UidAt(segment, place)) people.push_back(uid);
   return people;
 }
@@ -284,8 +291,11 @@ std::vector<int> EverybodyOf(const Segment& segment) {
 
 bool TakesPart(const Segment& segment, int uid) {
   if (uid == 0) return false;
-  const std::vector<int> people = EverybodyOf(segment);
-  return std::find(people.begin(), people.end(), uid) != people.end();
+  for (const int other : {segment.Other1, segment.Other2, segment.Other3, segment.Other4})
+    if (other == uid) return true;
+  for (int place = 1, places = PlacesOf(segment); place <= places; ++place)
+    if (UidAt(segment, place) == uid) return true;
+  return false;
 }
 
 std::string SideText(const World& world, const std::vector<int>& side) {

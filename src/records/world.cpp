@@ -75,6 +75,7 @@ void World::CopyFrom(const World& other) {
   };
   std::apply(copy, tables_);
   Session = other.Session;
+  Session.Reigns.reset();  // its reigns count their changes by themselves
 }
 
 std::vector<FileChange> World::Changes() const {

@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -31,6 +32,14 @@ struct SessionWords {
   bool EventColourIsWorker = false;  // EventColour is a Worker's uid
   int EventExtra = 0;                // its place among the player's extras, from 1; 0 for none
   bool CountsNoPast = false;         // nobody will read the halls of this world
+  /// The reigns, and a checksum of the Titles, when they were last seen to agree.
+  struct Agreed {
+    unsigned Changes;
+    int Count;
+    std::uint64_t Titles;
+    bool operator==(const Agreed&) const = default;
+  };
+  std::optional<Agreed> Reigns = {};
 };
 
 /// An open folder of the game: a table per file, and the sources of chance. Rules change records in

@@ -12,6 +12,7 @@
 #include "records/fields/fields.h"
 #include "records/keepannals.h"
 #include "records/modWresCheck.h"
+#include "records/store/packing.h"
 #include "storylines/titles.h"
 
 namespace grapplemont {
@@ -274,7 +275,14 @@ std::vector<const TitleReign*> ReignsWhere(const World& world, Test test) {
 }  // namespace
 
 void UpdateReigns(World& world) {
-  if (!IsUpToDate(world)) Update(world).Run();
+  const Records<TitleReign>& reigns = world.Reigns();
+  const SessionWords::Agreed now{reigns.Changes(), reigns.Count(),
+                                 Checksum(world.Titles().RecordBytes())};
+  if (world.Session.Reigns == now) return;
+  if (IsUpToDate(world))
+    world.Session.Reigns = now;
+  else
+    Update(world).Run();
 }
 
 bool HaveReignsGone(const World& world) {

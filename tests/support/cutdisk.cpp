@@ -120,6 +120,18 @@ std::int64_t CutDisk::Size(Handle file) {
   return state_.Contents(Of(file).File).Size();
 }
 
+std::optional<FolderState> CutDisk::StateOf(const std::string& folder) {
+  const auto found = Find(folder);
+  if (!found || !state_.IsFolder(*found)) return std::nullopt;
+  FolderState state{0, static_cast<std::uint64_t>(*found)};
+  for (const auto& [name, node] : state_.Names(*found)) {
+    const std::size_t entry = std::hash<std::string>()(name) + static_cast<std::size_t>(node);
+    state.Seconds =
+        static_cast<std::int64_t>(static_cast<std::uint64_t>(state.Seconds) * 31 + entry);
+  }
+  return state;
+}
+
 bool CutDisk::IsAt(Handle file, const std::string& path) {
   Begin(path, "look at", Need::Nothing);
   return Find(path) == Of(file).File;

@@ -75,6 +75,8 @@ class CutDisk : public Disk {
   void Close(Handle file) override;
   std::int64_t Size(Handle file) override;
   bool IsAt(Handle file, const std::string& path) override;
+  /// Knows every change of names at once.
+  std::optional<FolderState> StateOf(const std::string& folder) override;
   void ReadAt(Handle file, std::int64_t offset, std::span<std::byte> buffer) override;
   void WriteAt(Handle file, std::int64_t offset, ByteSpan bytes) override;
   void Sync(Handle file) override;

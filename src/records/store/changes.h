@@ -50,6 +50,9 @@ struct FileChange {
   ByteSpan After;                    // the whole contents; empty where it does not exist
   std::vector<JournalRange> Ranges;  // of After: all that is not what it was
   ByteSpan Before = {};  // the whole contents until now; empty where only the disk has them
+  /// Where the contents until now are those of After but for some stretches of the same length and
+  /// what was added: these, in their order, as they were.
+  std::optional<std::vector<JournalRange>> Were = {};
 };
 
 /// Nothing where both are the same. nullptr stands for no file.

@@ -31,6 +31,14 @@ class DiskError : public std::runtime_error {
 /// What is said in place of the system's own word for it.
 inline constexpr const char* kOutOfMemory = "There is not enough memory for this.";
 
+/// What tells a folder from what it was: another once a name in it comes, goes or leads elsewhere,
+/// or another folder has its place.
+struct FolderState {
+  std::uint64_t Device = 0, Number = 0;
+  std::int64_t Seconds = 0, Nanoseconds = 0;  // when it was changed last
+  bool operator==(const FolderState&) const = default;
+};
+
 /// All file access of the program. Paths are relative to nothing but themselves; "/" parts folders.
 /// Every call throws DiskError when it fails, unless it says otherwise.
 class Disk {
@@ -50,6 +58,9 @@ class Disk {
   virtual std::int64_t Size(Handle file) = 0;
   /// Whether the path (still) leads to this very file.
   virtual bool IsAt(Handle file, const std::string& path) = 0;
+  /// Nothing where the system keeps nothing of the kind, or where the last change of the folder is
+  /// so fresh that a further one could not be told from it. Never throws.
+  virtual std::optional<FolderState> StateOf(const std::string& /*folder*/) { return std::nullopt; }
   /// Fills the whole buffer; a file too short for it is a DiskError.
   virtual void ReadAt(Handle file, std::int64_t offset, std::span<std::byte> buffer) = 0;
   virtual void WriteAt(Handle file, std::int64_t offset, ByteSpan bytes) = 0;

@@ -76,7 +76,20 @@ class GrowingPast {
     put(bytes.size() - surplus_.size(), surplus_.data(), surplus_.size());
     return bytes;
   }
-  /// What of `now`, the bytes of the file, is not what it was.
+  /// The stretches of `now`, the bytes of the file, that may have changed, as they were; nothing
+  /// where more has happened than changes in their place and additions. They hold until the next
+  /// change.
+  std::optional<std::vector<JournalRange>> Were(ByteSpan now) const {
+    if (!gone_.empty() || std::ssize(now) < Length()) return std::nullopt;
+    std::vector<JournalRange> were;
+    for (const auto& [at, was] : were_)
+      were.push_back(
+          {static_cast<std::int64_t>(at * sizeof(T)), std::as_bytes(std::span(&was, 1))});
+    if (!surplus_.empty())
+      were.push_back({static_cast<std::int64_t>(stays_ * sizeof(T)), surplus_});
+    return were;
+  }
+  /// What of `now` is not what it was.
   std::vector<JournalRange> Changed(const std::vector<T>& records, ByteSpan now) const {
     // Where the first have gone, all others have moved.
     if (!gone_.empty() && stays_ > 0 && std::ssize(now) != Length()) return {{0, now}};

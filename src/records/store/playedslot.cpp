@@ -100,6 +100,10 @@ std::optional<WayBack> PlayedSlot::WayBefore(const std::vector<FileChange>& chan
       way.push_back({change.Name, change.ExistsBefore, {}});
       continue;
     }
+    if (change.Were) {
+      way.push_back(BackFrom(change));
+      continue;
+    }
     const KnownFile* known = FindFile(known_, change.Name);
     const auto back = [&](const ReadBefore& read) {
       way.push_back(BackFrom(change, known ? known->RecordBytes : 1, read));

@@ -57,7 +57,8 @@ struct Slot::Insides {
   std::uint64_t World = 0;
   std::uint64_t Sequence = 0;  // the last number spent; every commit up to it is on disk for good
   bool Committed = false;
-  bool Broken = false;  // a call has failed, and recovery has not succeeded since
+  bool Broken = false;                 // a call has failed, and recovery has not succeeded since
+  std::optional<FolderState> InPlace;  // the folder's when all files were last seen to be in place
 
   std::string Path(const std::string& name) const { return Folder + "/" + name; }
   std::string CopyName() const { return FreeName(Disk, Folder + ".damaged"); }
@@ -226,10 +227,15 @@ void Slot::Insides::Recover() {
 }
 
 /// Whoever removes or replaces a slot while it is open leaves the old files to this program alone:
-/// they take every step, and nobody finds it again.
+/// they take every step, and nobody finds it again. While no name in the folder moves they are
+/// where they were.
 void Slot::Insides::RequireInPlace() {
+  const auto state = Disk.StateOf(Folder);
+  if (state && state == InPlace) return;
+  InPlace.reset();
   const std::string lost = Journal.IsInPlace() ? Records.Displaced() : Path(kJournalName);
   if (!lost.empty()) throw SlotGone(lost);
+  InPlace = state;
 }
 
 bool Slot::Insides::TryRecover() {

@@ -18,6 +18,7 @@ std::optional<FileChange> Table::Difference() const {
   if (exists_ == committedExists_ && std::ssize(change.After) == change.LengthBefore &&
       change.Ranges.empty())
     return std::nullopt;
+  if (committedExists_ && exists_) change.Were = WereIn(change.After);
   return change;
 }
 

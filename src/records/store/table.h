@@ -71,6 +71,10 @@ class Table {
   virtual std::vector<JournalRange> ChangedSince() const {
     return ChangedRanges(image_, Contents());
   }
+  /// Of FileChange.
+  virtual std::optional<std::vector<JournalRange>> WereIn(ByteSpan /*now*/) const {
+    return std::nullopt;
+  }
   virtual void TakeOver(const std::vector<JournalRange>& changed);
   virtual void Restore() { Load(image_); }
   /// Nothing of it has ever been committed.
@@ -238,6 +242,12 @@ class Records : public Table {
       return past_.Changed(records_, Contents());
     else
       return Table::ChangedSince();
+  }
+  std::optional<std::vector<JournalRange>> WereIn(ByteSpan now) const override {
+    if constexpr (kIsGrowing)
+      return past_.Were(now);
+    else
+      return Table::WereIn(now);
   }
   void TakeOver(const std::vector<JournalRange>& changed) override {
     if constexpr (kIsGrowing)

@@ -11,6 +11,7 @@
 #include <climits>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <map>
 
 #include "records/store/disk.h"
@@ -41,6 +42,9 @@ auto Persist(Call call) {
 bool NotOffered() {
   return errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
 }
+
+/// Seconds within which file systems may give two changes one time.
+constexpr std::int64_t kCoarsestClock = 3;
 
 class MachineDisk : public Disk {
  public:
@@ -117,6 +121,16 @@ class MachineDisk : public Disk {
       Fail(path, "look at");
     }
     return opened->second.Device == there.st_dev && opened->second.Number == there.st_ino;
+  }
+
+  std::optional<FolderState> StateOf(const std::string& folder) override {
+    struct stat about {};
+    timespec now{};
+    if (::stat(folder.c_str(), &about) != 0 || ::clock_gettime(CLOCK_REALTIME, &now) != 0)
+      return std::nullopt;
+    const std::int64_t since = now.tv_sec - about.st_ctim.tv_sec;
+    if (since < kCoarsestClock) return std::nullopt;  // below 0 where the clock was set back
+    return FolderState{about.st_dev, about.st_ino, about.st_ctim.tv_sec, about.st_ctim.tv_nsec};
   }
 
   void ReadAt(Handle file, std::int64_t offset, std::span<std::byte> buffer) override {

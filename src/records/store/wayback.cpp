@@ -287,6 +287,23 @@ BytesBack TellByRecords(ByteSpan before, ByteSpan now, std::size_t size) {
 
 }  // namespace
 
+FileBack BackFrom(const FileChange& change) {
+  FileBack file{change.Name, change.ExistsBefore, {}};
+  std::int64_t at = 0;
+  const auto takeUntil = [&](std::int64_t until) {
+    file.Contents.Take(static_cast<std::uint64_t>(at), static_cast<std::uint64_t>(until - at));
+    at = until;
+  };
+  for (const JournalRange& was : *change.Were) {
+    takeUntil(was.Offset);
+    const auto from = static_cast<std::size_t>(was.Offset);
+    TellInPlace(file.Contents, from, was.Contents, change.After.subspan(from, was.Contents.size()));
+    at += std::ssize(was.Contents);
+  }
+  takeUntil(change.LengthBefore);
+  return file;
+}
+
 FileBack BackFrom(const FileChange& change, std::int64_t recordBytes, const ReadBefore& read) {
   FileBack file{change.Name, change.ExistsBefore, {}};
   if (!change.ExistsBefore) return file;

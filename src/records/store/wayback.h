@@ -53,7 +53,9 @@ using WayBack = std::vector<FileBack>;
 
 /// Some bytes of a file as it is before a step; they hold until the next are asked for.
 using ReadBefore = std::function<ByteSpan(std::int64_t offset, std::int64_t count)>;
-/// What the change has changed. `recordBytes` is what records that have moved are found by.
+/// What the change, which knows what was where, has changed.
+FileBack BackFrom(const FileChange& change);
+/// The same for one that does not. `recordBytes` is what records that have moved are found by.
 FileBack BackFrom(const FileChange& change, std::int64_t recordBytes, const ReadBefore& read);
 
 /// The way over both: `nearer` leads to where `farther` begins. Nothing where they do not fit.
