@@ -226,9 +226,8 @@ void Slot::Insides::Recover() {
   Broken = false;
 }
 
-/// Whoever removes or replaces a slot while it is open leaves the old files to this program alone:
-/// they take every step, and nobody finds it again. While no name in the folder moves they are
-/// where they were.
+/// Whoever removes or replaces an open slot leaves the old files to this program alone: they take
+/// every step, and nobody finds it again. While no name in the folder moves, all are in place.
 void Slot::Insides::RequireInPlace() {
   const auto state = Disk.StateOf(Folder);
   if (state && state == InPlace) return;
@@ -238,13 +237,11 @@ void Slot::Insides::RequireInPlace() {
   InPlace = state;
 }
 
-bool Slot::Insides::TryRecover() {
-  try {
-    Recover();
-    return true;
-  } catch (const DiskError&) {
-    return false;
-  }
+bool Slot::Insides::TryRecover() try {
+  Recover();
+  return true;
+} catch (const DiskError&) {
+  return false;
 }
 
 /// What the next opening would not believe is not written either.
