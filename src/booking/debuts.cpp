@@ -16,10 +16,10 @@ struct MatchWay {
   bool AsRunIn;  // open to those who do not wrestle
 };
 constexpr MatchWay kMatchWays[] = {
-    {"1 vs 1, with the purpose \"Debut\" as one of the two", false},
-    {"1 vs 1, running in at the finish or after it, with the purpose \"Debut\"", true},
-    {"2 vs 2, with the purpose \"Debut\" as one of the four or as a team", false},
-    {"2 vs 2, running in at the finish or after it, with the purpose \"Debut\"", true},
+    {"1 vs 1: one of the two, purpose \"Debut\"", false},
+    {"1 vs 1: run-in at the finish or after, purpose \"Debut\"", true},
+    {"2 vs 2: one of the four or a team, purpose \"Debut\"", false},
+    {"2 vs 2: run-in at the finish or after, purpose \"Debut\"", true},
 };
 
 /// Whether an angle has a part that only somebody like this worker can be cast in.

@@ -179,7 +179,7 @@ std::string FeudOfRow(const World& world, const Segment& segment) {
 
 std::string RangeText(const Forecast& forecast) {
   if (forecast.Low == forecast.High) return std::to_string(forecast.Low) + "%";
-  return std::to_string(forecast.Low) + " - " + std::to_string(forecast.High) + "%";
+  return std::to_string(forecast.Low) + " \x96 " + std::to_string(forecast.High) + "%";
 }
 
 std::string ForecastOfRow(const ShowForecast& forecast, int record) {

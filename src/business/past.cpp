@@ -46,10 +46,10 @@ std::string MonthClosedBefore(Day first) {
 // What a chart can show and still be read.
 constexpr int kMonthsShown = 60, kWeeksShown = 52;
 
-/// "09/03".
+/// "09 Mar".
 std::string DayAndMonth(Day on) {
-  constexpr std::size_t kLetters = 5;
-  return ShortDate(on).substr(0, kLetters);
+  constexpr std::size_t kLetters = 6;
+  return PlainDate(on).substr(0, kLetters);
 }
 
 std::vector<MoneyPoint> OnRecord(const Promotion& promotion, Day today) {

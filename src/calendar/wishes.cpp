@@ -222,7 +222,7 @@ std::string WishProgress(const World& world, const OwnerWish& wish) {
 std::string TrustLine(const World& world) {
   const Staff* owner = OwnerOf(world, world.PlayerUid());
   if (!owner) return "Nobody owns the promotion; the board trusts nobody.";
-  return owner->Name + " trusts you by " + std::to_string(owner->Loyalty) + "%.";
+  return owner->Name + " trusts you: " + std::to_string(owner->Loyalty) + "%.";
 }
 
 std::vector<OwnerWish*> OpenWishes(World& world) {

@@ -19,7 +19,7 @@ bool IsGranted(const World& world, const OwnerWish& wish);
 /// "3 of 6", "$120,000 of $200,000", "54, at most 45".
 std::string WishProgress(const World& world, const OwnerWish& wish);
 
-/// "Ruth Vane trusts you by 65%." Who owns the promotion trusts the player as far as their loyalty
+/// "Ruth Vane trusts you: 65%." Who owns the promotion trusts the player as far as their loyalty
 /// goes.
 std::string TrustLine(const World& world);
 

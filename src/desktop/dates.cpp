@@ -117,19 +117,23 @@ bool IsSentence(const QString& text) {
   return text.endsWith('.') || text.endsWith('!') || text.endsWith('?');
 }
 
-/// "Mar 2026", "09/03", "March", "Mar" and "Monday"; empty for anything else.
+/// "Mar 2026", "09 Mar", "09 Mar 2026", "March", "Mar" and "Monday"; empty for anything else.
 QString PieceOfDate(const QString& text) {
   const QLocale& speaks = TheDates().Speaks;
-  static const QRegularExpression kMonth("^([A-Z][a-z]{2}) (\\d{4})$"), kDay("^(\\d\\d)/(\\d\\d)$");
+  static const QRegularExpression kMonth("^([A-Z][a-z]{2}) (\\d{4})$"),
+      kDay("^(\\d\\d) ([A-Z][a-z]{2})( \\d{4})?$");
   if (const auto found = kMonth.match(text); found.hasMatch())
     if (const QDate day(found.capturedView(2).toInt(), MonthNamed(found.captured(1), 3), 1);
         day.isValid())
       return speaks.toString(day, TheDates().ShortMonth);
   constexpr int kLeapYear = 2000;
-  if (const auto found = kDay.match(text); found.hasMatch())
-    if (const QDate day(kLeapYear, found.capturedView(2).toInt(), found.capturedView(1).toInt());
-        day.isValid())
-      return speaks.toString(day, TheDates().DayAndMonth);
+  if (const auto found = kDay.match(text); found.hasMatch()) {
+    const bool hasYear = found.hasCaptured(3);
+    const QDate day(hasYear ? found.capturedView(3).mid(1).toInt() : kLeapYear,
+                    MonthNamed(found.captured(2), 3), found.capturedView(1).toInt());
+    if (day.isValid())
+      return speaks.toString(day, hasYear ? TheDates().Short : TheDates().DayAndMonth);
+  }
   if (const int month = MonthNamed(text, 3); month > 0) {
     if (text == Shown(MonthName(month))) return speaks.standaloneMonthName(month);
     if (text.size() == 3) return speaks.standaloneMonthName(month, QLocale::ShortFormat);

@@ -30,6 +30,17 @@ ui::Reach ReachOf(const ui::Page& hub, const ui::Button& command) {
   return ui::Reach::Today;
 }
 
+/// The command whose room the screen is of, or that is called like it; nullptr for none.
+const ui::Button* RoomOf(const ui::Page& hub, const ui::Screen& screen) {
+  const std::string name = " " + screen.Name() + " ";
+  for (const auto& group : hub.Side)
+    for (const auto& command : group.Commands)
+      if ((" " + command.Pages + " ").find(name) != std::string::npos ||
+          command.Press->Text.Get() == screen.Title.Get())
+        return command.Press;
+  return nullptr;
+}
+
 }  // namespace
 
 bool Window::LeaveUpTo(const ui::Screen& screen) {
@@ -77,33 +88,18 @@ void Window::PressHub(ui::Button& command) {
   const ui::Screen& ground = away ? hub : Ground();
   if (!LeaveUpTo(ground)) return;
   Act([&] { return ui::Click(desk_, command.Parent(), command.Name()); });
-  if (!desk_.Holds(ground)) return;
-  if (const ui::Screen* page = Above(ground)) commandOf_[page->Name()] = command.Name();
-  Sync();
+  if (desk_.Holds(ground)) Sync();
 }
 
-/// The screen that lies on this one; nullptr for none.
-const ui::Screen* Window::Above(const ui::Screen& screen) const {
-  const auto& screens = desk_.Screens();
-  const auto found =
-      std::ranges::find_if(screens, [&](const auto& held) { return held.get() == &screen; });
-  return found == screens.end() || found + 1 == screens.end() ? nullptr : (found + 1)->get();
-}
-
-/// The command whose page is open: the one that has opened such a page before, else the one of the
-/// same name.
+/// The command in whose room one is: that of the topmost page that is of a room.
 const ui::Button* Window::PresentCommand() const {
-  const ScreenView* hub = HubView();
-  const ui::Screen* page = hub ? Above(Ground()) : nullptr;
-  if (!page) return nullptr;
-  const auto remembered = commandOf_.find(page->Name());
-  for (const auto& group : hub->Page().Side)
-    for (const auto& command : group.Commands) {
-      const ui::Button* button = command.Press;
-      if (remembered != commandOf_.end() ? button->Name() == remembered->second
-                                         : button->Text.Get() == page->Title.Get())
-        return button;
-    }
+  const ScreenView* const hub = HubView();
+  if (!hub) return nullptr;
+  const ui::Screen* const ground = &Ground();
+  for (const auto& screen : desk_.Screens() | std::views::reverse) {
+    if (screen.get() == ground) break;
+    if (const ui::Button* room = RoomOf(hub->Page(), *screen)) return room;
+  }
   return nullptr;
 }
 

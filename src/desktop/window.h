@@ -140,7 +140,6 @@ class Window : public QMainWindow, public Stage {
   const ui::Screen& Ground() const;
   /// Why a command of the hub waits at present; empty when it does not.
   std::string WhyWaits(const ui::Button& command) const;
-  const ui::Screen* Above(const ui::Screen& screen) const;
   const ui::Button* PresentCommand() const;
   /// Whether the side bar may be used: no dialog lies over it.
   bool HubInReach() const;
@@ -208,7 +207,6 @@ class Window : public QMainWindow, public Stage {
   QPointer<QLabel> hint_;
   /// The controls that had the keyboard in views that were taken away, and will be made again.
   std::map<const ui::Screen*, const ui::Control*> hadKeyboard_;
-  std::map<std::string, std::string> commandOf_;  // screen to the command that opens it
   int acting_ = 0;
   std::set<ui::Sound> heard_;  // in the event that is under way
   bool syncing_ = false, busy_ = false, closing_ = false;

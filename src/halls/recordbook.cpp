@@ -75,7 +75,7 @@ std::string Span(const Life& life) {
   return YearsOf(*life.Of);
 }
 std::string SpanAt(const Life& life) {
-  return YearsOf(*life.Of) + ", most of it with " + life.LongestAt;
+  return life.LongestAt + ", " + YearsOf(*life.Of);
 }
 
 /// Those whose measure is above 0.

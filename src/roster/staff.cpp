@@ -330,11 +330,12 @@ std::vector<PostCount> PostCounts(const World& world) {
 }
 
 std::string PostLine(const std::vector<PostCount>& posts) {
+  const std::string joint = "\xA0";  // a line does not break here
   std::string line;
   for (const PostCount& post : posts) {
-    line += (line.empty() ? "" : ", ") + std::string(PostOf(post.Post).Plural) + " " +
+    line += (line.empty() ? "" : ", ") + std::string(PostOf(post.Post).Plural) + joint +
             std::to_string(post.Have);
-    if (post.Need > 0) line += " (needs " + std::to_string(post.Need) + ")";
+    if (post.Need > 0) line += joint + "of" + joint + std::to_string(post.Need);
   }
   return line + ".";
 }

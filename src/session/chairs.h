@@ -23,7 +23,7 @@ std::vector<Chair> ChairsOf(const World& world);
 /// "Easy" to "Desperate", by burdens.
 std::string_view ChairText(int burdens);
 inline constexpr const char* kWhatBurdensAChair =
-    "A chair is the harder for each of these: less than half the money that its size has on the "
+    "A job is harder for each of these: less than half the money that its size has on the "
     "average, a roster four points weaker than its size's, an image below 20%, no television.";
 
 /// What this difficulty changes, a line each, from the rules themselves.

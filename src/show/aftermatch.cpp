@@ -23,8 +23,13 @@ namespace {
 struct Wear {
   int Sure;
   int Draw;
+  const char* Match;
 };
-constexpr Wear kWear[] = {{3, 2}, {5, 5}, {8, 7}, {12, 16}, {20, 30}};  // Strain 1 to 5
+constexpr Wear kWear[] = {{3, 2, "a light match"},  // Strain 1 to 5
+                          {5, 5, "an easy match"},
+                          {8, 7, "a hard match"},
+                          {12, 16, "a rough match"},
+                          {20, 30, "a brutal match"}};
 
 /// How a match moves morale, for those whose Attitude is at least From. The falls add up.
 struct MoraleBand {
@@ -44,7 +49,7 @@ void WearOut(SegmentRun& run, Worker& worker) {
   const int before = worker.Condition;
   worker.Condition -= wear.Sure + run.World.RandomDraw(wear.Draw);
   NoteStep(run, kNoteCondition, worker, worker.Condition - before, worker.Condition,
-           "a match of strain " + std::to_string(run.Strain));
+           "tired by " + std::string(wear.Match));
 }
 
 int MoraleFrom(int attitude, int matchLevel, int workerLevel) {

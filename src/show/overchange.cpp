@@ -203,7 +203,7 @@ void TalkOver(SegmentRun& run, int uid, bool isSecondary) {
   const int over = worker->Over;
   ChangeOverAndTell(
       run, *worker, GainFrom(run, over, isSecondary) + LossFrom(run, over, isSecondary),
-      "talk of " + std::to_string(run.Overall) + " against Over " + std::to_string(over));
+      "a promo of " + std::to_string(run.Overall) + " against an Over of " + std::to_string(over));
 }
 
 void AfterInterview(SegmentRun& run) {

@@ -39,7 +39,7 @@ std::vector<ScoreStep> SumOf(const ShowRun& run, const ShowRecap& recap) {
   sum.Add(run.ProductionCharge, "Poor production");
   std::vector<ScoreStep> steps = sum.Steps();
   steps.push_back({"Together", sum});
-  steps.push_back({"Over " + std::to_string(run.ShowSegments) + " ratings", run.ShowSum});
+  steps.push_back({"Divided by " + std::to_string(run.ShowSegments) + " ratings", run.ShowSum});
   return steps;
 }
 

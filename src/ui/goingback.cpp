@@ -1,6 +1,7 @@
 #include "ui/goingback.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstring>
 #include <map>
 #include <memory>
@@ -214,6 +215,24 @@ std::string MomentText(const Moment& moment) {
   }
 }
 
+namespace {
+
+/// "3 shows since, the best 76%": the player's.
+std::string ShowsSince(const World& world, Day day) {
+  int shows = 0, best = 0;
+  for (const HistoryEntry& held : world.History()) {
+    const bool isOwn = held.Promotion == world.PlayerUid() && !held.CalledOff &&
+                       (held.Kind == kPastTv || held.Kind == kPastEvent);
+    if (!isOwn || Day(held.On) < day) continue;
+    ++shows;
+    best = std::max(best, int(held.Rating));
+  }
+  if (shows == 0) return "no show since";
+  return Counted(shows, "show") + " since, the best " + std::to_string(best) + "%";
+}
+
+}  // namespace
+
 std::string SinceText(Game& game, const PastMoment& moment) {
   const World& world = game.World();
   const Promotion& now = world.Player();
@@ -223,20 +242,18 @@ std::string SinceText(Game& game, const PastMoment& moment) {
   else if (moment.Size != now.Size)
     text =
         std::string(SizeText(moment.Size)) + " then, " + std::string(SizeText(now.Size)) + " now. ";
-  text += "Image " + std::to_string(moment.Image) + "%, now " + std::to_string(now.Image) +
-          "%; money " + Dollars(moment.Money) + ", now " + Dollars(now.Money);
-  if (moment.OnOtherRoad || moment.Of.On > world.Today()) return text;
-  int shows = 0, best = 0;
-  for (const HistoryEntry& held : world.History()) {
-    const bool isOwn = held.Promotion == now.Uid && !held.CalledOff &&
-                       (held.Kind == kPastTv || held.Kind == kPastEvent);
-    if (!isOwn || Day(held.On) < moment.Of.On) continue;
-    ++shows;
-    best = std::max(best, int(held.Rating));
-  }
-  if (shows == 0) return text + "; no show since";
-  return text + "; " + std::to_string(shows) + (shows == 1 ? " show" : " shows") +
-         " since, the best " + std::to_string(best) + "%";
+  std::vector<std::string> moved;
+  if (!moment.OnOtherRoad && moment.Of.On <= world.Today())
+    moved.push_back(ShowsSince(world, moment.Of.On));
+  if (moment.Image != now.Image)
+    moved.push_back("image " + std::to_string(moment.Image) + "%, now " +
+                    std::to_string(now.Image) + "%");
+  if (moment.Money != now.Money)
+    moved.push_back("money " + Dollars(moment.Money) + ", now " + Dollars(now.Money));
+  if (moved.empty()) moved.push_back("the same image and money");
+  moved.front().front() =
+      static_cast<char>(std::toupper(static_cast<unsigned char>(moved.front().front())));
+  return text + Joined(moved, "; ");
 }
 
 std::string WhyNoWayBack(Game& game) {

@@ -29,7 +29,7 @@ struct PastMoment {
 std::vector<PastMoment> PastMoments(Game& game);
 /// "The morning of Tuesday, 05 May 2026", "before the Event (...)", "The road you left on ...".
 std::string MomentText(const Moment& moment);
-/// What has happened since, in a line: how image and money have moved, the shows held.
+/// What has happened since, in a line: the shows held, how image and money have moved.
 std::string SinceText(Game& game, const PastMoment& moment);
 /// Why there is no way back in this game; empty where there is one.
 std::string WhyNoWayBack(Game& game);

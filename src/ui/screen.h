@@ -99,7 +99,8 @@ struct SideGroup {
     Button* Press;
     std::string Key = {};  // "F2"
     Reach Into = Reach::Company;
-    std::string Also = {};  // what else people call its room
+    std::string Also = {};   // what else people call its room
+    std::string Pages = {};  // the screens of its room, by name, between blanks
   };
   std::string Title;
   std::vector<Command> Commands;

@@ -162,7 +162,7 @@ TEST(TelevisionSheet, SaysWhatTheShowMayComeToAndWhoIsFree) {
   EXPECT_EQ(play.Row(1)[5], RangeText(forecast.Rows[0]));
   EXPECT_EQ(play.Row(2)[5], "");
   EXPECT_EQ(play.Desk.Text("lblforecast"), "Forecast " + RangeText(forecast.Rating) + ".");
-  EXPECT_EQ(RangeText({58, 66}), "58 - 66%");
+  EXPECT_EQ(RangeText({58, 66}), "58 \x96 66%");
   EXPECT_EQ(RangeText({58, 58}), "58%");
   const Names free = play.Desk.FirstColumn("lstfree");
   EXPECT_EQ(free.size(), 27u);

@@ -35,7 +35,7 @@ TEST(WaysToDebut, FitThePersonAndTheDay) {
                               worker.InjuryName = "Broken Leg";
                             })
                     .Game("CWA");
-  constexpr const char* kTwo = "1 vs 1, with the purpose \"Debut\" as one of the two";
+  constexpr const char* kTwo = "1 vs 1: one of the two, purpose \"Debut\"";
   struct Case {
     const char* Who;
     const char* How;

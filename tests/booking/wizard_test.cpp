@@ -264,7 +264,7 @@ TEST(frmBook1vs1, MarksWhatTheChoiceIsMadeOn) {
   play.Book();
   play.ChooseMatch("1 vs 1", "Singles");
   std::map<std::string, std::string> marks;
-  for (const Lines& row : play.Desk.Rows("lstwres1")) marks[row.front()] = row[5];
+  for (const Lines& row : play.Desk.Rows("lstwres1")) marks[row.front()] = row[7];
   EXPECT_EQ(marks["Man 1"], "Champion, Feud 64");
   EXPECT_EQ(marks["Man 2"], "Feud 64, Team");
   EXPECT_EQ(marks["Man 3"], "Team, Tired");

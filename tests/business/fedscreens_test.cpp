@@ -133,9 +133,9 @@ TEST(PromotionWorth, IsTheSumOfItsLines) {
   play.Desk.Open("frmFedValue");
   const auto rows = play.Desk.Rows("lstworth");
   EXPECT_EQ(rows[0],
-            (Row{"Name and image", "Cult, $8,000,000 x 107% for an image of 57%", "$8,560,000"}));
+            (Row{"Name and image", "$8,560,000", "Cult, $8,000,000 x 107% for an image of 57%"}));
   Row dollars;
-  for (const Row& row : rows) dollars.push_back(row[2]);
+  for (const Row& row : rows) dollars.push_back(row[1]);
   // Fame: 12 * (12 * 80 * 80 + 6 * 60 * 60 + 12 * 50 * 50). Wages: who cannot be fired draws none.
   // Television: 300 * (200 * 52 + 230 * 10), the new show by what its slot can draw. Sponsors: two
   // Events a year and two shows a week, 25 from a main one, 10 from a minor one.

@@ -189,7 +189,7 @@ TEST(frmFinance, DrawsTheMoneyOfPastMonths) {
   expect({"Nov 2025", "Dec 2025", "Jan 2026", "Today"}, {100, -700, 800, 900});
   Remember(play.World(), Past(kPastTv, own, year{2026} / 2 / 8, 850));
   play.World().History().Change(play.World().History().Count() - 1).Income = 1600;
-  expect({"Nov 2025", "Dec 2025", "Jan 2026", "08/02", "Today"}, {100, -700, 800, 850, 900});
+  expect({"Nov 2025", "Dec 2025", "Jan 2026", "08 Feb", "Today"}, {100, -700, 800, 850, 900});
   play.Desk.Open("frmFinance");
   EXPECT_EQ(play.Desk.Rows("lstmonths")[0], Row({"Jan 2026", "$800", "$1,600", "$0", "-$100"}));
   EXPECT_EQ(play.Desk.Rows("lstmonths")[2].back(), "") << "nothing is known from before";

@@ -100,7 +100,7 @@ TEST(frmTelevision, DrawsThePastOfTheShowForAYear) {
   const auto* ratings = dynamic_cast<ui::Chart*>(play.Desk.Top()->Find("chtratings"));
   const auto* attendance = dynamic_cast<ui::Chart*>(play.Desk.Top()->Find("chtattendance"));
   ASSERT_TRUE(ratings && attendance);
-  EXPECT_EQ(ratings->Captions.Get(), (Names{"06/03", "20/03"}));
+  EXPECT_EQ(ratings->Captions.Get(), (Names{"06 Mar", "20 Mar"}));
   EXPECT_EQ(ratings->Lines.Get()[0].Values, (std::vector<double>{2.05, 3.1}));
   EXPECT_EQ(attendance->Lines.Get()[0].Values, (std::vector<double>{800, 950}));
   EXPECT_FALSE(play.Desk.Visible("txtratings"));
@@ -184,8 +184,8 @@ TEST(TvLists, ShowTheShowsOfTheWorld) {
   GameOnWorld play(Air());
   ScriptDesk& desk = play.Desk;
   desk.Open("frmViewShows");
-  EXPECT_EQ(desk.Rows("lstshows")[3], (Names{"Friday Fire", "CWA", "Friday", "Prime Time", "Nine",
-                                             "24", "3. 01", "3.10", "2. 05"}));
+  EXPECT_EQ(desk.Rows("lstshows")[3], (Names{"Friday Fire", "3. 01", "CWA", "Friday", "Prime Time",
+                                             "Nine", "24", "3.10", "2. 05"}));
 }
 
 TEST(TvScreens, CloseOverAShowThatIsGone) {

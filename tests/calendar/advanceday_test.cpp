@@ -119,8 +119,8 @@ TEST(EventScreen, ShowsTheYearAndMarksTheOneThatIsDue) {
     EXPECT_EQ(rows[2][0], "March");
     EXPECT_EQ(rows[2][1], c.Planned ? "CWA in March" : "Nothing planned");
     for (std::size_t month = 0; month < 12; ++month)
-      EXPECT_EQ(rows[month][5], month == 2 ? c.Mark : "") << month;
-    EXPECT_EQ(rows[4][3], "$25,000");
+      EXPECT_EQ(rows[month][3], month == 2 ? c.Mark : "") << month;
+    EXPECT_EQ(rows[4][5], "$25,000");
     EXPECT_EQ(rows[3][1], "Nothing planned") << "the rival's is not ours";
     EXPECT_EQ(play.Desk.Selected("lstevents"), std::vector<int>{3});
   }

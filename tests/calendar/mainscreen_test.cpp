@@ -34,10 +34,10 @@ TEST(MainScreen, SaysWhoAndWhenAndWhatIsAhead) {
   EXPECT_EQ(play.Desk.Rows("lstmail")[0][2], "Hello.");
   const auto ahead = play.Desk.Rows("lstahead");
   ASSERT_EQ(ahead.size(), 13u);
-  EXPECT_EQ(ahead[0][1], "Friday Fire");
-  EXPECT_EQ(ahead[1][1], "Marchmania");
-  EXPECT_EQ(ahead[1][4], "Event");
-  EXPECT_EQ(ahead.back()[4], "No Event");
+  EXPECT_EQ(ahead[0][2], "Friday Fire");
+  EXPECT_EQ(ahead[1][2], "Marchmania");
+  EXPECT_EQ(ahead[1][3], "Event");
+  EXPECT_EQ(ahead.back()[3], "No Event");
 }
 
 TEST(MainScreen, CountsTheMailOfTheDayThatPassedAndOfToday) {
@@ -77,7 +77,7 @@ TEST(MainScreen, IsADeskWithWhatWantsLookingAt) {
   EXPECT_TRUE(facts.starts_with("Due today: Friday Fire. 2 hurt or worn, ")) << facts;
   ASSERT_TRUE(play.Desk.Visible("cmdbook"));
   for (const std::size_t show : {0U, 1U})
-    EXPECT_EQ(play.Desk.Rows("lstahead")[show].at(2).substr(0, 5), "0 of ");
+    EXPECT_EQ(play.Desk.Rows("lstahead")[show].at(1).substr(0, 5), "0 of ");
   play.Desk.OpenRow("lstahead", 2);
   EXPECT_EQ(play.Desk.TopName(), "frmDrafts");
   play.Desk.Click("cmdback");
@@ -146,7 +146,7 @@ TEST(MainScreen, LeadsToEveryScreenOfTheSideBar) {
       const std::string button = command.Press->Name();
       if (button == "cmdquit") continue;
       play.Desk.Click(button);
-      EXPECT_NE(play.Desk.TopName(), "frmMainScreen") << button;
+      EXPECT_NE((command.Pages + " ").find(play.Desk.TopName() + " "), std::string::npos) << button;
       play.Desk.Click(play.Desk.Top()->Layout().Cancel->Name());
       EXPECT_EQ(play.Desk.TopName(), "frmMainScreen") << button;
       ++screens;

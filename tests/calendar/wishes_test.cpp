@@ -136,10 +136,9 @@ TEST(CareerScreen, ShowsHowFarEachWishIs) {
   world.Player().Money = 7000;
   GameOnWorld play(std::move(world));
   play.Desk.Open("frmUser");
-  EXPECT_EQ(
-      play.Desk.Rows("lstwishes"),
-      (std::vector<std::vector<std::string>>{
-          {"2027", "Have $5,000 in hand when the year ends", "$7,000 of $5,000", "As wished"}}));
+  EXPECT_EQ(play.Desk.Rows("lstwishes"),
+            (std::vector<std::vector<std::string>>{{"Have $5,000 in hand when the year ends",
+                                                    "As wished", "$7,000 of $5,000", "2027"}}));
 }
 
 }  // namespace

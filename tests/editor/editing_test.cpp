@@ -81,7 +81,7 @@ TEST(AnAuthor, GetsTheDataBackFromTheBackup) {
     home.Desk.ExpectAsk("Restore Backup", kAnyText, true, ui::Default::No);
     home.Desk.Click("cmdrestore");
     EXPECT_EQ(then, home.Files());
-    EXPECT_EQ(then == before ? "9 of 25000" : "10 of 25000", home.Desk.Text("lblwres"));
+    EXPECT_EQ(then == before ? "9 of 25,000" : "10 of 25,000", home.Desk.Text("lblwres"));
   }
 }
 

@@ -52,7 +52,7 @@ TEST(frmRecords, ShowsATableOfTheWorldAndOfAPromotion) {
   play.Desk.Pick("lsttables", "Best matches");
   EXPECT_EQ(play.Desk.Rows("lstplaces"),
             (std::vector<Names>{{"1", "Bram Okafor \\ Cal Drift vs Dan Dale \\ Ilya Marsh", "77%",
-                                 "an Event (CWA)", "02 March 2026"}}));
+                                 "an Event (CWA)", "02 Mar 2026"}}));
   play.Desk.Pick("cmbfeds", "CWA");
   play.Desk.Pick("lsttables", "Most matches");
   EXPECT_EQ(play.Desk.Rows("lstplaces").size(), 4u);

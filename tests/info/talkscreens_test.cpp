@@ -142,7 +142,7 @@ TEST(ProspectScreen, TriesTheNextClassOutAndLeavesTheWorldAsItIs) {
   play.Desk.Click("cmdback");
   play.Desk.Open("frmTalk");
   const auto says = play.Desk.Rows("lsttalk");
-  const auto next = std::ranges::find_if(says, [](auto& row) { return Has(row[3], "Cult"); });
+  const auto next = std::ranges::find_if(says, [](auto& row) { return Has(row[2], "Cult"); });
   ASSERT_NE(next, says.end());
   play.Desk.OpenRow("lsttalk", static_cast<int>(next - says.begin()) + 1);
   ASSERT_EQ(play.Desk.TopName(), "frmProspect");

@@ -50,9 +50,9 @@ TEST(Help, TellsWhatAPageIsForItsKeysItsWordsAndWhatIsNotPossible) {
   EXPECT_TRUE(play.Desk.OpenHelp());
   ASSERT_EQ(play.Desk.TopName(), "frmHelp");
   const std::string text = play.Desk.Text("txthelp") + "\n" + play.Desk.Text("txtkeys");
-  for (const char* part : {"Whom you keep an eye on", "Keys\n", "Enter: Talks", "Escape: Back",
-                           "Words\n", "Over: How many people care", "0 to 100 percent.",
-                           "Not possible now\n", "Remove: Choose a worker first."})
+  for (const char* part : {"Whom you keep an eye on", "Keys\n", "Enter \x96 Talks",
+                           "Escape \x96 Back", "Words\n", "Over: How many people care",
+                           "0 to 100%.", "Not possible now\n", "Remove: Choose a worker first."})
     EXPECT_NE(text.find(part), std::string::npos) << part << " is missing in\n" << text;
   EXPECT_FALSE(play.Desk.OpenHelp()) << "help needs no help";
   play.Desk.Click("cmdglossary");

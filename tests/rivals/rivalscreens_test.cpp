@@ -42,8 +42,8 @@ TEST(frmOtherFed, ShowsEveryPromotionByItsStanding) {
   GameOnWorld play(TwoPromotions());
   play.Desk.Open("frmOtherFed");
   EXPECT_EQ(play.Desk.Rows("lstfeds"),
-            (std::vector<Names>{{"XWF Wrestling", "XWF", "Cult", "12", "3"},
-                                {"CWA Wrestling", "CWA", "Regional", "50", "4"}}));
+            (std::vector<Names>{{"XWF Wrestling", "Cult", "12", "3", "XWF"},
+                                {"CWA Wrestling", "Regional", "50", "4", "CWA"}}));
   EXPECT_EQ(play.Desk.Text("lblfacts"), "2 promotions, yours in gold.");
   EXPECT_EQ(play.Desk.Text("txtabout"),
             "Size: Cult\nImage: 12%\nMoney: In debt\nOwner: Gus Hubcap\nLooks for: High-flyers\n"

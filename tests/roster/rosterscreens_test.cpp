@@ -208,8 +208,8 @@ TEST(frmOtherWres, ShowsEverybodyElse) {
   GameOnWorld play(Business());
   play.Desk.Open("frmOtherWres");
   EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({kRay, "Free Fred", "Fixed Fay"}));
-  EXPECT_EQ(play.Desk.Rows("lstwres")[0][1], "NEW");
-  EXPECT_EQ(play.Desk.Rows("lstwres")[1][1], "Free");
+  EXPECT_EQ(play.Desk.Rows("lstwres")[0][2], "NEW");
+  EXPECT_EQ(play.Desk.Rows("lstwres")[1][2], "Free");
   play.Desk.Pick("cmbbond", "Free agents");
   EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({"Free Fred"}));
   EXPECT_EQ(play.Desk.Text("lblfacts"), "1 of 3 workers, 0 on your shortlist.");
@@ -324,7 +324,7 @@ TEST(frmWorker, ShowsAtAGlanceAndLeadsOn) {
   EXPECT_EQ(play.Desk.FirstColumn("lstskills")[0], "Brawl");
   EXPECT_EQ(play.Desk.Rows("lstskills")[0][1], std::to_string(bram.Brawl));
   EXPECT_EQ(play.Desk.Text("lblform"), "0 won, 1 lost, 0 drawn. Rated 71% on average.");
-  const Names lost = {"Ilya Marsh", "Lost", "71", "Sunday Slam (Title)", "01 March 2026"};
+  const Names lost = {"Ilya Marsh", "Lost", "71", "Sunday Slam (Title)", "01 Mar 2026"};
   EXPECT_EQ(play.Desk.Rows("lstform")[0], lost);
   EXPECT_FALSE(play.Desk.Visible("cmdread(2)")) << "no match, no report";
   play.Desk.OpenRow("lstform", 1);

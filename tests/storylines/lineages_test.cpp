@@ -235,9 +235,9 @@ TEST(TheReignsScreen, ShowsTheChosenTitleAndThoseOfThePast) {
   EXPECT_EQ(desk.Text("cmbtitle"), "CWA Ropes (CWA)");
   EXPECT_EQ(
       desk.Rows("lstreigns"),
-      (std::vector<Row>{{"Vacant", "01 March 2026", "", "0", "", "Lasts"},
-                        {"The Docks", "Before the game", "01 March 2026", "", "0", "Vacated"}}));
-  EXPECT_EQ(desk.Rows("lsttotals"), (std::vector<Row>{{"The Docks", "1", "0", "0"}}));
+      (std::vector<Row>{{"Vacant", "01 Mar 2026", "", "0", "-", "Vacant now"},
+                        {"The Docks", "Before the game", "01 Mar 2026", "-", "0", "Vacated"}}));
+  EXPECT_EQ(desk.Rows("lsttotals"), (std::vector<Row>{{"The Docks", "1", "-", "0"}}));
   desk.Click("cmdback");
   desk.Pick("lsttitles", "CWA Ropes");
   desk.ExpectAsk("Dissolve?", kAnyText, true);

@@ -66,15 +66,15 @@ class frmAltRoster : public GameScreen {
   ui::Label lblfacts{*this, "lblfacts"};
   const CellColumns<Worker> columns_ = {
       {{"Name"}, [](const Worker& worker) { return worker.Name.View(); }},
-      {{"Position"}, [](const Worker& worker) { return PositionText(worker.Position); }},
-      {{"Disposition", K::Tag}, DispositionCell},
       {{"Over", K::Number, 0, "Popularity."},
        [](const Worker& worker) { return ui::Cell(worker.Over); }},
+      {{.Title = "Disposition", .Kind = K::Tag, .Short = "Disp."}, DispositionCell},
+      {{"Position"}, [](const Worker& worker) { return PositionText(worker.Position); }},
       {{"Condition", K::Percent},
        [](const Worker& worker) {
          return worker.Status == "Nor" ? ui::Cell(worker.Condition) : StatusCell(worker);
        }},
-      {{"Morale", K::Percent}, [](const Worker& worker) { return ui::Cell(worker.Morale); }},
+      {{"Morale", K::Number}, [](const Worker& worker) { return ui::Cell(worker.Morale); }},
       {{"Stable"}, [](const Worker& worker) { return Named(worker.Stable); }},
       {{"Teams"}, [this](const Worker& worker) { return TeamsCell(worker); }},
       {{"Manager"}, [this](const Worker& worker) { return ManagerCell(worker); }},

@@ -150,7 +150,9 @@ class frmBookEnding : public MatchStepScreen {
   frmBookEnding(Game& game, WizardHost& host)
       : MatchStepScreen(game, host),
         row_(kEndings[wizard().Step - kFinishStep]),
-        runIns_(row_.Does == kPurposeStep ? 0 : FindMatchForm(buffer().Style)->RunIns) {}
+        runIns_(row_.Does == kPurposeStep ? 0 : FindMatchForm(buffer().Style)->RunIns) {
+    lblnobody.Colour = ui::Tone::Muted;
+  }
 
  private:
   void Prepare() override {
@@ -171,6 +173,7 @@ class frmBookEnding : public MatchStepScreen {
   ui::Box Body() override {
     std::vector<ui::Box> tables = {ui::Group("", {ui::Grow(lstcode)}).Grow()}, runIns;
     constexpr const char* kTitles[] = {"Who runs in", "Who runs in as well"};
+    if (runIns_ > 0) runIns.emplace_back(lblnobody);
     for (int list = 1; list <= runIns_; ++list)
       runIns.push_back(ui::Group(kTitles[list - 1], {ui::Grow(lstrun(list))}).Grow());
     // One below the other: the words of the codes need the width.
@@ -224,16 +227,17 @@ class frmBookEnding : public MatchStepScreen {
 
   void ShowPicks() {
     const bool needed = NeedsRunIn();
-    for (int list = 1; list <= runIns_; ++list) {
-      lstrun(list).Enabled = needed;
-      lstrun(list).Tip = needed ? "" : "Nobody runs in for this " + std::string(row_.Lowered) + ".";
-    }
+    lblnobody.Text = "Nobody runs in for this " + std::string(row_.Lowered) + ".";
+    lblnobody.Visible = runIns_ > 0 && !needed;
+    for (int list = 1; list <= runIns_; ++list)
+      EnableUnless(lstrun(list), needed ? "" : lblnobody.Text.Get());
     ShowObjections(Draft(), row_.Does);
     ShowOutlook();
   }
 
   const EndingRow& row_;
   const int runIns_;
+  ui::Label lblnobody{*this, "lblnobody"};
   ui::ListBox lstcode{*this,
                       std::string(row_.List),
                       {{std::string(row_.Called)}},

@@ -107,7 +107,7 @@ class frmPPVBooking : public SheetScreen {
 
   std::vector<ui::Box> BelowRows() override {
     return {ui::Group("", {ui::Columns({ui::Field("Announcer", cmbannouncer).Grow(),
-                                        ui::Field("Colour", cmbcolour).Grow(), chkcolour}),
+                                        ui::Field("Colour man", cmbcolour).Grow(), chkcolour}),
                            ui::Columns({ui::Field("Extra", cmbspecial).Grow(), lblcost})})};
   }
 

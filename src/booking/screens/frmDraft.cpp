@@ -107,7 +107,7 @@ class frmDrafts : public GameScreen {
              [](const ComingShow& show) {
                return ui::Cell(show.Owner.IsEvent ? "Event" : "Television");
              }},
-            {{"On", K::Date}, [](const ComingShow& show) { return DayCell(show.On); }},
+            {{"Date", K::Date}, [](const ComingShow& show) { return DayCell(show.On); }},
             {{"Drafted", K::Text, 0, "Rows of the sheet."}, [](const ComingShow& show) {
                const SheetTerms terms = show.Owner.IsEvent ? kEventTerms : TermsOfSlot(show.Slot);
                return ui::Cell(show.Drafted, std::to_string(show.Drafted) + " of " +

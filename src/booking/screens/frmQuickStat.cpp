@@ -164,7 +164,7 @@ class frmDebut : public GameScreen {
  public:
   explicit frmDebut(Game& game, bool isEvent = false)
       : GameScreen(game, "frmDebut", "Debuts"), isEvent_(isEvent) {
-    lstwres.EmptyText = "Everybody on your roster has been seen. Whom you sign waits here.";
+    lstwres.EmptyText = "Everybody on your roster has been seen. New people wait here.";
     lststats.EmptyText = "The numbers of whoever waits stand here.";
     lstways.EmptyText = "Choose somebody to see how they can be brought out.";
   }
@@ -204,9 +204,10 @@ class frmDebut : public GameScreen {
   void ShowWays() {
     const Worker* worker = world().FindWorker(lstwres.Key());
     std::vector<DebutWay> ways = WaysToDebut(world(), worker ? *worker : Anybody(), isEvent_);
-    if (!worker)
-      for (DebutWay& way : ways) way.WhyNot = "Nobody waits.";
-    FillPlaces(lstways, ways_, ways);
+    CellColumns<DebutWay> columns = ways_;
+    if (!worker) columns.pop_back();  // can be done today or not: by whom?
+    lstways.SetColumns(HeadingsOf(columns));
+    FillPlaces(lstways, columns, ways);
     ShowNumbers(world(), worker, lststats, txtworker);
   }
 
@@ -227,8 +228,9 @@ class frmDebut : public GameScreen {
                    {{"", K::Tag, 2}, StatusCell}});
   const CellColumns<DebutWay> ways_ = {
       {{"Segment", K::Tag}, [](const DebutWay& way) { return way.Kind; }},
-      {{"How the wizard calls it", K::Text, 3}, [](const DebutWay& way) { return way.How; }},
-      {{"", K::Text, 2}, [](const DebutWay& way) {
+      {{"What to choose", K::Text, 3, "In the steps of the wizard."},
+       [](const DebutWay& way) { return way.How; }},
+      {{"When", K::Text, 2}, [](const DebutWay& way) {
          return way.WhyNot.empty() ? ui::Cell("Today", ui::Tone::Green)
                                    : ui::Cell(way.WhyNot, ui::Tone::Muted);
        }}};

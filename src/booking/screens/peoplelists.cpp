@@ -19,19 +19,17 @@ enum Abreast { kAmongMany = 4, kOneOfTwo = 5, kAlone = 6 };
 /// A number of the record, and what it is called.
 struct Skill {
   const char* Title;
-  const char* Wide;    // its heading in a list that stands alone
-  const char* Narrow;  // the same in one of several abreast
+  const char* Short;  // its heading where the list before it names the rest
   const char* Tip;
   Percent Worker::*Is;
 };
-constexpr Skill kRingSkills[] = {
-    {"Brawl", "Brawl", "Br", "Brawling.", &Worker::Brawl},
-    {"Technical", "Tech.", "Te", "Technical skill.", &Worker::Technical},
-    {"Speed", "Speed", "Sp", "Speed.", &Worker::Speed}};
-constexpr Skill kCharisma = {"Charisma", "Char.", "Ch", "Charisma: what talk is made of.",
+constexpr Skill kRingSkills[] = {{"Brawl", "Brawl", "Brawling.", &Worker::Brawl},
+                                 {"Technical", "Tech.", "Technical skill.", &Worker::Technical},
+                                 {"Speed", "Speed", "Speed.", &Worker::Speed}};
+constexpr Skill kCharisma = {"Charisma", "Char.", "Charisma: what talk is made of.",
                              &Worker::Charisma};
-constexpr Skill kCondition = {"Condition", "Cond.", "Con", "", &Worker::Condition};
-constexpr Skill kMorale = {"Morale", "Mor.", "Mor", "", &Worker::Morale};
+constexpr Skill kCondition = {"Condition", "Cond.", "", &Worker::Condition};
+constexpr Skill kMorale = {"Morale", "Morale", "", &Worker::Morale};
 
 CellColumn<Worker> ColumnOf(const Skill& skill, Abreast room) {
   const bool narrow = room != kAlone;
@@ -39,7 +37,7 @@ CellColumn<Worker> ColumnOf(const Skill& skill, Abreast room) {
            .Kind = K::Number,
            .Width = narrow ? 1 : 2,
            .Tip = skill.Tip,
-           .Short = narrow ? skill.Narrow : skill.Wide},
+           .Short = skill.Short},
           [is = skill.Is](const Worker& worker) { return ui::Cell(int(worker.*is)); }};
 }
 
@@ -64,8 +62,7 @@ ui::Sign DispositionSign(std::string_view word) {
   return ui::Sign::None;
 }
 
-/// What the choice is made on comes first: lists abreast have no room for all. In these condition
-/// and morale come before the skills, which do not change from show to show.
+/// What the choice is made on comes first: lists abreast have no room for all.
 CellColumns<Worker> TableOf(int kind, Abreast room, const RosterMarks* marks) {
   const bool narrow = room != kAlone;
   CellColumns<Worker> table = {
@@ -75,20 +72,16 @@ CellColumns<Worker> TableOf(int kind, Abreast room, const RosterMarks* marks) {
         .Width = narrow ? 1 : 3,
         .Tip = "Face, Heel or Tweener.",
         .SignOf = narrow ? DispositionSign : nullptr,
-        .Short = narrow ? "D." : "Disp."},
+        .Short = "Disp."},
        [](const Worker& worker) { return DispositionCell(worker); }},
-      ColumnOf({"Over", "Over", "Ov", "Popularity.", &Worker::Over}, room)};
+      ColumnOf({"Over", "Over", "Popularity.", &Worker::Over}, room)};
   // Talk stands or falls with one skill.
   if (kind != kMatch) table.push_back(ColumnOf(kCharisma, room));
-  const auto addMood = [&] {
-    table.push_back(ColumnOf(kCondition, room));
-    table.push_back(ColumnOf(kMorale, room));
-  };
-  if (narrow) addMood();
-  table.push_back(MarksColumn(room, marks));
   if (kind == kMatch && room != kAmongMany)
     for (const Skill& skill : kRingSkills) table.push_back(ColumnOf(skill, room));
-  if (!narrow) addMood();
+  table.push_back(ColumnOf(kCondition, room));
+  table.push_back(MarksColumn(room, marks));
+  table.push_back(ColumnOf(kMorale, room));
   return table;
 }
 

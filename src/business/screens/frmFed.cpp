@@ -81,6 +81,7 @@ class frmFed : public GameScreen {
 
   void ShowPromotion() {
     const Staff* owner = OwnerOf(world(), player().Uid);
+    Title = player().Name.Str();
     lblname.Text = player().Name + " (" + player().Initials.Str() + ")";
     lblsize.Text = std::string(SizeText(player().Size));
     lblimage.Text = std::to_string(player().Image) + "%";
@@ -175,13 +176,14 @@ class frmFed : public GameScreen {
 
 const CellColumns<WorthLine> kWorthTable = {
     {{"What", K::Text, 3}, [](const WorthLine& line) { return line.What; }},
-    {{"Why", K::Text, 8},
-     [](const WorthLine& line) { return ui::Cell(line.Why, ui::Tone::Muted); }},
-    {{"Dollars", K::Number, 2}, [](const WorthLine& line) {
+    {{"Dollars", K::Number, 2},
+     [](const WorthLine& line) {
        return MoneyCell(line.Dollars, line.Dollars < 0    ? ui::Tone::Red
                                       : line.Dollars == 0 ? ui::Tone::Muted
                                                           : ui::Tone::Plain);
-     }}};
+     }},
+    {{"Why", K::Text, 8},
+     [](const WorthLine& line) { return ui::Cell(line.Why, ui::Tone::Muted); }}};
 
 /// What the promotion is worth, and why.
 class frmFedValue : public GameScreen {
@@ -197,7 +199,7 @@ class frmFedValue : public GameScreen {
     const std::vector<WorthLine> lines = PromotionWorth(world(), player);
     const long long sum = SumOf(lines);
     FillPlaces(lstworth, kWorthTable, lines);
-    lstworth.Add({ui::Cell("All together", ui::Tone::Gold), "", MoneyCell(sum, ui::Tone::Gold)});
+    lstworth.Add({ui::Cell("All together", ui::Tone::Gold), MoneyCell(sum, ui::Tone::Gold), ""});
     lblworth.Text = player.Name + " is worth " + Dollars(sum) + ".";
   }
 

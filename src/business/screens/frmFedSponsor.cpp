@@ -57,7 +57,7 @@ const CellColumns<SponsorRow> kSponsorTable = {
     {{"Pay", K::Number, 2, "For an Event."},
      [](const SponsorRow& row) { return PayCell(row.Of.Pay); }},
     {{"Morality", K::Tag, 2}, [](const SponsorRow& row) { return MoralityCell(row.Of.Morality); }},
-    {{"Bears", K::Percent, 2, "The highest risk that the sponsor bears in a product."},
+    {{"Bears risk of", K::Number, 2, "The highest risk that the sponsor bears in a product."},
      [](const SponsorRow& row) { return ui::Cell(100 - row.Of.Morality); }},
     {{"With", K::Text, 1, "The promotion that has its deal."}, HolderCell},
     {{"Months", K::Number, 1, "Months left of the deal."}, [](const SponsorRow& row) {

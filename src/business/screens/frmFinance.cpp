@@ -44,8 +44,8 @@ const CellColumns<MonthOfMoney> kMonthTable = {
      [](const MonthOfMoney& month) { return MoneyCell(month.AtEnd); }},
     {{"In", K::Number, 2}, [](const MonthOfMoney& month) { return MoneyCell(month.In); }},
     {{"Out", K::Number, 2}, [](const MonthOfMoney& month) { return MoneyCell(month.Out); }},
-    {{"Beside", K::Number, 2,
-      "What moved the money beside the books: loans, donations, building, and the like."},
+    {{"Other", K::Number, 2,
+      "What moved the money outside the books: loans, donations, building, and the like."},
      [](const MonthOfMoney& month) {
        return month.Beside ? MoneyCell(*month.Beside, BalanceTone(*month.Beside)) : ui::Cell("");
      }}};
@@ -119,7 +119,7 @@ class frmFinance : public GameScreen {
   ui::ListBox lstbooks{*this, "lstbooks", HeadingsOf(kBookTable)};
   ui::Label lblbeside{*this, "lblbeside",
                       "Loans, donations, better production, camps and territories, legal payments, "
-                      "an Event's extras and the price of calling one off are paid beside the "
+                      "an Event's extras and the price of calling one off are paid outside the "
                       "books."};
   ui::Chart chtmoney{*this, "chtmoney"};
   ui::ListBox lstmonths{*this, "lstmonths", HeadingsOf(kMonthTable)};
@@ -227,14 +227,15 @@ class frmLoan : public GameScreen {
  public:
   explicit frmLoan(Game& game) : GameScreen(game, "frmLoan", "Loan", {.Is = ui::Role::Dialog}) {
     txtwhy.Brief = true;
+    lblfor.Colour = Tone::Muted;  // it stands before its term as other fields' names do
     BackBefore(cmddoit);
   }
 
   ui::Page Layout() override {
     return PageOf(ui::Group("", {txtstatus, ui::Field("In steps of $100000", hsamount),
                                  ui::Field("Amount", lblamount), ui::Field("Each month", txtcost),
-                                 ui::Columns({cmdwhy, cmdwhynot, ui::Spacer()}), txtwhy,
-                                 ui::Columns({lblfor, lblterm, ui::Spacer()}), lblstate}),
+                                 ui::Columns({lblfor, lblterm, ui::Spacer()}), lblstate,
+                                 ui::Columns({cmdwhy, cmdwhynot, ui::Spacer()}), txtwhy}),
                   &lblmoney, {}, &cmddoit);
   }
 

@@ -36,9 +36,13 @@ class frmPromoTape : public GameScreen {
     lblfacts.Text = "We could draw a rating of " +
                     RatingText(AudiencePotential(player, world().Game().Economy)) +
                     ". Our risk is " + std::to_string(player.Risk) +
-                    ", our production values are " + std::to_string(player.Production) + ".";
+                    ", our production values are " + std::to_string(player.Production) +
+                    ". In each time slot stand the rating they want and the risk they allow.";
     FillNetworks(lstnetworks, world());
-    EnableUnless(cmdwhy, WhyOfTape(world()).empty() ? "No network has answered a tape yet." : "");
+    const std::string none =
+        WhyOfTape(world()).empty() ? "No network has answered a tape yet." : "";
+    EnableUnless(cmdwhy, none);
+    txtwhy.Write(none);
     ShowSend();
   }
   void Return() override { Load(); }
@@ -216,7 +220,8 @@ class frmViewNetworks : public GameScreen {
 
 // The shows of the world to look at: by their ratings, and all there is to know.
 
-/// A table and the way back.
+/// A table and the way back: the best of the last week first; who has not been seen yet stands at
+/// the end.
 class AllShows : public GameScreen {
  public:
   AllShows(Game& game, const char* name, const char* title,
@@ -225,46 +230,39 @@ class AllShows : public GameScreen {
     lstshows.EmptyText = none;
   }
 
-  ui::Page Layout() override { return PageOf(ui::Group("", {ui::Grow(lstshows)})); }
+  ui::Page Layout() override { return PageOf(ui::Group("", {ui::Grow(lstshows)}), &lblfacts); }
 
   void Return() override {
     std::vector<const Show*> shows;
     for (const Show& show : world().Shows()) shows.push_back(&show);
-    Arrange(shows);
+    std::ranges::stable_sort(shows, std::greater{}, [](const Show* show) {
+      return show->Rating1 == 0 ? -1 : int(show->Rating3);
+    });
     FillShows(lstshows, table_, world(), shows);
+    lblfacts.Text = Counted(std::ssize(shows), "show") + " by the last rating, yours in gold.";
   }
-
- protected:
-  virtual void Arrange(std::vector<const Show*>&) {}
 
  private:
   const CellColumns<ShowRow> table_;
+  ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstshows{*this, "lstshows", HeadingsOf(table_)};
 };
 
-/// The best of the last week first; who has not been seen yet stands at the end.
 class frmTVRank : public AllShows {
  public:
   explicit frmTVRank(Game& game)
       : AllShows(game, "frmTVRank", "Television Ranking",
-                 {ShowColumn::Place, ShowColumn::Name, ShowColumn::Promotion, ShowColumn::Network,
-                  ShowColumn::Last, ShowColumn::Highest},
+                 {ShowColumn::Place, ShowColumn::Name, ShowColumn::Last, ShowColumn::Highest,
+                  ShowColumn::Promotion, ShowColumn::Network},
                  "No TV Shows To Rank") {}
-
- protected:
-  void Arrange(std::vector<const Show*>& shows) override {
-    std::ranges::stable_sort(shows, std::greater{}, [](const Show* show) {
-      return show->Rating1 == 0 ? -1 : int(show->Rating3);
-    });
-  }
 };
 
 class frmViewShows : public AllShows {
  public:
   explicit frmViewShows(Game& game)
       : AllShows(game, "frmViewShows", "Television Shows",
-                 {ShowColumn::Name, ShowColumn::Promotion, ShowColumn::Day, ShowColumn::Time,
-                  ShowColumn::Network, ShowColumn::Weeks, ShowColumn::Last, ShowColumn::Highest,
+                 {ShowColumn::Name, ShowColumn::Last, ShowColumn::Promotion, ShowColumn::Day,
+                  ShowColumn::Time, ShowColumn::Network, ShowColumn::Weeks, ShowColumn::Highest,
                   ShowColumn::Lowest},
                  "Nobody is on the air.") {}
 };

@@ -20,8 +20,8 @@ class frmTVContract : public ShowScreen {
 
   ui::Page Layout() override {
     return PageOf(
-        ui::Rows({ui::Group("", {txtwants}),
-                  ui::Group("", {ui::Columns({cmdask, cmdcontract, cmdtime, cmdend})}),
+        ui::Rows({ui::Group("", {ui::Columns({cmdask, cmdcontract, cmdtime, cmdend})}),
+                  ui::Group("What they want", {txtwants}),
                   ui::Group("Their last answer", {ui::Columns({cmdwhy, ui::Spacer()}), txtwhy})}),
         &lblfacts);
   }
@@ -38,7 +38,7 @@ class frmTVContract : public ShowScreen {
   /// Keeps their answer for whoever asks why; empty while there is none.
   void Answer(std::string words, Decision why) {
     EnableUnless(cmdwhy, words.empty() ? "Ask them something first." : "");
-    txtwhy.Write("");
+    txtwhy.Write(words.empty() ? "No answer yet." : "");
     said_ = std::move(words);
     why_ = std::move(why);
   }
@@ -260,7 +260,6 @@ class frmTVRivals : public ShowScreen {
     auto table = ShowTable({ShowColumn::Name, ShowColumn::Promotion, ShowColumn::Time,
                             ShowColumn::Network, ShowColumn::Last});
     table.front().Heading.Width = 4;
-    table.back().Heading.Tip = "Its last rating.";
     return table;
   }
 

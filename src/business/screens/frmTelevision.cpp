@@ -47,7 +47,7 @@ const CellColumns<NetworkRow> kNetworkTable = {
      [](const NetworkRow& row) { return ui::Cell(row.Is.Production); }},
     {{"Shows", K::Number, 1, "So many are on it now."},
      [](const NetworkRow& row) { return ui::Cell(ShowsOn(row.In, row.Is)); }},
-    {{"Room", K::Tag, 2, "Whether it has a spot for another show."}, RoomCell}};
+    {{"Has room", K::Tag, 2, "Whether it has a spot for another show."}, RoomCell}};
 
 ui::Cell NameCell(const ShowRow& row) {
   const bool ours = row.Is.Owner == row.In.PlayerUid();
@@ -56,7 +56,7 @@ ui::Cell NameCell(const ShowRow& row) {
 
 /// In the order of ShowColumn.
 const CellColumns<ShowRow> kShowTable = {
-    {{"#", K::Number, 1}, [](const ShowRow& row) { return ui::Cell(row.Place); }},
+    {{"#", K::Number}, [](const ShowRow& row) { return ui::Cell(row.Place); }},
     {{"Show", K::Text, 5}, NameCell},
     {{"Promotion", K::Text, 2},
      [](const ShowRow& row) { return PromotionInitials(row.In, row.Is.Owner); }},
@@ -67,11 +67,11 @@ const CellColumns<ShowRow> kShowTable = {
      [](const ShowRow& row) { return NetworkName(row.In, row.Is.Network); }},
     {{"Weeks", K::Number, 2, "Weeks left of the deal."},
      [](const ShowRow& row) { return ui::Cell(row.Is.ContractWeeks); }},
-    {{"Last", K::Number, 2, "Last rating."},
+    {{"Last rating", K::Number, 2},
      [](const ShowRow& row) { return RatingCell(row.Is, row.Is.Rating3); }},
-    {{"Highest", K::Number, 2},
+    {{"Best rating", K::Number, 2},
      [](const ShowRow& row) { return RatingCell(row.Is, row.Is.Rating1); }},
-    {{"Lowest", K::Number, 2},
+    {{"Lowest", K::Number, 2, "Lowest rating."},
      [](const ShowRow& row) { return RatingCell(row.Is, row.Is.Rating2); }}};
 
 }  // namespace
@@ -159,15 +159,15 @@ class frmTelevision : public GameScreen {
   std::vector<const Show*> Shows() { return ShowsOf(world(), world().PlayerUid()); }
 
   std::vector<ui::Box> ShowParts() {
-    return {txtname,
-            ui::Field("On", txttime),
+    return {ui::Field("Name", txtname),
+            ui::Field("On the air", txttime),
             ui::Field("Network", txtnetwork),
             ui::Field("Contract", txtcontract),
             ui::Field("Last rating", txtlast, {&cmdwhy, &txtwhy}),
-            ui::Field("Highest", txthighest),
-            ui::Field("Lowest", txtlowest),
+            ui::Field("Best rating", txthighest),
+            ui::Field("Lowest rating", txtlowest),
             ui::Field("Announcer", txtannouncer),
-            ui::Field("Colour", txtcolour),
+            ui::Field("Colour man", txtcolour),
             ui::Columns({ui::Grow(cmdname), ui::Grow(cmdnegotiate)}),
             ui::Columns({ui::Grow(cmdchangea), ui::Grow(cmdchangec)}),
             ui::Columns({ui::Grow(cmdrivals), ui::Grow(cmdmaeve)})};

@@ -1,3 +1,4 @@
+#include <functional>
 #include <optional>
 
 #include "business/screens/screenfed.h"
@@ -25,11 +26,16 @@ constexpr OfficeWords kOfficeWords[] = {
     {"You have no trainer on the staff. Hire one first.", "Talent", "Works as"},
     {"Nobody on your staff can book. Hire somebody who can first.", "Talent", "Works as"}};
 
-CellColumns<OfficeSeeker> SeekerTable(const OfficeWords& words) {
+CellColumns<OfficeSeeker> SeekerTable(const OfficeWords& words,
+                                      std::function<bool(int uid)> holds) {
   return {{{"Name", K::Text, 4}, [](const OfficeSeeker& seeker) { return seeker.Name; }},
           {{words.Mark, K::Percent, 2},
            [](const OfficeSeeker& seeker) { return ui::Cell(seeker.Mark); }},
-          {{words.Doing, K::Text, 3}, [](const OfficeSeeker& seeker) { return seeker.Doing; }}};
+          {{words.Doing, K::Text, 3}, [holds = std::move(holds)](const OfficeSeeker& seeker) {
+             if (!holds(seeker.Uid)) return ui::Cell(seeker.Doing);
+             return ui::Cell("In office" + (seeker.Doing.empty() ? "" : ", " + seeker.Doing),
+                             ui::Tone::Gold);
+           }}};
 }
 
 /// The people who could hold an office, and nobody.
@@ -37,7 +43,7 @@ class frmFedPick : public GameScreen {
  public:
   frmFedPick(Game& game, Office office)
       : GameScreen(game, "frmFedPick", OfficeName(office),
-                   {.Is = ui::Role::Dialog, .Back = "Cancel", .BackName = "cmdcancel"}),
+                   {.Is = ui::Role::Dialog, .BackName = "cmdcancel"}),
         office_(office) {
     BackBefore(cmdnobody);
     lstpeople.EmptyText = words_.Nobody;
@@ -80,7 +86,8 @@ class frmFedPick : public GameScreen {
 
   Office office_;
   const OfficeWords& words_ = kOfficeWords[static_cast<std::size_t>(office_)];
-  const CellColumns<OfficeSeeker> seekers_ = SeekerTable(words_);
+  const CellColumns<OfficeSeeker> seekers_ =
+      SeekerTable(words_, [this](int uid) { return uid == HolderOf(world(), office_); });
   ui::Label lblnow{*this, "lblnow"};
   ui::ListBox lstpeople{*this, "lstpeople", HeadingsOf(seekers_), &frmFedPick::ShowButtons,
                         cmddoit};

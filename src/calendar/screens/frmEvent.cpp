@@ -99,27 +99,27 @@ class frmEvent : public GameScreen {
     std::erase_if(events, [](const HistoryEntry* event) { return bool(event->CalledOff); });
     if (events.size() > kEventsShown) events.resize(kEventsShown);
     std::vector<double> ratings;
-    std::vector<std::string> days;
+    std::vector<Day> days;
     for (auto event = events.rbegin(); event != events.rend(); ++event) {
       ratings.push_back((*event)->Rating);
-      days.push_back(ShortDate((*event)->On));
+      days.push_back((*event)->On);
     }
-    chtratings.Captions = std::move(days);
+    chtratings.Captions = DayCaptions(days);
     chtratings.Lines = std::vector<ui::Chart::Series>{{"", std::move(ratings), ui::Tone::Gold}};
   }
 
   ui::ListBox::Row RowOf(int month) {
     const Day day = NextEventDay(world(), month);
     const ui::Cell name{double(month), std::string(MonthName(month))};
-    const ui::Cell date{static_cast<double>((day - kDayZero).count()), PlainDate(day)};
+    const ui::Cell date{static_cast<double>((day - kDayZero).count()), DayCaptions({day}).front()};
     const grapplemont::Event* event = PlayerEvent(world(), month);
     if (!event)
       return {
-          {name, ui::Cell("Nothing planned", ui::Tone::Muted), "", "", date, MarkOf(month, false)},
+          {name, ui::Cell("Nothing planned", ui::Tone::Muted), date, MarkOf(month, false), "", ""},
           month};
     const int cost = EventProductionCost(event->Type);
-    return {{name, event->Name.View(), Says(kEventTypes, event->Type),
-             ui::Cell(cost, Dollars(cost)), date, MarkOf(month, true)},
+    return {{name, event->Name.View(), date, MarkOf(month, true), Says(kEventTypes, event->Type),
+             ui::Cell(cost, Dollars(cost))},
             month};
   }
 
@@ -194,10 +194,10 @@ class frmEvent : public GameScreen {
                         "lstevents",
                         {{"Month", K::Date, 3},
                          {"Event", K::Text, 5},
+                         {"Next", K::Date, 2, "The last Sunday of the month."},
+                         {"", K::Tag, 2},
                          {"Type", K::Text, 3},
-                         {"Cost", K::Number, 2, "What its production costs."},
-                         {"Next", K::Date, 4, "The last Sunday of the month."},
-                         {"", K::Tag, 2}},
+                         {"Cost", K::Number, 2, "What its production costs."}},
                         &frmEvent::lstevents_Click};
   ui::Label lblmonth{*this, "lblmonth"};
   ui::TextBox txtname{*this, "txtname", {}, decltype(grapplemont::Event::Name)::kWidth};

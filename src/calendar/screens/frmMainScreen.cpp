@@ -10,6 +10,7 @@
 #include "calendar/screens/screendesk.h"
 #include "calendar/screens/screenguide.h"
 #include "calendar/screens/screenmail.h"
+#include "calendar/screens/screenrooms.h"
 #include "calendar/screens/screentiles.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
@@ -26,48 +27,6 @@ namespace grapplemont {
 
 namespace {
 
-using ui::Reach;
-
-/// A command of the hub: the control, its caption, the screen it opens, its group and key in the
-/// side bar, what else people call its room. What could take today's show, its Titles or its table
-/// away reaches into today.
-struct Command {
-  const char* Control;
-  const char* Caption;
-  const char* Screen;
-  const char* Group;
-  const char* Key;
-  const char* Also;
-  Reach Into = Reach::Company;
-};
-constexpr std::array<Command, 21> kCommands = {{
-    {"cmdroster", "Roster", "frmRoster", "People", "F2", "people workers own wrestlers"},
-    {"cmdstaff", "Staff", "frmStaff", "People", "F3", "writers medics agents", Reach::Today},
-    {"cmdtag", "Tag Teams", "frmTagTeams", "People", "", "partners pairs"},
-    {"cmdstables", "Stables", "frmStables", "People", "", "groups factions"},
-    {"cmdbelt", "Titles", "frmBelts", "People", "F4", "belts championships", Reach::Today},
-    {"cmdfeud", "Feuds", "frmFeuds", "People", "F5", "rivalries"},
-    {"cmdtv", "Television", "frmTelevision", "Business", "F6", "shows networks tv", Reach::Today},
-    {"cmdevents", "Events", "frmEvent", "Business", "", "pay per view ppv calendar", Reach::Today},
-    {"cmdfed", "", "frmFed", "Business", "F7", "promotion company image risk"},
-    {"cmdfinance", "Finance", "frmFinance", "Business", "F8", "money books cash"},
-    {"cmdotherwres", "Other Workers", "frmOtherWres", "World", "F9",
-     "market hire sign free agents"},
-    {"cmdotherstaff", "Other Staff", "frmOtherStaff", "World", "", "hire market"},
-    {"cmdotherfed", "Other Promotions", "frmOtherFed", "World", "", "rivals companies",
-     Reach::Today},
-    {"cmdnet", "Internet", "frmInternet", "World", "", "rumours fans polls", Reach::Tells},
-    {"cmdrecords", "Records", "frmRecords", "World", "",
-     "hall of fame yearbook family trees best all time history", Reach::Tells},
-    {"cmdnews", "News", "frmNews", "Desk", "F10", "mail inbox messages", Reach::Tells},
-    {"cmdresults", "Results", "frmResults", "Desk", "", "past shows history", Reach::Tells},
-    {"cmdmeeting", "Meeting", "frmTalk", "Desk", "", "staff advice talk", Reach::Today},
-    {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "Ctrl+N", "notes", Reach::Tells},
-    {"cmdmornings", "Back In Time", "frmMornings", "Desk", "",
-     "mornings undo redo go back earlier day return road what if"},
-    {"cmdoptions", "Options", "frmOptions", "Desk", "F12", "settings mail reporter"},
-}};
-
 /// How many days ahead the page shows, and how many letters wide a card of them is at least.
 constexpr int kDaysShown = 70;
 constexpr int kDeskLetters = 50;
@@ -82,7 +41,9 @@ class frmMainScreen : public ui::Screen {
   explicit frmMainScreen(Game& game)
       : Screen(game.Desk(), "frmMainScreen", "Today", ui::Role::Hub), game_(game) {
     CommandNamed("cmdfed").Tip = "Click for promotional matters.";
-    lstahead.EmptyText = "No show in sight. Television finds a network, Events plans a night.";
+    lstahead.EmptyText =
+        "No show in sight. Find a network on the Television page, or plan an Event on the Events "
+        "page.";
     lstahead.Room = 5;
     lstahead.Least = 3;
     lbltonight.Colour = ui::Tone::Gold;
@@ -92,15 +53,16 @@ class frmMainScreen : public ui::Screen {
     ui::Page page;
     page.Facts = &lblfacts;
     for (int i = 1; i <= commands.Count(); ++i) {
-      const Command& command = kCommands[static_cast<std::size_t>(i - 1)];
+      const HubCommand& command = kHubCommands[static_cast<std::size_t>(i - 1)];
       if (page.Side.empty() || page.Side.back().Title != command.Group)
         page.Side.push_back({command.Group, {}});
-      page.Side.back().Commands.push_back({&commands(i), command.Key, command.Into, command.Also});
+      page.Side.back().Commands.push_back(
+          {&commands(i), command.Key, command.Into, command.Also, command.Pages});
     }
-    page.Side.push_back({"", {{&cmdquit, "", Reach::Away}}});
+    page.Side.push_back({"", {{&cmdquit, "", ui::Reach::Away}}});
     page.Top = {&txtdate, &lblpromotion, &lblimage, &lblmoney};
     page.TopActions = {&txtname, &cmduntil, &cmdnext};
-    page.Actions = {&cmdfutures, &cmdmonth, &cmdmorning};
+    page.Actions = {&cmdfutures, &cmdmonth, &cmdmorning, &cmdmeet};
     page.Main = &cmdnext;
     page.First = &cmdbook;
     page.Cancel = &cmdquit;
@@ -185,6 +147,7 @@ class frmMainScreen : public ui::Screen {
     const std::string why = WhyNoMeeting(world());
     EnableUnless(meeting, why);
     meeting.Badge = why.empty() ? "today" : "";
+    cmdmeet.Visible = why.empty();
   }
 
   void ShowTopBar() {
@@ -218,10 +181,10 @@ class frmMainScreen : public ui::Screen {
       if (isToday) today += (today.empty() ? "" : ", ") + show.What;
       const std::string booked = BookedText(world(), show);
       rows.push_back({{ui::Cell(day, isToday ? std::string("Today") : ShortDate(show.On)),
+                       {std::atof(booked.c_str()), booked.substr(0, booked.find(','))},
                        show.What,
-                       {std::atof(booked.c_str()), booked},
-                       {double(DayNumber(DayName(show.On))), std::string(DayName(show.On))},
-                       ui::Cell(show.Kind, ToneOf(show))},
+                       ui::Cell(show.Kind, ToneOf(show)),
+                       {double(DayNumber(DayName(show.On))), std::string(DayName(show.On))}},
                       static_cast<int>(rows.size()) + 1});
     }
     lstahead.Fill(std::move(rows), false);
@@ -330,21 +293,21 @@ class frmMainScreen : public ui::Screen {
   ui::Button cmdnext{*this, "cmdnext", "Next Day", &frmMainScreen::cmdnext_Click};
   ui::Button cmduntil{*this, "cmduntil", "Until the next show", &frmMainScreen::cmduntil_Click};
   ui::Array<ui::Button> commands{
-      "", static_cast<int>(kCommands.size()), [this](const std::string&, int i) {
-        const Command& command = kCommands[static_cast<std::size_t>(i - 1)];
+      "", static_cast<int>(kHubCommands.size()), [this](const std::string&, int i) {
+        const HubCommand& command = kHubCommands[static_cast<std::size_t>(i - 1)];
         return std::make_unique<ui::Button>(*this, command.Control, command.Caption,
-                                            [this, &command] { desk().Open(command.Screen); });
+                                            [this, &command] { desk().Open(ScreenOf(command)); });
       }};
   GuideCard guide_{*this, game_};
   DeskFigures figures_{*this, game_};
   ui::ListBox lstahead{*this,
                        "lstahead",
                        {{"Date", K::Number},
-                        {"Show"},
                         {"Booked", K::Date, 0,  // by its number, and as seldom cut
-                         "Segments of the least that the show needs, and the rows of its sheet."},
-                        {"Day", K::Date},
-                        {"Kind", K::Tag}},
+                         "Segments that are booked, of the least that the show needs."},
+                        {"Show"},
+                        {"Kind", K::Tag},
+                        {"Day", K::Date}},
                        ui::Handler{},
                        [this] { lstahead_Open(); }};
   DeskMail mail_{*this, game_};
@@ -352,6 +315,7 @@ class frmMainScreen : public ui::Screen {
   ui::Button cmdbook{*this, "cmdbook", "Book", &frmMainScreen::cmdnext_Click};
   ui::Button cmdmorning{*this, "cmdmorning", "Morning After",
                         [this] { desk().Open("frmMorning"); }};
+  ui::Button cmdmeet{*this, "cmdmeet", "Staff Meeting", [this] { desk().Open("frmTalk"); }};
   ui::Button cmdfutures{*this, "cmdfutures", "A Hundred Futures",
                         [this] { desk().Open("frmFutures"); }};
   /// Small promotions have months of their own.

@@ -65,8 +65,8 @@ DeskCards::DeskCards(ui::Screen& screen, Game& game)
                    [this] { OpenWorkerOf(lstcontracts); }),
       chtimage(screen, "chtimage"),
       chtmoney(screen, "chtmoney") {
-  lstchampions.EmptyText = "Nobody holds a Title. Titles names a champion or opens one.";
-  lstfeuds.EmptyText = "No feud is on. Feuds begins one.";
+  lstchampions.EmptyText = "Nobody holds a Title. Award one on the Titles page.";
+  lstfeuds.EmptyText = "No feud is on. Start one on the Feuds page.";
   lsthurt.EmptyText = "Everybody is fit.";
   lstunhappy.EmptyText = "Nobody is unhappy.";
   lstcontracts.EmptyText = "No contract ends within half a year.";
@@ -99,7 +99,7 @@ void DeskCards::ShowStories() {
   for (const Feud* feud : HottestFeuds(world())) {
     const FeudSides sides = SidesOf(*feud);
     feuds.push_back(
-        {{SideName(world(), sides.One) + " - " + SideName(world(), sides.Two), int(feud->Heat)},
+        {{SideName(world(), sides.One) + " vs " + SideName(world(), sides.Two), int(feud->Heat)},
          world().Feuds().NumberOf(*feud)});
   }
   lstchampions.Fill(std::move(champions));

@@ -5,6 +5,7 @@
 #include "chronicle/screens/chroniclescreens.h"
 #include "records/fields/charset.h"
 #include "records/fields/wording.h"
+#include "records/modWresCheck.h"
 #include "records/store/disk.h"
 #include "report/report.h"
 #include "session/screens/screenfiletowrite.h"
@@ -62,17 +63,34 @@ class frmChronicle : public GameScreen {
 
   void ShowSubjects() {
     subjects_ = Archive(world()).Subjects(Kind());
+    const bool isNamed = Kind() != About::Feud && Kind() != About::Year;
+    const bool isOfHouse = Kind() == About::Worker || Kind() == About::Title;
+    if (isNamed) std::ranges::stable_sort(subjects_, {}, &Subject::Name);
+    std::vector<ui::Column> columns = {{"Name", K::Text, 3}};
+    if (isOfHouse) columns.push_back({"Promotion", K::Text, 1});
+    lstsubjects.SetColumns(std::move(columns));
     std::vector<ui::ListBox::Row> rows;
     int chosen = 1;
     for (const Subject& subject : subjects_) {
       const int number = static_cast<int>(rows.size()) + 1;
       rows.push_back({{subject.Name}, number});
+      if (isOfHouse) rows.back().Cells.emplace_back(HouseOf(subject));
       const bool named = first_.Is != About::Title || subject.Name == first_.Name;
       if (subject.Is == first_.Is && subject.Number == first_.Number && named) chosen = number;
     }
     lstsubjects.Fill(std::move(rows), false);
     lstsubjects.Select(subjects_.empty() ? 0 : chosen);
     ShowChapter();
+  }
+
+  /// The initials of the promotion that a worker or a Title is with; nothing for none.
+  std::string HouseOf(const Subject& subject) {
+    const Worker* worker =
+        subject.Is == About::Worker ? world().FindWorker(subject.Number) : nullptr;
+    const int house = subject.Is == About::Title ? subject.Number
+                      : worker                   ? int(worker->Employer)
+                                                 : 0;
+    return world().FindPromotion(house) ? PromotionInitials(world(), house) : std::string();
   }
 
   const Subject* Chosen() const {

@@ -167,10 +167,10 @@ class frmEditMerge : public GameScreen {
                       "lstrows",
                       {{"Name", K::Text, 5},
                        {"Kind", K::Text, 2},
-                       {"Record", K::Number, 2, "Its number in the new file."},
-                       {"Uid", K::Number, 2, "The uid in the new file."},
+                       {"Place", K::Number, 2, "Which record of the new file it is."},
+                       {"Number", K::Number, 2, "By which other records know it, in the new file."},
                        {"", K::Tag, 2},
-                       {"Becomes", K::Number, 2, "The uid in the data."},
+                       {"Becomes", K::Number, 2, "Its number in the data."},
                        {"Why", K::Text, 8}},
                       &frmEditMerge::lstrows_Click};
   ui::ListBox lstmended{*this, "lstmended", FaultColumns("What is wrong, and what is done")};
@@ -267,7 +267,7 @@ class frmEditImport : public GameScreen {
 
   static std::vector<ui::Cell> RowOf(const Worker& worker, Meets meets) {
     const auto here = meets == kSameName  ? ui::Cell("Name", ui::Tone::Red)
-                      : meets == kSameUid ? ui::Cell("Uid", ui::Tone::Amber)
+                      : meets == kSameUid ? ui::Cell("Number", ui::Tone::Amber)
                                           : ui::Cell("");
     const int position =
         IsSentAway(worker) ? worker.Position - kSentToDevelopment : int(worker.Position);
@@ -341,7 +341,7 @@ class frmEditImport : public GameScreen {
   ui::ListBox lstworkers{*this,
                          "lstworkers",
                          {{"Name", K::Text, 6},
-                          {"Here", K::Tag, 2, "What is taken in the data: the name or the uid."},
+                          {"Here", K::Tag, 2, "What is taken in the data: the name or the number."},
                           {"Age", K::Number, 1},
                           {"Position", K::Text, 4},
                           {"Disposition", K::Tag, 2},

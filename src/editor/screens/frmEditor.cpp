@@ -34,6 +34,7 @@ class frmEditor : public GameScreen {
                                                     [this, &page] { desk().Open(page.Screen); }));
       counts_.push_back(
           std::make_unique<ui::Label>(*this, "lbl" + std::string(page.Button.substr(3))));
+      counts_.back()->Colour = ui::Tone::Muted;
     }
     for (const FileWork& work : kFileWork) {
       works_.push_back(std::make_unique<ui::Button>(*this, work.Button, work.Caption,
@@ -53,6 +54,7 @@ class frmEditor : public GameScreen {
     ui::Page page;
     page.Facts = &lblfacts;
     page.Actions = {&cmdback};
+    page.Main = &cmdback;
     page.Cancel = &cmdback;
     page.Body =
         ui::Columns({ui::Rows({ui::Group("Records", std::move(records)), ui::Spacer()}).Grow(2),
@@ -87,7 +89,7 @@ class frmEditor : public GameScreen {
       for (int number = 1; number <= CountOf(data_.World(), page.Kind); ++number)
         count += page.Has(RecordAt(std::as_const(data_).World(), page.Kind, number));
       counts_[i]->Text = data_.IsReadable(layout.File)
-                             ? std::to_string(count) + " of " + std::to_string(layout.Limit)
+                             ? Grouped(count) + " of " + Grouped(layout.Limit)
                              : "cannot be read";
     }
   }

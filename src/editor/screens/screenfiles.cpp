@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "records/modVar.h"
+
 namespace grapplemont {
 
 std::vector<ui::Column> FaultColumns(std::string what) {
@@ -27,6 +29,10 @@ std::string ShownOf(std::size_t count) {
   return count <= FaultList::kMost
              ? ""
              : ", of which the first " + std::to_string(FaultList::kMost) + " are shown";
+}
+
+std::string Grouped(long long count) {
+  return Dollars(count).substr(1);
 }
 
 namespace {

@@ -7,7 +7,7 @@
 #include "ui/controls.h"
 #include "ui/game.h"
 
-// How faults stand in the tables of the editor.
+// How faults stand in the tables of the editor, and how records are counted.
 
 namespace grapplemont {
 
@@ -16,6 +16,9 @@ std::vector<ui::Column> FaultColumns(std::string what);
 void FillFaults(ui::ListBox& list, const std::vector<Fault>& faults);
 /// ", of which the first 1000 are shown" where a table shows less than all.
 std::string ShownOf(std::size_t count);
+
+/// "10,000".
+std::string Grouped(long long count);
 
 /// The default data that this program edits, opened by the first screen that asks for them: from
 /// then on every event of the desk is a commit of them. Throws as DataFolder's constructor.

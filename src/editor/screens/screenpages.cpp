@@ -103,10 +103,10 @@ constexpr FormGroup kNetworkGroups[] = {{"", 1, "Network", kNetworkWhat},
                                         {"", 2, "Most risk tolerated", kNetworkRisk}};
 
 constexpr PageColumn kSponsorColumns[] = {
-    {"Name", "Sponsor"}, {"Promotion", "Sponsors"}, {"Pay"}, {"Morality"}};
+    {"Name", "Sponsor"}, {"Promotion", "Pays for"}, {"Pay"}, {"Morality"}};
 constexpr FormEntry kSponsorEntries[] = {
     {"Name"}, {"Slogan"}, {"Pay", "Pay ($1000 a show)"}, {"Morality"}};
-constexpr FormEntry kSponsorDeal[] = {{"Promotion", "Sponsors"},
+constexpr FormEntry kSponsorDeal[] = {{"Promotion", "Pays for"},
                                       {"ContractMonths", "Months left", "txtmonths"}};
 constexpr FormGroup kSponsorGroups[] = {{"", 1, "Sponsor", kSponsorEntries},
                                         {"", 1, "Deal, none when a game begins", kSponsorDeal}};
@@ -199,10 +199,10 @@ constexpr FormGroup kStaffGroups[] = {{"", 1, "Who", kStaffWho},
                                       {"", 2, "Drawn when a game begins", kStaffDrawn}};
 
 constexpr PageColumn kTeamColumns[] = {
-    {"Name", "Team"}, {"Worker1", "One"}, {"Worker2", "The other"}, {"Experience"}};
+    {"Name", "Team"}, {"Worker1", "First partner"}, {"Worker2", "Second partner"}, {"Experience"}};
 constexpr FormEntry kTeamEntries[] = {{"Name"},
-                                      {"Worker1", "One partner"},
-                                      {"Worker2", "The other partner"},
+                                      {"Worker1", "First partner"},
+                                      {"Worker2", "Second partner"},
                                       {"Finisher"},
                                       {"Experience"}};
 constexpr FormGroup kTeamGroups[] = {{"", 1, "Tag Team", kTeamEntries}};

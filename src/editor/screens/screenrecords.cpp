@@ -100,6 +100,7 @@ RecordScreen::RecordScreen(Game& game, const RecordPage& page)
   txtsearch.Hint = "Search in all columns";
   lstrecords.Search = &txtsearch;
   txtsearch.OnChange = [this] { txtsearch_Change(); };
+  lblrecord.Large = true;
   lblfault.Colour = ui::Tone::Amber;
   lstrecords.Room = 30;
 }
@@ -183,9 +184,9 @@ void RecordScreen::FillTable() {
   if (!data_.IsReadable(file)) lstrecords.EmptyText = file + " cannot be read.";
   lstrecords.Fill(std::move(rows), false);
   lstrecords.SelectKey(number_);
-  lblfacts.Text = (page_.Shows ? std::to_string(all) + " here; " : "") +
-                  std::to_string(CountOf(world, page_.Kind)) + " of " +
-                  std::to_string(LayoutOf(page_.Kind).Limit) + " records. " +
+  lblfacts.Text = (page_.Shows ? Grouped(all) + " here; the file holds " : "") +
+                  Grouped(CountOf(world, page_.Kind)) + " of " +
+                  Grouped(LayoutOf(page_.Kind).Limit) + " records. " +
                   (faults_.empty() ? "None has a fault."
                                    : std::to_string(faults_.size()) + " with faults, in amber.");
 }

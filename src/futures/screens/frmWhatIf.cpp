@@ -2,6 +2,7 @@
 
 #include "futures/screens/futurescreens.h"
 #include "futures/screens/screenspread.h"
+#include "records/fields/wording.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
@@ -76,12 +77,23 @@ class frmWhatIf : public GameScreen {
 
   /// Who is ahead where chance was the same.
   static std::string PairsText(const PlayedWorlds& worlds) {
-    const auto of = std::to_string(worlds.Lives.front().size());
-    const auto [image, noImage] = PairsWon(worlds.Lives, Measure::Image, *worlds.Morning);
-    const auto [money, noMoney] = PairsWon(worlds.Lives, Measure::Money, *worlds.Morning);
-    return "After three months Yes has the higher image in " + std::to_string(image) + " of " + of +
-           " pairs of worlds, No in " + std::to_string(noImage) + "; Yes has more money in " +
-           std::to_string(money) + ", No in " + std::to_string(noMoney) + ".";
+    const auto pairs = static_cast<int>(worlds.Lives.front().size());
+    return "After three months the image ends " +
+           AheadText(PairsWon(worlds.Lives, Measure::Image, *worlds.Morning), pairs) +
+           "; the money ends " +
+           AheadText(PairsWon(worlds.Lives, Measure::Money, *worlds.Morning), pairs) + ".";
+  }
+
+  /// "higher with No in all 100 pairs", "the same in all 100 pairs", "higher with Yes in 61 of 100
+  /// pairs, with No in 30".
+  static std::string AheadText(std::pair<int, int> won, int pairs) {
+    const auto [yes, no] = won;
+    const std::string all = " in all " + Counted(pairs, "pair");
+    if (yes == 0 && no == 0) return "the same" + all;
+    if (yes == pairs || no == pairs)
+      return (yes == pairs ? "higher with Yes" : "higher with No") + all;
+    return "higher with Yes in " + std::to_string(yes) + " of " + Counted(pairs, "pair") +
+           ", with No in " + std::to_string(no);
   }
 
   void cmdexport_Click() {

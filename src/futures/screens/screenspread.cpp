@@ -17,17 +17,20 @@ namespace grapplemont {
 
 namespace {
 
-constexpr int kLookEvery = 150;  // milliseconds
+constexpr int kLookEvery = 150;         // milliseconds
+constexpr std::size_t kDayLetters = 3;  // "09 " of a day
 constexpr std::chrono::milliseconds kRepaintEvery(100);
 constexpr const char* kNothingPlayed = "Nothing is being played.";
 
 using K = ui::ColumnKind;
 
-/// "09/03" of weeks, "Mar 2026" of months.
-std::string CaptionOf(Day day, bool weekly) {
-  if (weekly) return ShortDate(day).substr(0, 5);
-  const std::string month = MonthYear(day);
-  return month.substr(0, 3) + month.substr(month.size() - 5);
+/// "09 Mar" within half a year, else "Mar 2026".
+std::vector<std::string> CaptionsOf(const std::vector<Day>& days) {
+  constexpr auto kInDays = std::chrono::days{183};
+  if (days.empty() || days.back() - days.front() <= kInDays) return DayCaptions(days);
+  std::vector<std::string> captions;
+  for (const Day day : days) captions.push_back(BriefDate(day).substr(kDayLetters));
+  return captions;
 }
 
 /// By how much the first answer is ahead: points of image, dollars, percent.
@@ -157,9 +160,10 @@ ui::Tone ToneOfAnswer(std::size_t answer) {
 std::vector<ui::Column> ChanceColumns(const std::string& what,
                                       const std::vector<std::string>& answers) {
   std::vector<ui::Column> columns{{what, K::Text, 3}};
+  const auto kind = answers.size() == 1 ? K::Percent : K::Number;  // there is room for one bar
   for (const std::string& answer : answers)
     columns.push_back(
-        {answer.empty() ? "Chance" : answer, K::Percent, 2, "In how many worlds of a hundred."});
+        {answer.empty() ? "Chance" : answer, kind, 2, "In how many worlds of a hundred."});
   return columns;
 }
 
@@ -229,13 +233,9 @@ void SpreadCard::ShowMeasure() {
 }
 
 void SpreadCard::ShowPicture(Measure measure, const std::vector<std::vector<Spread>>& spreads) {
-  std::vector<std::string> captions;
   std::vector<double> places;
   if (!spreads.empty())
-    for (const Day day : worlds_.Days) {
-      captions.push_back(CaptionOf(day, worlds_.Days.size() < 28));
-      places.push_back(PlaceOf(day));
-    }
+    for (const Day day : worlds_.Days) places.push_back(PlaceOf(day));
   std::vector<ui::Chart::Series> lines;
   std::vector<ui::Chart::Band> bands;
   double low = std::numeric_limits<double>::infinity(), high = -low;
@@ -258,7 +258,7 @@ void SpreadCard::ShowPicture(Measure measure, const std::vector<std::vector<Spre
   }
   std::vector<std::pair<double, std::string>> borders;
   if (measure == Measure::Image && low <= high) borders = ClassBorders(low, high, *worlds_.Morning);
-  chtspread.Captions = std::move(captions);
+  chtspread.Captions = spreads.empty() ? std::vector<std::string>() : CaptionsOf(worlds_.Days);
   chtspread.Places = std::move(places);
   chtspread.Bands = std::move(bands);
   chtspread.Levels = std::move(borders);

@@ -123,6 +123,7 @@ class frmFamilyTree : public GameScreen {
   static ui::Cell EndOf(const TreeReign& tree) {
     constexpr const char* kEnds[] = {"Lasts", "Lost", "Vacated", "Dissolved"};
     const int end = tree.Reign->End;
+    if (end == kReignLasts && IsVacancy(*tree.Reign)) return {"Vacant now", ui::Tone::Muted};
     if (end < kReignLasts || end > kReignDissolved || (IsVacancy(*tree.Reign) && end == kReignLost))
       return {""};
     return {kEnds[end], end == kReignLasts ? ui::Tone::Gold : ui::Tone::Plain};
@@ -143,7 +144,7 @@ class frmFamilyTree : public GameScreen {
          return ui::Cell(tree.Reign->Holder.View(),
                          IsVacancy(*tree.Reign) ? ui::Tone::Muted : ui::Tone::Plain);
        }},
-      {{"Their", K::Number, 0, "Which one of their reigns."},
+      {{"Reign no.", K::Number, 0, "Which one of their reigns."},
        [](const TreeReign& tree) { return NumberOrNothing(tree.OfTheirs); }},
       {{"From", K::Date, 3},
        [](const TreeReign& tree) { return DateCell(tree.Reign->From, kBeforeTheGame); }},

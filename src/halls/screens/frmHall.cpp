@@ -14,6 +14,7 @@ using K = ui::ColumnKind;
 using Style = ui::Report::Style;
 
 constexpr std::size_t kNextShown = 20;
+constexpr int kMembersShown = 8;  // without scrolling
 
 /// The hall of fame: its members, what earned them their place, who is near it, and the rule.
 class frmHall : public GameScreen {
@@ -21,13 +22,13 @@ class frmHall : public GameScreen {
   explicit frmHall(Game& game) : GameScreen(game, "frmHall", "Hall of Fame") {
     lstmembers.EmptyText = "Nobody has been elected yet. The vote is held on 31 December.";
     lstnext.EmptyText = "Nobody has been seen for a month yet.";
-    lstmembers.Room = 8;
     lstnext.Room = 6;
   }
 
   ui::Page Layout() override {
+    const int share = members_.empty() ? 0 : 3;  // an empty hall leaves the room to who is near it
     return PageOf(
-        ui::Columns({ui::Rows({ui::Group("Members", {ui::Grow(lstmembers)}).Grow(3),
+        ui::Columns({ui::Rows({ui::Group("Members", {ui::Grow(lstmembers, share)}).Grow(share),
                                ui::Group("Nearest to the hall", {ui::Grow(lstnext)}).Grow(2)})
                          .Grow(5),
                      ui::Rows({ui::Group("What counts for them", {ui::Grow(txtmember)}).Grow(2),
@@ -50,6 +51,8 @@ class frmHall : public GameScreen {
     past_ = std::make_unique<Ledger>(PastOf(world()));
     members_ = HallOf(world());
     FillPlaces(lstmembers, memberTable_, members_);
+    lstmembers.Room = members_.empty() ? 1 : kMembersShown;
+    lstmembers.Least = std::min(lstmembers.Room, 3);
     next_ = NomineesOf(*past_, kNextShown);
     FillPlaces(lstnext, nextTable_, next_);
     lblfacts.Text = members_.empty() ? "The hall is still empty."
@@ -163,11 +166,12 @@ class frmHall : public GameScreen {
       {{.Title = "Who", .Width = 4, .Draws = [this](int key) { return FaceIn(UidOfNext(key)); }},
        [](const Nominee& nominee) { return nominee.Of.Of->Name.View(); }},
       {{"Points", K::Number}, [](const Nominee& nominee) { return nominee.Points; }},
-      {{"Career", K::Text, 3}, [](const Nominee& nominee) { return YearsOf(*nominee.Of.Of); }},
-      {{"Why not yet", K::Text, 5}, [](const Nominee& nominee) {
+      {{"Why not yet", K::Text, 5},
+       [](const Nominee& nominee) {
          return nominee.WhyNot.empty() ? ui::Cell("Awaits the next vote.", ui::Tone::Gold)
                                        : ui::Cell(nominee.WhyNot, ui::Tone::Muted);
-       }}};
+       }},
+      {{"Career", K::Text, 3}, [](const Nominee& nominee) { return YearsOf(*nominee.Of.Of); }}};
   ui::Label lblfacts{*this, "lblfacts"};
   ui::Button cmdpage{*this, "cmdpage", "Open Page", &frmHall::cmdpage_Click};
   ui::ListBox lstmembers{*this, "lstmembers", HeadingsOf(memberTable_), &frmHall::ShowMember,

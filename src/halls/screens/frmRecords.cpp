@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <memory>
 
 #include "halls/recordbook.h"
@@ -10,6 +11,11 @@ namespace grapplemont {
 namespace {
 
 using K = ui::ColumnKind;
+
+/// Some happened on a day, others over years.
+bool IsOfADay(const RecordLine& line) {
+  return line.On > kNoTitleDate;
+}
 
 /// The records of the world or of a promotion, a table at a time.
 class frmRecords : public GameScreen {
@@ -71,7 +77,7 @@ class frmRecords : public GameScreen {
                        line.Who,
                        {line.Figure, line.Shown, place == 1 ? ui::Tone::Gold : ui::Tone::Plain},
                        line.More,
-                       line.On > kNoTitleDate ? DayCell(line.On) : ui::Cell(0.0, "")},
+                       IsOfADay(line) ? DayCell(line.On) : ui::Cell(0.0, "")},
                       place});
     }
     lstplaces.Fill(std::move(rows), false);
@@ -84,11 +90,13 @@ class frmRecords : public GameScreen {
   }
 
   std::vector<ui::Column> ColumnsOf(const RecordTable& table) {
-    return {{"Place", K::Number},
-            {.Title = "Who", .Width = 6, .Draws = [this](int place) { return FaceAt(place); }},
-            {table.Figure, K::Number, 2, table.Tip},
-            {table.More, K::Text, 6},
-            {"On", K::Date, 3}};
+    std::vector<ui::Column> columns = {
+        {"Place", K::Number},
+        {.Title = "Who", .Width = 6, .Draws = [this](int place) { return FaceAt(place); }},
+        {table.Figure, K::Number, 2, table.Tip},
+        {table.More, K::Text, 6}};
+    if (std::ranges::any_of(lines_, IsOfADay)) columns.push_back({"Date", K::Date, 3});
+    return columns;
   }
 
   const RecordLine* LineAt(int place) const {

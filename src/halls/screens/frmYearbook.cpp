@@ -21,9 +21,10 @@ class frmYearbook : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return PageOf(ui::Group("", {ui::Columns({ui::Field("Year", cmbyear),
-                                              ui::Field("Section", cmbsection), ui::Spacer()}),
-                                 txtyear, ui::Grow(lstpage)}),
+    return PageOf(ui::Group("", {ui::Columns({ui::Rows({ui::Field("Year", cmbyear),
+                                                        ui::Field("Section", cmbsection)}),
+                                              ui::Grow(txtyear)}),
+                                 ui::Grow(lstpage)}),
                   &lblfacts, {&cmdolder, &cmdnewer, &cmdpage});
   }
 
@@ -118,8 +119,8 @@ class frmYearbook : public GameScreen {
       "lstpage",
       {{"Section", K::Text, 3},
        {.Title = "Who", .Width = 6, .Draws = [this](int key) { return FaceAt(key); }},
-       {"Figure", K::Text, 3},
-       {"More", K::Text, 6}},
+       {"How much", K::Text, 3},
+       {"Details", K::Text, 6}},
       &frmYearbook::ShowButtons,
       cmdpage};
 };

@@ -45,6 +45,11 @@ void AddPart(Paragraphs& words, const char* heading, Add add) {
   if (words.size() == before) words.pop_back();
 }
 
+/// "Ctrl+, - Larger text": a colon would run into a key.
+void PartKey(std::string& line) {
+  if (const auto colon = line.find(": "); colon != line.npos) line.replace(colon, 2, " \x96 ");
+}
+
 using ShellKeys = std::function<std::vector<std::string>(ui::Screen& of)>;
 
 /// The keys that do something on this page; those that can be set come from the shell.
@@ -70,6 +75,7 @@ void AddKeys(Paragraphs& words, ui::Screen& screen, const ShellKeys& keys) {
   }
   if (keys)
     for (std::string& line : keys(screen)) AddLine(words, std::move(line));
+  for (ui::Report::Paragraph& word : words) PartKey(word.Words);
 }
 
 void AddLabels(const ui::Box& box, std::vector<std::string>& headings) {
@@ -144,8 +150,11 @@ class frmHelp : public GameScreen {
 
 const CellColumns<GlossaryTerm> kTermTable = {
     {{"Term", ui::ColumnKind::Text, 3}, [](const GlossaryTerm& term) { return term.Name; }},
-    {{"Of", ui::ColumnKind::Text, 2}, [](const GlossaryTerm& term) { return term.Of; }},
-    {{"Range", ui::ColumnKind::Text, 4}, [](const GlossaryTerm& term) { return term.Range; }}};
+    {{"Range", ui::ColumnKind::Text, 4},
+     [](const GlossaryTerm& term) {
+       return term.Range.empty() ? ui::Cell("-", ui::Tone::Muted) : ui::Cell(term.Range);
+     }},
+    {{"Belongs to", ui::ColumnKind::Text, 2}, [](const GlossaryTerm& term) { return term.Of; }}};
 
 /// Every term and number.
 class frmGlossary : public GameScreen {

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "info/infowords.h"
 #include "info/morning.h"
 #include "info/screens/infotables.h"
 #include "info/screens/pastscreens.h"
@@ -39,23 +40,22 @@ ui::Tone ToneOf(int change) {
   return change > 0 ? ui::Tone::Green : change < 0 ? ui::Tone::Red : ui::Tone::Muted;
 }
 
-/// What did not move stands as it is now, as long as that is how the show left it.
-ui::Cell NowCell(const MovedFigure& figure, const Worker* worker, Percent Worker::*now) {
-  if (figure.Moved) return figure.Now;
-  return worker ? ui::Cell(int(worker->*now), ui::Tone::Muted)
-                : ui::Cell(-1.0, "-", ui::Tone::Muted);
-}
-ui::Cell ChangeCell(const MovedFigure& figure) {
-  return figure.Moved ? ui::Cell(figure.Change, Signed(figure.Change), ToneOf(figure.Change))
-                      : ui::Cell(0.0, "-", ui::Tone::Muted);
+/// "74 (+3)", by the change. What did not move stands as it is now, as long as that is how the show
+/// left it.
+ui::Cell MovedCell(const MovedFigure& figure, const Worker* worker, Percent Worker::*now) {
+  if (figure.Moved)
+    return {1.0 * figure.Change, std::to_string(figure.Now) + " (" + Signed(figure.Change) + ")",
+            ToneOf(figure.Change)};
+  return {0.0, worker ? std::to_string(int(worker->*now)) : "-", ui::Tone::Muted};
 }
 
-ui::Column NowColumn(const std::string& what) {
-  return {what, K::Number, 0, "As the show left it."};
+ui::Column MovedColumn(const char* what) {
+  return {what, K::Number, 0, "As the show left it, and what it changed; sorted by the change."};
 }
-ui::Column ChangeColumn(const std::string& what) {
-  return {
-      .Title = "+/- " + what, .Kind = K::Number, .Tip = "What the show changed.", .Short = "+/-"};
+
+/// A reason where it stands alone.
+std::string Alone(std::string_view reason) {
+  return FillLine(reason, {});
 }
 
 /// What a show of the player's made and moved, and why.
@@ -152,7 +152,9 @@ class frmMorning : public GameScreen {
     if (figure.Kind == kNoteRating) return BandText(morning_);
     if (figure.Kind == kNoteImage)
       return ChangeText(kNoteImage, number.Change()) + " from " + std::to_string(number.Before());
-    if (figure.Kind == kNoteMoney) return "Now " + Dollars(number.After());
+    if (figure.Kind == kNoteMoney)
+      return (number.After() == world().Player().Money ? "Now " : "Then ") +
+             Dollars(number.After());
     if (!morning_.Before) return "For the first time";
     const int before = figure.Kind == kNoteCrowd ? int(morning_.Before->Attendance)
                                                  : int(morning_.Before->Viewers);
@@ -186,12 +188,10 @@ class frmMorning : public GameScreen {
     for (std::size_t i = 0; i < people_.size(); ++i) {
       const PersonMoved& person = people_[i];
       const Worker* worker = isFresh ? world().FindWorker(person.Worker) : nullptr;
-      rows.push_back(
-          {{person.Name, NowCell(person.Over, worker, &Worker::Over), ChangeCell(person.Over),
-            NowCell(person.Morale, worker, &Worker::Morale), ChangeCell(person.Morale),
-            NowCell(person.Condition, worker, &Worker::Condition), ChangeCell(person.Condition),
-            person.Why},
-           static_cast<int>(i) + 1});
+      rows.push_back({{person.Name, MovedCell(person.Over, worker, &Worker::Over),
+                       MovedCell(person.Morale, worker, &Worker::Morale),
+                       MovedCell(person.Condition, worker, &Worker::Condition), Alone(person.Why)},
+                      static_cast<int>(i) + 1});
     }
     lstpeople.Fill(std::move(rows));
   }
@@ -205,16 +205,16 @@ class frmMorning : public GameScreen {
       const int key = static_cast<int>(i) + 1;
       if (number.Kind == kNoteTitle)
         titles.push_back(
-            {{number.What, ui::Cell("New champion", ui::Tone::Gold), last.Why.View()}, key});
+            {{number.What, ui::Cell("New champion", ui::Tone::Gold), Alone(last.Why.View())}, key});
       if (number.Kind == kNoteTitleImage)
-        titles.push_back({{number.What, ImageCell(number), WhyImage(number)}, key});
+        titles.push_back({{number.What, ImageCell(number), Alone(WhyImage(number))}, key});
       if (number.Kind == kNoteHeat) feuds.push_back({{number.What, Moved(number)}, key});
       if (number.Kind == kNoteFeudEnd)
         feuds.push_back({{number.What, ui::Cell("Ended", ui::Tone::Gold)}, key});
       if (number.Kind == kNoteInjury)
         hurt.push_back(
             {{number.What,
-              ui::Cell(last.Why.Str() + ", " + std::to_string(last.Change) + " m", ui::Tone::Red)},
+              ui::Cell(last.Why.Str() + ", " + Counted(last.Change, "month"), ui::Tone::Red)},
              key});
     }
     lsttitles.Fill(std::move(titles));
@@ -269,7 +269,8 @@ class frmMorning : public GameScreen {
       }
       rows.push_back(
           {{ui::Cell(step->Change, ChangeText(number.Kind, step->Change), ToneOf(step->Change)),
-            step->Row == 0 ? ui::Cell(0.0, "") : ui::Cell(int(step->Row)), step->Why.View()}});
+            step->Row == 0 ? ui::Cell(0.0, "") : ui::Cell(int(step->Row)),
+            Alone(step->Why.View())}});
     }
     rows.push_back({{ui::Cell(number.After(),
                               toChange ? ChangeText(number.Kind, number.Change())
@@ -281,8 +282,8 @@ class frmMorning : public GameScreen {
   /// The last step of a rating takes the mean of all before.
   static void AddMean(std::vector<ui::ListBox::Row>& rows, const ShowNote& step) {
     const int sum = step.Now - step.Change;
-    rows.push_back({{ui::Cell(sum), "", "points in all"}});
-    rows.push_back({{ui::Cell(0.0, ""), "", step.Why.View()}});
+    rows.push_back({{ui::Cell(sum), "", "Points in all"}});
+    rows.push_back({{ui::Cell(0.0, ""), "", Alone(step.Why.View())}});
   }
 
   void ShowWhy(const std::string& title, std::vector<ui::ListBox::Row> rows) {
@@ -357,12 +358,9 @@ class frmMorning : public GameScreen {
   ui::ListBox lstpeople{*this,
                         "lstpeople",
                         {{"Name", K::Text, 0, "", [this](int key) { return PortraitOfRow(key); }},
-                         NowColumn("Over"),
-                         ChangeColumn("Over"),
-                         NowColumn("Morale"),
-                         ChangeColumn("Morale"),
-                         NowColumn("Condition"),
-                         ChangeColumn("Condition"),
+                         MovedColumn("Over"),
+                         MovedColumn("Morale"),
+                         MovedColumn("Condition"),
                          {"Why", K::Text, 4}},
                         &frmMorning::lstpeople_Click,
                         &frmMorning::lstpeople_Open};

@@ -354,7 +354,7 @@ class frmNews : public GameScreen {
          return ui::Cell(world().News().NumberOf(mail), mail.Date.Str(), ui::Tone::Muted);
        }},
       {{"Mail", K::Text, 5}, [](const Mail& mail) { return mail.Body.View(); }},
-      {{"", K::Tag, 1, "Whether it has been read."}, [this](const Mail& mail) {
+      {{"", K::Tag, 0, "Whether it has been read."}, [this](const Mail& mail) {
          return unread_.Has(world().News().NumberOf(mail)) ? ui::Cell("unread", ToneOf(mail))
                                                            : ui::Cell("");
        }}};
@@ -370,7 +370,7 @@ class frmNews : public GameScreen {
   ui::Report txtbody{*this, "txtbody"};
   ui::ListBox lstdigest{
       *this, "lstdigest", {{"From", K::Text, 2}, {"News", K::Text, 5}}, &frmNews::lstdigest_Click};
-  ui::CheckBox chkdigest{*this, "chkdigest", "One row a day for others", true,
+  ui::CheckBox chkdigest{*this, "chkdigest", "Others' news as one digest a day", true,
                          &frmNews::chkdigest_Click};
   ui::Button cmdread{*this, "cmdread", "Mark All Read", &frmNews::cmdread_Click};
   ui::Button cmdempty{*this, "cmdempty", "Empty Mailbox", &frmNews::cmdempty_Click};

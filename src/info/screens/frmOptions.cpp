@@ -45,12 +45,12 @@ class frmOptions : public GameScreen {
     return PageOf(
         ui::Columns(
             {ui::Rows({ui::Group("Mail about the world", std::move(world)), ui::Spacer()}).Grow(3),
-             ui::Rows(
-                 {ui::Group("Set all mail at once", {cmdalways, cmddirect, cmdnever}),
-                  ui::Group("Mail about your own people", std::move(own)),
-                  ui::Group("Shows", {ui::Field("Match reporter", cmbreport), chklive}),
-                  ui::Group("While time passes", {ui::Field("Loading screens", cmbload), cmdview}),
-                  ui::Spacer()})
+             ui::Rows({ui::Group("Set all mail at once", {cmdalways, cmddirect, cmdnever}),
+                       ui::Group("Mail about your own people", std::move(own)),
+                       ui::Group("Shows", {ui::Field("Match reporter", cmbreport), chklive}),
+                       ui::Group("While time passes",
+                                 {ui::Field("Loading screens", cmbload, {&cmdview})}),
+                       ui::Spacer()})
                  .Grow(2)}),
         &lblfacts, {&cmdgod, &cmdwindow});
   }
@@ -172,11 +172,11 @@ const CellColumns<JobLine> kJobs = {
        const ui::Cell to = DayCell(job.To);
        return job.Present ? ui::Cell(to.Number, "Today", ui::Tone::Gold) : to;
      }},
-    {{"Size then", K::Text, 1}, [](const JobLine& job) { return SizeText(job.StartSize); }},
-    {{"Size after", K::Text, 1, "Today's for the present job."},
+    {{"Size at start", K::Text, 1}, [](const JobLine& job) { return SizeText(job.StartSize); }},
+    {{"Size at end", K::Text, 1, "Today's for the present job."},
      [](const JobLine& job) { return SizeText(job.EndSize); }},
-    {{"Image then", K::Number, 1}, [](const JobLine& job) { return job.StartImage; }},
-    {{"Image after", K::Number, 1, "Today's for the present job."},
+    {{"Image at start", K::Number, 1}, [](const JobLine& job) { return job.StartImage; }},
+    {{"Image at end", K::Number, 1, "Today's for the present job."},
      [](const JobLine& job) { return job.EndImage; }}};
 
 struct ShownWish {
@@ -194,19 +194,19 @@ ui::Cell WishStateCell(const ShownWish& wish) {
     case kWishDropped:
       return {"Dropped", ui::Tone::Muted};
     default:
-      return IsGranted(*wish.In, *wish.Is) ? ui::Cell("As wished", ui::Tone::Gold)
-                                           : ui::Cell("Open", ui::Tone::Gold);
+      return IsGranted(*wish.In, *wish.Is) ? ui::Cell("As wished", ui::Tone::Green)
+                                           : ui::Cell("Open");
   }
 }
 
 const CellColumns<ShownWish> kWishTable = {
-    {{"Year", K::Number, 1}, [](const ShownWish& wish) { return YearOf(wish.Is->From); }},
     {{"Wish", K::Text, 6}, [](const ShownWish& wish) { return WishText(*wish.Is); }},
+    {{"State", K::Tag, 2}, WishStateCell},
     {{"So far", K::Text, 3, "Or what it came to."},
      [](const ShownWish& wish) {
        return wish.Is->State == kWishDropped ? "" : WishProgress(*wish.In, *wish.Is);
      }},
-    {{"Stands", K::Tag, 2}, WishStateCell}};
+    {{"Year", K::Number}, [](const ShownWish& wish) { return YearOf(wish.Is->From); }}};
 
 /// The player's career.
 class frmUser : public GameScreen {

@@ -288,13 +288,13 @@ class frmResults : public GameScreen {
 
   void ShowChart(const std::vector<const HistoryEntry*>& shows) {
     std::vector<double> ratings;
-    std::vector<std::string> captions;
+    std::vector<Day> days;
     for (std::size_t i = std::min(shows.size(), kCharted); i-- > 0;) {
       if (shows[i]->CalledOff) continue;
       ratings.push_back(shows[i]->Rating);
-      captions.push_back(ShortDate(shows[i]->On));
+      days.push_back(shows[i]->On);
     }
-    chtratings.Captions = std::move(captions);
+    chtratings.Captions = DayCaptions(days);
     chtratings.Lines = std::vector<ui::Chart::Series>{{"", std::move(ratings)}};
   }
 

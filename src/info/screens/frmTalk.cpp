@@ -21,9 +21,9 @@ ui::Cell WhenCell(const Advice& advice) {
 const CellColumns<Advice> kTable = {
     {{"When", K::Tag, 2, "How long it can wait."}, WhenCell},
     {{"About", K::Text, 2}, [](const Advice& advice) { return TopicText(advice.About); }},
+    {{"Says", K::Text, 6}, [](const Advice& advice) { return advice.Says; }},
     {{"Who", K::Text, 3},
-     [](const Advice& advice) { return ui::Cell(advice.Speaker, ui::Tone::Muted); }},
-    {{"Says", K::Text, 6}, [](const Advice& advice) { return advice.Says; }}};
+     [](const Advice& advice) { return ui::Cell(advice.Speaker, ui::Tone::Muted); }}};
 
 /// The staff meeting: everything that somebody has to say, the most urgent first.
 class frmTalk : public GameScreen {

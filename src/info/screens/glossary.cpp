@@ -13,7 +13,7 @@ namespace grapplemont {
 
 namespace {
 
-constexpr std::string_view kOfRules = "Rule";
+constexpr std::string_view kOfRules = "The trade", kOfTheWorld = "The world";
 
 std::string Small(std::string_view text) {
   std::string small(text);
@@ -38,7 +38,7 @@ std::string NumbersOf(const Field& field) {
   const bool isOpen = field.Min <= -32768 || field.Max >= 2147483647LL;
   if (isOpen || field.To != Refers::Nothing) return {};
   std::string text = std::to_string(field.Min) + " to " + std::to_string(field.Max);
-  if (!field.Unit.empty()) text += " " + std::string(field.Unit);
+  if (!field.Unit.empty()) text += field.Unit == "percent" ? "%" : " " + std::string(field.Unit);
   return field.MayBeNone ? text + ", or -1 for none" : text;
 }
 
@@ -46,9 +46,9 @@ std::string RangeOf(const Field& field) {
   if (!field.Words.empty()) return WordsOf(field.Words);
   switch (field.Kind) {
     case FieldKind::Flag:
-      return "yes or no";
+      return "Yes or no";
     case FieldKind::Date:
-      return "a day";
+      return "A day";
     case FieldKind::Text:
       return {};
     default:
@@ -95,8 +95,13 @@ void AddFields(std::vector<GlossaryTerm>& terms, const RecordLayout& layout) {
   for (const Field& field : layout.Fields) {
     const GlossaryRow* row = RowFor(layout, field);
     if (!row && !SpeaksForItself(layout, field)) continue;
-    GlossaryTerm term{
-        NameOf(field), std::string(layout.Name), RangeOf(field), std::string(field.Help), {}, {}};
+    const bool isOfGame = layout.Name == LayoutOf<GameInfo>().Name;
+    GlossaryTerm term{NameOf(field),
+                      std::string(isOfGame ? kOfTheWorld : layout.Name),
+                      RangeOf(field),
+                      std::string(field.Help),
+                      {},
+                      {}};
     if (row) Take(term, *row);
     terms.push_back(std::move(term));
   }

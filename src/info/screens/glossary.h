@@ -6,12 +6,12 @@
 
 namespace grapplemont {
 
-/// A term of the game. `Of` says whose it is: "Worker", or "Rule" for a number of no record.
+/// A term of the game. `Of` says whose it is: "Worker", or "The trade" for a number of no record.
 struct GlossaryTerm {
   std::string Name, Of, Range, Means, Moves;
   std::vector<std::string> Also;  // short headings that mean the same
 
-  /// "Popularity. 0 to 100 percent."
+  /// "Popularity. 0 to 100%."
   std::string Line() const;
 };
 

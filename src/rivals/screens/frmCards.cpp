@@ -78,6 +78,7 @@ class frmCards : public GameScreen {
           {isMain ? Style::Strong : Style::Line,
            MatchLine(world(), **match) + ", " + std::to_string((*match)->Rating) + "%."});
       if (isMain) TellMainEvent(words, **match);
+      if (isMain && show.Matches.size() > 1) words.push_back({Style::Strong, "Also on the card"});
     }
     txtcard.Write(std::move(words));
   }
@@ -95,7 +96,7 @@ class frmCards : public GameScreen {
   int first_;
   std::vector<RivalShow> shows_;
   const CellColumns<RivalShow> table_ = {
-      {{"On", K::Date, 3}, [](const RivalShow& show) { return DayCell(show.On); }},
+      {{"Date", K::Date, 3}, [](const RivalShow& show) { return DayCell(show.On); }},
       {{"Show", K::Text, 6}, [](const RivalShow& show) { return ui::Cell(show.Name); }},
       {{"Kind", K::Tag, 4},
        [](const RivalShow& show) { return ui::Cell(UnseenShowText(show.Is)); }},

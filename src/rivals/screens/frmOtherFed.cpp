@@ -25,7 +25,7 @@ constexpr int kChartMonths = 36;
 ui::Cell SinceCell(const Title& title) {
   const Day won = title.Reigns[0].Won;
   if (title.Holder == 0 || won == kNoTitleDate) return {0.0, ""};
-  return {static_cast<double>((won - kDayZero).count()), ShortDate(won)};
+  return DayCell(won);
 }
 
 /// What the Title is for, as briefly as a table needs it.
@@ -84,9 +84,9 @@ class PromotionSheets {
   void ShowPeople(int uid) {
     for (const Worker* worker : RosterOf(world(), uid))
       lstroster.Add({worker->Name.View(),
+                     int(worker->Over),
                      {1.0 * worker->Position, std::string(PositionText(worker->Position))},
                      DispositionCell(*worker),
-                     int(worker->Over),
                      int(worker->Age),
                      StatusCell(*worker)},
                     worker->Uid);
@@ -152,9 +152,9 @@ class PromotionSheets {
   ui::Report txtabout{screen_, "txtabout"};
   ui::ListBox lstroster{screen_, "lstroster",
                         WithFaces(world(), {{"Name", K::Text, 8},
+                                            {"Over", K::Percent, 5, "Popularity."},
                                             {"Position", K::Text, 7},
                                             {"Disposition", K::Tag, 4},
-                                            {"Over", K::Percent, 5, "Popularity."},
                                             {"Age", K::Number, 2},
                                             {"Status", K::Text, 5}}),
                         ui::Handler{}, [this] { OpenWorkerOf(lstroster); }};
@@ -257,10 +257,10 @@ class frmOtherFed : public GameScreen {
     for (const Promotion* promotion : PromotionsByStanding(world())) {
       const bool own = promotion->Uid == world().PlayerUid();
       rows.push_back({{ui::Cell(promotion->Name.View(), own ? ui::Tone::Gold : ui::Tone::Plain),
-                       promotion->Initials.View(),
                        {-1.0 * promotion->Size, std::string(SizeText(promotion->Size))},
                        int(promotion->Image),
-                       rosters.Of(promotion->Uid)},
+                       rosters.Of(promotion->Uid),
+                       promotion->Initials.View()},
                       promotion->Uid});
     }
     lblfacts.Text = std::to_string(rows.size()) +
@@ -279,14 +279,14 @@ class frmOtherFed : public GameScreen {
 
   using K = ui::ColumnKind;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstfeds{*this, "lstfeds",
-                      WithCrests(world(), {{"Promotion", K::Text, 10},
-                                           {"Initials", K::Text, 3},
-                                           {"Size", K::Number, 4},
-                                           {"Image", K::Percent, 4},
-                                           {"Roster", K::Number, 3,
-                                            "Workers on the card, managers and the like."}}),
-                      &frmOtherFed::lstfeds_Click};
+  ui::ListBox lstfeds{
+      *this, "lstfeds",
+      WithCrests(world(), {{"Promotion", K::Text, 10},
+                           {"Size", K::Date, 4},  // words that go by a number
+                           {"Image", K::Percent, 4},
+                           {"Roster", K::Number, 3, "Workers on the card, managers and the like."},
+                           {"Initials", K::Text, 3}}),
+      &frmOtherFed::lstfeds_Click};
   PromotionSheets sheets;
   ui::Button cmdcards{*this, "cmdcards", "Last Shows",
                       [this] { desk().Open(MakefrmCards(game_, lstfeds.Key())); }};

@@ -87,7 +87,7 @@ constexpr CompareRow kAfter[] = {{"Condition", Points<&Worker::Condition>},
                                  {"Last five", LastFive},
                                  {"Rating, last ten", Rating},
                                  {"Contract", Bond},
-                                 {"A month", Pay}};
+                                 {"Wage a month", Pay}};
 
 char Small(char letter) {
   return static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));

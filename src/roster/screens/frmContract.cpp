@@ -47,7 +47,7 @@ class frmWresContract : public TalkWith<Worker> {
 
   void Show() override {
     const Worker& worker = *Who();
-    WriteWorkerPage(txtpage, world(), &worker, "");
+    WriteUnderName(txtpage, world(), worker);
     terms_.Show(worker.Wage, worker.ContractMonths, worker.ContractType == "Wri");
     lblcreative.Visible = worker.CreativeControl;
     ShowFacts("What is turned down can be changed and offered again.");
@@ -164,7 +164,7 @@ class frmOtherContract : public TalkWith<Worker> {
 
   void Show() override {
     const Worker& worker = *Who();
-    WriteWorkerPage(txtpage, world(), &worker, "");
+    WriteUnderName(txtpage, world(), worker);
     const Demands demands = ContractDemands(world(), worker);
     txtposition.Text = PositionText(demands.Position);
     terms_.Show(demands.Wage, demands.Months, demands.Written);
@@ -258,7 +258,7 @@ class StaffTalk : public TalkWith<Staff> {
 
   void Show() override {
     const Staff& staff = *Who();
-    WriteStaffPage(txtpage, world(), &staff, "");
+    WriteUnderName(txtpage, world(), staff);
     const StaffDemands wanted =
         own_ ? StaffDemands{staff.ContractMonths, staff.ContractType == "Wri", staff.Wage}
              : StaffDemandsOf(world(), staff);

@@ -42,8 +42,8 @@ class frmRoster : public WorkerListScreen {
                       {ui::Group("", {ui::Grow(lstwres)}).Grow(11),
                        ui::Rows({PageBox().Grow(1),
                                  ui::Group("Place",
-                                           {ui::Columns({ui::Grow(cmbnewposition), cmdposition}),
-                                            lblmove, ui::Columns({ui::Grow(cmbnewsplit), cmdsplit}),
+                                           {ui::Field("Position", cmbnewposition, {&cmdposition}),
+                                            lblmove, ui::Field("Split", cmbnewsplit, {&cmdsplit}),
                                             ui::Columns({cmddevelopment, cmdcamp, cmdrelease})})})
                            .Grow(4)})
                       .Grow(1)}),

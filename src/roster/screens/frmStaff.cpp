@@ -89,10 +89,10 @@ class frmStaff : public StaffListScreen {
   }
 
   ui::Page Layout() override {
-    return PageOf(ui::Rows({ui::Group("", {lblposts, lbladvice}),
-                            ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
+    return PageOf(ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
+                               ui::Rows({ui::Group("Posts", {lblposts, lbladvice}),
                                          ui::Group("", {ui::Grow(txtpage)}).Grow(1)})
-                                .Grow(1)}),
+                                   .Grow(2)}),
                   &lblfacts, {&cmdfire}, &cmdcontract);
   }
 

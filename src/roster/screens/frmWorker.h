@@ -14,6 +14,10 @@ void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
 void WriteStaffPage(ui::Report& page, const World& world, const Staff* staff,
                     const std::string& nobody);
 
+/// The same under a title that names them already.
+void WriteUnderName(ui::Report& page, const World& world, const Worker& worker);
+void WriteUnderName(ui::Report& page, const World& world, const Staff& staff);
+
 /// Two sheets side by side, under a title that names them already: who they are, their work and
 /// their skill at the left, everything else at the right.
 void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, const Worker* worker,

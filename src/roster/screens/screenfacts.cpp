@@ -52,6 +52,11 @@ Paragraphs Titled(std::span<const FactGroup> facts) {
   words.front().As = Style::Heading;
   return words;
 }
+Paragraphs WithoutName(std::span<const FactGroup> facts) {
+  Paragraphs words = Told(facts);
+  words.erase(words.begin());
+  return words;
+}
 
 }  // namespace
 
@@ -61,15 +66,20 @@ void WriteWorkerPage(ui::Report& page, const World& world, const Worker* worker,
   page.Write(RunTogether(Titled(WorkerFacts(world, *worker))));
 }
 
+void WriteUnderName(ui::Report& page, const World& world, const Worker& worker) {
+  page.Write(RunTogether(WithoutName(WorkerFacts(world, worker))));
+}
+void WriteUnderName(ui::Report& page, const World& world, const Staff& staff) {
+  page.Write(WithoutName(StaffFacts(world, staff)));
+}
+
 void WriteWorkerPages(ui::Report& left, ui::Report& right, const World& world, const Worker* worker,
                       const std::string& nobody) {
   right.Write(Paragraphs());
   if (!worker) return left.Write({{Style::Muted, nobody}});
   const std::vector<FactGroup> facts = WorkerFacts(world, *worker);
   const std::span<const FactGroup> all = facts;
-  Paragraphs words = Told(all.first(kAtLeft));
-  words.erase(words.begin());
-  left.Write(std::move(words));
+  left.Write(WithoutName(all.first(kAtLeft)));
   right.Write(Told(all.subspan(kAtLeft)));
 }
 
@@ -101,8 +111,9 @@ void WriteMood(ui::Report& page, const World& world, const Worker& worker) {
   } else if (story.Steps.empty()) {
     words.push_back({Style::Muted, "Nothing has moved morale this month or the last."});
   } else {
-    words.push_back({Style::Strong, "Morale " + today + ", " + std::to_string(story.Before) +
-                                        " before " + PlainDate(story.Since)});
+    words.push_back({Style::Strong, "Morale " + today});
+    words.push_back(
+        {Style::Line, std::to_string(story.Before) + "  before " + PlainDate(story.Since)});
     for (const MoodStep& step : story.Steps)
       words.push_back({Style::Line, (step.Change > 0 ? "+" : "") + std::to_string(step.Change) +
                                         "  " + step.Why});

@@ -3,6 +3,7 @@
 #include "records/fields/wording.h"
 #include "roster/leaving.h"
 #include "roster/screens/screentalks.h"
+#include "roster/screens/screenworkers.h"
 
 namespace grapplemont {
 
@@ -109,13 +110,13 @@ void OfferReleases(Game& game, const std::vector<int>& uids,
 
 std::vector<ui::ListBox::View> WorkerViews() {
   return {{"Ring",
-           {"Name", "Emp.", "Position", "Disposition", "Over", "Condition", "Brawl", "Tech.",
+           {"Name", kWorksFor, "Position", "Disposition", "Over", "Condition", "Brawl", "Tech.",
             "Speed", "Char.", "Status"}},
           {"Contract",
-           {"Name", "Emp.", "Position", "Over", "Age", "Contract", "Months", "Wage", "Morale"}},
+           {"Name", kWorksFor, "Position", "Over", "Age", "Contract", "Months", "Wage", "Morale"}},
           {"Mood",
            {"Name", "Disposition", "Over", "Morale", "Condition", "Turned", "Months", "Status"}},
-          {"Money", {"Name", "Emp.", "Over", "Wage", "Contract", "Months", "Age", "Position"}}};
+          {"Money", {"Name", kWorksFor, "Over", "Wage", "Contract", "Months", "Age", "Position"}}};
 }
 
 }  // namespace grapplemont

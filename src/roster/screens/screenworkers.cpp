@@ -25,6 +25,7 @@ struct PersonColumn {
   const char* Tip;
   bool OnOwn, OnMarket;
   ui::Cell (*Show)(const World& world, const Person& person);
+  const char* Short = "";  // its heading, where the cells are shorter than the title
 
   bool IsIn(PeopleList list) const { return list == PeopleList::Own ? OnOwn : OnMarket; }
 };
@@ -33,7 +34,9 @@ template <class Person, std::size_t N>
 std::vector<ui::Column> ColumnsIn(PeopleList list, const PersonColumn<Person> (&table)[N]) {
   std::vector<ui::Column> columns;
   for (const PersonColumn<Person>& column : table)
-    if (column.IsIn(list)) columns.push_back({column.Title, column.Kind, 0, column.Tip});
+    if (column.IsIn(list))
+      columns.push_back(
+          {.Title = column.Title, .Kind = column.Kind, .Tip = column.Tip, .Short = column.Short});
   return columns;
 }
 
@@ -116,23 +119,23 @@ ui::Cell Weeks(const World& world, const Worker& worker) {
 // A position goes by its number as a date does: from the first up, words at the left.
 constexpr PersonColumn<Worker> kWorkers[] = {
     {"Name", K::Text, "", true, true, Name},
-    {"Emp.", K::Tag, "Employer.", false, true, Employer},
-    {"Position", K::Date, "", true, true, Position},
-    {"Disposition", K::Tag, "Face, Heel or Tweener.", true, true, Disposition},
     {"Over", K::Number, "Popularity.", true, true, Points<&Worker::Over>},
+    {kWorksFor, K::Tag, "Employer.", false, true, Employer},
+    {"Position", K::Date, "", true, true, Position},
+    {"Disposition", K::Tag, "Face, Heel or Tweener.", true, true, Disposition, "Disp."},
     {"Condition", K::Percent, "Or why they cannot work.", true, false, Condition},
     {"Morale", K::Percent, "", true, false, Points<&Worker::Morale>},
     {"Months", K::Number, "Months left of the contract.", true, true, Months},
     {"Wage", K::Number, "Dollars a month.", true, true, Wage},
     {"Age", K::Number, "", true, true, Age},
     {"Morale", K::Number, "", false, true, Points<&Worker::Morale>},
-    {"Status", K::Text, "Empty for who is available.", false, true, Status},
-    {"Split", K::Text, "Part of a split roster.", true, false, Split},
     {"Brawl", K::Number, "", true, true, Points<&Worker::Brawl>},
     {"Tech.", K::Number, "Technical skill.", true, true, Points<&Worker::Technical>},
     {"Speed", K::Number, "", true, true, Points<&Worker::Speed>},
     {"Char.", K::Number, "Charisma.", true, true, Points<&Worker::Charisma>},
     {"Contract", K::Tag, "", true, true, Contract},
+    {"Split", K::Text, "Part of a split roster.", true, false, Split},
+    {"Status", K::Text, "Empty for who is available.", false, true, Status},
     {"Sex", K::Text, "", true, true, Sex},
     {"Turned", K::Number, "Weeks since the last turn; gold where a turn is being prepared.", true,
      true, Weeks},
@@ -155,15 +158,15 @@ ui::Cell StaffContract(const World&, const Staff& staff) {
 constexpr PersonColumn<Staff> kStaff[] = {
     {"Name", K::Text, "", true, true, Name},
     {"Post", K::Date, "", true, true, Post},
-    {"Emp.", K::Tag, "Employer.", false, true, Employer},
-    {"Age", K::Number, "", true, true, Age},
-    {"Sex", K::Text, "", true, true, Sex},
+    {kWorksFor, K::Tag, "Employer.", false, true, Employer},
     {"Talent", K::Number, "", true, true, Points<&Staff::Talent>},
+    {"Wage", K::Number, "Dollars a month.", true, true, StaffWage},
+    {"Months", K::Number, "Months left of the contract.", true, true, Months},
+    {"Contract", K::Tag, "", true, true, StaffContract},
     {"Morale", K::Number, "", true, true, Points<&Staff::Morale>},
     {"Loyalty", K::Number, "", true, true, Points<&Staff::Loyalty>},
-    {"Wage", K::Number, "Dollars a month.", true, true, StaffWage},
-    {"Contract", K::Tag, "", true, true, StaffContract},
-    {"Months", K::Number, "Months left of the contract.", true, true, Months},
+    {"Age", K::Number, "", true, true, Age},
+    {"Sex", K::Text, "", true, true, Sex},
 };
 
 }  // namespace

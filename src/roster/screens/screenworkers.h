@@ -12,6 +12,9 @@ namespace grapplemont {
 /// Whose list it is: only the market's has employers to show.
 enum class PeopleList { Own, Market };
 
+/// The heading above employers.
+inline constexpr const char* kWorksFor = "Works for";
+
 std::vector<ui::Column> WorkerColumns(PeopleList list);
 /// How workers stand in these columns, by their uids. Holds on to the world.
 ui::ListBox::CellMaker WorkerCells(const World& world, PeopleList list);

@@ -11,6 +11,8 @@ namespace grapplemont {
 
 namespace {
 
+using K = ui::ColumnKind;
+
 constexpr std::size_t kLongestName = 40;
 
 std::string_view KindOf(const Moment& moment) {
@@ -38,18 +40,17 @@ class frmMornings : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return PageOf(ui::Rows({ui::Grow(lstmornings), lblkept}), &lblfacts,
+    return PageOf(ui::Group("", {ui::Grow(lstmornings), lblkept}), &lblfacts,
                   {&cmdundo, &cmdredo, &cmdname}, &cmdgo);
   }
 
   void Return() override {
     past_ = PastMoments(game_);
-    lstmornings.Clear();
-    for (std::size_t i = 0; i < past_.size(); ++i) Add(past_[i], static_cast<int>(i) + 1);
+    const CellColumns<PastMoment> columns = Table();
+    lstmornings.SetColumns(HeadingsOf(columns));
+    FillPlaces(lstmornings, columns, past_);
     const std::string why = WhyNoWayBack(game_);
-    lblfacts.Text = why.empty() ? "Choose where to go back to. What you leave is kept, and you can "
-                                  "return to it."
-                                : why;
+    lblfacts.Text = why.empty() ? "Choose where to go back to. What you leave is kept." : why;
     EnableUnless(cmdname, why);
     ShowClick(cmdundo, "Undo", desk().Undo, "Nothing was done today that can be taken back.");
     ShowClick(cmdredo, "Redo", desk().Redo, "Nothing was taken back.");
@@ -57,13 +58,26 @@ class frmMornings : public GameScreen {
   }
 
  private:
-  void Add(const PastMoment& past, int key) {
-    const int day = static_cast<int>((past.Of.On - kDayZero).count());
-    lstmornings.Add({ui::Cell(day, LongDate(past.Of.On)), ui::Cell(std::string(KindOf(past.Of))),
-                     past.Of.Is == MomentKind::Named ? past.Of.Name : std::string(),
-                     std::string(past.OnOtherRoad ? "another" : "this"), ui::Cell(past.Image),
-                     SinceText(game_, past)},
-                    key);
+  /// Names and roads have their columns once there are any.
+  CellColumns<PastMoment> Table() {
+    CellColumns<PastMoment> columns = {
+        {{"Day", K::Date}, [](const PastMoment& past) { return DayCell(past.Of.On); }},
+        {{.Title = "What has happened since", .Width = 4},
+         [this](const PastMoment& past) { return SinceText(game_, past); }},
+        {{"Image", K::Percent}, [](const PastMoment& past) { return ui::Cell(past.Image); }},
+        {{"Kind", K::Tag}, [](const PastMoment& past) { return std::string(KindOf(past.Of)); }}};
+    const auto isNamed = [](const PastMoment& past) { return past.Of.Is == MomentKind::Named; };
+    if (std::ranges::any_of(past_, isNamed))
+      columns.push_back({{"Name"}, [isNamed](const PastMoment& past) {
+                           return isNamed(past) ? past.Of.Name : std::string();
+                         }});
+    if (std::ranges::any_of(past_, &PastMoment::OnOtherRoad))
+      columns.push_back(
+          {{"Road", K::Tag, 0, "Another does not lead to today: you left it for another day."},
+           [](const PastMoment& past) {
+             return std::string(past.OnOtherRoad ? "Another road" : "This road");
+           }});
+    return columns;
   }
 
   static void ShowClick(ui::Button& button, const std::string& caption,
@@ -114,20 +128,13 @@ class frmMornings : public GameScreen {
                                ui::Default::No);
   }
 
-  using K = ui::ColumnKind;
   std::vector<PastMoment> past_;
   ui::Label lblfacts{*this, "lblfacts"};
-  ui::ListBox lstmornings{
-      *this,
-      "lstmornings",
-      {{"Day", K::Number},
-       {"Kind", K::Tag},
-       {"Name"},
-       {"Road", K::Tag, 0, "Another does not lead to today: you left it for another day."},
-       {"Image", K::Percent},
-       {.Title = "What has happened since", .Width = 4}},
-      &frmMornings::lstmornings_Click,
-      &frmMornings::cmdgo_Click};
+  ui::ListBox lstmornings{*this,
+                          "lstmornings",
+                          {{"Day", K::Date}},
+                          &frmMornings::lstmornings_Click,
+                          &frmMornings::cmdgo_Click};
   ui::Label lblkept{*this, "lblkept"};
   ui::Button cmdundo{*this, "cmdundo", "Undo", [this] { desk().Take(desk().Undo); }};
   ui::Button cmdredo{*this, "cmdredo", "Redo", [this] { desk().Take(desk().Redo); }};

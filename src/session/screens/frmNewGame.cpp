@@ -59,7 +59,7 @@ class frmNewGame : public GameScreen {
                             {lblstory,
                              ui::Columns({ui::Field("Size", lblsize), ui::Field("Image", lblimage),
                                           ui::Field("Money", lblmoney)}),
-                             ui::Field("Owner", lblowner), ui::Field("Chair", lblchair)}),
+                             ui::Field("Owner", lblowner), ui::Field("This job", lblchair)}),
                   ui::Tabs({ui::Group("Roster", {ui::Grow(lstroster)}),
                             ui::Group("Television", {ui::Grow(lstshows)}),
                             ui::Group("Titles", {ui::Grow(lstbelts)}),
@@ -228,7 +228,7 @@ class frmNewGame : public GameScreen {
                          {"Image", K::Percent},
                          {"Money", K::Number},
                          {"Strength", K::Number, 0, "The mean Over of the ten best who wrestle."},
-                         {"Chair", K::Number, 0, kWhatBurdensAChair}},
+                         {"Job", K::Number, 0, kWhatBurdensAChair}},
                         &frmNewGame::lstpromos_Click};
   ui::Label lblstory{*this, "lblstory"};
   ui::Label lblchair{*this, "lblchair"};

@@ -365,6 +365,7 @@ class frmPostShow : public GameScreen {
     for (const RecapLine& line : recap.Lines)
       lstrecap.Add({ui::Cell(line.Number), line.What,
                     ui::Cell(line.Rating, std::to_string(line.Rating) + "%")});
+    lstsum.Room = lstsum.Least = static_cast<int>(recap.Sum.size());  // the last row is the answer
     for (const ScoreStep& step : recap.Sum)
       lstsum.Add({step.Why, ui::Cell(static_cast<int>(step.Change))});
     ShowRatings(world(), chtshow);

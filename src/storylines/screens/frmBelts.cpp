@@ -56,20 +56,34 @@ class frmReigns : public GameScreen {
   }
 
   static ui::Cell CountCell(int number) {
-    return number < 0 ? ui::Cell(-1.0, std::string()) : ui::Cell(number);
+    return number < 0 ? ui::Cell(-1.0, "-", ui::Tone::Muted) : ui::Cell(number);
   }
 
   static ui::Cell EndCell(const TitleReign& reign) {
     constexpr const char* kEnds[] = {"Lasts", "Lost", "Vacated", "Dissolved"};
     const int end = reign.End;
     if (end < kReignLasts || end > kReignDissolved) return {""};
+    if (end == kReignLasts && IsVacancy(reign)) return {"Vacant now", ui::Tone::Muted};
     const bool says = end == kReignLasts || end == kReignDissolved || !IsVacancy(reign);
     return {says ? kEnds[end] : "", end == kReignLasts ? ui::Tone::Gold : ui::Tone::Plain};
   }
 
+  const Lineage& Chosen() const {
+    return lineages_[static_cast<std::size_t>(cmbtitle.Selected() - 1)];
+  }
+
+  /// Nothing where nobody knows how long any of the champion's reigns lasted.
+  ui::Cell DaysCell(const ChampionTotal& total) {
+    const auto reigns = ReignsOf(world(), Chosen());
+    const bool isKnown = std::ranges::any_of(reigns, [&](const TitleReign* reign) {
+      return reign->Holder == total.Name && DaysOf(*reign, world().Today()) >= 0;
+    });
+    return CountCell(isKnown ? total.Days : -1);
+  }
+
   void ShowReigns() {
     if (cmbtitle.Selected() != 0) {
-      const Lineage& lineage = lineages_[static_cast<std::size_t>(cmbtitle.Selected() - 1)];
+      const Lineage& lineage = Chosen();
       FillTable(lstreigns, reigns_, ReignsOf(world(), lineage),
                 [&](const TitleReign& reign) { return world().Reigns().NumberOf(reign); });
       FillPlaces(lsttotals, totals_, TotalsOf(world(), lineage));
@@ -80,7 +94,7 @@ class frmReigns : public GameScreen {
   }
 
   void cmdchronicle_Click() {
-    const Lineage& lineage = lineages_[static_cast<std::size_t>(cmbtitle.Selected() - 1)];
+    const Lineage& lineage = Chosen();
     game_.OpenChapter("Titles", lineage.Owner, lineage.Title);
   }
 
@@ -112,7 +126,7 @@ class frmReigns : public GameScreen {
       {{"Champion", K::Text, 4}, [](const ChampionTotal& total) { return total.Name; }},
       {{"Reigns", K::Number}, [](const ChampionTotal& total) { return ui::Cell(total.Reigns); }},
       {{"Days", K::Number, 0, "Of the reigns whose length is known."},
-       [](const ChampionTotal& total) { return ui::Cell(total.Days); }},
+       [this](const ChampionTotal& total) { return DaysCell(total); }},
       {{"Defences", K::Number},
        [](const ChampionTotal& total) { return CountCell(total.Defences); }}};
   ui::ListBox lstreigns{*this, "lstreigns", HeadingsOf(reigns_)};
@@ -183,10 +197,10 @@ class frmBelts : public GameScreen {
   /// Of the world's Titles one wants to know whose they are; since when they are held, the history
   /// says.
   CellColumns<grapplemont::Title> Table() {
-    constexpr std::size_t kSince = 3;
+    constexpr std::size_t kSince = 2;
     CellColumns<grapplemont::Title> columns = TitleTable(world());
     if (cmbwhose.Key() == kEverybodys)
-      columns[kSince] = {{"Of"}, [this](const auto& title) { return OwnerCell(title); }};
+      columns[kSince] = {{"Promotion"}, [this](const auto& title) { return OwnerCell(title); }};
     return columns;
   }
 

@@ -33,8 +33,9 @@ class frmFeudStart : public GameScreen {
     std::vector<ui::Box> heads;
     for (int head = 1; head <= kHeads; ++head)
       heads.push_back(ui::Rows({lblheads(head), ui::Grow(lstwres(head))}).Grow());
-    return PageOf(ui::Rows({ui::Columns({chksingles, lblwarning, ui::Spacer()}),
-                            ui::Group("", {ui::Columns(std::move(heads)).Grow()}).Grow()}),
+    // The box goes last: in a small window the lists want the room.
+    return PageOf(ui::Group("", {ui::Columns(std::move(heads)).Grow(),
+                                 ui::Columns({chksingles, lblwarning, ui::Spacer()})}),
                   &lblheat, {}, &cmdstart);
   }
 

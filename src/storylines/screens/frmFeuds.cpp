@@ -68,7 +68,8 @@ class frmFeudStat : public GameScreen {
     const FeudScore score = FeudWins(feud);
     one_.Show(SideName(world(), sides.One), feud, &Counter::One, score.One);
     two_.Show(SideName(world(), sides.Two), feud, &Counter::Two, score.Two);
-    lblfacts.Text = one_.Name.Text.Get() + " vs " + two_.Name.Text.Get();
+    Title = one_.Name.Text.Get() + " vs " + two_.Name.Text.Get();
+    lblfacts.Text = "How the feud stands.";
     txtheat.Text = std::to_string(feud.Heat) + "%";
     txtstarted.Text = PlainDate(feud.Started);
   }
@@ -186,6 +187,14 @@ class frmFeuds : public GameScreen {
     return IsFreeSlot(feud) ? ui::Cell("") : ui::Cell(static_cast<int>(count));
   }
 
+  /// "4 : 2", by how far the first side is ahead; nothing for an empty slot.
+  static ui::Cell ScoreCell(const Feud& feud) {
+    if (IsFreeSlot(feud)) return {0.0, ""};
+    const FeudScore score = FeudWins(feud);
+    return {1.0 * (score.One - score.Two),
+            std::to_string(score.One) + " : " + std::to_string(score.Two)};
+  }
+
   void lstfeuds_Click() {
     const Feud feud = FeudOf(lstfeuds.Key());
     const bool taken = !IsFreeSlot(feud);
@@ -195,8 +204,8 @@ class frmFeuds : public GameScreen {
     ShowPeople(feud);
     txtmaeve.Write({{ui::Report::Style::Muted,
                      taken ? "Ask her where this feud should go."
-                           : "Of a feud that runs she tells where it should go. Start one, or "
-                             "choose one, and ask her."}});
+                           : "She says where a running feud should go. Start one, or choose one, "
+                             "and ask her."}});
   }
 
   void ShowScore(const Feud& feud) {
@@ -266,10 +275,9 @@ class frmFeuds : public GameScreen {
        [this](const Feud& feud) {
          return CountCell(feud, (world().Today() - Day(feud.Started)).count());
        }},
-      {{"Wins 1", K::Number, 1, "Wins and attacks of the side named first."},
-       [](const Feud& feud) { return CountCell(feud, FeudWins(feud).One); }},
-      {{"Wins 2", K::Number, 1, "Wins and attacks of the other side."},
-       [](const Feud& feud) { return CountCell(feud, FeudWins(feud).Two); }}};
+      {{"Score", K::Number, 1,
+        "Wins and attacks of the side named first, and of the other: sorted by who is ahead."},
+       ScoreCell}};
   ui::ListBox lstfeuds{*this, "lstfeuds", HeadingsOf(feuds_), &frmFeuds::lstfeuds_Click,
                        &frmFeuds::lstfeuds_DblClick};
   FeudSides sides_;  // of the selected feud

@@ -293,7 +293,8 @@ class frmStables : public GameScreen {
        }}};
   const CellColumns<Worker> members_ =
       PeopleTable({{{"", K::Tag, 2}, [this](const Worker& worker) { return RoleCell(worker); }}});
-  const CellColumns<Worker> others_ = PeopleTable({{{"In", K::Text, 2}, InCell}});
+  const CellColumns<Worker> others_ =
+      PeopleTable({{{"Stable", K::Text, 2, "Where somebody is in one already."}, InCell}});
   ui::ListBox lststables{*this, "lststables", HeadingsOf(stables_), &frmStables::lststables_Click};
   ui::TextBox txtname{*this, "txtname"};
   ui::Button cmdcreate{*this, "cmdcreate", "Found A Stable", &frmStables::cmdcreate_Click};

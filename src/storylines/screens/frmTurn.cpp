@@ -23,15 +23,16 @@ class frmManagers : public GameScreen {
     lstclients.EmptyText = "Nobody wrestles for you yet.";
     lstmanagers.EmptyText = "You have no manager. Hire one, or make one of a worker.";
     lsthis.EmptyText = "No client yet. Choose a wrestler, then give this manager.";
+    BackBefore(cmdgive);
   }
 
   ui::Page Layout() override {
     return PageOf(
         ui::Columns({ui::Group("Your wrestlers", {ui::Grow(lstclients), cmdtake}).Grow(3),
-                     ui::Rows({ui::Group("Your managers", {ui::Grow(lstmanagers), cmdgive}).Grow(3),
+                     ui::Rows({ui::Group("Your managers", {ui::Grow(lstmanagers)}).Grow(3),
                                ui::Group("Clients of this manager", {ui::Grow(lsthis)}).Grow(2)})
                          .Grow(3)}),
-        &lblfacts);
+        &lblfacts, {}, &cmdgive);
   }
 
   void Load() override {
@@ -118,12 +119,13 @@ class frmTurn : public GameScreen {
   explicit frmTurn(Game& game) : GameScreen(game, "frmTurn", "Turns") {
     lstwres.EmptyText = "Nobody works for you yet.";
     lstwres.Acts = {{&cmdturn}};
+    BackBefore(cmdturn);
   }
 
   ui::Page Layout() override {
     return PageOf(ui::Columns({ui::Group("", {ui::Grow(lstwres)}).Grow(3),
-                               ui::Group("The turn", {ui::Grow(txtturn), cmdturn}).Grow(2)}),
-                  &lblfacts);
+                               ui::Group("The turn", {ui::Grow(txtturn)}).Grow(2)}),
+                  &lblfacts, {}, &cmdturn);
   }
 
   void Load() override {

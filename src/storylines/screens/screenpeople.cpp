@@ -13,6 +13,8 @@ namespace {
 
 using K = ui::ColumnKind;
 
+constexpr std::size_t kDayAndMonthLetters = 6, kYearLetters = 5;  // "09 Mar", " 2026"
+
 ui::Cell ChampionCell(const World& world, const Title& title) {
   return {ChampionText(world, title), title.Holder == 0 ? ui::Tone::Muted : ui::Tone::Plain};
 }
@@ -44,8 +46,22 @@ ui::Cell StatusCell(const Worker& worker) {
   return {StatusLine(worker), ui::Tone::Red};
 }
 
+std::string BriefDate(Day day) {
+  const std::string plain = PlainDate(day);
+  return plain.substr(0, kDayAndMonthLetters) + plain.substr(plain.size() - kYearLetters);
+}
+
+std::vector<std::string> DayCaptions(const std::vector<Day>& days) {
+  constexpr auto kWithoutYear = std::chrono::days{300};
+  const bool isLong = !days.empty() && days.back() - days.front() > kWithoutYear;
+  std::vector<std::string> captions;
+  for (const Day day : days)
+    captions.push_back(BriefDate(day).substr(0, isLong ? std::string::npos : kDayAndMonthLetters));
+  return captions;
+}
+
 ui::Cell DayCell(Day day) {
-  return {static_cast<double>((day - kDayZero).count()), PlainDate(day)};
+  return {static_cast<double>((day - kDayZero).count()), BriefDate(day)};
 }
 
 ui::Cell DateCell(Day day, const char* unknown) {
@@ -55,9 +71,14 @@ ui::Cell DateCell(Day day, const char* unknown) {
 CellColumns<Worker> PeopleTable(CellColumns<Worker> more) {
   CellColumns<Worker> columns = {
       {{"Name", K::Text, 4}, [](const Worker& worker) { return worker.Name.View(); }},
-      {{"Disposition", K::Tag, 2}, DispositionCell},
       {{"Over", K::Number, 1, "Popularity."},
-       [](const Worker& worker) { return ui::Cell(worker.Over); }}};
+       [](const Worker& worker) { return ui::Cell(worker.Over); }},
+      {{.Title = "Disposition",
+        .Kind = K::Tag,
+        .Width = 2,
+        .Tip = "Face, Heel or Tweener.",
+        .Short = "Disp."},
+       DispositionCell}};
   std::move(more.begin(), more.end(), std::back_inserter(columns));
   return columns;
 }
@@ -125,7 +146,6 @@ CellColumns<Title> TitleTable(const World& world) {
   const ui::Column name{.Title = "Title",
                         .Draws = [&world](int number) { return PlateAt(world, number); }};
   return {{name, [](const Title& title) { return title.Name.View(); }},
-          {{"Kind", K::Tag}, KindText},
           {{"Holder"}, [&](const Title& title) { return ChampionCell(world, title); }},
           {{"Since", K::Date},
            [](const Title& title) {
@@ -137,6 +157,7 @@ CellColumns<Title> TitleTable(const World& world) {
             .Tip = "How much the fans make of it.",
             .Term = "Title image"},
            [](const Title& title) { return ui::Cell(title.Image); }},
+          {{"Kind", K::Tag}, KindText},
           {{"State", K::Tag, 0, "Suspended, or what keeps its holder from defending it."},
            [&](const Title& title) { return StandingCell(world, title); }}};
 }

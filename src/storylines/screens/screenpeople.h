@@ -73,12 +73,17 @@ ui::Cell DispositionCell(const Worker& worker);
 /// Nothing for somebody who is fit, else why they are not, in red.
 ui::Cell StatusCell(const Worker& worker);
 
-/// Name, disposition and Over; then `more`.
+/// Name, Over and disposition; then `more`.
 CellColumns<Worker> PeopleTable(CellColumns<Worker> more = {});
 /// The table and the row of these three alone.
 std::vector<ui::Column> ShortColumns();
 std::vector<ui::Cell> ShortRow(const Worker& worker);
 void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people);
+/// "09 Mar 2026".
+std::string BriefDate(Day day);
+/// What stands below a chart's days, in their order: "09 Mar", with the year where a day and a
+/// month could come twice.
+std::vector<std::string> DayCaptions(const std::vector<Day>& days);
 /// A day, sorted by its date.
 ui::Cell DayCell(Day day);
 /// The same of a Title's past, where a day may be unknown.
@@ -102,7 +107,7 @@ void EnableUnless(Controls controls, const std::string& why);
 
 // How Titles stand in tables.
 
-/// Name, kind, holder, since when, image, and whether it can be fought for. Holds on to the world.
+/// Name, holder, since when, image, kind, and whether it can be fought for. Holds on to the world.
 CellColumns<Title> TitleTable(const World& world);
 
 /// Who held a Title, from when to when.
