@@ -157,6 +157,13 @@ void Archive::PairFeuds() {
   }
 }
 
+bool Archive::Lasts(const TitleReign& reign) const {
+  return reign.End == kReignLasts && std::ranges::any_of(world_.Titles(), [&](auto& title) {
+           return title.Owner == reign.Owner && title.Name == reign.Title &&
+                  title.Holder == reign.Worker && title.Partner == reign.Partner;
+         });
+}
+
 const CrownLine* Archive::LineOf(int owner, const std::string& title) const {
   const auto found = lines_.find({owner, title});
   return found == lines_.end() ? nullptr : &found->second;

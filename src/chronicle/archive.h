@@ -78,6 +78,8 @@ class Archive {
     return At(history_, promotion);
   }
   const CrownLine* LineOf(int owner, const std::string& title) const;
+  /// By the Title itself: the reigns are brought up to it at the end of a day.
+  bool Lasts(const TitleReign& reign) const;
   /// Of all Titles, in the order of owners and names.
   const std::map<std::pair<int, std::string>, CrownLine>& Lines() const { return lines_; }
   const std::vector<FeudPast>& Feuds() const { return feuds_; }

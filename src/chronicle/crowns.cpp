@@ -72,7 +72,7 @@ class CrownStory {
         made.By = {ProofBy(world_, *event)};
         scribe_.Tell(made);
       }
-    if (!held_.empty() && held_.back().Reign().End == kReignLasts)
+    if (!held_.empty() && archive_.Lasts(held_.back().Reign()))
       TellReign(scribe_, archive_, held_.back());
   }
 
@@ -110,7 +110,7 @@ class CrownStory {
   /// The one that lasts has been told.
   void TellEach(const Reigns& reigns) {
     for (const HeldCrown& held : reigns)
-      if (held.Reign().End != kReignLasts) TellReign(scribe_, archive_, held);
+      if (!archive_.Lasts(held.Reign())) TellReign(scribe_, archive_, held);
   }
 
   void TellYear(int year, const Reigns& reigns) {

@@ -122,7 +122,7 @@ class HouseStory {
           title.Owner == uid_ ? archive_.LineOf(uid_, title.Name.Str()) : nullptr;
       if (!line || line->Reigns.empty()) continue;
       const HeldCrown last{line, line->Reigns.size() - 1};
-      if (last.Reign().End == kReignLasts && !IsVacancy(last.Reign()))
+      if (archive_.Lasts(last.Reign()) && !IsVacancy(last.Reign()))
         TellReign(scribe_, archive_, last);
     }
   }

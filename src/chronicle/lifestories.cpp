@@ -145,8 +145,9 @@ class Life {
     Telling telling = Of(Tells::Record);
     telling.House = archive_.HouseName(tally.Promotion);
     telling.Count = CountText(matches) + (matches == 1 ? " match" : " matches");
-    telling.Tally = CountText(tally.Won) + " won, " + CountText(tally.Lost) + " lost";
-    if (tally.Drawn > 0) telling.Tally += ", " + CountText(tally.Drawn) + " drawn";
+    const auto text = [](int count) { return count == 0 ? std::string("none") : CountText(count); };
+    telling.Tally = text(tally.Won) + " won, " + text(tally.Lost) + " lost";
+    if (tally.Drawn > 0) telling.Tally += ", " + text(tally.Drawn) + " drawn";
     telling.By = {ProofBy(world_, tally)};
     scribe_.Tell(telling);
   }

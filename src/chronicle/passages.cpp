@@ -54,7 +54,7 @@ void TellReign(Scribe& scribe, const Archive& archive, const HeldCrown& held) {
   if (knowsBegin) telling.On = reign.From;
   telling.Count = DaysText(days);
   telling.Runs = days > kAMonth;
-  if (reign.End == kReignLasts) {
+  if (archive.Lasts(reign)) {
     telling.Of = knowsBegin ? Tells::CrownOn : Tells::CrownBefore;
     return scribe.Tell(telling);
   }

@@ -80,16 +80,29 @@ std::string Scribe::WhenText(const Telling& telling) {
 }
 
 std::string Scribe::Again(const Telling& telling, std::string line) {
-  const bool isClear = telling.S.Name.empty() || telling.S.Name != lastS_;
-  const bool again = IsOneOf(telling.F) && telling.F.Name == lastF_ && isClear;
-  lastF_ = telling.F.Name;
-  lastS_ = telling.S.Name;
+  const std::string& name = telling.F.Name;
+  const bool goesOn = !chapter_.Paragraphs.empty() && !chapter_.Paragraphs.back().empty();
+  const bool again = goesOn && IsOneOf(telling.F) && (name == alone_ || name == next_);
   saidHe_ = again && !saidHe_ && line.starts_with("{F} ");
   if (saidHe_) line.replace(0, 3, "{F:he}");
   return line;
 }
 
+bool Scribe::LeavesItToThis(const Telling& telling) {
+  const bool follows = telling.Of == Tells::CrownWon && !next_.empty() && telling.F.Name == next_ &&
+                       telling.Title == title_;
+  if (!follows) return false;
+  const auto last = std::ranges::find_if(chapter_.Paragraphs.rbegin(), chapter_.Paragraphs.rend(),
+                                         [](const auto& paragraph) { return !paragraph.empty(); });
+  std::string& words = last->back().Words;
+  words.resize(nextsFrom_);
+  while (words.ends_with(' ')) words.pop_back();
+  next_.clear();
+  return true;
+}
+
 void Scribe::Tell(const Telling& telling) {
+  if (LeavesItToThis(telling)) alone_.clear();
   Cast('F', telling.F);
   Cast('S', telling.S);
   Cast('X', telling.X);
@@ -107,6 +120,10 @@ void Scribe::Tell(const Telling& telling) {
   Fill(cast_, Again(telling, std::string(Choose(telling.Of))), words, ends);
   while (words.ends_with(' ')) words.pop_back();
   if (words.empty()) return;
+  alone_ = telling.S.Name.empty() && telling.X.Name.empty() ? telling.F.Name : std::string();
+  next_ = ends.size() > 1 ? telling.X.Name : std::string();
+  nextsFrom_ = ends.size() > 1 ? ends[ends.size() - 2] : 0;
+  title_ = telling.Title;
   if (telling.Runs) last_.reset();
   if (chapter_.Paragraphs.empty()) chapter_.Paragraphs.emplace_back();
   chapter_.Paragraphs.back().push_back({std::move(words), telling.By});
@@ -116,7 +133,6 @@ void Scribe::Break() {
   if (chapter_.Paragraphs.empty() || chapter_.Paragraphs.back().empty()) return;
   chapter_.Paragraphs.emplace_back();
   last_.reset();
-  lastF_.clear();
 }
 
 void Scribe::BreakBefore(Day on) {

@@ -45,15 +45,20 @@ class Scribe {
   std::string_view Choose(Tells of);
   void Cast(char part, const Somebody& who);
   std::string WhenText(const Telling& telling);
-  /// The same one again may be a he or a she, unless the same other one was there as well.
+  /// Whoever was the only one of the sentence before, or its last, may be a he or a she.
   std::string Again(const Telling& telling, std::string line);
+  /// Takes back from the last sentence who came next, where this one tells of that; whether it did.
+  bool LeavesItToThis(const Telling& telling);
 
   const Archive& archive_;
   int voice_, seed_;
   grapplemont::Cast cast_;
   std::map<int, std::pair<std::vector<int>, int>> orders_;  // of lines by band, and how many said
   std::optional<Day> last_;
-  std::string lastF_, lastS_;
+  std::string alone_;          // who the sentence before was about, if nobody else was in it
+  std::string next_;           // who came next by it
+  std::string title_;          // of the Title that it was about
+  std::size_t nextsFrom_ = 0;  // where it said so
   bool saidHe_ = false;
   Chapter chapter_;
 };

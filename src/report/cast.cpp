@@ -90,6 +90,23 @@ std::string WithoutThe(std::string_view name) {
   return plain;
 }
 
+std::string InWords(int number) {
+  constexpr std::string_view kOnes[] = {"",        "one",     "two",       "three",    "four",
+                                        "five",    "six",     "seven",     "eight",    "nine",
+                                        "ten",     "eleven",  "twelve",    "thirteen", "fourteen",
+                                        "fifteen", "sixteen", "seventeen", "eighteen", "nineteen"};
+  constexpr std::string_view kTens[] = {"",      "",      "twenty",  "thirty", "forty",
+                                        "fifty", "sixty", "seventy", "eighty", "ninety"};
+  constexpr int kHundred = 100, kTen = 10;
+  const auto joined = [](std::string_view one, std::string_view by, int rest) {
+    return std::string(one) + (rest == 0 ? std::string() : std::string(by) + InWords(rest));
+  };
+  if (number >= kHundred)
+    return joined(std::string(kOnes[number / kHundred]) + " hundred", " and ", number % kHundred);
+  if (number < static_cast<int>(std::size(kOnes))) return std::string(kOnes[number]);
+  return joined(kTens[number / kTen], "-", number % kTen);
+}
+
 std::string TitleInProse(std::string_view name, bool singles) {
   const std::string plain = WithoutThe(name);
   if (plain.empty()) return {};
@@ -297,8 +314,18 @@ class Filler {
       out_ += cast_.NameOf(hole.Part, hole.Is);
     if (out_.ends_with('.')) namesStop_ = out_.size();
     lastWasName_ = hole.Is != Hole::Word && hole.Is != Hole::ThingWord;
-    if (BeginsSentence(at) && at < out_.size() && out_[at] >= 'a' && out_[at] <= 'z')
-      out_[at] = static_cast<char>(out_[at] - 32);
+    if (!BeginsSentence(at) || at >= out_.size()) return;
+    if (hole.Is == Hole::Thing && hole.Number == static_cast<int>(Item::Count)) SpellOut(at);
+    if (out_[at] >= 'a' && out_[at] <= 'z') out_[at] = static_cast<char>(out_[at] - 32);
+  }
+
+  /// No sentence begins with a figure.
+  void SpellOut(std::size_t at) {
+    constexpr std::size_t kMostDigits = 3;
+    std::size_t end = at;
+    while (end < out_.size() && out_[end] >= '0' && out_[end] <= '9') ++end;
+    if (end > at && end - at <= kMostDigits)
+      out_.replace(at, end - at, InWords(std::stoi(out_.substr(at, end - at))));
   }
 
   bool BeginsSentence(std::size_t at) const {

@@ -10,10 +10,8 @@ namespace grapplemont {
 
 namespace {
 
-constexpr int kMostFacts = 2;
+constexpr std::size_t kMostFacts = 2;
 
-constexpr std::string_view kCounts[] = {"no",    "one",   "two",  "three", "four",   "five",  "six",
-                                        "seven", "eight", "nine", "ten",   "eleven", "twelve"};
 constexpr std::string_view kNths[] = {"",      "first",    "second",  "third",  "fourth",
                                       "fifth", "sixth",    "seventh", "eighth", "ninth",
                                       "tenth", "eleventh", "twelfth"};
@@ -81,6 +79,12 @@ constexpr OutcomeRow kOutcomes[] = {
     {kTitleAgain, Who::Two, false, kSameAgain},
 };
 
+/// Two ends that would say the same of a match, or the opposite of it.
+bool SayTheSame(PastOutcome one, PastOutcome other) {
+  const auto isSettling = [](PastOutcome is) { return is == kSameAgain || is == kPaidBack; };
+  return one == other || (isSettling(one) && isSettling(other));
+}
+
 /// What another fact that is told says as well: who has lost the Title has not won it back since.
 bool IsToldBy(const PastFact& other, const PastFact& fact) {
   return fact.Is == kMetLately && other.Is == kTitleAgain && other.Two == fact.One;
@@ -113,7 +117,8 @@ PastFact AsEnded(const PastFact& fact, const OutcomeRow& row, const std::vector<
 }  // namespace
 
 std::string CountText(int count) {
-  return count >= 0 && count <= kWritten ? std::string(kCounts[count]) : std::to_string(count);
+  if (count == 0) return "no";
+  return count > 0 && count <= kWritten ? InWords(count) : std::to_string(count);
 }
 
 std::string NthText(int count) {
@@ -189,16 +194,20 @@ void TellPastEnding(Teller& teller) {
                            ? std::vector<int>{segment.Winner}
                            : WinnersOf(segment);
   const bool changed = ChangesHands(teller);
-  int said = 0;
+  std::vector<PastOutcome> said;
   for (const PastMark& mark : MarksOf(teller, winners, changed)) {
-    if (said++ == kMostFacts) return;
+    if (said.size() == kMostFacts) return;
     SayOf(teller, mark.Of, Family::PastEnding, mark.Tells);
+    said.push_back(mark.Tells);
   }
   for (const PastFact& fact : teller.Told) {
     const OutcomeRow* row = winners.empty() ? nullptr : OutcomeOf(fact, winners, changed);
-    if (!row || said == kMostFacts) continue;
+    if (!row || said.size() == kMostFacts) continue;
+    if (std::any_of(said.begin(), said.end(),
+                    [&](PastOutcome other) { return SayTheSame(row->Tells, other); }))
+      continue;
     SayOf(teller, AsEnded(fact, *row, winners), Family::PastEnding, row->Tells);
-    ++said;
+    said.push_back(row->Tells);
   }
 }
 

@@ -68,6 +68,7 @@ void SetTurn(Teller& teller) {
 
 std::string WriteReport(World& world, const Segment& segment, const Scene& scene,
                         LineMemory& memory, std::vector<SaidSentence>* sentences) {
+  memory.BeginSegment();
   Teller teller(world, segment, scene, memory);
   if (scene.Row == 1) TellYear(teller, Family::PastOpening, kYearRecalled);
   switch (segment.Kind) {
@@ -97,24 +98,26 @@ std::vector<Feud> FeudsAtTheBell(const World& world) {
 
 std::vector<std::size_t> LineMemory::Open(const void* band, std::vector<bool>& fits) {
   if (std::count(fits.begin(), fits.end(), true) == 0) fits.flip();
-  std::vector<bool>& used = used_[band];
-  used.resize(fits.size());
-  std::vector<std::size_t> open;
-  const auto look = [&] {
-    for (std::size_t line = 0; line < fits.size(); ++line)
-      if (fits[line] && !used[line]) open.push_back(line);
+  std::vector<Use>& uses = uses_[band];
+  uses.resize(fits.size());
+  const auto turn = [&](std::size_t line) {
+    const Use& use = uses[line];
+    return std::pair(use.Segment == segment_ ? use.At : 0, use.Times);
   };
-  look();
-  if (!open.empty()) return open;
-  for (std::size_t line = 0; line < fits.size(); ++line)
-    if (fits[line]) used[line] = false;
-  look();
-  if (open.size() > 1) std::erase(open, last_[band]);
+  std::vector<std::size_t> open;
+  for (std::size_t line = 0; line < fits.size(); ++line) {
+    if (!fits[line]) continue;
+    if (!open.empty() && turn(line) < turn(open.front())) open.clear();
+    if (open.empty() || turn(line) == turn(open.front())) open.push_back(line);
+  }
+  // A band that begins again does not begin with the line that ended it.
+  if (open.size() > 1 && uses[open.front()].Times > 0) std::erase(open, last_[band]);
   return open;
 }
 
 int LineMemory::Take(const void* band, std::size_t line) {
-  used_[band][line] = true;
+  Use& use = uses_[band][line];
+  use = {use.Times + 1, segment_, ++count_};
   last_[band] = line;
   return static_cast<int>(line);
 }
@@ -152,8 +155,8 @@ int LineMemory::PickAsWished(Draws& draws, const void* band, std::vector<bool> f
 }
 
 bool LineMemory::Used(const void* band, int line) const {
-  const auto found = used_.find(band);
-  return found != used_.end() && found->second[static_cast<std::size_t>(line)];
+  const auto found = uses_.find(band);
+  return found != uses_.end() && found->second[static_cast<std::size_t>(line)].Times > 0;
 }
 
 void TellInterview(Teller& teller) {

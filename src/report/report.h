@@ -55,19 +55,23 @@ struct SaidSentence {
 /// The feuds of now, for a Scene.
 std::vector<Feud> FeudsAtTheBell(const World& world);
 
-/// Which lines a show has used, so that none comes again before the others of its band have.
+/// Which lines a show has used, so that none comes again before the others of its band have, nor
+/// twice in a Segment while another would do.
 class LineMemory {
  public:
   LineMemory() = default;
   /// For what must read the same whenever it is told: no other show counts, and no later one knows.
   static LineMemory Apart() { return LineMemory(SaidLines(true)); }
 
-  /// A line of the band, from 0: the one that a draw of `lines` names, or, if the show has used it
-  /// already, one that a second draw picks among those it has not. Once all have been used, the
-  /// band begins again. `band` tells the bands apart. Requires at least one line.
+  /// What is picked from now on is said in another Segment.
+  void BeginSegment() { ++segment_; }
+  /// A line of the band, from 0: the one that a draw of `lines` names, or, if it is not its turn,
+  /// one that a second draw picks among those whose turn it is: the ones that the show has used
+  /// least, none that this Segment has said, and where it has said all, the one longest ago. `band`
+  /// tells the bands apart. Requires at least one line.
   /// The same among those that `fits` holds true, one for each line; among all where it holds none.
-  /// The band begins again only for lines that fit. `days` since shows said each of them; only the
-  /// longest unused are drawn among. Empty where nothing is remembered.
+  /// `days` since shows said each of them; only the longest unused are drawn among. Empty where
+  /// nothing is remembered.
   int Pick(Draws& draws, const void* band, std::vector<bool> fits, std::span<const int> days = {});
   int Pick(Draws& draws, const void* band, int lines, std::span<const int> days = {}) {
     return Pick(draws, band, std::vector<bool>(static_cast<std::size_t>(lines), true), days);
@@ -76,22 +80,25 @@ class LineMemory {
   /// longest, by `lengths`, one for each line. Requires `days`.
   int PickAsWished(Draws& draws, const void* band, std::vector<bool> fits,
                    std::span<const int> days, std::span<const int> lengths, LineWish wish);
-  /// Whether it was picked since the band last began. What a text says cannot tell: two bands may
-  /// use the same words.
+  /// Whether the show has said it. What a text says cannot tell: two bands may use the same words.
   bool Used(const void* band, int line) const;
   /// What the shows before have said.
   SaidLines& Said() { return said_; }
 
  private:
-  explicit LineMemory(const SaidLines& said) : said_(said) {}
-  /// Those that fit and that tonight's show has not used; where it has used them all, the band
-  /// begins again, but not with the one that ended it.
+  struct Use {
+    int Times = 0;
+    int Segment = 0, At = 0;  // of the last time, At counting all that was said
+  };
+  explicit LineMemory(SaidLines said) : said_(std::move(said)) {}
+  /// Those that fit and whose turn it is.
   std::vector<std::size_t> Open(const void* band, std::vector<bool>& fits);
   int Take(const void* band, std::size_t line);
 
   SaidLines said_;
-  std::unordered_map<const void*, std::vector<bool>> used_;
+  std::unordered_map<const void*, std::vector<Use>> uses_;
   std::unordered_map<const void*, std::size_t> last_;  // of each band
+  int segment_ = 0, count_ = 0;
 };
 
 /// The prose of a match, an interview or an angle, in paragraphs. Draws from World::Prose alone, so

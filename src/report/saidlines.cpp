@@ -38,11 +38,16 @@ int SaidLines::DaysSince(const World& world, std::int32_t key) const {
 }
 
 int SaidLines::Times(const World& world, std::int32_t key) const {
-  const int number = apart_ ? 0 : NumberOf(world, key);
+  if (apart_) {
+    const auto found = own_.find(key);
+    return found == own_.end() ? 0 : found->second;
+  }
+  const int number = NumberOf(world, key);
   return number == 0 ? 0 : int(world.Said()[number].Times);
 }
 
-void SaidLines::Say(World& world, std::int32_t key) const {
+void SaidLines::Say(World& world, std::int32_t key) {
+  if (apart_) ++own_[key];
   if (!world.HasGame() || apart_) return;
   if (const int number = NumberOf(world, key); number != 0) {
     SaidLine& line = world.Said().Change(number);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <unordered_map>
 
 #include "records/world.h"
 
@@ -17,7 +18,8 @@ std::int32_t SpeakerKey(std::int32_t line, int speaker);
 class SaidLines {
  public:
   SaidLines() = default;
-  /// Apart from the slot none is remembered and none noted.
+  /// Apart from the slot nothing is read of it and nothing noted there: only how often this one
+  /// has said a line counts.
   explicit SaidLines(bool apart) : apart_(apart) {}
   /// Days since a show said it; kNever for a line that none has.
   int DaysSince(const World& world, std::int32_t key) const;
@@ -25,10 +27,11 @@ class SaidLines {
   /// How often it has been said.
   int Times(const World& world, std::int32_t key) const;
   /// It has been said on today's show.
-  void Say(World& world, std::int32_t key) const;
+  void Say(World& world, std::int32_t key);
 
  private:
   bool apart_ = false;
+  std::unordered_map<std::int32_t, int> own_;  // times, where it is apart
 };
 
 }  // namespace grapplemont

@@ -9,6 +9,7 @@
 #include "records/modVar.h"
 #include "records/severing.h"
 #include "report/family.h"
+#include "report/teller.h"
 #include "rivals/grudges.h"
 #include "storylines/feuds.h"
 #include "storylines/lineages.h"
@@ -138,6 +139,88 @@ TEST_F(Chronicles, TellAReignByItsDaysItsLoserAndItsEnd) {
   const std::string crown = TextOf(Read(About::Title, "CWA Crown", kQvd));
   EXPECT_NE(crown.find("CWA Crown"), std::string::npos) << crown;
   EXPECT_TRUE(Says(crown, "twice")) << "who had it most often: " << crown;
+}
+
+/// "Drift came next. Drift took it": the sentence that tells of it is enough.
+TEST_F(Chronicles, TellOnceWhoCameNext) {
+  LiveAYear();
+  for (int voice = kLamplighter; voice <= kQvd; ++voice) {
+    std::string before;
+    int told = 0;
+    for (const auto& paragraph : Read(About::Title, "CWA Crown", voice).Paragraphs)
+      for (const ToldSentence& sentence : paragraph) {
+        const Proof& proof = sentence.By.front();
+        if (proof.Of == &LayoutOf<TitleReign>() &&
+            World_.Reigns()[proof.Number].Holder == "Cal Drift") {
+          EXPECT_EQ(before.find("Drift"), before.npos) << before;
+          ++told;
+        }
+        before = sentence.Words;
+      }
+    EXPECT_EQ(told, 1);
+  }
+}
+
+TEST_F(Chronicles, CallNobodyHeBehindSomebodyElse) {
+  for (int times = 0; times < 4; ++times) {
+    Pass(10);
+    CrownIs("Bram Okafor");
+    Pass(10);
+    CrownIs("Cal Drift");
+    Pass(10);
+    NoteDeed(World_, kDeedInjured, &World_.Player(), Named(World_.Workers(), "Bram Okafor"), "Knee",
+             2);
+  }
+  for (int voice = kLamplighter; voice <= kQvd; ++voice) {
+    std::string before;
+    for (const auto& paragraph : Read(About::Worker, "Bram Okafor", voice).Paragraphs)
+      for (const ToldSentence& sentence : paragraph) {
+        if (sentence.Words.starts_with("He ")) {
+          EXPECT_EQ(before.find("Drift"), before.npos) << before << " " << sentence.Words;
+        }
+        before = sentence.Words;
+      }
+  }
+}
+
+/// The reigns are brought up to the Titles at the end of the day.
+TEST_F(Chronicles, TellAReignAsOverFromTheDayOnWhichTheTitleIsVacant) {
+  Pass(10);
+  CrownIs("Bram Okafor");
+  Pass(47);
+  VacateTitle(World_, Named(World_.Titles(), "CWA Crown"));
+  for (int voice = kLamplighter; voice <= kQvd; ++voice) {
+    const Chapter chapter = Read(About::Title, "CWA Crown", voice);
+    EXPECT_TRUE(Says(TextOf(chapter), "47 days") || Says(TextOf(chapter), "forty-seven days"));
+    for (const ToldSentence& sentence : chapter.Paragraphs.front())
+      EXPECT_EQ(sentence.Words.find("Okafor"), std::string::npos) << sentence.Words;
+    const std::string house = TextOf(Read(About::Promotion, World_.Player().Name, voice));
+    EXPECT_EQ(house.find("Okafor"), std::string::npos) << house;
+  }
+}
+
+TEST_F(Chronicles, CountNoneAsNone) {
+  MatchTally tally;
+  tally.Promotion = World_.PlayerUid();
+  tally.Worker = Uid("Bram Okafor");
+  tally.Name = "Bram Okafor";
+  tally.Won = 9;
+  tally.Last = World_.Today();
+  World_.Tallies().Append(tally);
+  for (int voice = kLamplighter; voice <= kQvd; ++voice) {
+    const std::string text = TextOf(Read(About::Worker, "Bram Okafor", voice));
+    EXPECT_TRUE(Says(text, "nine won, none lost")) << text;
+  }
+}
+
+/// {when} is "in March 2031" and stands behind no other such word.
+TEST(ChapterWords, SayWhenWithOnePreposition) {
+  const BandRange& bands = RowOf(Family::Chapter).Bands;
+  for (int voice = kLamplighter; voice <= kQvd; ++voice)
+    for (int band = bands.First; band <= bands.Last; ++band)
+      for (const TaggedLine& line : ReadLinesOf(voice, Family::Chapter, band))
+        for (const char* word : {" of", " since", " until", " from", " by", " before", " after"})
+          EXPECT_EQ(line.Text.find(std::string(word) + " {when}"), std::string::npos) << line.Text;
 }
 
 TEST_F(Chronicles, TellOfFeudsHousesAndYears) {

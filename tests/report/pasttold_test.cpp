@@ -144,6 +144,20 @@ bool WasSaid(const LineMemory& memory, Family family, int band, int voice) {
   return false;
 }
 
+/// A debt that is paid is no score that has grown.
+TEST_P(Voices, SettleAMatchOneWay) {
+  World world = Two();
+  world.Game().Reporter = GetParam();
+  const Segment segment = AdaBeatsBo();
+  const Scene scene;
+  LineMemory memory;
+  Teller teller(world, segment, scene, memory);
+  teller.Told = {{kPartnerBeaten, 60, {1}, {2}, 0, 14}, {kMetLately, 50, {1}, {2}, 0, 20}};
+  TellPastEnding(teller);
+  EXPECT_TRUE(WasSaid(memory, Family::PastEnding, kPaidBack, GetParam()));
+  EXPECT_FALSE(WasSaid(memory, Family::PastEnding, kSameAgain, GetParam())) << teller.Text();
+}
+
 TEST_P(Voices, LookBackOnTheYearAtDecembersEvent) {
   for (const auto& [day, isEvent, overall] : {std::tuple("2026-12-20", true, 50),
                                               {"2026-12-20", true, 95},
@@ -239,6 +253,16 @@ TEST_P(Voices, GiveAMatchTheRoomThatItMatters) {
   EXPECT_GT(letters[2], letters[1] * 3 / 2);
   EXPECT_LT(letters[2], letters[1] * 4);
   EXPECT_LT(letters[1], letters[0] * 3 / 2);
+}
+
+/// What is told apart from the slot still says a line another way the second time.
+TEST(SaidLines, CountForThemselvesWhereTheyAreApart) {
+  World world = Two();
+  const std::int32_t key = LineKey(kQvd, "Cover.");
+  SaidLines apart(true);
+  apart.Say(world, key);
+  EXPECT_EQ(apart.Times(world, key), 1);
+  EXPECT_EQ(SaidLines().Times(world, key), 0) << "the slot does not know of it";
 }
 
 TEST(SaidLines, GiveTheLongestUnusedLineAndTheNextWayOfSayingIt) {

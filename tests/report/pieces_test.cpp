@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "records/segments.h"
+#include "report/cast.h"
 #include "report/report.h"
 #include "report/teller.h"
 #include "support/scripteddraws.h"
@@ -109,6 +110,19 @@ TEST(Verdict, IsTheSecondVoicesOnMatchesByTheBandOfTheRating) {
   }
 }
 
+TEST(Lines, BeginNoSentenceWithAFigure) {
+  Cast cast;
+  std::string text;
+  std::vector<std::size_t> ends;
+  for (const char* count : {"119 days", "47", "seven", "1231 days"}) {
+    cast.Set(Item::Count, count);
+    Fill(cast, "{count} went by. Then {count}. ", text, ends);
+  }
+  EXPECT_EQ(text,
+            "One hundred and nineteen days went by. Then 119 days. Forty-seven went by. Then 47. "
+            "Seven went by. Then seven. 1231 days went by. Then 1231 days. ");
+}
+
 TEST(LineMemory, GivesNoLineAgainBeforeTheOthersOfItsBand) {
   LineMemory memory;
   const int band = 0, other = 0;
@@ -124,12 +138,26 @@ TEST(LineMemory, TakesOfTheLinesThatFit) {
   LineMemory memory;
   const int band = 0;
   const std::vector<bool> lastTwo = {false, true, true};
-  ScriptedDraws draws{{3, 3}, {3, 3}, {1, 1}, {3, 2}, {1, 1}, {3, 2}, {3, 1}};
+  ScriptedDraws draws{{3, 3}, {3, 3}, {1, 1}, {3, 2}, {1, 1}, {3, 2}, {1, 1}};
   EXPECT_EQ(memory.Pick(draws, &band, lastTwo), 2);
   EXPECT_EQ(memory.Pick(draws, &band, lastTwo), 1);  // the only one left of those that fit
   EXPECT_EQ(memory.Pick(draws, &band, lastTwo), 2);  // both were used, this one not just now
-  EXPECT_EQ(memory.Pick(draws, &band, {false, false, false}), 1);  // none fits: all
-  EXPECT_EQ(memory.Pick(draws, &band, {true, true, true}), 0);
+  EXPECT_EQ(memory.Pick(draws, &band, {false, false, false}), 0);  // none fits: all
+}
+
+/// That a band has begun again for lines of one sort frees none that the match has heard.
+TEST(LineMemory, GivesNoLineTwiceInASegmentWhileAnotherWouldDo) {
+  LineMemory memory;
+  SeededDraws draws(1);
+  const int band = 0;
+  memory.BeginSegment();
+  EXPECT_EQ(memory.Pick(draws, &band, {false, true, false}), 1);
+  EXPECT_EQ(memory.Pick(draws, &band, {false, false, true}), 2);
+  memory.BeginSegment();
+  EXPECT_EQ(memory.Pick(draws, &band, {true, true, false}), 0);
+  EXPECT_EQ(memory.Pick(draws, &band, {true, true, false}), 1);
+  EXPECT_EQ(memory.Pick(draws, &band, {true, false, true}), 2);
+  EXPECT_EQ(memory.Pick(draws, &band, {true, true, true}), 0) << "all were said: the oldest";
 }
 
 }  // namespace

@@ -100,6 +100,8 @@ TEST(frmCards, ShowsTheCardOfARivalsShow) {
   EXPECT_NE(play.Desk.Text("txtcard").find("A television rating of 2. 05. 300 people"),
             std::string::npos)
       << play.Desk.Text("txtcard");
+  EXPECT_NE(play.Desk.Text("txtcard").find("The rest of the card"), std::string::npos)
+      << "the results stand apart from the report: " << play.Desk.Text("txtcard");
 }
 
 TEST(frmOtherFed, RemembersMonthsByTheName) {

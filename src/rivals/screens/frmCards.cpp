@@ -77,8 +77,9 @@ class frmCards : public GameScreen {
       words.push_back(
           {isMain ? Style::Strong : Style::Line,
            MatchLine(world(), **match) + ", " + std::to_string((*match)->Rating) + "%."});
-      if (isMain) TellMainEvent(words, **match);
-      if (isMain && show.Matches.size() > 1) words.push_back({Style::Strong, "Also on the card"});
+      if (!isMain) continue;
+      TellMainEvent(words, **match);
+      if (show.Matches.size() > 1) words.push_back({Style::Strong, "The rest of the card"});
     }
     txtcard.Write(std::move(words));
   }
