@@ -308,7 +308,7 @@ TEST(DamagedJournals, AreMendedWholeOrNotAtAll) {
     const Files before = FilesIn(disk, kStore);
     disk.Record();
     const Files mended = Opened(disk, chain.Options).World;
-    const int cuts = ForEveryCut(disk, 4, 172, [&](CutDisk& after, const Cut& at) {
+    const int cuts = ForEveryCut(disk, Often(4), 172, [&](CutDisk& after, const Cut& at) {
       ASSERT_EQ(mended, Opened(after, chain.Options).World) << at.Where;
       bool kept = false;
       for (const std::string& name : after.List("."))

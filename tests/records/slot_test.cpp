@@ -368,7 +368,7 @@ TEST(AHugeCommit, IsAllOrNothingToo) {
     slot.Commit(ChangesBetween(worlds[1], worlds[2]));
     disk.Shows(2);
   }
-  ForEveryCut(disk, 4, 96, [&](CutDisk& after, const Cut& cut) {
+  ForEveryCut(disk, Often(4), 96, [&](CutDisk& after, const Cut& cut) {
     const Slot slot(after, kStore, known, Damage::Refuse, options);
     bool found = false;
     for (int world = cut.Least; world <= cut.Most; ++world)

@@ -119,6 +119,7 @@ TEST(frmTakeover, MakesTheDealAndTheRivalIsGone) {
   EXPECT_FALSE(play.Desk.Enabled("cmdbuyout"));
   EXPECT_EQ(play.World().Player().Money, 0);
   EXPECT_EQ(Named(play.World().Workers(), "Champ").Employer, 0);
+  EXPECT_EQ(FaultsOf(play.World()), "") << "marked until the day ends";
   play.Desk.Click("cmdback");
   play.Desk.Click("cmdnext");
   EXPECT_EQ(play.World().Promotions().Count(), 1);

@@ -1,6 +1,9 @@
 #include "support/cutdisk.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
+#include <cstdlib>
 
 namespace grapplemont::test {
 
@@ -20,7 +23,28 @@ const char* ReasonOf(DiskFault fault) {
   return fault == DiskFault::NoSpace ? "No space left on device" : "Input/output error";
 }
 
+/// Adds to what the test that runs has come to. Nothing where none does.
+void Count(const char* what, int more) {
+  static std::map<std::string, int> sums;
+  static const testing::TestInfo* counted = nullptr;
+  const testing::TestInfo* const test = testing::UnitTest::GetInstance()->current_test_info();
+  if (!test) return;
+  if (std::exchange(counted, test) != test) sums.clear();
+  testing::Test::RecordProperty(what, sums[what] += more);
+}
+
 }  // namespace
+
+int Often(int usual) {
+  const char* const times = std::getenv("POWER_CUTS");
+  return usual * (times ? std::max(1, std::atoi(times)) : 1);
+}
+
+void NoteVariant(const std::string& wrong, int bad, int cuts) {
+  std::string key = "without " + wrong;
+  std::ranges::replace(key, ' ', '_');
+  testing::Test::RecordProperty(key, std::to_string(bad) + " of " + std::to_string(cuts));
+}
 
 void CutDisk::Record() {
   recording_ = true;
@@ -40,7 +64,10 @@ bool CutDisk::Counts(Need need) {
   ++calls_;
   if (failAt_ == 0 || calls_ < failAt_ || (calls_ > failAt_ && !failForGood_)) return false;
   if (fault_ == DiskFault::NoSpace && need == Need::Nothing) return false;
-  if (failedAt_ < 0) failedAt_ = static_cast<int>(moments_.size());
+  if (failedAt_ < 0) {
+    failedAt_ = static_cast<int>(moments_.size());
+    Count("failing_calls", 1);
+  }
   return true;
 }
 
@@ -287,6 +314,7 @@ int ForEveryCut(const CutDisk& disk, int each, std::uint64_t seed, const Check& 
       check(after, cut);
     }
   });
+  Count("cuts", cuts);
   return cuts;
 }
 
@@ -303,6 +331,7 @@ int ForSomeCuts(const CutDisk& disk, int count, std::uint64_t seed, const Check&
       check(after, cut);
     }
   });
+  Count("cuts", count);
   return count;
 }
 
@@ -313,6 +342,7 @@ int ForEveryDeath(const CutDisk& disk, const Check& check) {
     check(after, cut);
     ++deaths;
   });
+  Count("deaths", deaths);
   return deaths;
 }
 

@@ -29,10 +29,19 @@
 // `after` records too once told to, so cuts within a recovery are a ForEveryCut in the callback.
 // ForEveryDeath does the same with processes that are killed: what they wrote is seen, not synced.
 //
+// Each test's cuts, deaths and failing calls are counted, and stand in the report that
+// --gtest_output writes. POWER_CUTS=N makes N times as many where a test asks Often; scripts/cuts
+// makes very many.
+//
 // Faults: FailCall(n, ...) before the work; the n-th call from then on throws DiskError. Count the
 // calls of a run without faults first: `Calls()`.
 
 namespace grapplemont::test {
+
+/// N times the usual, as POWER_CUTS says: of stories and of cuts at a moment.
+int Often(int usual);
+/// What `wrong` is, one step of a protocol left out, and in how many of its cuts that was found.
+void NoteVariant(const std::string& wrong, int bad, int cuts);
 
 enum class DiskFault { NoSpace, Broken };
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <ranges>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,10 @@ namespace grapplemont::test {
 
 using Files = std::map<std::string, Bytes>;
 
+/// Seeds from one on, so many as usual or as POWER_CUTS says: each a story of its own.
+inline auto Seeds(std::uint64_t first, int usual) {
+  return std::views::iota(first, first + static_cast<std::uint64_t>(Often(usual)));
+}
 /// The files such a world may have.
 std::vector<KnownFile> StoreFiles();
 /// A world and what became of it: each differs from the one before by a few stretches, lengths, new

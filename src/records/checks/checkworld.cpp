@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "records/checks/checkrules.h"
+#include "records/severing.h"
 
 namespace grapplemont {
 
@@ -88,9 +89,25 @@ std::string OwnName(const Place& place) {
   return {};
 }
 
+/// Whether the player has bought a promotion today: it stays, marked, until the day ends.
+bool HasBoughtToday(const World& world) {
+  const auto& deeds = world.Deeds();
+  for (int number = deeds.Count(); number > 0 && Day(deeds[number].On) == world.Today(); --number)
+    if (deeds[number].Kind == kDeedBought) return true;
+  return false;
+}
+
 }  // namespace
 
 void CheckWorld(const World& world, const TakeFault& take) {
+  if (world.HasGame() && HasBoughtToday(world)) {
+    World swept;
+    swept.CopyFrom(world);
+    SweepDeadPromotions(swept);
+    SweepDeadShows(swept);
+    Inspect({swept, Inspection::Purpose::Check, take});
+    return;
+  }
   // A check applies no remedy, so that the rules leave the world as it is.
   Inspect({const_cast<World&>(world), Inspection::Purpose::Check, take});
 }

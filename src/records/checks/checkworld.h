@@ -45,7 +45,8 @@ struct FaultList {
 };
 
 /// Every invariant of a world that does not hold. A running game (one with gameinfo.dat) is held to
-/// more than a folder of default data.
+/// more than a folder of default data, and on a day on which a promotion was bought to what the end
+/// of the day leaves.
 void CheckWorld(const World& world, const TakeFault& take);
 std::vector<Fault> CheckWorld(const World& world);
 
