@@ -267,6 +267,9 @@ TEST(TheDates, AreWrittenAsEachLanguageDoes) {
   desktop::UseDateForm(DateForm::French);
   EXPECT_EQ(desktop::DatedAlone("July"), "juillet");
   EXPECT_EQ(desktop::DatedAlone("Friday"), "vendredi");
+  EXPECT_EQ(desktop::DatedAlone("08 Jul"), "08/07");
+  EXPECT_EQ(desktop::DatedAlone("08 Jul 2002"), "08/07/02");
+  EXPECT_EQ(desktop::DatedAlone("31 Jun 2002"), "31 Jun 2002");
   EXPECT_EQ(desktop::DatedAlone("Main Event"), "Main Event");
   EXPECT_EQ(desktop::Dated("July"), "July") << "it may be somebody's name";
   desktop::UseDateForm(DateForm::Game);

@@ -87,7 +87,7 @@ TEST(TheReportColumn, ReadsAShowAgainFromItsRow) {
   ASSERT_EQ(play.Desk.TopName(), "frmReports");
   EXPECT_EQ(
       play.Desk.Rows("lstreports"),
-      (std::vector<std::vector<std::string>>{{"01 March 2026", "Sunday Slam", "Rafe Tolland"}}));
+      (std::vector<std::vector<std::string>>{{"01 Mar 2026", "Sunday Slam", "Rafe Tolland"}}));
   const std::string text = play.Desk.Text("txtreport");
   const std::string first = told.Report.substr(0, told.Report.find('\n'));
   EXPECT_NE(text.find(first), std::string::npos) << text;

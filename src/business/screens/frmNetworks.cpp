@@ -42,7 +42,7 @@ class frmPromoTape : public GameScreen {
     const std::string none =
         WhyOfTape(world()).empty() ? "No network has answered a tape yet." : "";
     EnableUnless(cmdwhy, none);
-    txtwhy.Write(none);
+    txtwhy.Write({{ui::Report::Style::Muted, none}});
     ShowSend();
   }
   void Return() override { Load(); }

@@ -38,7 +38,8 @@ class frmTVContract : public ShowScreen {
   /// Keeps their answer for whoever asks why; empty while there is none.
   void Answer(std::string words, Decision why) {
     EnableUnless(cmdwhy, words.empty() ? "Ask them something first." : "");
-    txtwhy.Write(words.empty() ? "No answer yet." : "");
+    txtwhy.Write("");
+    if (words.empty()) txtwhy.Write({{ui::Report::Style::Muted, "No answer yet."}});
     said_ = std::move(words);
     why_ = std::move(why);
   }

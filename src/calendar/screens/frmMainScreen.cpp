@@ -315,7 +315,7 @@ class frmMainScreen : public ui::Screen {
   ui::Button cmdbook{*this, "cmdbook", "Book", &frmMainScreen::cmdnext_Click};
   ui::Button cmdmorning{*this, "cmdmorning", "Morning After",
                         [this] { desk().Open("frmMorning"); }};
-  ui::Button cmdmeet{*this, "cmdmeet", "Staff Meeting", [this] { desk().Open("frmTalk"); }};
+  ui::Button cmdmeet{*this, "cmdmeet", "Meeting", [this] { desk().Open("frmTalk"); }};
   ui::Button cmdfutures{*this, "cmdfutures", "A Hundred Futures",
                         [this] { desk().Open("frmFutures"); }};
   /// Small promotions have months of their own.

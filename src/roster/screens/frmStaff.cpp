@@ -89,7 +89,7 @@ class frmStaff : public StaffListScreen {
   }
 
   ui::Page Layout() override {
-    return PageOf(ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(3),
+    return PageOf(ui::Columns({ui::Group("", {ui::Grow(lststaff)}).Grow(5),
                                ui::Rows({ui::Group("Posts", {lblposts, lbladvice}),
                                          ui::Group("", {ui::Grow(txtpage)}).Grow(1)})
                                    .Grow(2)}),

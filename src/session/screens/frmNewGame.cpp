@@ -178,10 +178,10 @@ class frmNewGame : public GameScreen {
                      [](auto* a, auto* b) { return a->Over > b->Over; });
     lstroster.Clear();
     for (const Worker* worker : roster)
-      lstroster.Add({worker->Name + RoleSuffix(*worker),
+      lstroster.Add({worker->Name + RoleSuffix(*worker), ui::Cell(worker->Over),
                      PositionText(IsSentAway(*worker) ? worker->Position - kSentToDevelopment
                                                       : int(worker->Position)),
-                     DispositionCell(*worker), ui::Cell(worker->Over)});
+                     DispositionCell(*worker)});
   }
 
   void cmdbegin_Click() {
@@ -240,8 +240,12 @@ class frmNewGame : public GameScreen {
       *this, "lstshows", {{"Show"}, {"Network"}, {"Day", ui::ColumnKind::Date}, {"Slot"}}};
   ui::ListBox lstbelts{*this, "lstbelts", {{"Title"}, {"Holder"}, {"Image", K::Number}}};
   ui::ListBox lststaff{*this, "lststaff", {{"Name"}, {"Post"}, {"Talent", K::Number}}};
-  ui::ListBox lstroster{
-      *this, "lstroster", {{"Name"}, {"Position"}, {"Disposition", K::Tag}, {"Over", K::Number}}};
+  ui::ListBox lstroster{*this,
+                        "lstroster",
+                        {{"Name"},
+                         {"Over", K::Number},
+                         {"Position"},
+                         {.Title = "Disposition", .Kind = K::Tag, .Short = "Disp."}}};
   ui::Label lblhouse{
       *this, "lblhouse",
       "What you agree with yourself for this game. All of it is off, and it cannot be "
