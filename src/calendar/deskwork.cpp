@@ -14,7 +14,7 @@ namespace grapplemont {
 namespace {
 
 constexpr std::size_t kListed = 20;
-constexpr int kWorn = 75, kContent = 65, kSoon = 6;
+constexpr int kWorn = 75, kContent = 60, kSoon = 6;
 
 bool IsEventAppointment(const Appointment& show) {
   return show.Kind == "Event";

@@ -77,12 +77,15 @@ std::string GuideOnPage(const World& world, std::string_view screen) {
 void WatchGuide(World& world, const std::vector<std::string_view>& screens) {
   GuideState* guide = OpenGuide(world);
   if (!guide) return;
+  std::size_t upTo = 0;  // the steps that the first show makes idle
   ForEachStep(*guide, [&](const GuideStep& step, std::size_t place) {
     const bool isSeen = std::ranges::any_of(screens, [&](std::string_view screen) {
       return step.Screen.find(screen) != step.Screen.npos;
     });
     if (!guide->Done[place] && (isSeen || HasCome(world, step.Done))) guide->Done[place] = true;
+    if (step.Done == GuideDone::Show && guide->Done[place]) upTo = place;
   });
+  for (std::size_t place = 0; place < upTo; ++place) guide->Done[place] = true;
 }
 
 void CloseGuide(World& world) {

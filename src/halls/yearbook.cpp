@@ -292,7 +292,7 @@ struct StoryRow {
 constexpr StoryRow kStory[] = {
     {"Your promotion", "{who} was {figure} when it ended. {what}.", "{who} is {figure}. {what}."},
     {"Awards", "{figure}: {who}."},
-    {"Best matches", "The best match was rated {figure}: {who} ({what})."},
+    {"Best matches", "The best match anywhere was rated {figure}: {who} ({what})."},
     {"Biggest gates", "Nothing drew more than {who}, seen by {figure} ({what})."},
     {"Hall of fame", "{who} entered the hall of fame with {figure}."},
     {"Biggest rises", "Nobody rose further than {who} ({figure})."},

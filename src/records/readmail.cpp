@@ -243,7 +243,7 @@ std::vector<Digest> DigestsOf(const World& world, std::size_t most) {
   std::set<std::string_view> senders;
   const auto close = [&] {
     if (digests.empty()) return;
-    digests.back().Words = std::to_string(digests.back().Mails.size()) + " news";
+    digests.back().Words = Counted(static_cast<int>(digests.back().Mails.size()), "item");
     // Desks tell of several at once.
     if (std::ranges::none_of(senders, Reader::IsDesk))
       digests.back().Words += " from " + Counted(static_cast<int>(senders.size()), "promotion");

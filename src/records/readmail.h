@@ -32,7 +32,7 @@ Unread UnreadOf(const World& world);
 struct Digest {
   std::string Date;        // as mails have it
   std::vector<int> Mails;  // their numbers, the newest first
-  std::string Words;       // "14 news from 9 promotions (8 signings, 3 shows)", or "14 news"
+  std::string Words;       // "14 items from 9 promotions (8 signings, 3 shows)", or "14 items"
   bool IsUnread = false;   // one of them is
 };
 /// The latest day first, and no more than `most`.

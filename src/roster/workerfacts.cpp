@@ -20,9 +20,8 @@ namespace {
 
 /// Words for 0, 20, 40, 60 and 80 up.
 using Steps = std::array<const char*, 5>;
-constexpr Steps kMorale = {"Wants to be anywhere but here.", "Unhappy.",
-                           "Neither happy nor unhappy.", "In good spirits.",
-                           "Could not be happier."};
+constexpr Steps kMorale = {"Wants to be anywhere but here.", "Unhappy.", "Less than happy.",
+                           "In good spirits.", "Could not be happier."};
 constexpr Steps kLoyalty = {"Would never work for you.", "Thinks little of you.",
                             "Has no strong feelings about you.", "Thinks well of you.",
                             "Would go through fire for you."};

@@ -34,7 +34,8 @@ std::vector<ScoreStep> SumOf(const ShowRun& run, const ShowRecap& recap) {
   sum.Add(run.AnnouncerCharge, "The announcer");
   sum.Add(run.ColourCharge, "The colour commentator");
   sum.Add(run.ExtraBonus, "The extra of the Event");
-  sum.Add(ratings, "The Segments");
+  const bool isDarkMatchLeft = recap.Lines.size() > 0 && !Counts(run, recap.Lines.front());
+  sum.Add(ratings, isDarkMatchLeft ? "The Segments but the dark match" : "The Segments");
   sum.Add(run.LastOverall, "The closing Segment once more");
   sum.Add(run.ProductionCharge, "Poor production");
   std::vector<ScoreStep> steps = sum.Steps();

@@ -157,9 +157,9 @@ TEST(frmNews, KeepsWhatWasReadAndGathersTheNewsOfOthers) {
   play.Desk.Open("frmMainScreen");
   EXPECT_EQ(play.Desk.Badge("cmdnews"), "8") << "a day's news of others are one";
   EXPECT_EQ(play.Desk.Rows("lstmail").size(), 7u) << "what is for the player alone";
-  EXPECT_NE(play.Desk.Text("lblworld").find("2 news from 2 promotions"), std::string::npos);
+  EXPECT_NE(play.Desk.Text("lblworld").find("2 items from 2 promotions"), std::string::npos);
   play.Desk.Click("cmdworld");
-  ExpectMails(play.Desk, {"7", "6", "5", "4", "3", "2", "1", "2 news from 2 promotions"},
+  ExpectMails(play.Desk, {"7", "6", "5", "4", "3", "2", "1", "2 items from 2 promotions"},
               "A firing.");
   EXPECT_EQ(play.Desk.Badge("cmdread"), "7") << "the others have not been shown";
   play.Desk.Pick("lstdigest", 2);
@@ -244,7 +244,7 @@ TEST(Mails, OfADayAreGatheredUnderWhatTheyTell) {
                     .Mail("OLD News", "OLD have fired Ed Fu!")
                     .Mail("OLD News", "Well.")
                     .Build();
-  EXPECT_EQ(DigestsOf(world).at(0).Words, "4 news from 2 promotions (1 departure, 2 signings)");
+  EXPECT_EQ(DigestsOf(world).at(0).Words, "4 items from 2 promotions (1 departure, 2 signings)");
 }
 
 TEST(frmNews, EmptiesTheMailboxAfterAsking) {

@@ -151,6 +151,14 @@ TEST(Guide, WatchesTheFirstWeekAndIsClosedForGood) {
   desk.Click("cmdstaff");
   desk.Click("cmdback");
   EXPECT_TRUE(isDone(5)) << "what has come about counts, whatever came before";
+  HistoryEntry held{};
+  held.Kind = kPastTv;
+  held.Promotion = world.PlayerUid();
+  held.Name = "Monday";
+  world.History().Append(held);
+  desk.Click("cmdstaff");
+  desk.Click("cmdback");
+  EXPECT_TRUE(desk.Text("txtguide").starts_with("Step 8 of 8: ")) << "the first show has been held";
   desk.Click("cmdguide");
   EXPECT_FALSE(desk.Visible("txtguide"));
   home.Play.CloseSlot();

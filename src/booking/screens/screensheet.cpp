@@ -133,10 +133,12 @@ void SheetScreen::ShowForecast() {
   const bool any = IsAnyBooked();
   forecast_ =
       any ? grapplemont::ForecastShow(world(), isEvent_, Team()) : grapplemont::ShowForecast();
-  lblforecast.Text = !any ? "Nothing is booked yet."
-                          : "Forecast " + RangeText(forecast_.Rating) +
-                                (IsDraft() ? ", as things stand today." : ".");
-  lblluck.Visible = any;
+  const bool counts = CountSheet(world(), isEvent_).Segments > 0;
+  lblforecast.Text = !any      ? "Nothing is booked yet."
+                     : !counts ? "Only the dark match is booked yet, and it counts for nothing."
+                               : "Forecast " + RangeText(forecast_.Rating) +
+                                     (IsDraft() ? ", as things stand today." : ".");
+  lblluck.Visible = any && counts;
   lblwarnings.Text = Joined(forecast_.Warnings, "\n");
   lblwarnings.Visible = !forecast_.Warnings.empty();
   FillRows();

@@ -32,7 +32,9 @@ class frmMornings : public GameScreen {
   explicit frmMornings(Game& game) : GameScreen(game, "frmMornings", "Back In Time") {
     lstmornings.EmptyText = "Nothing yet: the first morning is kept with the first click.";
     lblkept.Text =
-        "Kept are the mornings of the last week, the firsts of the last twelve months, " +
+        "Kept are at least the last seven mornings on which you stopped, the firsts of the last "
+        "twelve "
+        "months, " +
         std::to_string(Mornings::kNamed) + " moments that you name and " +
         std::to_string(Mornings::kLeft) +
         " roads that you leave, the first of them always. The oldest go when 4 MB are full.";
