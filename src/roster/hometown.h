@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "records/world.h"
+#include "records/fields/people.h"
 
 namespace grapplemont {
 
-/// "From Halifax in Canada.": the same at every look, and kept in no file.
-std::string HomeLine(const World& world, const Worker& worker);
+/// "From Halifax in Canada.": the same in every game, and kept in no file.
+std::string HomeLine(const Worker& worker);
 
 }  // namespace grapplemont

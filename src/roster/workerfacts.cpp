@@ -89,7 +89,7 @@ FactGroup Person(const World& world, const Worker& worker) {
   FactGroup group{worker.Name.Str(), {}};
   Add(group, WhoHeIs(worker) + (worker.Weight == "L" ? ", a lightweight." : ", a heavyweight."));
   Add(group, "Known as " + worker.ShortName + " for short.");
-  Add(group, HomeLine(world, worker));
+  Add(group, HomeLine(worker));
   Add(group, std::string(DispositionText(worker.Disposition)) + ". Over " +
                  std::to_string(worker.Over) + ", charisma " + std::to_string(worker.Charisma) +
                  ".");
