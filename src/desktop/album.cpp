@@ -65,6 +65,14 @@ std::vector<std::string> WaysOn(ui::Screen& screen) {
   return ways;
 }
 
+std::string SizeName(const QSize& size) {
+  return std::to_string(size.width()) + "x" + std::to_string(size.height());
+}
+
+const char* SchemeName(Scheme scheme) {
+  return scheme == Scheme::Light ? "light" : "dark";
+}
+
 void LetItPaint() {
   for (int i = 0; i < 4; ++i) QApplication::processEvents();
 }
@@ -81,6 +89,29 @@ bool IsWaiting(const ui::Screen& screen) {
 
 Album::Album(Window& window, WindowDesk& desk, Looks looks, Watcher shown)
     : window_(window), desk_(desk), looks_(std::move(looks)), shown_(std::move(shown)) {}
+
+Album::Looks Album::Looks::Of(const std::vector<std::string>& words) {
+  const Looks all;
+  Looks looks{{}, {}, {}, {}};
+  for (const std::string& word : words) {
+    const std::size_t before =
+        looks.Sizes.size() + looks.Schemes.size() + looks.Texts.size() + looks.Screens.size();
+    for (const QSize& size : all.Sizes)
+      if (word == SizeName(size)) looks.Sizes.push_back(size);
+    for (const Scheme scheme : all.Schemes)
+      if (word == SchemeName(scheme)) looks.Schemes.push_back(scheme);
+    for (const int text : all.Texts)
+      if (word == std::to_string(text)) looks.Texts.push_back(text);
+    if (word.starts_with("frm") || word == "finder" || word == "box") looks.Screens.insert(word);
+    if (looks.Sizes.size() + looks.Schemes.size() + looks.Texts.size() + looks.Screens.size() ==
+        before)
+      throw std::runtime_error("No picture is of \"" + word + "\".");
+  }
+  if (looks.Sizes.empty()) looks.Sizes = all.Sizes;
+  if (looks.Schemes.empty()) looks.Schemes = all.Schemes;
+  if (looks.Texts.empty()) looks.Texts = all.Texts;
+  return looks;
+}
 
 void Album::Fill() {
   QTimer boxes;
@@ -120,16 +151,14 @@ void Album::AnswerBox() {
 }
 
 void Album::Take(const std::string& name, const Around& around) {
+  if (!looks_.Screens.empty() && !looks_.Screens.contains(name)) return;
   for (const int text : looks_.Texts)
     for (const Scheme scheme : looks_.Schemes) {
       window_.SetLook(scheme, DesktopText() * (text - 100) / 100);
       for (const QSize& size : looks_.Sizes) {
         window_.resize(size);
-        const QString look = QString("%1x%2-%3-%4")
-                                 .arg(size.width())
-                                 .arg(size.height())
-                                 .arg(scheme == Scheme::Light ? "light" : "dark")
-                                 .arg(text);
+        const QString look =
+            QString("%1-%2-%3").arg(Shown(SizeName(size)), SchemeName(scheme)).arg(text);
         around([&] {
           LetItPaint();
           shown_(name, look);

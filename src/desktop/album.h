@@ -20,6 +20,11 @@ class Album {
     std::vector<QSize> Sizes = {{1024, 640}, {1280, 800}, {1920, 1080}, {2560, 1440}};
     std::vector<Scheme> Schemes = {Scheme::Dark, Scheme::Light};
     std::vector<int> Texts = {100, 200};  // percent of the desktop's text
+    std::set<std::string> Screens = {};   // empty: every screen
+
+    /// Those that are left by words such as "frmRoster", "1024x640", "light" and "200"; of a kind
+    /// that no word names, all. Throws for a word that names none.
+    static Looks Of(const std::vector<std::string>& words);
   };
   /// `shown` hears of each look at a screen, such as "1280x800-dark-100", while it is painted.
   using Watcher = std::function<void(const std::string& screen, const QString& look)>;

@@ -72,6 +72,27 @@ bool HasFilterRow(const Box& card) {
   return std::ranges::count(controls, ui::Kind::ListBox, &ui::Control::Is) == 1;
 }
 
+namespace {
+
+std::ptrdiff_t FiltersIn(const Box& box) {
+  std::vector<ui::Control*> controls;
+  CollectControls(box, controls);
+  return std::ranges::count_if(controls, [](const ui::Control* control) {
+    const auto* combo = dynamic_cast<const ui::ComboBox*>(control);
+    return combo && combo->Filters;
+  });
+}
+
+}  // namespace
+
+bool HasFilters(const Box& box) {
+  return FiltersIn(box) > 0;
+}
+
+bool IsAllFilters(const Box& card) {
+  return card.Title.empty() && FiltersIn(card) > 1 && !Grows(card);
+}
+
 bool Grows(const Box& box) {
   switch (box.Is) {
     case Kind::Item:

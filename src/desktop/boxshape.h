@@ -21,6 +21,10 @@ bool IsRowOfCards(const ui::Box& box);
 /// A card without a title whose one table stands below a line of what is chosen for it: there the
 /// table's own search finds room.
 bool HasFilterRow(const ui::Box& card);
+/// Whether a drop-down in it filters a table.
+bool HasFilters(const ui::Box& box);
+/// A card without a title that holds several drop-downs, which filter a table elsewhere.
+bool IsAllFilters(const ui::Box& card);
 /// Whether a box makes use of more room than it needs, upright.
 bool Grows(const ui::Box& box);
 /// A card on which nothing grows but prose.

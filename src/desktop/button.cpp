@@ -1,5 +1,6 @@
 #include "desktop/button.h"
 
+#include <QMenu>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointer>
@@ -151,6 +152,17 @@ void PushButton::paintEvent(QPaintEvent*) {
 void PushButton::focusInEvent(QFocusEvent* event) {
   ring_ = event->reason() != Qt::OtherFocusReason;
   QAbstractButton::focusInEvent(event);
+}
+
+void OpenFolded(const std::vector<PushButton*>& folded, QWidget& below) {
+  QMenu* menu = NewMenu(&below, below.objectName() + "menu");
+  menu->setToolTipsVisible(true);
+  for (PushButton* view : folded) {
+    QAction* action = menu->addAction(view->text(), view, [view] { view->click(); });
+    action->setEnabled(view->isEnabled());
+    action->setToolTip(view->toolTip());
+  }
+  menu->popup(below.mapToGlobal(QPoint(0, below.height() + Px(4))));
 }
 
 std::string WhyNotPress(const ui::Button& button) {

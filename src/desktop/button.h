@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QTimer>
+#include <vector>
 
 #include "desktop/controlview.h"
 
@@ -79,6 +80,9 @@ class PushButton : public BareButton {
   bool gold_ = false, enter_ = false, ring_ = false, plain_ = false;
   QSize least_;
 };
+
+/// Offers buttons that have no room of their own in a menu below the one that stands for them.
+void OpenFolded(const std::vector<PushButton*>& folded, QWidget& below);
 
 /// Why a button cannot be pressed, in its tip's words if it has one; empty when it can.
 std::string WhyNotPress(const ui::Button& button);

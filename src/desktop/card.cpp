@@ -35,20 +35,6 @@ QSize FlowLayout::sizeHint() const {
   return {width, height};
 }
 
-int FlowLayout::WidthInOneRow() const {
-  constexpr int kStep = 24;  // what is kept grows by so much at once
-  int width = 0;
-  for (const QLayoutItem* item : items_) {
-    const QWidget* widget = item->widget();
-    const bool isKept = kept_.contains(widget);
-    if (item->isEmpty() && !isKept) continue;
-    const int wish = isKept ? widget->sizeHint().width() : item->sizeHint().width();
-    const int step = isKept ? Px(kStep) : 1;
-    width += (width > 0 ? gap_ : 0) + (wish + step - 1) / step * step;
-  }
-  return width;
-}
-
 void FlowLayout::SetOneRow(bool oneRow) {
   if (oneRow_ == oneRow) return;
   oneRow_ = oneRow;
@@ -77,6 +63,21 @@ QSize SizeWithin(const QRect& room, const QLayoutItem& item) {
 
 }  // namespace
 
+int FlowLayout::MostInARow(const QRect& room) const {
+  int all = 0, rows = 1, width = -gap_;
+  for (const QLayoutItem* item : items_) {
+    if (item->isEmpty()) continue;
+    const int own = SizeWithin(room, *item).width();
+    if (width > 0 && width + gap_ + own > room.width()) {
+      ++rows;
+      width = -gap_;
+    }
+    width += gap_ + own;
+    ++all;
+  }
+  return align_ & Qt::AlignHCenter ? (all + rows - 1) / rows : all;
+}
+
 int FlowLayout::Arrange(const QRect& room, bool place) const {
   int y = room.top();
   if (place && align_ & (Qt::AlignBottom | Qt::AlignVCenter)) {
@@ -85,6 +86,7 @@ int FlowLayout::Arrange(const QRect& room, bool place) const {
   }
   QList<QLayoutItem*> line;
   int width = 0, height = 0;
+  const int most = MostInARow(room);
   const auto finish = [&] {
     const int over = std::max(0, room.width() - width);
     int x = room.left() + (align_ & Qt::AlignHCenter ? over / 2
@@ -102,7 +104,8 @@ int FlowLayout::Arrange(const QRect& room, bool place) const {
   for (QLayoutItem* item : items_) {
     if (item->isEmpty()) continue;
     const QSize size = SizeWithin(room, *item);
-    if (!line.isEmpty() && width + gap_ + size.width() > room.width()) finish();
+    if (line.size() == most || (!line.isEmpty() && width + gap_ + size.width() > room.width()))
+      finish();
     width += (line.isEmpty() ? 0 : gap_) + size.width();
     height = std::max(height, size.height());
     line.append(item);

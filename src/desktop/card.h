@@ -8,18 +8,14 @@
 
 namespace grapplemont::desktop {
 
-/// Widgets in a row that goes on in the next when it is full. Rows stand at the top, in the
-/// middle or at the bottom of more room than they need.
+/// Widgets in a row that goes on in the next when it is full; rows in the middle are as equally
+/// long as they can be. Rows stand at the top, in the middle or at the bottom of more room than
+/// they need.
 class FlowLayout : public QLayout {
  public:
   explicit FlowLayout(int gap, Qt::Alignment align = Qt::AlignLeft);
   /// Whether all of it stays in one row, which then is the least that it takes.
   void SetOneRow(bool oneRow);
-  /// Has room kept for what comes and goes: also while it is hidden, and for another word of its
-  /// kind.
-  void KeepRoomFor(const QWidget& part) { kept_.append(&part); }
-  /// The width of all of it in one row, with what is kept.
-  int WidthInOneRow() const;
   ~FlowLayout() override;
 
   void addItem(QLayoutItem* item) override { items_.append(item); }
@@ -37,8 +33,9 @@ class FlowLayout : public QLayout {
 
  private:
   int Arrange(const QRect& room, bool place) const;
+  /// The most that stand in a row of this width.
+  int MostInARow(const QRect& room) const;
   QList<QLayoutItem*> items_;
-  QList<const QWidget*> kept_;
   int gap_;
   Qt::Alignment align_;
   bool oneRow_ = false;

@@ -227,14 +227,14 @@ void ChartView::DrawLines(QPainter& painter, const Scale& scale) const {
   std::size_t number = 0;
   for (const auto& series : control_.Lines.Get()) {
     painter.setPen(
-        QPen(TextColour(c, series.Colour), 2, StrokeOf(number++), Qt::FlatCap, Qt::RoundJoin));
+        QPen(TextColour(c, series.Colour), Px(2), StrokeOf(number++), Qt::FlatCap, Qt::RoundJoin));
     QPolygonF run;
     const auto finish = [&] {
       painter.drawPolyline(run);
       if (scale.Count <= kFewPlaces || run.size() == 1)
         for (const QPointF& at : run)
-          DrawBox(painter, QRectF(at.x() - 3, at.y() - 3, 6, 6), TextColour(c, series.Colour),
-                  QColor(), 3);
+          DrawBox(painter, QRectF(at.x() - Px(3), at.y() - Px(3), Px(6), Px(6)),
+                  TextColour(c, series.Colour), QColor(), Px(3));
       run.clear();
     };
     for (std::size_t place = 0; place < series.Values.size(); ++place) {
@@ -265,7 +265,7 @@ void ChartView::DrawNames(QPainter& painter) const {
       DrawBox(painter, QRectF(x, middle - Px(4), wide, Px(8)), FillColour(c, series.Colour),
               QColor(), 2);
     } else {
-      painter.setPen(QPen(TextColour(c, series.Colour), 2, stroke, Qt::FlatCap));
+      painter.setPen(QPen(TextColour(c, series.Colour), Px(2), stroke, Qt::FlatCap));
       painter.drawLine(QPointF(x, middle), QPointF(x + wide, middle));
     }
     x += wide + Px(6);

@@ -109,6 +109,7 @@ class ComboView : public ViewOf<Calm<QComboBox>, ui::ComboBox> {
     if (rows != shown) {
       clear();
       addItems(rows);
+      updateGeometry();  // what has been reckoned with was the width of other rows
     }
     setCurrentIndex(control_.Selected() - 1);
   }

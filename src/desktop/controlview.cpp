@@ -36,8 +36,18 @@ void ControlView::Refresh() {
   ShowUse();
   FocusTarget()->setAccessibleDescription(Shown(shows_.Tip.Get()));
   Show();
-  Widget()->setVisible(shows_.Visible && HasWords());
-  if (companion_) companion_->setVisible(shows_.Visible);
+  ShowSeen();
+}
+
+void ControlView::ShowSeen() {
+  Widget()->setVisible(shows_.Visible && HasWords() && !isOut_);
+  if (companion_) companion_->setVisible(shows_.Visible && !isOut_);
+}
+
+void ControlView::LeaveOut(bool out) {
+  if (out == isOut_) return;
+  isOut_ = out;
+  ShowSeen();
 }
 
 void ControlView::Hold(const std::string& why) {

@@ -43,6 +43,9 @@ class ControlView {
   /// Where the keyboard goes when it goes to this control.
   virtual QWidget* FocusTarget() { return Widget(); }
 
+  /// Leaves it out where there is no room for it, whatever its control says.
+  void LeaveOut(bool out);
+
   ui::Control& Shows() const { return shows_; }
   /// A label that is shown and hidden together with the control.
   void SetCompanion(QWidget* label) { companion_ = label; }
@@ -71,10 +74,12 @@ class ControlView {
   ui::Control& shows_;
   Stage& stage_;
   void ShowUse();
+  void ShowSeen();
 
   unsigned seen_ = 0;
   std::string held_;  // why it cannot be used although its control can
   QWidget* companion_ = nullptr;
+  bool isOut_ = false;
 };
 
 /// A view of a control of class C that is its own widget, of class Q.

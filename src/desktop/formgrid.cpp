@@ -1,11 +1,15 @@
 #include "desktop/formgrid.h"
 
-#include <QWidget>
+#include <QLineEdit>
 #include <algorithm>
+
+#include "desktop/look.h"
 
 namespace grapplemont::desktop {
 
 namespace {
+
+constexpr int kWidestLine = 240;  // that a label turns for
 
 int HeightOf(const QLayoutItem& item, int width, bool least) {
   if (!item.hasHeightForWidth()) return (least ? item.minimumSize() : item.sizeHint()).height();
@@ -30,6 +34,19 @@ QSize FormGrid::minimumSize() const {
   for (const auto& [row, item] : Parts()) widest = std::max(widest, item->minimumSize().width());
   least.setWidth(std::min(least.width(), widest));
   return least;
+}
+
+int FormGrid::WidthBeside() const {
+  int label = columnMinimumWidth(0), field = 0;
+  for (int row = 0; row < rowCount(); ++row) {
+    const QLayoutItem *first = itemAtPosition(row, 0), *second = itemAtPosition(row, 1);
+    if (!first || !second || first == second) continue;
+    label = std::max(label, first->minimumSize().width());
+    if (const auto* line = qobject_cast<QLineEdit*>(second->widget()))
+      field = std::max(field, std::min(line->sizeHint().width(), Px(kWidestLine)));
+  }
+  const int both = field > 0 ? label + horizontalSpacing() + field : 0;
+  return std::max(both, QGridLayout::minimumSize().width());
 }
 
 int FormGrid::HeightAt(int width, bool least) const {

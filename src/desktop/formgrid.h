@@ -17,7 +17,9 @@ class FormGrid : public QGridLayout {
   void setGeometry(const QRect& rect) override;
 
  private:
-  bool Stacks(int width) const { return width < QGridLayout::minimumSize().width(); }
+  bool Stacks(int width) const { return width < WidthBeside(); }
+  /// What labels and fields need beside each other: no text of a line of usual length is cut.
+  int WidthBeside() const;
   int HeightAt(int width, bool least) const;
   /// The parts that are shown, with their rows, in the order in which they are read.
   std::vector<std::pair<int, QLayoutItem*>> Parts() const;

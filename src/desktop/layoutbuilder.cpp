@@ -9,6 +9,7 @@
 #include "desktop/boxshape.h"
 #include "desktop/button.h"
 #include "desktop/card.h"
+#include "desktop/evengrid.h"
 #include "desktop/formgrid.h"
 #include "desktop/levelcolumns.h"
 #include "desktop/pieces.h"
@@ -27,9 +28,10 @@ constexpr int kWide = 14;  // between cards
 constexpr int kWidestField = 420;
 constexpr int kFieldsShare = 1000;  // of a form's width, as long as they are not that wide
 constexpr int kLettersChosen = 25;  // of what a form's drop-down shows, before its label turns
-constexpr int kLeastWords = 70;     // beside the buttons of their row
-constexpr int kLeastCard = 220;     // beside another; a narrower one stands below it
-constexpr int kLeastAlike = 180;    // the same of many that hold as little each
+constexpr int kUnbrokenLabel = 150;
+constexpr int kLeastWords = 70;   // beside the buttons of their row
+constexpr int kLeastCard = 220;   // beside another; a narrower one stands below it
+constexpr int kLeastAlike = 180;  // the same of many that hold as little each
 
 /// What a line is typed into, chosen from or slid on needs no more width than what it can hold.
 bool IsNarrow(const ui::Control& control) {
@@ -156,7 +158,12 @@ void LayoutBuilder::AddRowButtons(const Box& box, TableView& table) {
   table.SetRowButtons(std::move(buttons));
 }
 
-void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
+void LayoutBuilder::AddColumns(const Box& whole, QBoxLayout* into) {
+  Box box = whole;
+  // Fields stand at the left as it is.
+  if (std::ranges::any_of(box.Parts, [](const Box& part) { return part.Is == Kind::Field; }) &&
+      !dynamic_cast<TurningLayout*>(into))
+    while (box.Parts.back().Is == Kind::Spacer) box.Parts.pop_back();
   if (std::ranges::all_of(box.Parts, IsCalmButton)) return void(AddRun(box.Parts, 0, into));
   const bool cards = std::ranges::any_of(
       box.Parts, [](const Box& part) { return part.Is == Kind::Group || part.Is == Kind::Rows; });
@@ -165,42 +172,40 @@ void LayoutBuilder::AddColumns(const Box& box, QBoxLayout* into) {
   // Beside prose, what a wide window has to spare is for those who show more in it.
   const bool others =
       std::ranges::any_of(box.Parts, [](const Box& part) { return Grows(part) && !IsProse(part); });
-  const bool alike =
-      box.Parts.size() > kFew && std::ranges::all_of(box.Parts, [&](const Box& part) {
-        return part.Is == box.Parts[0].Is && (part.Is == Kind::Group || part.Is == Kind::Field);
-      });
+  // What filters a table stands in a row with its search, as one line.
+  const bool inRow = dynamic_cast<TurningLayout*>(into) != nullptr;
+  const bool alike = box.Parts.size() > (fields && !inRow ? 1 : kFew) &&
+                     std::ranges::all_of(box.Parts, [&](const Box& part) {
+                       return part.Is == box.Parts[0].Is &&
+                              (part.Is == Kind::Group || part.Is == Kind::Field) &&
+                              (part.Is == Kind::Group || !Grows(part));
+                     });
   const int least = box.Letters > 0     ? box.Letters * kLetter
                     : !cards || inCard_ ? 0
                     : alike             ? kLeastAlike
                                         : kLeastCard;
+  if (alike) return AddAlike(box, new EvenGrid(kWide, least, fields), into);
   auto* columns = new TurningLayout(fields || cards ? kWide : kClose, least);
   into->addLayout(columns, ShareOf(box));
   bool filled = cards;
   for (const Box& part : box.Parts) {
     filled = filled || part.Is == Kind::Spacer || part.Stretch > 0 || Grows(part);
-    calm_ = !alike && others && !inCard_ && IsProse(part);
-    if (!alike) Add(part, columns);
+    calm_ = others && !inCard_ && IsProse(part);
+    Add(part, columns);
   }
-  if (alike) AddAlike(box.Parts, columns);
   if (box.Parts.front().Waits) columns->LetFirstWait();
   if (!filled) columns->addStretch(1);
 }
 
-/// Where many parts have no room in one line, half of them go into the next.
-void LayoutBuilder::AddAlike(std::span<const Box> parts, TurningLayout* into) {
-  if (parts.size() <= kFew) {
-    for (const Box& part : parts) Add(part, into);
-    return;
+/// Each in a row of its own, as which a field stands with its label before it.
+void LayoutBuilder::AddAlike(const Box& box, EvenGrid* grid, QBoxLayout* into) {
+  into->addLayout(grid, ShareOf(box));
+  for (const Box& part : box.Parts) {
+    auto* const cell = NewLayout<QHBoxLayout>(nullptr, 0);
+    grid->Add(*cell);
+    Add(part, cell);
+    cell->setStretch(0, 1);
   }
-  const std::size_t half = (parts.size() + 1) / 2;
-  for (const auto& line : {parts.first(half), parts.subspan(half)}) {
-    int share = 0;
-    for (const Box& part : line) share += ShareOf(part);
-    TurningLayout* const within = into->NewPart();
-    into->addLayout(within, share);
-    AddAlike(line, within);
-  }
-  into->KeepRowsWhole();
 }
 
 /// As high and as wide as the page that is shown needs: the others have their turn.
@@ -247,6 +252,7 @@ void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
         heading_, field->Title.empty() ? heading_ : Shown(field->Title));
     ControlView* view = View(*field->Shown);
     auto* label = new WrappedLabel(holder_, Shown(field->Title));
+    label->BreakFrom(kUnbrokenLabel);
     SetInk(*label, ColoursOf(holder_).Muted);
     view->SetCompanion(label);
     label->setBuddy(view->FocusTarget());

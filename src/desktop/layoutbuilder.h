@@ -3,7 +3,6 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <memory>
-#include <span>
 #include <vector>
 
 #include "desktop/card.h"
@@ -14,7 +13,7 @@ namespace grapplemont::desktop {
 
 class TableView;
 class LevelColumn;
-class TurningLayout;
+class EvenGrid;
 
 inline constexpr int kClose = 8;   // between what stands within a card
 inline constexpr int kLetter = 7;  // the width that a page reckons with for one
@@ -34,9 +33,10 @@ class LayoutBuilder {
   const std::vector<ControlView*>& Views() const { return views_; }
   /// A card is shown while one of the controls on it is, and the page is as wide as it asks for.
   struct CardContents {
-    QWidget* Sheet;
+    QWidget* Sheet;  // nullptr: these are some of the controls of another card
     std::vector<ControlView*> Views;
-    int From;  // in pixels
+    int From;      // in pixels
+    bool Filters;  // it holds nothing but what is chosen for a table elsewhere
   };
   const std::vector<CardContents>& Cards() const { return cards_; }
 
@@ -50,7 +50,7 @@ class LayoutBuilder {
   void AddItem(const ui::Box& box, QBoxLayout* into);
   void AddRowButtons(const ui::Box& box, TableView& table);
   void AddColumns(const ui::Box& box, QBoxLayout* into);
-  void AddAlike(std::span<const ui::Box> parts, TurningLayout* into);
+  void AddAlike(const ui::Box& box, EvenGrid* grid, QBoxLayout* into);
   void AddGroup(const ui::Box& box, QBoxLayout* into);
   void AddPartOfCard(const ui::Box& box, QBoxLayout* into);
   void AddSearch(const std::vector<ControlView*>& views, bool untitled, QBoxLayout& head);

@@ -63,6 +63,9 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   if (filtered) {
     head->KeepRowsWhole();
     Add(box.Parts.front(), head);
+    if (HasFilters(box.Parts.front()))
+      cards_.push_back(
+          {nullptr, {views_.begin() + static_cast<std::ptrdiff_t>(before), views_.end()}, 0, true});
     AddAll({box.Parts.begin() + 1, box.Parts.end()}, inside);
   } else {
     AddAll(box.Parts, inside);
@@ -72,7 +75,7 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   const std::vector<ControlView*> views(views_.begin() + static_cast<std::ptrdiff_t>(before),
                                         views_.end());
   AddSearch(views, box.Title.empty() && !filtered, *head);
-  cards_.push_back({card, views, Px(box.Spare * kLetter)});
+  cards_.push_back({card, views, Px(box.Spare * kLetter), IsAllFilters(box)});
   into->addWidget(card, ShareOf(box));
 }
 
@@ -89,7 +92,7 @@ void LayoutBuilder::AddPartOfCard(const Box& box, QBoxLayout* into) {
   AddAll(box.Parts, part);
   if (!sheet) return;
   const auto first = views_.begin() + static_cast<std::ptrdiff_t>(before);
-  cards_.push_back({sheet, {first, views_.end()}, Px(box.Spare * kLetter)});
+  cards_.push_back({sheet, {first, views_.end()}, Px(box.Spare * kLetter), false});
 }
 
 /// The search row of a card's only table, beside its title or the page's own search line.
@@ -105,6 +108,12 @@ void LayoutBuilder::AddSearch(const std::vector<ControlView*>& views, bool untit
   // The panel below keeps its place when the row comes and goes beside the title; below the title
   // it would leave a hole.
   head.addStrut(row->sizeHint().height());
+  // The heading stands in one line with those of cards that have no such row.
+  const int above = (row->sizeHint().height() - QFontMetrics(CardTitleFont()).height()) / 2;
+  QLayout& inside = *head.parentWidget()->layout();
+  QMargins margins = inside.contentsMargins();
+  if (!untitled) margins.setTop(std::max(Px(4), margins.top() - above));
+  inside.setContentsMargins(margins);
   if (own != views.end()) {
     (*own)->Widget()->setMinimumWidth(Px(kLeastSearch));
     head.addWidget((*own)->Widget(), 4);

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "desktop/emptytables.h"
 #include "desktop/turninglayout.h"
 
 // Columns of a page and of its cards.
@@ -28,11 +29,13 @@ class Column : public QVBoxLayout {
     return isEmpty() ? QSize(0, 0) : QVBoxLayout::maximumSize();
   }
   void setGeometry(const QRect& rect) override {
+    LetEmptyTablesYield(*this, shares_);
     if (!PlaceTight(*this, rect)) QVBoxLayout::setGeometry(rect);
   }
 
  private:
   bool calm_;
+  std::vector<int> shares_;
 };
 
 /// What is on a card among others of its kind, all of which are as high as the highest.

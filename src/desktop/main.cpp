@@ -33,6 +33,7 @@ struct Wanted {
   std::optional<std::string> Home;  // the folder with the slots
   std::string Import = {};          // a file with an exported game
   QString Pictures;                 // the folder for an album of all screens
+  QString PicturesOf = {};          // what the album is of; empty: everything
   bool FirstFrame = false;          // it ends once the window is painted
 };
 
@@ -53,9 +54,13 @@ Wanted Read(int argc, char** argv) {
       "Take a picture of every screen into <folder> instead of being played. It plays on in the "
       "first slot that it finds; take a copy of your games for it.",
       "folder");
+  const QCommandLineOption of("of",
+                              "Take those pictures only that these words name, with commas between "
+                              "them: \"frmRoster,1024x640,dark,200\".",
+                              "words");
   const QCommandLineOption firstFrame(
       "first-frame", "End once the window is painted, which shows how long a start takes.");
-  parser.addOptions({home, pictures, firstFrame});
+  parser.addOptions({home, pictures, of, firstFrame});
   parser.addPositionalArgument("file", "An exported game to be put into an empty slot and played.",
                                "[file]");
   for (const char* ofQt : {"platform", "style", "display", "qwindowgeometry"}) {
@@ -73,15 +78,18 @@ Wanted Read(int argc, char** argv) {
     std::cerr << "grapplemont: " << why.toStdString() << "; --help lists what there is\n";
     std::exit(2);
   }
-  Wanted wanted{{}, {}, parser.value(pictures), parser.isSet(firstFrame)};
+  Wanted wanted{{}, {}, parser.value(pictures), parser.value(of), parser.isSet(firstFrame)};
   if (!files.isEmpty()) wanted.Import = QFileInfo(files.front()).absoluteFilePath().toStdString();
   if (parser.isSet(home)) wanted.Home = parser.value(home).toStdString();
   return wanted;
 }
 
-int FillAlbum(desktop::Window& window, desktop::WindowDesk& desk, Game& game,
-              const QString& folder) {
-  desktop::Album album(window, desk, {}, [&](const std::string& screen, const QString& look) {
+int FillAlbum(desktop::Window& window, desktop::WindowDesk& desk, Game& game, const QString& folder,
+              const QString& of) {
+  std::vector<std::string> words;
+  for (const QString& word : of.split(',', Qt::SkipEmptyParts)) words.push_back(word.toStdString());
+  const auto looks = desktop::Album::Looks::Of(words);
+  desktop::Album album(window, desk, looks, [&](const std::string& screen, const QString& look) {
     desktop::KeepPicture(window, folder, look, screen);
   });
   album.Fill();
@@ -178,7 +186,8 @@ int Play(QApplication& app, const Started& started) {
     desk.Event([&] { OfferImport(game, wanted.Import); });
     window.Sync();
   }
-  if (!wanted.Pictures.isEmpty()) return FillAlbum(window, desk, game, wanted.Pictures);
+  if (!wanted.Pictures.isEmpty())
+    return FillAlbum(window, desk, game, wanted.Pictures, wanted.PicturesOf);
   const desktop::DesktopColours colours([&window](bool dark) { window.FollowDesktop(dark); });
   if (wanted.FirstFrame) desktop::EndAtFirstFrame();
   const int result = QApplication::exec();

@@ -144,7 +144,8 @@ QSize PictureView::minimumSizeHint() const {
 
 int PictureView::heightForWidth(int width) const {
   if (Drawn() > 0) return sizeHint().height();
-  if (!full_.isValid() || seeThrough_) return Px(80);
+  // A drawing among buttons steps back as far as they need.
+  if (!full_.isValid() || seeThrough_ || fading_) return Px(80);
   return std::min(sizeHint().height(), width * full_.height() / std::max(1, full_.width()));
 }
 

@@ -4,6 +4,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "desktop/housestyle.h"
 #include "desktop/wordswidth.h"
 
 namespace grapplemont::desktop {
@@ -16,7 +17,7 @@ constexpr int kUnbroken = 190;  // a text as short as this is never broken
 }  // namespace
 
 WrappedLabel::WrappedLabel(QWidget* parent, const QString& text, const QFont& font)
-    : QLabel(text, parent) {
+    : QLabel(text, parent), unbroken_(kUnbroken) {
   setTextFormat(Qt::PlainText);
   setWordWrap(true);
   setFont(font);
@@ -35,7 +36,7 @@ QSize WrappedLabel::sizeHint() const {
 }
 
 QSize WrappedLabel::minimumSizeHint() const {
-  return {std::min(NaturalWidth(), Px(kUnbroken)), fontMetrics().height()};
+  return {std::min(NaturalWidth(), Px(unbroken_)), fontMetrics().height()};
 }
 
 int WrappedLabel::heightForWidth(int width) const {
@@ -43,13 +44,29 @@ int WrappedLabel::heightForWidth(int width) const {
   const int across = sides.left() + sides.right();
   const int room = std::min(width - across, ReadableWidth());
   if (text().isEmpty()) return QLabel::heightForWidth(room + across);
+  if (oneLine_) return fontMetrics().height() + sides.top() + sides.bottom();
   const int words = WordsHeight(font(), text(), room);
   return std::max(words + sides.top() + sides.bottom(), minimumHeight());
+}
+
+void WrappedLabel::SetOneLine(bool oneLine) {
+  if (oneLine_ == oneLine) return;
+  oneLine_ = oneLine;
+  updateGeometry();
+  update();
+}
+
+bool WrappedLabel::event(QEvent* event) {
+  const bool cut = oneLine_ && NaturalWidth() > width();
+  return TipWhatIsCut(*event, *this, text(), cut) || QLabel::event(event);
 }
 
 void WrappedLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setPen(palette().color(foregroundRole()));
+  if (oneLine_)
+    return DrawWords(painter, contentsRect(), Qt::AlignVCenter, font(),
+                     WordsWithin(font(), text().simplified(), contentsRect().width()));
   QRect room = contentsRect();
   if (alignment() & Qt::AlignLeft) room.setWidth(std::min(room.width(), ReadableWidth()));
   DrawWrapped(painter, room, alignment(), font(), text());

@@ -39,12 +39,20 @@ class WrappedLabel : public QLabel {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
   int heightForWidth(int width) const override;
+  /// Lets it break where it is as wide as this, in drawn pixels.
+  void BreakFrom(int width) { unbroken_ = width; }
+  /// Whether it is cut where it would break; a tip tells all of it.
+  void SetOneLine(bool oneLine);
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
   int NaturalWidth() const;
+
+  int unbroken_;
+  bool oneLine_ = false;
 };
 
 /// Gives a label's words a colour of the set that it belongs to.

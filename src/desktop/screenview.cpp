@@ -6,30 +6,21 @@
 
 #include "desktop/boxshape.h"
 #include "desktop/dates.h"
-#include "desktop/facedhead.h"
+#include "desktop/pagehead.h"
+#include "desktop/screenhead.h"
 #include "desktop/tableview.h"
-#include "desktop/turninglayout.h"
 #include "ui/acts.h"
 
 namespace grapplemont::desktop {
 
 namespace {
 
-constexpr int kPageSide = 20;
 constexpr int kCoverSide = 36;
-constexpr int kPartGap = 14;       // between head, body and foot
-constexpr int kWidestPage = 1160;  // of a page with nothing on it that would show more
-constexpr int kLeastTitle = 220;   // what the title and its facts have beside actions
-constexpr int kLeastName = 150;    // the same of a title alone
-constexpr int kAllThereIs = 1 << 16;
+constexpr int kWidestPage = 1160;     // of a page with nothing on it that would show more
+constexpr QSize kLargest(1480, 960);  // of a dialog
 
 bool IsBackdropFile(const std::string& file) {
   return file == "vxm_back.jpg" || file == "vxm_title.jpg";
-}
-
-template <class C>
-bool Contains(const std::vector<C*>& controls, const ui::Control* control) {
-  return std::find(controls.begin(), controls.end(), control) != controls.end();
 }
 
 }  // namespace
@@ -50,12 +41,13 @@ ScreenView::ScreenView(std::shared_ptr<ui::Screen> screen, Stage& stage, QWidget
   }
   DressPictures();
   for (ControlView* view : views_)
-    if (IsMain(view->Shows())) mains_.push_back(dynamic_cast<ButtonView*>(view));
+    if (TakesEnter(view->Shows())) mains_.push_back(dynamic_cast<ButtonView*>(view));
   Refresh();
 }
 
-bool ScreenView::IsMain(const ui::Control& control) const {
-  return &control == page_.Main || &control == page_.Then || &control == page_.First;
+bool ScreenView::TakesEnter(const ui::Control& control) const {
+  return &control == page_.Main || &control == page_.Then || &control == page_.First ||
+         &control == page_.Cancel;
 }
 
 bool ScreenView::HasBackdrop() const {
@@ -76,7 +68,8 @@ void ScreenView::FindBackdrop() {
   for (const bool inBody : {false, true})
     for (ui::Control* control : screen_->Controls()) {
       auto* picture = dynamic_cast<ui::Picture*>(control);
-      if (behind_ || !picture || Contains(placed, picture) != inBody) continue;
+      if (behind_ || !picture || (std::ranges::find(placed, picture) != placed.end()) != inBody)
+        continue;
       if (wait || IsBackdropFile(picture->File.Get())) behind_ = picture;
     }
 }
@@ -109,11 +102,10 @@ void ScreenView::DressPictures() {
 void ScreenView::BuildPage() {
   const bool cover = screen_->Is() == ui::Role::Cover;
   const int side = cover ? kCoverSide : kPageSide;
-  QBoxLayout* const rows = BuildWhole({side, cover ? side : 18, side, side});
-  rows->addLayout(BuildHead());
-  BuildBody(rows);
-  tail_->addLayout(
-      BuildActions());  // last in the order of Tab, too: what a page is about comes first
+  rows_ = BuildWhole({side, cover ? side : kUsualTop, side, side});
+  rows_->addLayout(BuildHead());
+  BuildBody(rows_);
+  AddActions(*head_);  // last in the order of Tab, too: what a page is about comes first
   const bool bare = cover && HasTitlePicture() && page_.Actions.empty();
   title_->setVisible(!bare);
 }
@@ -124,7 +116,7 @@ void ScreenView::BuildDialog() {
       DialogSize().isValid() ? BuildWhole({}) : NewLayout<QVBoxLayout>(this, kPartGap);
   rows->addLayout(BuildHead());
   BuildBody(rows);
-  static_cast<QBoxLayout*>(layout())->addLayout(BuildActions());
+  static_cast<QBoxLayout*>(layout())->addLayout(BuildFoot());
 }
 
 /// Head and body, which scroll together where the window is too low for them.
@@ -144,72 +136,6 @@ void ScreenView::BuildWait() {
     if (control->Is() == ui::Kind::Label) rows->addWidget(Add(*control), 0, Qt::AlignHCenter);
 }
 
-/// Title and facts; there is room for actions at their right, or below where they have none there.
-/// Beside a face much is said: the actions stand beside the title alone.
-QLayout* ScreenView::BuildHead() {
-  title_ = new WrappedLabel(this, {}, TextFont(19, QFont::DemiBold));
-  title_->setObjectName("title");
-  auto* tail = screen_->Is() == ui::Role::Dialog ? nullptr : new TurningLayout(12);
-  if (tail) tail->KeepRowsWhole();
-  tail_ = tail;
-  auto* words = NewLayout<QVBoxLayout>(nullptr, 1);
-  if (page_.Face) {
-    auto* faced = NewLayout<QHBoxLayout>(nullptr, kPartGap);
-    faced->addWidget(Add(*page_.Face), 0, Qt::AlignTop);
-    AddFacts(*words);
-    faced->addLayout(new FacedHead(title_, words, tail, kLeastName), 1);
-    return faced;
-  }
-  auto* head = new TurningLayout(12, kLeastTitle);
-  head->AskNoMoreThanWished();
-  words->addWidget(title_);
-  head->addLayout(words, 1);
-  AddFacts(*words);
-  if (!tail) return head;
-  head->addLayout(tail);
-  head->KeepRowsWhole();
-  return head;
-}
-
-void ScreenView::AddFacts(QBoxLayout& words) {
-  std::vector<ui::Label*> facts = page_.More;
-  if (page_.Facts) facts.insert(facts.begin(), page_.Facts);
-  for (ui::Label* fact : facts) {
-    auto* line = dynamic_cast<LabelView*>(Add(*fact));
-    line->SetUsual(fact == page_.Facts ? ui::Tone::Muted : ui::Tone::Plain);
-    words.addWidget(line);
-  }
-}
-
-/// Main stands last. Main and Cancel are there even where the layout has no place for them.
-std::vector<ui::Button*> ScreenView::ActionsInOrder() const {
-  std::vector<ui::Control*> placed;
-  CollectControls(page_.Body, placed);
-  for (const auto& group : page_.Side)
-    for (const auto& command : group.Commands) placed.push_back(command.Press);
-  placed.insert(placed.end(), page_.TopActions.begin(), page_.TopActions.end());
-  std::vector<ui::Button*> actions = page_.Actions;
-  if (page_.Cancel && !Contains(actions, page_.Cancel) && !Contains(placed, page_.Cancel) &&
-      page_.Cancel != page_.Main)
-    actions.insert(actions.begin(), page_.Cancel);
-  if (page_.Main && (Contains(actions, page_.Main) || !Contains(placed, page_.Main))) {
-    std::erase(actions, page_.Main);
-    actions.push_back(page_.Main);
-  }
-  return actions;
-}
-
-QLayout* ScreenView::BuildActions() {
-  auto* actions = new FlowLayout(Px(12), Qt::AlignRight | Qt::AlignBottom);
-  for (ui::Button* action : ActionsInOrder()) {
-    actions->addWidget(Add(*action));
-    // The two that are gold in turn come and go, and the head keeps its form.
-    if (page_.Then && (action == page_.Main || action == page_.Then))
-      actions->KeepRoomFor(*views_.back()->Widget());
-  }
-  return actions;
-}
-
 void ScreenView::BuildBody(QBoxLayout* into) {
   auto* scroller = new Scroller(this, Grows(page_.Body));
   auto* body = new QWidget(scroller);
@@ -225,9 +151,10 @@ void ScreenView::BuildBody(QBoxLayout* into) {
   cards_ = builder.Cards();
 }
 
-/// A large one takes what the window has, unless prose alone is in it.
+/// A large one takes what a usual window has, whatever is in it: steps that follow each other keep
+/// their buttons in one place.
 QSize ScreenView::DialogSize() const {
-  if (page_.Large && !IsProse(page_.Body)) return QSize(kAllThereIs, kAllThereIs);
+  if (page_.Large && !IsProse(page_.Body)) return kLargest;
   if (page_.Large) return QSize(1216, 704);
   return Grows(page_.Body) ? QSize(800, 560) : QSize();
 }
@@ -251,14 +178,20 @@ void ScreenView::Refresh() {
 }
 
 void ScreenView::ShowCards() {
-  for (const auto& card : cards_)
-    card.Sheet->setVisible(width() >= card.From &&
+  for (const auto& card : cards_) {
+    if (!card.Sheet) {
+      for (ControlView* view : card.Views) view->LeaveOut(!HasRoomFor(card));
+      continue;
+    }
+    card.Sheet->setVisible(width() >= card.From && HasRoomFor(card) &&
                            (card.Views.empty() || std::ranges::any_of(card.Views, [](auto* view) {
                               return view->Shows().Visible.Get();
                             })));
+  }
 }
 
 void ScreenView::resizeEvent(QResizeEvent*) {
+  FitHead();
   ShowCards();
 }
 

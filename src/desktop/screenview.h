@@ -14,6 +14,8 @@
 
 namespace grapplemont::desktop {
 
+class PageHead;
+
 /// A screen with its title, facts, actions and body. Its layout is built once; afterwards only what
 /// has changed is brought up to date. It keeps the screen alive until it goes itself.
 class ScreenView : public QWidget {
@@ -28,10 +30,12 @@ class ScreenView : public QWidget {
   /// What Enter does here, if it can be pressed: Main, or Then in its place; nullptr when neither
   /// is to be seen. On the hub's own page First goes before them; `here` tells whether it is meant.
   ui::Button* MainNow(bool here = true) const;
-  /// Shows the Enter sign on this button, if it is a main one of the page.
+  /// Shows the Enter sign on this button, if it is one that Enter may press here.
   void SetEnter(const ui::Button* pressed);
   /// False when the button cannot be pressed.
   bool Press(ui::Button* button);
+  /// Leaves the screen, after a question where something would be lost.
+  bool PressCancel();
   /// Gives the keyboard to what had it last while this was on top, in the bars beside it, too; else
   /// to where one begins.
   void TakeKeyboard();
@@ -67,11 +71,16 @@ class ScreenView : public QWidget {
   void BuildWait();
   QLayout* BuildHead();
   void AddFacts(QBoxLayout& words);
+  void AddActions(PageHead& head);
+  /// In a low window the head is as low as it can be.
+  void FitHead();
   void BuildBody(QBoxLayout* into);
-  QLayout* BuildActions();
-  bool IsMain(const ui::Control& control) const;
+  QLayout* BuildFoot();
+  bool TakesEnter(const ui::Control& control) const;
   bool HasBackdrop() const;
   void ShowCards();
+  /// Whether the card has its place in a window as low as this one.
+  bool HasRoomFor(const LayoutBuilder::CardContents& card) const;
   void FindBackdrop();
   void DressPictures();
   bool HasTitlePicture() const;
@@ -80,7 +89,6 @@ class ScreenView : public QWidget {
   /// Makes a view of the control here and gives its widget.
   QWidget* Add(ui::Control& control);
   const ui::Control* ControlWith(const QWidget* focus) const;
-  bool PressCancel();
   bool ClearFilters();
 
   std::shared_ptr<ui::Screen> screen_;
@@ -90,8 +98,10 @@ class ScreenView : public QWidget {
   std::vector<LayoutBuilder::CardContents> cards_;
   Scroller* whole_ = nullptr;  // of head and body
   QLabel* title_ = nullptr;
-  QBoxLayout* tail_ = nullptr;      // of the head: what is done
-  std::vector<ButtonView*> mains_;  // Main, Then and First
+  PageHead* head_ = nullptr;        // of a page
+  bool showsFilters_ = false;       // in a low window, where they wait until they are asked for
+  QBoxLayout* rows_ = nullptr;      // head and body of a page
+  std::vector<ButtonView*> mains_;  // Main, Then and First, and Cancel in their place
   unsigned seen_ = 0;
   Backdrop backdrop_;
   ui::Picture* behind_ = nullptr;

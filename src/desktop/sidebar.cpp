@@ -1,6 +1,8 @@
 #include "desktop/sidebar.h"
 
 #include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "desktop/housestyle.h"
@@ -56,6 +58,40 @@ class Logo : public QAbstractButton {
     painter.setPen(ColoursOf(this).Gold);
     DrawWords(painter, rect().adjusted(Px(kSide), 0, 0, 0), Qt::AlignVCenter, font, text());
   }
+};
+
+/// Ends with a whole line: what would be cut at its foot waits until it is scrolled to.
+class WholeLines : public BareScroller {
+ public:
+  explicit WholeLines(QWidget* parent) : BareScroller(parent) {
+    connect(verticalScrollBar(), &QAbstractSlider::valueChanged, this, [this] { Fit(); });
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    BareScroller::resizeEvent(event);
+    Fit();
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool eaten = BareScroller::eventFilter(watched, event);
+    if (watched == widget() && event->type() == QEvent::Resize) Fit();
+    return eaten;
+  }
+
+ private:
+  void Fit() {
+    if (fitting_ || !widget()) return;
+    const QScopedValueRollback<bool> fitting(fitting_, true);
+    const int foot = verticalScrollBar()->value() + contentsRect().height();
+    int over = 0;
+    for (const QObject* child : widget()->children())
+      if (const auto* line = qobject_cast<const QWidget*>(child);
+          line && line->y() < foot && line->geometry().bottom() >= foot)
+        over = foot - line->y();
+    setViewportMargins(0, 0, 0, over);
+  }
+
+  bool fitting_ = false;
 };
 
 }  // namespace
@@ -126,7 +162,7 @@ SideBar::SideBar(const ui::Page& page, Stage& stage, QWidget* parent) : QWidget(
   connect(logo, &QAbstractButton::clicked, this, [this] { Home(); });
   rows->addWidget(logo);
 
-  scroller_ = new BareScroller(this);
+  scroller_ = new WholeLines(this);
   scroller_->setWidgetResizable(true);
   middle_ = new QWidget;
   auto* lines = NewLayout<QVBoxLayout>(middle_, 0);

@@ -71,11 +71,12 @@ class TableCells : public QStyledItemDelegate {
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override;
+  /// What the ground of a row shows of it.
+  void PaintRow(QPainter& painter, const QStyleOptionViewItem& option, int row) const;
 
  private:
   bool IsLink(const QModelIndex& index) const;
   bool IsBare(int column) const;
-  void PaintRow(QPainter& painter, const QStyleOptionViewItem& option, int row) const;
   void PaintCell(QPainter& painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const;
   const TableModel& model_;

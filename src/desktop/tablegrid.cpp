@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
 #include <utility>
@@ -246,8 +247,22 @@ void TableGrid::DrawCursor(QPainter& painter) {
                   rowHeight(CurrentRow()));
   // A selected row stands out already.
   if (model_.Table().IsSelected(CurrentRow()))
-    return painter.fillRect(QRect(0, row.top(), Px(2), row.height() - 1), ColoursOf(this).Blue);
+    return painter.fillRect(QRect(0, row.top(), Px(3), row.height() - 1), ColoursOf(this).Blue);
   DrawFocus(painter, QRectF(row).adjusted(0, 0, 0, -1), Px(3), palette());
+}
+
+/// Rows reach over the whole width where the columns keep closer together.
+void TableGrid::DrawBeyond(QPainter& painter) {
+  const int from = heading_->length(), wide = viewport()->width() - from;
+  if (wide <= 0) return;
+  QStyleOptionViewItem option;
+  initViewItemOption(&option);
+  for (int row = std::max(0, rowAt(0)); row < model_.rowCount(); ++row) {
+    const int top = rowViewportPosition(row);
+    if (top >= viewport()->height()) break;
+    option.rect = QRect(from, top, wide, rowHeight(row));
+    cells_->PaintRow(painter, option, row);
+  }
 }
 
 /// Where the row that is dragged comes to stand.
@@ -270,6 +285,7 @@ void TableGrid::paintEvent(QPaintEvent* event) {
     scrollTo(currentIndex(), PositionAtCenter);
   QTableView::paintEvent(event);
   QPainter painter(viewport());
+  DrawBeyond(painter);
   DrawPinned(painter);
   DrawCursor(painter);
   DrawDrop(painter);
@@ -283,7 +299,7 @@ void TableGrid::paintEvent(QPaintEvent* event) {
 void TableGrid::resizeEvent(QResizeEvent* event) {
   const bool seen = SeesCursor(event->oldSize().height());
   QTableView::resizeEvent(event);
-  if (Resized) Resized();
+  if (Resized && event->size().width() != event->oldSize().width()) Resized();
   if (seen && painted_) scrollTo(currentIndex());
 }
 
@@ -294,8 +310,17 @@ void TableGrid::scrollContentsBy(int dx, int dy) {
   if (Moved) Moved();
 }
 
+/// Rows that scroll end with a whole one, so that the last place of the bar begins with one, too.
 void TableGrid::updateGeometries() {
+  if (fitting_) return;
+  const QScopedValueRollback<bool> fitting(fitting_, true);
   QTableView::updateGeometries();
+  const int row = verticalHeader()->defaultSectionSize(), room = viewport()->height();
+  if (room > row && model_.rowCount() * row > room) {
+    QMargins margins = viewportMargins();
+    margins.setBottom(room % row);
+    setViewportMargins(margins);
+  }
   UpdatePinned();
   if (Moved) Moved();
 }

@@ -94,6 +94,7 @@ class TableGrid : public QTableView {
   void PickAs(int row, Qt::KeyboardModifiers held);
   void UpdatePinned();
   void DrawPinned(QPainter& painter);
+  void DrawBeyond(QPainter& painter);
   void DrawCursor(QPainter& painter);
   void DrawDrop(QPainter& painter);
   void DropAt(int row);
@@ -106,6 +107,7 @@ class TableGrid : public QTableView {
   int dragged_ = -1;  // the row that the mouse holds in a list whose rows can be moved
   int drop_ = -1;     // the row in whose place it would come to stand
   bool painted_ = false;
+  bool fitting_ = false;  // its height to whole rows
 };
 
 }  // namespace grapplemont::desktop

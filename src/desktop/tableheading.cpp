@@ -71,6 +71,8 @@ int TableHeading::ColumnAt(const QPoint& at) const {
 void TableHeading::paintEvent(QPaintEvent* event) {
   QHeaderView::paintEvent(event);
   QPainter painter(viewport());
+  if (length() < width())
+    painter.fillRect(length(), height() - 1, width() - length(), 1, ColoursOf(this).Line);
   int left = 0;
   for (const int column : model_.PinnedColumns()) {
     DrawHeading(painter, QRect(left, 0, sectionSize(column), height()), column);

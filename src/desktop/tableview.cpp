@@ -197,7 +197,9 @@ bool TableView::ClearFilters() {
 
 void TableView::ShowSearchRow() {
   const bool filters = !table_.State().Search.empty() || !table_.State().Filters.empty();
-  const bool wide = CanSearch() && control_.Count() > kWorthSearching && rowButtons_.empty();
+  const bool records = control_.OnOpen && control_.Columns().size() > 1;
+  const int overseen = records ? kRecordsWorthSearching : kWorthSearching;
+  const bool wide = CanSearch() && control_.Count() > overseen && rowButtons_.empty();
   searchRow_->setVisible(wide || filters || !control_.Views.empty());
   search_->setVisible(!control_.Search);
   const bool all = static_cast<int>(table_.Columns().size()) == model_.columnCount();

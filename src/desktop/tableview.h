@@ -11,7 +11,8 @@ inline std::size_t Index(int number) {
   return static_cast<std::size_t>(number);
 }
 
-inline constexpr int kWorthSearching = 8;  // rows that can be overseen without a search line
+// Rows that can be overseen without a search line, and those of records that can be opened.
+inline constexpr int kWorthSearching = 12, kRecordsWorthSearching = 8;
 
 class ButtonView;
 class PushButton;
@@ -25,7 +26,7 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   /// Keeps what the player has made of the table.
   void Leave() override;
   /// Whether it may come to have rows enough for a search line.
-  bool CanSearch() const { return control_.Room > kWorthSearching || !control_.Views.empty(); }
+  bool CanSearch() const { return control_.Room >= kWorthSearching || !control_.Views.empty(); }
   /// The search line's row, for a card whose heading stands in the line above the table.
   QWidget* TakeSearchRow();
   /// Has these stand in the rows, by the rows' keys from 1.

@@ -15,6 +15,7 @@ namespace {
 constexpr int kMeasuredRows = 200;  // rows that are measured one by one for a column's width
 constexpr int kReadRows = 2000;     // of those behind them; of more, some that lie far apart
 constexpr int kSentence = 200;      // texts from this width on are read at length
+constexpr int kColumnsApart = 120;  // from the end of a text to the next column, at most
 constexpr int kTagsRead = 124;      // two tags, or one and the beginning of the next
 // What columns of words keep where there is little room.
 constexpr int kNameWhole = 220, kNameCut = 110;
@@ -29,6 +30,14 @@ void Spread(int room, const std::vector<double>& shares, std::vector<int>& width
     room -= more;
     all -= shares[i];
   }
+}
+
+/// No column stands further from the next than the eye reaches; what a last column of words has
+/// beyond that is room for them.
+void KeepTogether(const std::vector<int>& wanted, std::vector<int>& widths) {
+  for (std::size_t place = 0; place < widths.size(); ++place)
+    widths[place] =
+        std::min(widths[place], wanted[place] + std::max(Px(kColumnsApart), wanted[place] / 2));
 }
 
 /// Takes what is missing bit by bit from what exceeds its least width most; gives what is missing
@@ -108,8 +117,9 @@ std::size_t TableView::SentencePlace(const std::vector<int>& widths) const {
   return widest;
 }
 
-/// What is read first gives way last, and no further than a usual name needs; bars leave their
-/// number alone before that. No heading is ever cut, and a number keeps its width.
+/// Sentences give way first, then bars leave their number alone, then the other texts; what is read
+/// first gives way last, and no further than a usual name needs. No heading is ever cut, and a
+/// number keeps its width.
 void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
   const std::size_t name = Index(table_.NamePlace()), sentence = SentencePlace(widths);
   const int room = grid_->viewport()->width();
@@ -124,8 +134,9 @@ void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
     }
     missing = Squeeze(missing, floors, widths);
   };
-  shrink(asked[name], Px(kTextRead), Px(kTextGlanced));
+  shrink(asked[name], sentence == name ? asked[name] : Px(kTextRead), room);
   missing -= DropBars(missing, widths);
+  if (missing > 0) shrink(asked[name], Px(kTextRead), Px(kTextGlanced));
   if (missing < 0) {
     std::vector<double> shortened(widths.size());
     for (std::size_t place = 0; place < widths.size(); ++place)
@@ -155,14 +166,14 @@ int TableView::DropBars(int missing, std::vector<int>& widths) {
 }
 
 /// Where it does not all fit, the rest is scrolled beside the name, which is shown whole as long as
-/// half of the room is left. Then nothing need be cut short any more.
+/// it leaves some room. Then nothing need be cut short any more.
 void TableView::ScrollRest(const std::vector<int>& asked, std::vector<int>& widths) {
   const std::size_t name = Index(table_.NamePlace()), sentence = SentencePlace(asked);
-  const int room = grid_->viewport()->width();
+  const int room = grid_->viewport()->width(), whole = std::min(Px(kNameWhole), room * 3 / 4);
   for (std::size_t place = 0; place < widths.size(); ++place) {
     if (!IsWords(place)) continue;
     const bool tags = model_.Column(table_.Columns()[place]).Kind == ui::ColumnKind::Tags;
-    const int read = place == name       ? room * 45 / 100
+    const int read = place == name       ? std::max(room * 45 / 100, whole)
                      : tags              ? Px(kTagsRead)
                      : place == sentence ? Px(kTextRead)
                                          : Px(kTextGlanced);
@@ -230,7 +241,9 @@ void TableView::FitColumns() {
     shares.push_back(share);
     room -= widths[i];
   }
+  const std::vector<int> wanted = widths;
   Spread(room, shares, widths);
+  if (room > 0) KeepTogether(wanted, widths);
   room = DropEmpty(room, widths);
   model_.Bare.clear();
   if (room < 0 && !widths.empty()) SqueezeTexts(-room, widths);

@@ -7,6 +7,7 @@
 
 #include "desktop/dates.h"
 #include "desktop/views.h"
+#include "desktop/wordswidth.h"
 #include "ui/acts.h"
 
 namespace grapplemont::desktop {
@@ -36,6 +37,14 @@ class LineView : public ViewOf<QLineEdit, ui::TextBox> {
       const std::string kept = KeepTyped(*this, OnStage());
       if (kept != control_.Text.Get()) Do(ui::Type, std::string_view(kept));
     });
+  }
+  /// As wide as the longest text that a field has room for, whatever stands in it now.
+  QSize sizeHint() const override {
+    constexpr int kMostLetters = 28, kSides = 24;
+    const QSize usual = QLineEdit::sizeHint();
+    if (control_.MaxLength == 0) return usual;
+    const QString letters(std::min(control_.MaxLength, kMostLetters), u'n');
+    return {WordsWidth(font(), letters) + Px(kSides), usual.height()};
   }
 
  protected:

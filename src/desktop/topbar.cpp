@@ -28,6 +28,7 @@ HubFrame::HubFrame(const ui::Page& page, Stage& stage, QWidget* parent)
 namespace {
 
 constexpr int kTopHeight = 52, kTopSide = 20, kBetween = 18, kSecondRow = 10;
+constexpr int kLowWindow = 420, kLowTop = 44, kLowSecond = 6;  // in a window no higher than that
 constexpr int kStep = 24;                       // a number's room grows by so much at once
 constexpr int kShortName = 96, kBareName = 88;  // what is left of a long name
 constexpr int kLeastName = 40;                  // less of it says nothing
@@ -196,7 +197,10 @@ TopBar::TopBar(const ui::Page& page, Stage& stage, QWidget* parent)
   facts->addStretch(1);
   more_->setObjectName("topmore");
   more_->hide();
-  connect(more_, &QAbstractButton::clicked, this, [this] { OpenMore(); });
+  connect(more_, &QAbstractButton::clicked, this, [this] {
+    const auto folded = Foldable();
+    OpenFolded({folded.begin(), folded.end()}, *more_);
+  });
   actions_->addWidget(more_);
   for (ui::Button* action : page.TopActions) {
     auto* view = dynamic_cast<ButtonView*>(MakeView(*action, stage, this));
@@ -269,21 +273,11 @@ void TopBar::Take(const Way& way) {
   more_->setToolTip(hidden.join(", "));
   actions_->SetOneRow(way.OneRow);
   all_->setDirection(way.OneRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-  const int second =
-      way.OneRow ? 0 : actions_->heightForWidth(width() - 2 * Px(kTopSide)) + Px(kSecondRow);
-  all_->setContentsMargins(Px(kTopSide), 0, Px(kTopSide), way.OneRow ? 1 : Px(kSecondRow));
-  if (height() != Px(kTopHeight) + second) setFixedHeight(Px(kTopHeight) + second);
-}
-
-void TopBar::OpenMore() {
-  QMenu* menu = NewMenu(this, "topmenu");
-  menu->setToolTipsVisible(true);
-  for (ButtonView* view : Foldable()) {
-    QAction* action = menu->addAction(view->text(), this, [view] { view->Pressed(); });
-    action->setEnabled(view->isEnabled());
-    action->setToolTip(view->toolTip());
-  }
-  menu->popup(more_->mapToGlobal(QPoint(0, more_->height() + Px(4))));
+  const bool low = window()->height() < Px(kLowWindow);
+  const int first = Px(low ? kLowTop : kTopHeight), below = Px(low ? kLowSecond : kSecondRow);
+  const int second = way.OneRow ? 0 : actions_->heightForWidth(width() - 2 * Px(kTopSide)) + below;
+  all_->setContentsMargins(Px(kTopSide), 0, Px(kTopSide), way.OneRow ? 1 : below);
+  if (height() != first + second) setFixedHeight(first + second);
 }
 
 void TopBar::Refresh() {

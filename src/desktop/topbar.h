@@ -49,7 +49,6 @@ class TopBar : public QWidget {
   std::vector<ButtonView*> Foldable() const;
   void Fit();
   void Take(const Way& way);
-  void OpenMore();
 
   std::vector<Fact*> facts_;
   std::vector<ControlView*> views_;

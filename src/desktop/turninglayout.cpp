@@ -14,7 +14,7 @@ int RowWidth(QLayoutItem& item) {
   if (const auto* turning = dynamic_cast<const TurningLayout*>(item.layout()))
     return turning->WidthAcross();
   const auto* flow = dynamic_cast<const FlowLayout*>(item.layout());
-  return flow ? flow->WidthInOneRow() : -1;
+  return flow ? flow->sizeHint().width() : -1;
 }
 
 int LeastWidthOf(QLayoutItem& item) {
@@ -59,7 +59,7 @@ bool PlaceTight(QBoxLayout& column, const QRect& rect) {
 }
 
 TurningLayout::TurningLayout(int gap, int least)
-    : QBoxLayout(QBoxLayout::LeftToRight), gap_(gap), least_(least) {
+    : QBoxLayout(QBoxLayout::LeftToRight), least_(least) {
   setContentsMargins(0, 0, 0, 0);
   setSpacing(Px(gap));
 }
@@ -91,8 +91,7 @@ int TurningLayout::WidthAcross() const {
     if (item->isEmpty()) continue;
     const bool shares = stretch(i) > 0 || item->expandingDirections().testFlag(Qt::Horizontal);
     const int whole = whole_ ? RowWidth(*item) : -1;
-    int least = shares ? Px(least_) : 0;
-    if (modest_) least = std::min(least, item->sizeHint().width());
+    const int least = shares ? Px(least_) : 0;
     width += (width > 0 ? spacing() : 0) +
              (whole >= 0 ? whole : std::max(item->minimumSize().width(), least));
   }

@@ -16,8 +16,6 @@ class TurningLayout : public QBoxLayout {
  public:
   /// `least` is the width, in drawn pixels, that a part with a share needs beside others.
   explicit TurningLayout(int gap, int least = 0);
-  /// An empty one of its kind, to be a part of it.
-  TurningLayout* NewPart() const { return new TurningLayout(gap_, least_); }
   /// Turns rather than that a part which is itself a row, a FlowLayout or one of these, goes on in
   /// the next line.
   void KeepRowsWhole();
@@ -25,9 +23,6 @@ class TurningLayout : public QBoxLayout {
   void SetOneRow(bool oneRow);
   /// Has the first part go last while the parts stand one below the other.
   void LetFirstWait() { firstWaits_ = true; }
-
-  /// Lets a part that wishes for less than the least of its kind stand with that in a row.
-  void AskNoMoreThanWished() { modest_ = true; }
 
   /// The width from which on the parts stand in a row.
   int WidthAcross() const;
@@ -54,8 +49,8 @@ class TurningLayout : public QBoxLayout {
   void Turn(Direction wanted);
   void MovePart(int from, int to);
 
-  int gap_, least_;
-  bool whole_ = false, oneRow_ = false, firstWaits_ = false, modest_ = false;
+  int least_;
+  bool whole_ = false, oneRow_ = false, firstWaits_ = false;
 };
 
 }  // namespace grapplemont::desktop

@@ -22,25 +22,41 @@ void Window::keyPressEvent(QKeyEvent* event) {
   if (!top->HandleKey(event->key())) QMainWindow::keyPressEvent(event);
 }
 
-/// A page has its own main action. Above the hub one without goes on to the hub's, unless something
-/// is being typed: a name that is finished with Enter must not end the day.
+namespace {
+
+bool CanBePressed(const ui::Button* button) {
+  return button && button->Enabled && button->Visible;
+}
+
+}  // namespace
+
+/// A page has its own main action. While that cannot be pressed, one above the hub goes on to the
+/// hub's, and all else leads back. What is being typed keeps Enter from either: a name that is
+/// finished with it must not end the day.
 ui::Button* Window::EnterButton() const {
   const ScreenView *top = TopView(), *hub = HubView();
   if (!top || box_ || finder_) return nullptr;
-  if (ui::Button* const main = top->MainNow()) return main->Enabled ? main : nullptr;
-  if (!hub || top->Shows().Is() != ui::Role::Page || qobject_cast<QLineEdit*>(focusWidget()))
-    return nullptr;
-  ui::Button* const next = hub->MainNow(false);
-  return next && next->Enabled && WhyWaits(*next).empty() ? next : nullptr;
+  if (ui::Button* const main = top->MainNow(); CanBePressed(main)) return main;
+  const ui::Role role = top->Shows().Is();
+  if (role == ui::Role::Hub) return nullptr;
+  if (hub && role == ui::Role::Page) {
+    if (qobject_cast<QLineEdit*>(focusWidget())) return nullptr;
+    ui::Button* const next = hub->MainNow(false);
+    if (CanBePressed(next) && WhyWaits(*next).empty()) return next;
+  }
+  ui::Button* const back = top->Page().Cancel;
+  return CanBePressed(back) ? back : nullptr;
 }
 
 void Window::PressEnter() {
   ScreenView& top = *TopView();
-  if (ui::Button* const button = EnterButton()) {
-    if (&button->Parent() == &top.Shows())
-      top.Press(button);
-    else
-      PressHub(*button);
+  ui::Button* const button = EnterButton();
+  if (button && button == top.Page().Cancel) {
+    top.PressCancel();
+  } else if (button && &button->Parent() == &top.Shows()) {
+    top.Press(button);
+  } else if (button) {
+    PressHub(*button);
   } else if (const ui::Button* const main = top.MainNow(); main && !main->Enabled) {
     HintAt(*main, Shown(WhyNotPress(*main)));
   }

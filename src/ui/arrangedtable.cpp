@@ -247,11 +247,14 @@ void Table::SetPlace(int topRow, int currentKey) {
 }
 
 int Table::NamePlace() const {
+  int first = -1;
   for (std::size_t place = 0; place < columns_.size(); ++place) {
     const Column& column = list_.Columns()[Index(columns_[place])];
-    if (column.Kind == ColumnKind::Text && column.Title != "#") return static_cast<int>(place);
+    if (column.Title == "Name") return static_cast<int>(place);
+    if (first < 0 && column.Kind == ColumnKind::Text && column.Title != "#")
+      first = static_cast<int>(place);
   }
-  return 0;
+  return std::max(0, first);
 }
 
 int Table::RowsWhere(const std::function<bool(int listRow)>& holds) const {

@@ -91,8 +91,8 @@ class Table {
   void ResetColumns();
   void SetWidth(int listColumn, int width);
   void SetPlace(int topRow, int currentKey);
-  /// The place, among the columns shown, of what is read first: the first text that is not a
-  /// number.
+  /// The place, among the columns shown, of what is read first: the name, else the first text that
+  /// is not a number.
   int NamePlace() const;
 
   /// A filter in force and how many rows it hides by itself.

@@ -74,7 +74,7 @@ TEST(TheTopBar, FoldsWhatHasNoRoomIntoAMenuAndTakesTwoLinesAtMost) {
   ASSERT_TRUE(play.Sees("topmore"));
   EXPECT_FALSE(play.Sees("cmduntil"));
   play.Click("topmore");
-  const auto* menu = play.Window.findChild<QMenu*>("topmenu");
+  const auto* menu = play.Window.findChild<QMenu*>("topmoremenu");
   ASSERT_TRUE(menu);
   ASSERT_EQ(menu->actions().size(), 2);
   EXPECT_FALSE(menu->actions()[0]->isEnabled());

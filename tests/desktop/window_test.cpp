@@ -104,7 +104,7 @@ TEST_F(TheWindow, SaysWhyEnterDoesNothing) {
   page.cmddone.Tip = "Nothing is chosen yet.";
   Play.Window.Sync();
   EXPECT_FALSE(BearsEnter("cmddone"));
-  EXPECT_FALSE(BearsEnter("cmdnext")) << "a page with an action of its own never ends the day";
+  EXPECT_FALSE(BearsEnter("cmdnext")) << "a name that is finished with Enter never ends the day";
   Play.Key(Qt::Key_Return);
   EXPECT_EQ(Play.TextOf("hint"), "Nothing is chosen yet.");
   const QWidget& done = *Play.See("cmddone");
@@ -112,6 +112,10 @@ TEST_F(TheWindow, SaysWhyEnterDoesNothing) {
               done.mapTo(&Play.Window, QPoint(0, done.height())).y(), 10)
       << "it stands below what refused";
   EXPECT_EQ(Notes, Log());
+  Play.See("cmdask")->setFocus(Qt::TabFocusReason);
+  EXPECT_TRUE(BearsEnter("cmdnext")) << "where nothing is typed";
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Notes.back(), "next day");
 }
 
 TEST_F(TheWindow, OpensRoomsAboveAPageThatStaysAndComesBackToIt) {
@@ -132,8 +136,10 @@ TEST_F(TheWindow, OpensRoomsAboveAPageThatStaysAndComesBackToIt) {
   EXPECT_EQ(Play.Desk.Screens().size(), 3U);
   EXPECT_TRUE(IsNow("cmdpeople"));
   EXPECT_FALSE(BearsEnter("cmdnext"));
+  EXPECT_TRUE(BearsEnter("cmdback")) << "the day cannot end from here";
   Play.Key(Qt::Key_Return);
-  EXPECT_EQ(Play.Top(), "frmPeople");
+  EXPECT_EQ(Play.Top(), "frmDesk");
+  Play.Key(Qt::Key_F2);
   Play.Key(Qt::Key_F2);
   EXPECT_EQ(Play.Desk.Screens().size(), 3U) << "one room at a time";
   Play.Key(Qt::Key_Escape);

@@ -1,0 +1,93 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMenu>
+
+#include "desktop/player.h"
+#include "ui/controlarray.h"
+
+// How heads, cards and tables share the room of a page.
+
+namespace grapplemont::test {
+namespace {
+
+/// Of few rows in a page of much room.
+TEST(TheTables, KeepTheirColumnsTogetherAndAnEmptyOneLeavesItsRoomToAnother) {
+  class Lists : public ui::Screen {
+   public:
+    explicit Lists(ui::Desk& desk) : Screen(desk, "frmLists", "Lists") {
+      for (int row = 1; row <= 12; ++row) lstnext.Add({"Zane Tempest", "Heel", row}, row);
+    }
+    ui::Page Layout() override {
+      return {.Body = ui::Rows({ui::Group("Members", {ui::Grow(lstmembers)}).Grow(),
+                                ui::Group("Next", {ui::Grow(lstnext)}).Grow()})};
+    }
+    ui::ListBox lstmembers{*this, "lstmembers", {{"Name"}}};
+    ui::ListBox lstnext{*this, "lstnext", {{"Name"}, {"Side"}, {"Over", ui::ColumnKind::Number}}};
+  };
+  Player play;
+  play.Open(std::make_unique<Lists>(play.Desk));
+  play.Window.resize(1920, 1000);
+  QApplication::processEvents();
+  const desktop::TableGrid& next = play.Grid("lstnext");
+  EXPECT_GT(next.height(), 2 * play.Grid("lstmembers").height());
+  EXPECT_LT(next.columnViewportPosition(2), 600) << "beside what it belongs to";
+  EXPECT_GT(next.viewport()->width(), 1700);
+  EXPECT_FALSE(play.Sees("lstnext_search")) << "twelve rows are overseen at once";
+  play.Desk.Event([&] {
+    auto& lists = dynamic_cast<Lists&>(*play.Desk.Top());
+    for (int row = 1; row <= 20; ++row) lists.lstmembers.Add({"Zane Tempest"}, row);
+  });
+  play.Window.Sync();
+  for (int i = 0; i < 4; ++i) QApplication::processEvents();
+  EXPECT_NEAR(next.height(), play.Grid("lstmembers").height(), 80);
+}
+
+TEST(TheHead, KeepsItsMainActionInTheTitlesLineAndFoldsTheOthers) {
+  class Acts : public ui::Screen {
+   public:
+    explicit Acts(ui::Desk& desk) : Screen(desk, "frmActs", "A page of acts") {}
+    ui::Page Layout() override {
+      std::vector<ui::Button*> actions;
+      for (int act = 1; act <= cmdact.Count(); ++act) actions.push_back(&cmdact(act));
+      return {.Actions = std::move(actions),
+              .Main = &cmdact(1),
+              .Cancel = &cmdact(2),
+              .Body = ui::Rows({lblmore})};
+    }
+    ui::Label lblmore{*this, "lblmore", "There is more."};
+    std::vector<int> Pressed;
+    ui::Array<ui::Button> cmdact{"cmdact", 8, [this](const std::string& name, int act) {
+                                   return std::make_unique<ui::Button>(
+                                       *this, name, "Do it " + std::to_string(act),
+                                       [this, act] { Pressed.push_back(act); });
+                                 }};
+  };
+  Player play;
+  play.Open(std::make_unique<Acts>(play.Desk));
+  auto& acts = dynamic_cast<Acts&>(*play.Desk.Top());
+  for (const auto& [percent, folds] : {std::pair(100, false), std::pair(200, true)}) {
+    play.Window.resize(1024, 640);
+    play.Window.SetLook(desktop::Scheme::Dark, desktop::DesktopText() * (percent - 100) / 100);
+    for (int i = 0; i < 4; ++i) QApplication::processEvents();
+    EXPECT_EQ(play.Sees("pagemore"), folds) << percent;
+    EXPECT_EQ(play.Sees("cmdact(3)"), !folds) << percent;
+    EXPECT_TRUE(play.Sees("cmdact(2)")) << percent << ": the way back folds last";
+    const QWidget& gold = *play.See("cmdact(1)");
+    const QWidget& title = *play.See("title");
+    const int line = title.mapTo(&play.Window, title.rect().center()).y();
+    EXPECT_NEAR(gold.mapTo(&play.Window, gold.rect().center()).y(), line, 4) << percent;
+  }
+  play.Click("pagemore");
+  auto* menu = play.Window.findChild<QMenu*>("pagemoremenu");
+  ASSERT_TRUE(menu);
+  ASSERT_FALSE(menu->actions().isEmpty());
+  EXPECT_EQ(menu->actions().front()->text(), "Do it 3");
+  menu->actions().front()->trigger();
+  menu->close();
+  EXPECT_EQ(acts.Pressed, std::vector<int>{3});
+  play.Window.SetLook(desktop::Scheme::Dark, 0);
+}
+
+}  // namespace
+}  // namespace grapplemont::test
