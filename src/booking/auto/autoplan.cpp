@@ -198,10 +198,15 @@ std::string ReasonFor(const AutoPlan& plan, const Segment& segment) {
   if (!talks && segment.Style != kSpecial)
     for (const auto& side : SidesOf(segment))
       sides.push_back(SideWithFigures(plan.World, side, talks));
+  const std::vector<int> people = PeopleOf(segment);
+  const std::vector<int> speakers = segment.Kind == kInterview ? SpeakersOf(segment) : people;
   if (talks)
-    for (const int uid : PeopleOf(segment))
+    for (const int uid : speakers)
       if (uid != 0 && sides.size() < 2) sides.push_back(SideWithFigures(plan.World, {uid}, talks));
   std::string text = Joined(sides, talks ? " and " : " against ");
+  if (talks)
+    for (const int uid : people)
+      if (std::ranges::count(speakers, uid) == 0) text += ", about " + WorkerName(plan.World, uid);
   if (!talks && segment.TitleName != "None") text += " for the " + segment.TitleName.Str();
   if (const int heat = HottestHeat(plan.World, segment); heat > 0)
     text += ", in a feud with a heat of " + std::to_string(heat);
