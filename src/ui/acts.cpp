@@ -32,7 +32,8 @@ std::string OnControl(Screen& screen, std::string_view name,
   Control* control = screen.Find(name);
   if (!control) return screen.Name() + " has no control " + Quoted(name) + ".";
   if (!control->Visible) return Quoted(name) + " is not visible.";
-  if (!control->Enabled) return Quoted(name) + " is disabled.";
+  if (!control->Enabled)
+    return Quoted(name) + " is disabled." + (control->Tip->empty() ? "" : " " + control->Tip.Get());
   return act(*control);
 }
 

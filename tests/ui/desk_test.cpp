@@ -171,6 +171,8 @@ TEST(TheScriptDesk, FailsOnWhatWasNotExpected) {
   desk.ExpectSay("Told", "First.");
   EXPECT_NONFATAL_FAILURE(desk.Finish(), "Say(\"Told\", \"First.\") was expected and never came.");
   EXPECT_NONFATAL_FAILURE(desk.Click("cmdoff"), "\"cmdoff\" is disabled.");
+  desk.Top()->Find("cmdoff")->Tip = "Not before noon.";
+  EXPECT_NONFATAL_FAILURE(desk.Click("cmdoff"), "\"cmdoff\" is disabled. Not before noon.");
   EXPECT_NONFATAL_FAILURE((void)desk.Text("lblnone"), "has no control \"lblnone\"");
   const auto leaveOne = [] { ScriptDesk().ExpectAsk("Quit?", kAnyText, true); };
   EXPECT_NONFATAL_FAILURE(leaveOne(), "Ask(\"Quit?\", any text) was expected");
