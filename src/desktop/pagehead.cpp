@@ -44,6 +44,12 @@ void PageHead::AddOwn(PushButton& button, std::function<bool()> seen) {
   actions_.push_back({&button, std::move(seen), Fold::Last, false});
 }
 
+void PageHead::SetLow(bool low) {
+  if (low_ == low) return;
+  low_ = low;
+  invalidate();
+}
+
 std::vector<PushButton*> PageHead::Folded() const {
   std::vector<PushButton*> folded;
   for (const Action* action : FoldOrder())
@@ -81,7 +87,8 @@ int PageHead::WidthWith(const std::vector<const Action*>& order, std::size_t fol
 PageHead::Plan PageHead::PlanFor(int width) const {
   const auto order = FoldOrder();
   if (order.empty() && WidthWith(order, 0) == 0) return {};
-  const int wish = Title().sizeHint().width();
+  const int wish = Title().sizeHint().width(), all = WidthWith(order, 0);
+  if (!low_ && wish + Px(kHeadGap) + all > width && all <= width) return {false, 0, all};
   for (const int title : {wish, std::min(wish, least_)})
     for (std::size_t folded = 0; folded <= order.size(); ++folded)
       if (const int own = WidthWith(order, folded); title + Px(kHeadGap) + own <= width)

@@ -10,8 +10,9 @@
 namespace grapplemont::desktop {
 
 /// The head of a page: the title with what can be done at its right, and below it the lines that
-/// tell about it. Actions that have no room in the title's line fold into "More…", the main ones
-/// last of all; where even that is too wide, they have a line of their own at the end.
+/// tell about it. Actions that have no room in the title's line have one of their own at the end;
+/// in a low window, and where that is too narrow for all, they fold into "More…", the main
+/// ones last of all.
 class PageHead : public QLayout {
  public:
   /// Takes the parts. `least` is what the title has beside actions, in drawn pixels.
@@ -24,6 +25,8 @@ class PageHead : public QLayout {
   void AddAction(ButtonView& action, Fold fold, bool comesAndGoes);
   /// Adds a button of the window's own, which is there while `seen` says so and folds late.
   void AddOwn(PushButton& button, std::function<bool()> seen);
+  /// Whether a line of their own would cost too much of the page.
+  void SetLow(bool low);
   /// Those that have no room at present, in the order in which they gave way.
   std::vector<PushButton*> Folded() const;
   /// What opens those that are folded; it is shown while there are any.
@@ -66,6 +69,7 @@ class PageHead : public QLayout {
   QLayoutItem& Facts() const { return *items_[1]; }
 
   int least_;
+  bool low_ = false;
   std::vector<Action> actions_;
   QPointer<PushButton> more_;
   QList<QLayoutItem*> items_;  // title, facts, then More and the actions

@@ -105,6 +105,7 @@ QLayout* ScreenView::BuildFoot() {
 void ScreenView::FitHead() {
   if (!rows_ || screen_->Is() == ui::Role::Cover) return;
   const bool low = height() < Px(kLowPage);
+  head_->SetLow(low);
   for (ControlView* view : views_)
     if (page_.Facts && &view->Shows() == page_.Facts)
       dynamic_cast<LabelView*>(view)->SetOneLine(low);

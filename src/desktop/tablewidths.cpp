@@ -123,7 +123,7 @@ std::size_t TableView::SentencePlace(const std::vector<int>& widths) const {
 void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
   const std::size_t name = Index(table_.NamePlace()), sentence = SentencePlace(widths);
   const int room = grid_->viewport()->width();
-  const int least = std::max(Px(kNameCut), std::min(Px(kNameWhole), room * 55 / 100));
+  const int least = std::max(Px(kNameCut), std::min(Px(kNameWhole), room * 3 / 4));
   const std::vector<int> asked = widths;
   const auto shrink = [&](int ofName, int ofSentence, int ofOthers) {
     std::vector<int> floors = widths;
