@@ -90,7 +90,7 @@ std::string WithoutThe(std::string_view name) {
   return plain;
 }
 
-std::string InWords(int number) {
+std::string SpelledOut(int number) {
   constexpr std::string_view kOnes[] = {"",        "one",     "two",       "three",    "four",
                                         "five",    "six",     "seven",     "eight",    "nine",
                                         "ten",     "eleven",  "twelve",    "thirteen", "fourteen",
@@ -99,7 +99,7 @@ std::string InWords(int number) {
                                         "fifty", "sixty", "seventy", "eighty", "ninety"};
   constexpr int kHundred = 100, kTen = 10;
   const auto joined = [](std::string_view one, std::string_view by, int rest) {
-    return std::string(one) + (rest == 0 ? std::string() : std::string(by) + InWords(rest));
+    return std::string(one) + (rest == 0 ? std::string() : std::string(by) + SpelledOut(rest));
   };
   if (number >= kHundred)
     return joined(std::string(kOnes[number / kHundred]) + " hundred", " and ", number % kHundred);
@@ -325,7 +325,7 @@ class Filler {
     std::size_t end = at;
     while (end < out_.size() && out_[end] >= '0' && out_[end] <= '9') ++end;
     if (end > at && end - at <= kMostDigits)
-      out_.replace(at, end - at, InWords(std::stoi(out_.substr(at, end - at))));
+      out_.replace(at, end - at, SpelledOut(std::stoi(out_.substr(at, end - at))));
   }
 
   bool BeginsSentence(std::size_t at) const {

@@ -100,7 +100,7 @@ inline constexpr std::string_view kSideParts = "FSXY";
 Cast CastOf(const World& world, const Segment& segment);
 
 /// "one hundred and one". Requires 1 to 999.
-std::string InWords(int number);
+std::string SpelledOut(int number);
 /// "the Harbor Crown", "the CWA World Title": a name that says what it is needs no more.
 std::string TitleInProse(std::string_view name, bool singles);
 /// The word that goes with a Title's name, by its number: "the Zenith Tag Titles are".

@@ -119,7 +119,7 @@ constexpr FamilyRow kRows[] = {
      kEveryVoice, (1U << kPurposesTold) - 1},
     {Turn, "finishes", "t", "t", Named<kTurnsHeel, kTooSoon>(), 3},
     {PastOpening, "memory", "FSm", "", Named<kMetFirst, kYearRecalled>(), 8},
-    {PastEnding, "memory", "FS", "", Named<kPaidBack, kYearStands>(), 8},
+    {PastEnding, "memory", "FSm", "", Named<kPaidBack, kYearStands>(), 8},
     {Interlude, "beats", "adwlcFS", "", Named<kWalkIn, kAfterBell>(), 10, false, kEveryVoice,
      1U << kAfterBell},
     {Squash, "beats", "wl", "", Named<kSquashBegins, kSquashDone>(), 6},

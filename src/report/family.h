@@ -221,7 +221,9 @@ enum PastOutcome {
   kSlumpEnds,
   kSeriesTips,  // {F} is one ahead
   kWordKept,
-  kWordEaten,  // by {F}, who spoke
+  kWordEaten,    // by {F}, who spoke
+  kSaidSo,       // {m} did, of {F}
+  kSaidTooMuch,  // the same, and {F} lost
   kReignGrows,
   kReignOver,  // of {F}, {count} days
   kFirstCrown,

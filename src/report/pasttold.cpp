@@ -72,7 +72,7 @@ constexpr OutcomeRow kOutcomes[] = {
     {kWinsInARow, Who::One, false, kRunGoesOn},   {kWinsInARow, Who::Two, false, kRunEnds},
     {kLossesInARow, Who::One, false, kSlumpEnds}, {kSeriesLevel, Who::Either, false, kSeriesTips},
     {kThreatened, Who::One, false, kWordKept},    {kThreatened, Who::Two, false, kWordEaten},
-    {kManagerSpoke, Who::One, false, kWordKept},  {kManagerSpoke, Who::Two, false, kWordEaten},
+    {kManagerSpoke, Who::One, false, kSaidSo},    {kManagerSpoke, Who::Two, false, kSaidTooMuch},
     {kReignLong, Who::One, false, kReignGrows},   {kReignLong, Who::Two, true, kReignOver},
     {kOnceChampion, Who::One, true, kCrownBack},  {kTitleAgain, Who::One, true, kCrownBack},
     {kAwayLong, Who::One, false, kBackWithAWin},  {kMetFiftyTimes, Who::Either, false, kFiftyDone},
@@ -109,7 +109,8 @@ const OutcomeRow* OutcomeOf(const PastFact& fact, const std::vector<int>& winner
 PastFact AsEnded(const PastFact& fact, const OutcomeRow& row, const std::vector<int>& winners) {
   PastFact ended = fact;
   const bool aboutLoser = row.Tells == kRunEnds || row.Tells == kWordEaten ||
-                          row.Tells == kReignOver || row.Tells == kFiftyDone;
+                          row.Tells == kSaidTooMuch || row.Tells == kReignOver ||
+                          row.Tells == kFiftyDone;
   if (!aboutLoser && Share(winners, fact.Two)) std::swap(ended.One, ended.Two);
   return ended;
 }
@@ -118,7 +119,7 @@ PastFact AsEnded(const PastFact& fact, const OutcomeRow& row, const std::vector<
 
 std::string CountText(int count) {
   if (count == 0) return "no";
-  return count > 0 && count <= kWritten ? InWords(count) : std::to_string(count);
+  return count > 0 && count <= kWritten ? SpelledOut(count) : std::to_string(count);
 }
 
 std::string NthText(int count) {

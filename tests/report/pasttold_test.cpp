@@ -158,6 +158,29 @@ TEST_P(Voices, SettleAMatchOneWay) {
   EXPECT_FALSE(WasSaid(memory, Family::PastEnding, kSameAgain, GetParam())) << teller.Text();
 }
 
+/// Whose manager did the talking has kept no word, and eats none.
+TEST_P(Voices, HoldManagersToWhatTheySaid) {
+  World world = SmallWorld()
+                    .Promotion("CWA")
+                    .Worker("Ada Crane")
+                    .Worker("Bo Pike")
+                    .Worker("Max Teller")
+                    .Game("CWA");
+  world.Game().Reporter = GetParam();
+  const Segment segment = AdaBeatsBo();
+  const Scene scene;
+  for (const int client : {1, 2}) {
+    LineMemory memory;
+    Teller teller(world, segment, scene, memory);
+    teller.Told = {{kManagerSpoke, 84, {client}, {3 - client}, 0, 0}};
+    teller.Told[0].Manager = 3;
+    TellPastEnding(teller);
+    EXPECT_TRUE(
+        WasSaid(memory, Family::PastEnding, client == 1 ? kSaidSo : kSaidTooMuch, GetParam()));
+    EXPECT_NE(teller.Text().find("Max Teller"), std::string::npos) << teller.Text();
+  }
+}
+
 TEST_P(Voices, LookBackOnTheYearAtDecembersEvent) {
   for (const auto& [day, isEvent, overall] : {std::tuple("2026-12-20", true, 50),
                                               {"2026-12-20", true, 95},
