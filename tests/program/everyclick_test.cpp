@@ -22,17 +22,13 @@ struct ClickStory {
   const char* Name;
   From Begins;
   Acts Before, Clicks;
-  int Changes = 1;  // of the clicks that keep something
 };
 
 World AGame() {
-  return SmallWorld()
-      .Network("Nine")
-      .Promotion("CWA", kCult)
-      .Owner("Ruth Vane")
-      .Crew(8)
-      .Show("Sunday Slam", "Sunday", "Nine")
-      .Game("CWA");
+  World world =
+      SmallWorld().Network("Nine").Promotion("CWA", kCult).Owner("Ruth Vane").Crew(8).Game("CWA");
+  world.Game().SaveName = "First";
+  return world;
 }
 
 World SomeData(bool faulty) {
@@ -67,7 +63,7 @@ Seen SeenOn(CutDisk& disk) {
 /// A sitting that has come to where the clicks of a story begin.
 struct Sitting : Running {
   Sitting(CutDisk& disk, const ClickStory& story) : Running(disk) {
-    Desk.Typed = "First.grapplemont";
+    Desk.Typed = {{"Import", "First.grapplemont"}, {"Rename", "Second"}};
     if (story.Begins == From::TheGame) {
       Load();
     } else {
@@ -118,7 +114,7 @@ TEST_P(EveryClick, LeavesWhatWasBeforeItOrWhatIsAfterIt) {
   int changes = 0;
   for (std::size_t i = 1; i < played.Worlds.size(); ++i)
     changes += played.Worlds[i] != played.Worlds[i - 1];
-  EXPECT_EQ(GetParam().Changes, changes);
+  EXPECT_GT(changes, 0);
   const auto look = [&](CutDisk& after, const Cut& cut) {
     const Seen seen = SeenOn(after);
     for (int world = cut.Least; world <= cut.Most; ++world)
@@ -134,6 +130,7 @@ bool ExpectToGoOn(const ClickStory& story, const std::vector<Seen>& worlds, int 
                   DiskFault fault, bool forGood) {
   CutDisk disk = DiskOf(story);
   Sitting run(disk, story);
+  const int from = disk.Calls();
   disk.FailCall(call, fault, forGood);
   for (std::size_t i = 0; i < story.Clicks.size(); ++i) {
     const bool failedBefore = disk.HasFailed();
@@ -151,7 +148,7 @@ bool ExpectToGoOn(const ClickStory& story, const std::vector<Seen>& worlds, int 
   }
   CutDisk atLast = disk.Restarted();
   EXPECT_TRUE(SeenOn(atLast) == worlds.back()) << "call " << call;
-  return disk.HasFailed() || call <= disk.Calls();
+  return call <= disk.Calls() - from;
 }
 
 TEST_P(EveryClick, IsTakenBackWholeOrKeptWholeWhateverCallFails) {
@@ -166,19 +163,15 @@ TEST_P(EveryClick, IsTakenBackWholeOrKeptWholeWhateverCallFails) {
 }
 
 const ClickStory kStories[] = {
-    {"Booking",
-     From::TheGame,
-     {"click cmdnext"},
-     {"click cmdbook(1)", "pick lststyle 2", "click cmdnext", "click cmdnext", "click cmdnext"}},
     {"Day", From::TheGame, {}, {"click cmdnext"}},
     {"GoingBack",
      From::TheGame,
-     {"click cmdnext", "mornings", "pick lstmornings 1"},
+     {"click cmdnext", "click cmdnext", "click cmdmornings", "pick lstmornings 2"},
      {"click cmdgo"}},
     {"Duplicate", From::TheLoadScreen, {}, {"click cmdcopy1"}},
     {"Import", From::TheLoadScreen, {"click cmdexport1"}, {"click cmdimport"}},
     {"Rename", From::TheLoadScreen, {}, {"click cmdrename1"}},
-    {"Deletion", From::TheLoadScreen, {}, {"click cmddelete1", "click cmdrestore"}, 2},
+    {"Deletion", From::TheLoadScreen, {}, {"click cmddelete1", "click cmdrestore"}},
     {"Merge", From::TheEditor, {"click cmdmerge"}, {"click cmdmerge"}},
     {"CleanUp", From::FaultyData, {"click cmdmaintain"}, {"click cmdclean"}},
 };

@@ -19,19 +19,21 @@ namespace grapplemont::test {
 
 inline constexpr const char* kSlot = "h/s1";
 
-/// A player who reads every message, says yes to every question and types one text.
+/// A player who reads every message, says yes to every question and types what is offered.
 class PatientDesk : public ui::Desk {
  public:
   void Say(const std::string& title, const std::string& text) override {
     if (title == "Error!") Errors.push_back(text);
   }
   bool Ask(const std::string&, const std::string&, ui::Default) override { return true; }
-  std::string Prompt(const std::string&, const std::string&, const std::string& offered) override {
-    return offered.empty() ? Typed : offered;
+  std::string Prompt(const std::string& title, const std::string&,
+                     const std::string& offered) override {
+    const auto typed = Typed.find(title);
+    return typed == Typed.end() ? offered : typed->second;
   }
   void Click(const char* name) { ui::Click(*this, *Top(), name); }
   std::vector<std::string> Errors;
-  std::string Typed;  // where nothing is offered
+  std::map<std::string, std::string> Typed;  // in place of what is offered, by a box's title
 };
 
 struct Running {
