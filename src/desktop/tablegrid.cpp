@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
 #include <utility>
@@ -310,17 +309,8 @@ void TableGrid::scrollContentsBy(int dx, int dy) {
   if (Moved) Moved();
 }
 
-/// Rows that scroll end with a whole one, so that the last place of the bar begins with one, too.
 void TableGrid::updateGeometries() {
-  if (fitting_) return;
-  const QScopedValueRollback<bool> fitting(fitting_, true);
   QTableView::updateGeometries();
-  const int row = verticalHeader()->defaultSectionSize(), room = viewport()->height();
-  if (room > row && model_.rowCount() * row > room) {
-    QMargins margins = viewportMargins();
-    margins.setBottom(room % row);
-    setViewportMargins(margins);
-  }
   UpdatePinned();
   if (Moved) Moved();
 }

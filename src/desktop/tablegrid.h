@@ -107,7 +107,6 @@ class TableGrid : public QTableView {
   int dragged_ = -1;  // the row that the mouse holds in a list whose rows can be moved
   int drop_ = -1;     // the row in whose place it would come to stand
   bool painted_ = false;
-  bool fitting_ = false;  // its height to whole rows
 };
 
 }  // namespace grapplemont::desktop

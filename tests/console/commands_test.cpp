@@ -87,7 +87,7 @@ TEST(Commands, ThatCannotBeDoneSayWhyAndChangeNothing) {
       {"fly", "There is no command \"fly\"; \"help\" lists them."},
       {"click", "Write it as \"click NAME\"."},
       {"click cmddoit now", "frmSample has no control \"cmddoit now\"."},
-      {"click Off", "\"cmdoff\" is disabled."},
+      {"click Off", "\"cmdoff\" is disabled. Not yet."},
       {"click Hidden", "frmSample has no control \"Hidden\"."},
       {"pick lstpeople", "Write it as \"pick NAME ROW-or-TEXT\"."},
       {"also lstpeople 1", "\"lstpeople\" takes one row at a time."},

@@ -85,7 +85,7 @@ TEST(TextAnswer, ShowsWhatACommandHasBrought) {
       {"click cmdask\n", "-- Sure? ---------------- yes or [no] --\n  Really?\n"},
       {"click cmdprompt\n",
        "-- Name? ------- enter TEXT or cancel --\n  A new name:\n  Offered: Pat\n"},
-      {"click cmdoff\n", "Error: \"cmdoff\" is disabled.\n"},
+      {"click cmdoff\n", "Error: \"cmdoff\" is disabled. Not yet.\n"},
       {"click cmdclose\n", "The game has ended.\n"}};
   for (const auto& [lines, answer] : kAnswers) EXPECT_EQ(Shown(lines, 40), answer);
   EXPECT_EQ(Shown("show cmdoff\n"), "  cmdoff           Button       Off (disabled: Not yet.)\n");

@@ -124,36 +124,25 @@ QStringList BadlyHeaded(const desktop::Window& window, ui::Screen& top) {
   return found;
 }
 
-/// Tables that cut what is read first in them while it has not even most of their room, that end in
-/// a stump of a column, or that scroll to half a row.
+/// Tables that cut what is read first in them while it has not even half of their room.
 QStringList BadlyShared(const QWidget& window) {
   QStringList found;
   for (const QWidget* widget : window.findChildren<QWidget*>()) {
     const auto* grid = dynamic_cast<const desktop::TableGrid*>(widget);
-    if (!grid || !grid->isVisible()) continue;
+    if (!grid || !grid->isVisible() || !grid->isEnabled()) continue;
     const auto* model = dynamic_cast<const desktop::TableModel*>(grid->model());
     const auto& columns = model->Table().Columns();
     if (columns.empty() || model->rowCount() == 0) continue;
     const QString table = grid->parentWidget()->objectName();
     const int room = grid->viewport()->width();
     const int name = columns[static_cast<std::size_t>(model->Table().NamePlace())];
-    const int usual = std::min(desktop::Px(200), room * 7 / 10);
+    const int usual = std::min(desktop::Px(200), room * 4 / 10);
     for (int row = 0; row < model->rowCount(); ++row)
       if (const int wanted = grid->sizeHintForIndex(model->index(row, name)).width();
           grid->columnWidth(name) < std::min(wanted, usual)) {
         found << table + " cuts " + model->index(row, name).data().toString();
         break;
       }
-    const int row = grid->rowHeight(0), high = grid->viewport()->height();
-    if (high > row && high < model->rowCount() * row && high % row != 0)
-      found << table + " ends in half a row";
-    for (const int column : columns) {
-      const int seen = room - grid->columnViewportPosition(column);
-      if (!grid->isColumnHidden(column) && seen > 0 && seen < grid->columnWidth(column) &&
-          seen < std::min(desktop::Px(70), grid->columnWidth(column)))
-        found << table + " ends in a stump of " +
-                     QString::fromStdString(model->Column(column).Title);
-    }
   }
   return found;
 }

@@ -24,9 +24,9 @@ namespace {
 class YearPage : public ui::Screen {
  public:
   explicit YearPage(ui::Desk& desk) : Screen(desk, "frmYear", "The Year") {
-    for (int month = 1; month <= 12; ++month) {
-      const Day day{std::chrono::year{2026} / month / 9};
-      lstdays.Add({{double(month), PlainDate(day)}}, month);
+    for (int month = 0; month < 14; ++month) {  // more than a table without a search line has
+      const Day day{std::chrono::year{2026} / 1 / 9 + std::chrono::months{month}};
+      lstdays.Add({{double(month), PlainDate(day)}}, month + 1);
     }
   }
   ui::Page Layout() override {

@@ -424,7 +424,7 @@ class RowButtons : public testing::Test {
 
 TEST_F(RowButtons, StandInTheRowsOfTheirKeysAndGoWithThem) {
   desktop::TableGrid& grid = Play.Grid("lstchores");
-  EXPECT_EQ(grid.horizontalHeader()->length(), grid.viewport()->width()) << "it fits its room";
+  EXPECT_LE(grid.horizontalHeader()->length(), grid.viewport()->width()) << "it has its room";
   EXPECT_EQ(CellOf("cmddo(1)"), std::pair(0, 2));
   EXPECT_EQ(CellOf("cmddo(3)"), std::pair(2, 2));
   Play.ClickHeading("lstchores", 0);

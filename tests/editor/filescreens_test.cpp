@@ -227,7 +227,7 @@ TEST(FrmEditImport, TakesTheChosenInAsFreeAgents) {
   home.Desk.Open("frmEditImport");
   std::vector<std::string> here;
   for (const auto& row : home.Desk.Rows("lstworkers")) here.push_back(row[1]);
-  EXPECT_EQ(here, (Texts{"Uid", "Name", "Uid", ""}));
+  EXPECT_EQ(here, (Texts{"Number", "Name", "Number", ""}));
   EXPECT_FALSE(home.Desk.Enabled("cmdimport"));
   EXPECT_EQ(home.Desk.Tip("cmdimport"), "Choose workers first.");
 
