@@ -47,14 +47,9 @@ World SomeData(bool faulty) {
   return small.BuildUnchecked();
 }
 
-/// Data to be merged, a game in the first slot, nothing in the others.
+/// A game in the first slot, nothing in the others.
 CutDisk DiskOf(const ClickStory& story) {
   CutDisk disk = HomeWith(SomeData(story.Begins == From::FaultyData));
-  const World there =
-      SmallWorld().Promotion("NEW", kSmall).Worker("Bo Stone").Worker("Cy Flint").Build();
-  WriteFile(disk, "h/data/newpromos.dat", there.Promotions().Contents());
-  WriteFile(disk, "h/data/newwrestler.dat", there.Workers().Contents());
-  disk.SyncFolder("h/data");
   Slot::Create(disk, kSlot, FilesOf(AGame()), 4711);
   return disk;
 }

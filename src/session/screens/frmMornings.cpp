@@ -32,8 +32,7 @@ class frmMornings : public GameScreen {
   explicit frmMornings(Game& game) : GameScreen(game, "frmMornings", "Back In Time") {
     lstmornings.EmptyText = "Nothing yet: the first morning is kept with the first click.";
     lblkept.Text =
-        "Kept are at least the last seven mornings on which you stopped, the firsts of the last "
-        "twelve "
+        "Kept are at least the last seven mornings on which you stopped, the firsts of twelve "
         "months, " +
         std::to_string(Mornings::kNamed) + " moments that you name and " +
         std::to_string(Mornings::kLeft) +
