@@ -16,11 +16,17 @@ bool Drama::Before(char step) {
   // Whoever suffers is about to turn it.
   const Person* defender = teller_.cast.First('d');
   if (step == '#') troubleBefore_ = defender ? defender->Trouble : 0;
+  // Somebody has to count it, however short the match is told.
+  if (isRefereeDown_ && (step == '2' || step == 'N')) {
+    isRefereeDown_ = false;
+    return teller_.Say(Family::Beat, kRefereeBack);
+  }
   return step == 'N' && falls_ > 0 && !teller_.Pace.SaysLittle() &&
          teller_.Say(Family::Beat, kFallLead);
 }
 
 bool Drama::After(char step) {
+  if (step == 'R') isRefereeDown_ = true;
   if (teller_.Pace.SaysLittle()) return false;
   if (step == 'N' && ++falls_ > 1)
     return teller_.Say(Family::Beat, falls_ == 2 ? kFallReaction : kFallDoubt);

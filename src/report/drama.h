@@ -18,7 +18,7 @@ class Drama {
   Teller& teller_;
   int falls_ = 0;          // near falls so far
   int troubleBefore_ = 0;  // of whoever turns it
-  bool hasBeenInTrouble_ = false, hasComeBack_ = false;
+  bool hasBeenInTrouble_ = false, hasComeBack_ = false, isRefereeDown_ = false;
 };
 
 /// The limb of {l} that was worked on gives way, where one was.

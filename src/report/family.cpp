@@ -90,7 +90,7 @@ constexpr FamilyRow kRows[] = {
     {EliminationTry, "bouts", "ad", "ad", kOne, 8},
     {Elimination, "bouts", "ad", "d", kOne, 12},
     {LastTwo, "bouts", "wl", "wl", kOne, 3},
-    {Beat, "bouts", "ad", "", Named<kComeback, kBackGoes>(), 4},
+    {Beat, "bouts", "ad", "", Named<kComeback, kRefereeBack>(), 4},
     {Opening, "bouts", "12345678FSXY", "", kBouts, 2},
     {TitleOpening, "finishes", "c", "", Named<kDefended, kChampionAway>(), 3},
     {FeudOpening, "finishes", "FS", "", Named<kSimmers, kBoils>(), 3},

@@ -150,6 +150,7 @@ enum BeatTold {
   kLegGoes,    // the leg of {d} that {a} has worked on
   kArmGoes,
   kBackGoes,
+  kRefereeBack,
   kBeats
 };
 

@@ -27,11 +27,12 @@ constexpr int kBookedAbove = 15;
 constexpr int kMattersFrom = 51, kRoomFrom = 42, kSaysLittle = 50, kSaysMuch = 57;
 constexpr double kRoomPerPoint = 2.1;
 constexpr double kMostPerStep = 3, kLeastPerStep = 0.05;
-constexpr int kShort = 9;  // steps more that a row of few may have
+constexpr int kShort = 9;     // steps more that a row of few may have
+constexpr int kLongRow = 18;  // a step beyond it counts twice: a tag match is long by itself
 constexpr int kBig = 72, kHuge = 86;
 
 constexpr double kEarly = 0.3, kLate = 0.7;
-constexpr int kMostAtOnce = 4, kMostOfAKind = 6;
+constexpr int kMostAtOnce = 4, kMostOfAKind = 3;
 /// Moves that make a momentum if no answer came, and moves that use somebody up.
 constexpr int kMomentum = 2, kSpent = 4;
 constexpr int kMostCrowds = 1;  // sentences about the hall in a match; one or two more in big ones
@@ -134,7 +135,8 @@ void Pace::Begin(int steps, bool isSquash) {
   if (!Matters()) return;
   // What is over at once has no time for looks around.
   const double most = isSquash ? 1 : kMostPerStep + static_cast<double>(kShort) / steps_;
-  rate_ = std::clamp(static_cast<double>(units_ - steps_) / steps_, kLeastPerStep, most);
+  const int room = units_ - steps_ - std::max(0, steps_ - kLongRow);
+  rate_ = std::clamp(static_cast<double>(room) / steps_, kLeastPerStep, most);
   units_ = std::max(1, units_ - static_cast<int>(steps_ * (1 + rate_)));
 }
 
@@ -229,7 +231,8 @@ bool Pace::SaysLittle() const {
 
 LineWish Pace::Wish() const {
   if (!isOpen_) return LineWish::Any;
-  return SaysLittle() ? LineWish::Short : importance_ >= kSaysMuch ? LineWish::Long : LineWish::Any;
+  if (SaysLittle()) return LineWish::Short;
+  return importance_ >= kSaysMuch && steps_ <= kLongRow ? LineWish::Long : LineWish::Any;
 }
 
 void Pace::HoldBreath(Teller& teller) {
