@@ -1,10 +1,13 @@
 #include "console/run.h"
 
 #include <algorithm>
+#include <iostream>
 #include <stdexcept>
 
+#include "console/typing.h"
 #include "program/screens.h"
 #include "records/fields/charset.h"
+#include "records/store/machine.h"
 #include "session/arguments.h"
 #include "session/build.h"
 #include "session/faultlog.h"
@@ -14,6 +17,7 @@ namespace grapplemont::console {
 namespace {
 
 constexpr std::string_view kProgram = "grapplemont-console";
+constexpr int kNarrowest = 60, kWidest = 160;  // letters a line, whatever the terminal has
 constexpr std::string_view kToday = "--today", kSeed = "--seed", kJson = "--json";
 constexpr OptionKind kOptions[] = {
     kHomeOption,
@@ -93,6 +97,16 @@ int RunConsole(std::span<const std::string> words, Streams streams, Settings set
     log.Note(tell(fault));
     return 1;
   }
+}
+
+int RunConsoleHere(std::span<const std::string> words) {
+  std::ios::sync_with_stdio(false);
+  Settings settings;
+  settings.Prompt = IsTerminal(Stream::In) && IsTerminal(Stream::Out);
+  if (settings.Prompt) settings.Ask = TerminalTypist();
+  if (const int columns = TerminalColumns(); settings.Prompt && columns > 0)
+    settings.Width = std::clamp(columns, kNarrowest, kWidest);
+  return RunConsole(words, {std::cin, std::cout, std::cerr}, std::move(settings));
 }
 
 }  // namespace grapplemont::console

@@ -19,5 +19,7 @@ struct Streams {
 /// for arguments that make no sense. `settings` tells of the terminal.
 int RunConsole(std::span<const std::string> arguments, Streams streams, Settings settings,
                const Surroundings& around = MachineSurroundings());
+/// The same between this process's own input and output.
+int RunConsoleHere(std::span<const std::string> arguments);
 
 }  // namespace grapplemont::console

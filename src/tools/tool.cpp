@@ -2,14 +2,15 @@
 
 #include <algorithm>
 #include <array>
+#include <iostream>
 #include <new>
-#include <ostream>
 
 #include "records/fields/charset.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
 #include "records/store/datastep.h"
 #include "records/store/disk.h"
+#include "records/store/machine.h"
 #include "records/store/slotfolder.h"
 #include "tools/commands.h"
 
@@ -195,6 +196,12 @@ void WriteWorld(Disk& disk, const std::string& folder, const World& world) {
   if (IsSavedGame(disk, name))
     throw WorldFault("\"" + folder + "\" holds a saved game. Name another folder for the world.");
   WriteData(disk, name, world);
+}
+
+int RunWorldToolHere(std::span<const std::string> arguments) {
+  std::ios::sync_with_stdio(false);
+  const bool isWatched = IsTerminal(Stream::Out) && IsTerminal(Stream::Errors);
+  return RunWorldTool(arguments, {std::cout, std::cerr, isWatched});
 }
 
 }  // namespace grapplemont::tools

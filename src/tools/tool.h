@@ -26,6 +26,8 @@ struct Shell {
 /// The tool for worlds behind its arguments (without the program's name): 0 when all went well, 1
 /// for faults and failures, each reported in a line, 2 for arguments that make no sense.
 int RunWorldTool(std::span<const std::string> arguments, Shell shell);
+/// The same between this process's own input and output.
+int RunWorldToolHere(std::span<const std::string> arguments);
 
 std::string WithoutSlashes(std::string folder);  // behind it
 /// The folder's name without slashes behind it, for files that lie beside it. Throws for what is no
