@@ -179,8 +179,8 @@ void TellBody(Teller& teller, const BoutRow& bout) {
   const bool isSingles = bout.Style == kSingles && bout.Type == kPlainSingles;
   const Script row =
       isSingles ? SinglesRow(teller, bout.Rows, winner == nullptr) : teller.OneOf(bout.Rows);
-  teller.IsTitleSquash =
-      isSingles && row.size() <= kSquashSteps && !teller.cast.Thing(Item::Title).empty();
+  teller.IsBrief = row.size() <= kSquashSteps;
+  teller.IsTitleSquash = isSingles && teller.IsBrief && !teller.cast.Thing(Item::Title).empty();
   if (teller.IsTitleSquash) teller.Say(Family::Squash, kSquashBegins);
   ring.Play(row, bout.Spot, winner, loser);
 }

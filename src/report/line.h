@@ -39,12 +39,16 @@ enum LineTag : unsigned {
   kColdTag = 65536,   // the crowd is rated low, in the middle, high: one of those that it names
   kWarmTag = 131072,
   kHotTag = 262144,
-  kMatTag = 524288  // a hold has {d} on the mat
+  kMatTag = 524288,     // a hold has {d} on the mat
+  kLongTag = 1048576,   // more was told than the few steps of a squash
+  kGreatTag = 2097152,  // the match is rated above 90
+  kTiredTag = 4194304   // {a} has taken a good deal
 };
 inline constexpr unsigned kLevelTags = kLowTag | kMidTag | kHighTag;
 inline constexpr std::string_view kLineTags[] = {
-    "down", "hold", "floor", "held", "anyway", "trouble", "worn", "pin",  "low", "mid",
-    "high", "leg",  "arm",   "back", "up",     "clean",   "cold", "warm", "hot", "mat"};
+    "down", "hold", "floor", "held", "anyway", "trouble", "worn", "pin",
+    "low",  "mid",  "high",  "leg",  "arm",    "back",    "up",   "clean",
+    "cold", "warm", "hot",   "mat",  "long",   "great",   "tired"};
 
 /// What a line is wished to be where several would do.
 enum class LineWish { Any, Short, Long };

@@ -119,6 +119,7 @@ void Teller::SayOffence(Family family, unsigned wants) {
 namespace {
 
 constexpr int kDeepTrouble = 3, kWornDown = 3;  // moves taken
+constexpr int kGreatFrom = 91;                  // of the rating
 
 /// Three tags that follow each other, and up to where the first two of them go.
 struct Levels {
@@ -155,6 +156,9 @@ bool Teller::Fits(const TaggedLine& line, Family family, unsigned wants) const {
   const Person *attacker = cast.First('a'), *defender = cast.First('d');
   if (line.Is(kTroubleTag) && !(attacker && attacker->Trouble >= kDeepTrouble)) return false;
   if (line.Is(kWornTag) && !(defender && defender->Taken >= kWornDown)) return false;
+  if (line.Is(kTiredTag) && !(attacker && attacker->Taken >= kWornDown)) return false;
+  if ((line.Is(kLongTag) && IsBrief) || (line.Is(kGreatTag) && scene.Overall < kGreatFrom))
+    return false;
   return FitsLevel(line, kRatings, scene.Overall) && FitsLevel(line, kCrowds, scene.Crowd);
 }
 

@@ -73,6 +73,7 @@ class Teller {
   Footing Under = Footing::Up;  // of {d}
   bool Counts = true;           // the bout may end in a count
   bool IsCoverNext = false;     // the step to come counts {d}, who has to lie for it
+  bool IsBrief = false;         // it has no more steps than a squash
   bool IsTitleSquash = false;   // it is over in next to no time, with a Title at stake
   grapplemont::Pace Pace;
   std::vector<PastFact> Told;  // what has been said of the past
