@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <bit>
 
 #include "report/report.h"
 #include "report/ring.h"
@@ -24,7 +25,9 @@ INSTANTIATE_TEST_SUITE_P(Each, Fitting, testing::Values(kLamplighter, kTolland, 
 TEST_P(Fitting, HasAFittingLineForEveryRatingAndEveryCrowd) {
   const auto fitting = [](std::span<const TaggedLine> lines, unsigned all, unsigned tag) {
     return std::count_if(lines.begin(), lines.end(), [&](const TaggedLine& line) {
-      return ((line.Tags & all) == 0 || (line.Tags & tag) != 0) && !line.Is(kCleanTag);
+      constexpr unsigned kAsksMore =
+          kCleanTag | kTroubleTag | kWornTag | kTiredTag | kLongTag | kGreatTag;
+      return ((line.Tags & all) == 0 || (line.Tags & tag) != 0) && (line.Tags & kAsksMore) == 0;
     });
   };
   for (const FamilyRow& row : AllFamilies())
@@ -141,6 +144,38 @@ TEST_P(Fitting, IsKindOnlyBehindACleanWin) {
         lines[line].Is(kCleanTag) &&
         memory.Used(BlockOf(GetParam(), Family::Interlude, kAfterBell), static_cast<int>(line)))
         << lines[line].Text;
+}
+
+/// Nobody is spent who has taken two moves, and no squash is praised for its length.
+TEST_P(Fitting, SaysNothingThatTheMatchHasNotShown) {
+  World world = Ten().Game("CWA");
+  world.Game().Reporter = GetParam();
+  const Segment match = Match(kSingles);
+  struct Claim {
+    Family Of;
+    int Band;
+    LineTag Tag;
+  };
+  for (const bool isShown : {false, true})
+    for (const Claim& claim : {Claim{Family::PurposeEnding, kGoodMatchTold, kGreatTag},
+                               {Family::PurposeEnding, kGoodMatchTold, kLongTag},
+                               {Family::Interlude, kDesperate, kTiredTag}}) {
+      Scene scene;
+      scene.Overall = isShown ? 91 : 90;
+      LineMemory memory;
+      Teller teller(world, match, scene, memory);
+      Person *one = teller.cast.Find(world, 1), *two = teller.cast.Find(world, 2);
+      teller.Act(one, two);
+      one->Taken = isShown ? 3 : 2;
+      teller.IsBrief = !isShown;
+      const auto lines = ReadLinesOf(GetParam(), claim.Of, claim.Band);
+      for (std::size_t i = 0; i < 2 * lines.size(); ++i) teller.Say(claim.Of, claim.Band);
+      bool isSaid = false;
+      for (std::size_t line = 0; line < lines.size(); ++line)
+        isSaid |= lines[line].Is(claim.Tag) &&
+                  memory.Used(BlockOf(GetParam(), claim.Of, claim.Band), static_cast<int>(line));
+      EXPECT_EQ(isSaid, isShown) << kLineTags[std::countr_zero(unsigned{claim.Tag})];
+    }
 }
 
 constexpr int kAnyVoice = -1;
