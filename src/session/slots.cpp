@@ -53,10 +53,10 @@ int SlotOfDigit(char digit) {
   return slot >= 1 && slot <= kSlots ? slot : 0;
 }
 
-/// What is done to a game that nobody plays stands in its record, too.
-std::string RenamedLine(const PlayedSlot& slot, std::string_view name) {
-  return slot.Records() ? std::string(kCommandRenamed) + " " + std::string(name) + "\n"
-                        : std::string();
+/// What is done to a game that nobody plays stands in its record, too; one that is not recorded
+/// leaves the line out.
+std::string RenamedLine(std::string_view name) {
+  return std::string(kCommandRenamed) + " " + std::string(name) + "\n";
 }
 
 void MakeSlot(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
@@ -130,16 +130,9 @@ std::vector<std::string> RenameSlot(Disk& disk, const std::string& folder, std::
   Bytes after = before;
   SetSaveName(after, name);
   if (const auto change = ChangeBetween(file, &before, &after))
-    opened.Commit({*change}, {.Commands = RenamedLine(opened, name)});
+    opened.Commit({*change}, {.Commands = RenamedLine(name)});
   opened.Checkpoint();
   return opened.Remarks();
-}
-
-void CopySlot(Disk& disk, const std::string& from, const std::string& to, std::string_view name,
-              std::uint64_t worldId) {
-  // Renamed as any game is, so that the copy can go back as the original can.
-  MakeSlot(disk, to, ReadSlot(disk, from), worldId);
-  RenameSlot(disk, to, name);
 }
 
 namespace {
@@ -152,9 +145,9 @@ bool IsRecord(const NewFile& file) {
   return file.Name == kBeginningName || file.Name == kCommandsName;
 }
 
-std::map<std::string, Bytes> ByName(const std::vector<NewFile>& files) {
+std::map<std::string, Bytes> ByName(std::vector<NewFile> files) {
   std::map<std::string, Bytes> contents;
-  for (const NewFile& file : files) contents.emplace(file.Name, file.Contents);
+  for (NewFile& file : files) contents.emplace(file.Name, std::move(file.Contents));
   return contents;
 }
 
@@ -183,6 +176,20 @@ std::string FaultsIn(const World& world) {
 }
 
 }  // namespace
+
+void CopySlot(Disk& disk, const std::string& from, const std::string& to, std::string_view name,
+              std::uint64_t worldId) {
+  auto files = ByName(ReadSlot(disk, from));
+  if (!files.contains(GameFile())) throw DiskError(from, "copy", "it holds no game");
+  Bytes game = files[GameFile()];
+  SetSaveName(game, name);
+  // Renamed as any game is, so that the copy can go back as the original can; before it is made, so
+  // that no moment finds it under the original's name.
+  files = FilesAfter(std::move(files), GameFile(), std::move(game), RenamedLine(name));
+  std::vector<NewFile> copy;
+  for (auto& [file, contents] : files) copy.push_back({file, std::move(contents)});
+  MakeSlot(disk, to, copy, worldId);
+}
 
 bool HasHistory(Disk& disk, const std::string& folder) {
   const auto moments = Slot::Peek(disk, folder, KnownFiles(), kMorningsName);

@@ -39,6 +39,35 @@ std::optional<Bytes> Stored(const std::map<std::string, Bytes>& files, const cha
   return found == files.end() ? std::nullopt : std::optional(found->second);
 }
 
+/// Of a change that has the whole of what was.
+ReadBefore ReadOf(const FileChange& change) {
+  return [before = change.Before](std::int64_t offset, std::int64_t count) {
+    return before.subspan(static_cast<std::size_t>(offset), static_cast<std::size_t>(count));
+  };
+}
+
+/// Whether the last moment is the one before a click of this day.
+bool IsLastOf(const Mornings& mornings, Day today) {
+  if (mornings.Count() == 0) return false;
+  const Moment& last = mornings[mornings.Count() - 1];
+  return last.On == today && (last.Is == MomentKind::Click || last.Is == MomentKind::Morning);
+}
+
+/// A letter more, and what is no click of the player's, are part of the click before.
+bool JoinsLast(Mornings& mornings, const PlayedStep& step, const WayBack& way, const Moment& before,
+               Day after) {
+  if (!IsLastOf(mornings, before.On) || after != before.On || step.Is != PlayedStep::Click)
+    return false;
+  const Moment last = mornings[mornings.Count() - 1];
+  if (!step.Name.empty() && !(step.GoesOn && last.Name == before.Name)) return false;
+  const auto farther = mornings.WayTo(mornings.Count() - 1);
+  const auto both = farther ? Joined(way, *farther) : std::nullopt;
+  if (!both) return false;
+  mornings.DropLast();
+  mornings.Add(last, *both, after);
+  return true;
+}
+
 }  // namespace
 
 PlayedSlot::PlayedSlot(Disk& disk, std::string folder, Damage damage, const SlotOptions& options)
@@ -109,10 +138,7 @@ std::optional<WayBack> PlayedSlot::WayBefore(const std::vector<FileChange>& chan
       way.push_back(BackFrom(change, known ? known->RecordBytes : 1, read));
     };
     if (std::ssize(change.Before) == change.LengthBefore) {
-      back([&](std::int64_t offset, std::int64_t count) {
-        return change.Before.subspan(static_cast<std::size_t>(offset),
-                                     static_cast<std::size_t>(count));
-      });
+      back(ReadOf(change));
       continue;
     }
     const OpenedFile file(disk_, folder_ + "/" + change.Name, false);
@@ -163,20 +189,8 @@ void PlayedSlot::Keep(const PlayedStep& step, const std::optional<WayBack>& way,
   } else {
     redo_.clear();
   }
-  if (!JoinsLast(step, *way, before, after)) mornings_.Add(std::move(before), *way, after);
-}
-
-/// A letter more, and what is no click of the player's, are part of the click before.
-bool PlayedSlot::JoinsLast(const PlayedStep& step, const WayBack& way, Moment& before, Day after) {
-  if (!IsLastOfToday() || after != before.On || step.Is != PlayedStep::Click) return false;
-  const Moment last = mornings_[mornings_.Count() - 1];
-  if (!step.Name.empty() && !(step.GoesOn && last.Name == before.Name)) return false;
-  const auto farther = mornings_.WayTo(mornings_.Count() - 1);
-  const auto both = farther ? Joined(way, *farther) : std::nullopt;
-  if (!both) return false;
-  mornings_.DropLast();
-  mornings_.Add(last, *both, after);
-  return true;
+  if (!JoinsLast(mornings_, step, *way, before, after))
+    mornings_.Add(std::move(before), *way, after);
 }
 
 void PlayedSlot::Write(const std::vector<FileChange>& changes) {
@@ -195,13 +209,6 @@ void PlayedSlot::WriteWithMoments(std::vector<FileChange> changes) {
   if (auto change = mornings_.Change()) changes.push_back(*std::move(change));
   if (auto change = commands_.Change()) changes.push_back(*std::move(change));
   Write(changes);
-}
-
-/// Whether the last moment is the one before a click of today.
-bool PlayedSlot::IsLastOfToday() const {
-  if (mornings_.Count() == 0) return false;
-  const Moment& last = mornings_[mornings_.Count() - 1];
-  return last.On == today_ && (last.Is == MomentKind::Click || last.Is == MomentKind::Morning);
 }
 
 void PlayedSlot::Commit(const std::vector<FileChange>& changes, const PlayedStep& step) {
@@ -303,6 +310,31 @@ bool PlayedSlot::Restore(const WayBack& way, std::uint64_t digest,
   for (const auto& [name, contents] : files)
     if (std::ranges::find(way, name, &FileBack::Name) != way.end()) restored.Set(name, contents);
   return restored.Value() == digest;
+}
+
+std::map<std::string, Bytes> FilesAfter(std::map<std::string, Bytes> files, const std::string& name,
+                                        Bytes contents, const std::string& commands) {
+  const auto changed = files.find(name);
+  if (changed == files.end()) return files;
+  const auto change = ChangeBetween(name, &changed->second, &contents);
+  if (!change) return files;
+  Mornings mornings(Stored(files, kMorningsName));
+  CommandLog log(Stored(files, kCommandsName));
+  WorldDigest digest;
+  for (const auto& [held, bytes] : files)
+    if (!PlayedSlot::IsOwn(held)) digest.Set(held, bytes);
+  const Day today = DayIn(files[std::string(GameFile())]);
+  const Moment before{MomentKind::Click, today, digest.Value(), {}};
+  const std::vector<KnownFile> all = KnownFiles();
+  const KnownFile* known = FindFile(all, name);
+  const WayBack way{BackFrom(*change, known ? known->RecordBytes : 1, ReadOf(*change))};
+  if (mornings.Keeps() && !JoinsLast(mornings, {}, way, before, today))
+    mornings.Add(before, way, today);
+  log.Add(commands);
+  for (const auto& own : {mornings.Change(), log.Change()})
+    if (own) files[own->Name] = Bytes(own->After.begin(), own->After.end());
+  files[name] = std::move(contents);
+  return files;
 }
 
 }  // namespace grapplemont

@@ -84,11 +84,9 @@ class PlayedSlot {
   std::optional<WayBack> WayBefore(const std::vector<FileChange>& changes);
   void Keep(const PlayedStep& step, const std::optional<WayBack>& way, Moment before, Day after,
             std::uint64_t digest);
-  bool JoinsLast(const PlayedStep& step, const WayBack& way, Moment& before, Day after);
   void Write(const std::vector<FileChange>& changes);
   void WriteWithMoments(std::vector<FileChange> changes);
   void WriteOwn(Ahead& ahead);
-  bool IsLastOfToday() const;
 
   Disk& disk_;
   std::string folder_;
@@ -104,5 +102,10 @@ class PlayedSlot {
   bool committed_ = true;
   bool unsure_ = false;  // the record files may not be what was committed last
 };
+
+/// The files of a slot that nobody has open, once one of them has these contents: the same as after
+/// a Commit of a step without a name that leaves the day as it is. `commands` join the record.
+std::map<std::string, Bytes> FilesAfter(std::map<std::string, Bytes> files, const std::string& name,
+                                        Bytes contents, const std::string& commands);
 
 }  // namespace grapplemont
