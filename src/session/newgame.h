@@ -20,6 +20,7 @@ struct NewGameChoice {
   HouseRules House = {};
   bool NoWayBack = false;  // the slot keeps no moment to go back to
   bool Recorded = false;   // the slot keeps what the player does, to be played again
+  int Slot = 0;            // that it was begun from; 0 for none
 };
 
 /// Turns a world of default data into a fresh game: its contracts, conditions, made-up people, the

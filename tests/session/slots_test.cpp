@@ -9,6 +9,7 @@
 
 #include "records/store/playedslot.h"
 #include "records/store/slotcare.h"
+#include "records/store/slotfolder.h"
 #include "records/world.h"
 #include "session/home.h"
 #include "session/screens/frmLoadGame.h"
@@ -61,6 +62,11 @@ TEST_F(SavedGames, AreCardsWithTheLastOneOnTop) {
   EXPECT_EQ(home_.Desk.Text("lblfed1"), "Slot 1, CWA Wrestling");
   EXPECT_FALSE(home_.Desk.Visible("imgpage")) << "no page was kept";
   EXPECT_FALSE(home_.Desk.Visible("cmddelete2"));
+  home_.Desk.Click("cmdnew7");
+  home_.Desk.Type("txtname", "Pat Lee");
+  home_.Desk.Click("cmdbegin");
+  EXPECT_EQ(home_.Desk.Top()->Layout().Main->Name(), "cmdload7") << "the card it was begun from";
+  for (int back = 0; back < 2; ++back) home_.Desk.Click("cmdback");
   home_.Desk.ExpectPrompt("Duplicate", "Save Game Name:", "Second", "First copy");
   home_.Desk.Click("cmdcopy1");
   EXPECT_EQ(home_.Desk.Text("cmdload2"), "Second");
@@ -315,6 +321,28 @@ TEST(ASlotThatIsPutAway, IsWholeInOneOfItsPlacesAfterAnyCut) {
     EXPECT_EQ(worlds[1], Slot(after, "s1", StoreFiles()).Files());
   });
   EXPECT_EQ(places, 3);
+}
+
+/// However the power goes, a copy is what its original would be under that name, or is not there.
+TEST(ACopiedGame, IsWholeAndUnderItsOwnNameOrNotThereAfterAnyCut) {
+  const World world = SmallWorld().Promotion("CWA", kCult).Owner("Ruth Vane").Crew(2).Game("CWA");
+  for (const bool hasMoments : {false, true}) {
+    CutDisk disk;
+    Slot::Create(disk, "s1", BeginningFiles(world, true), 1);
+    if (hasMoments) RenameSlot(disk, "s1", "First");
+    disk.Record();
+    CopySlot(disk, "s1", "s2", "Second", 2);
+    CutDisk original = disk.Restarted();
+    RenameSlot(original, "s1", "Second");
+    const auto wanted = PlayedSlot(original, "s1").Files();
+    int found = 0;
+    ForEveryCut(disk, Often(1), 19, [&](CutDisk& after, const Cut& cut) {
+      if (StandingFolder(after, "s2").empty()) return;
+      ++found;
+      EXPECT_EQ(PlayedSlot(after, "s2").Files(), wanted) << cut.Where;
+    });
+    EXPECT_GT(found, 0);
+  }
 }
 
 }  // namespace

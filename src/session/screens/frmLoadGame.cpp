@@ -91,7 +91,7 @@ class frmLoadGame : public SlotScreen {
   ui::Page Layout() override {
     ui::Page page;
     page.Facts = &lblfacts;
-    page.Actions = {&cmdimport, &cmdnewgame, &cmdback};
+    page.Actions = {&cmdlook, &cmdimport, &cmdnewgame, &cmdback};
     page.Main = &cmdcontinue;
     page.Cancel = &cmdback;
     ui::Box card = ui::Group(
@@ -109,14 +109,17 @@ class frmLoadGame : public SlotScreen {
 
   void Load() override {
     ClearDeleted(game_.Disk(), game_.Home(), game_.PresentDay());
-    Return();
+    ShowSlots();
   }
 
+  /// What a disk that fails has done to a slot shows once it can be read again.
   void Return() override {
-    SlotScreen::Return();
-    ShowPlayed();
-    ShowActs();
-    ShowDeleted();
+    try {
+      ShowSlots();
+    } catch (const DiskError& fault) {
+      cmdlook.Visible = true;
+      lblfacts.Text = "The slots could not be read: " + std::string(fault.what());
+    }
   }
 
  private:
@@ -133,6 +136,14 @@ class frmLoadGame : public SlotScreen {
             cmdmornings(slot), cmdnew(slot),    cmdbring(slot)};
   }
   void cmdload_Click(int slot) override { EnterSlot(game_, slot); }
+
+  void ShowSlots() {
+    SlotScreen::Return();
+    ShowPlayed();
+    ShowActs();
+    ShowDeleted();
+    cmdlook.Visible = false;
+  }
 
   void ShowPlayed() {
     played_ = SlotToContinue(game_.Disk(), game_.Home());
@@ -266,7 +277,7 @@ class frmLoadGame : public SlotScreen {
     lblfacts.Text = "Wrote " + In(slot).Caption + " to " + ForScreen(path) + ".";
   }
 
-  void New(int) { cmdnewgame_Click(); }
+  void New(int slot) { desk().Open(MakefrmNewGame(game_, slot)); }
 
   void GoBack(int slot) {
     EnterSlot(game_, slot);
@@ -341,6 +352,7 @@ class frmLoadGame : public SlotScreen {
   ui::Array<ui::Button> cmdmornings = EachAct("cmdmornings", "Go Back", &frmLoadGame::GoBack);
   ui::Array<ui::Button> cmdnew = EachAct("cmdnew", "New Game", &frmLoadGame::New);
   ui::Array<ui::Button> cmdbring = EachAct("cmdbring", "Import", &frmLoadGame::Import);
+  ui::Button cmdlook{*this, "cmdlook", "Look Again", [this] { Return(); }};
   ui::Button cmdimport{*this, "cmdimport", "Import A File", &frmLoadGame::cmdimport_Click};
   ui::Button cmdnewgame{*this, "cmdnewgame", "New Game", &frmLoadGame::cmdnewgame_Click};
   ui::Button cmdcontinue{*this, "cmdcontinue", "Continue", &frmLoadGame::cmdcontinue_Click};

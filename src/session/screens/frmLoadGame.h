@@ -6,6 +6,8 @@
 
 namespace grapplemont {
 
+/// A new game that is begun from an empty slot's card: that slot is offered first.
+std::unique_ptr<ui::Screen> MakefrmNewGame(Game& game, int slot);
 /// The slot that a new game goes into: opened with what the player chose (all but the slot's name).
 struct NewGameChoice;
 std::unique_ptr<ui::Screen> MakefrmPickSaveSlot(Game& game, NewGameChoice choice);

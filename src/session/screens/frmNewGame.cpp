@@ -34,8 +34,8 @@ std::string RoleSuffix(const Worker& worker) {
 
 class frmNewGame : public GameScreen {
  public:
-  explicit frmNewGame(Game& game)
-      : GameScreen(game, "frmNewGame", "New Game", {.Is = ui::Role::Cover}) {
+  explicit frmNewGame(Game& game, int slot = 0)
+      : GameScreen(game, "frmNewGame", "New Game", {.Is = ui::Role::Cover}), slot_(slot) {
     BackBefore(cmdbegin);
     txtname.Hint = "Your name";
     lstpromos.EmptyText = kNoPromotion;
@@ -195,7 +195,8 @@ class frmNewGame : public GameScreen {
                                             .SaveName = {},
                                             .House = ChosenHouse(),
                                             .NoWayBack = chknoway.Checked,
-                                            .Recorded = chkrecorded.Checked}));
+                                            .Recorded = chkrecorded.Checked,
+                                            .Slot = slot_}));
   }
 
   using K = ui::ColumnKind;
@@ -210,6 +211,7 @@ class frmNewGame : public GameScreen {
     return chair == chairs_.end() ? std::string() : chair->Story;
   }
 
+  int slot_;
   World world_;
   std::vector<Chair> chairs_;
   ui::Picture imgback{*this, "imgback", "vxm_back.jpg"};
@@ -277,5 +279,9 @@ class frmNewGame : public GameScreen {
 }  // namespace
 
 SCREEN(frmNewGame)
+
+std::unique_ptr<ui::Screen> MakefrmNewGame(Game& game, int slot) {
+  return std::make_unique<frmNewGame>(game, slot);
+}
 
 }  // namespace grapplemont

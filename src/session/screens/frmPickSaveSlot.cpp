@@ -23,7 +23,9 @@ class frmPickSaveSlot : public SlotScreen {
     page.Facts = &lblfacts;
     page.Actions = {&cmdback};
     page.Cancel = &cmdback;
-    if (const auto free = FreeSlot(game_.Disk(), game_.Home())) page.Main = &ButtonOf(*free);
+    const auto free =
+        choice_.Slot != 0 ? std::optional(choice_.Slot) : FreeSlot(game_.Disk(), game_.Home());
+    if (free) page.Main = &ButtonOf(*free);
     page.Body = Cards();
     return page;
   }
