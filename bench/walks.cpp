@@ -91,7 +91,6 @@ constexpr StepRow kSteps[] = {
     {"TellOfTheMonth", "", ""},
     {"UpdateReigns", "B", ""},
     {"OwnersWishes", "", ""},
-    {"GiveAwards", "", ""},
     {"NoteMonths", "W", "", true},
     {"BoardWarning", "", ""},
     {"FanMail", "", ""},

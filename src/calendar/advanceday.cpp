@@ -61,12 +61,10 @@ constexpr Step kFirstOfMonth[] = {
     STEP(WorkersCareers),
 };
 
-// The year is judged before its end is noted as what the next one is compared with.
 constexpr Step kClosing[] = {
     STEP(IncidentRoll),   STEP(SweepDeadPromotions), STEP(SweepDeadShows),
     STEP(TellOfTheMonth), STEP(UpdateReigns),        STEP(OwnersWishes),
-    STEP(GiveAwards),     STEP(NoteMonths),          STEP(BoardWarning),
-    STEP(FanMail),
+    STEP(NoteMonths),     STEP(BoardWarning),        STEP(FanMail),
 };
 
 #undef STEP
@@ -94,6 +92,7 @@ void AdvanceDay(World& world, bool cancelled, const StepWatcher& watcher) {
   world.Session.StartSize = world.Player().Size;
   PlayerShowConsequences(world, cancelled);
   RivalShows(world);
+  GiveAwards(world);  // a year ends with its last night
   MoveDate(world);
   world.Session.StartSize = world.Player().Size;
   Walk(world, kDaily, watcher);

@@ -8,7 +8,6 @@
 
 #include "business/finance.h"
 #include "business/past.h"
-#include "calendar/advanceday.h"
 #include "halls/yearbook.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
@@ -24,15 +23,13 @@ constexpr const char* kJury = "Year's Awards";
 /// What a year's rise in Over and a year with a Title of full renown may add to a worker's own
 /// Over.
 constexpr int kMostGain = 20, kMostRenown = 20;
-constexpr int kFewestFeudMatches = 3;
-constexpr int kLeastImprovement = 5;
+constexpr int kFewestFeudMatches = 3, kLeastImprovement = 5;
 
-/// The twelve months that the awards look back on.
+/// The year so far, the present day included.
 class Year {
  public:
-  explicit Year(const World& world) : world_(world), until_(world.Today()) {
-    using namespace std::chrono;
-    from_ = year{YearOf(until_) - 1} / 12 / 31;
+  explicit Year(const World& world) : world_(world), until_(world.Today() + std::chrono::days{1}) {
+    from_ = std::chrono::year{YearOf(world.Today())} / 1 / 1;
     for (const YearEnd& row : world.YearEnds()) before_[row.Worker] = row.Over;
     for (const TitleReign& reign : world.Reigns()) CountReign(reign);
   }
@@ -152,8 +149,7 @@ std::string WhyWorker(const Year& year, const Worker& worker) {
 }
 
 std::optional<YearAward> ForBest(const Year& year, AwardKind kind, const Worker* best) {
-  if (!best) return std::nullopt;
-  return ForWorker(year, kind, *best, WhyWorker(year, *best));
+  return best ? std::optional(ForWorker(year, kind, *best, WhyWorker(year, *best))) : std::nullopt;
 }
 
 template <AwardKind kind, bool man>
@@ -390,6 +386,10 @@ void NoteYearEnd(World& world) {
 
 void GiveAwards(World& world) {
   if (MonthOf(world.Today()) != 12 || DayOfMonth(world.Today()) != 31) return;
+  // Earlier versions closed the year in the morning of its last day.
+  const Records<YearAward>& given = world.Awards();
+  if (given.Count() > 0 && Day(given[given.Count()].On) == world.Today()) return;
+  UpdateReigns(world);
   const std::vector<YearAward> awards = AwardsOfTheYear(world);
   for (const YearAward& award : awards) Keep(world, award);
   Tell(world, awards);

@@ -19,8 +19,9 @@ constexpr std::size_t kMovesKept = 5, kNewcomersKept = 5, kRetiredKept = 8;
 /// Writes what only the end of a year can tell.
 class YearWriter {
  public:
-  explicit YearWriter(Ledger& ledger)
-      : ledger_(ledger), world_(ledger.Of()), year_(YearOf(world_.Today())) {}
+  /// The year as it is on the morning of `until`.
+  YearWriter(Ledger& ledger, Day until)
+      : ledger_(ledger), world_(ledger.Of()), until_(until), year_(YearOf(world_.Today())) {}
 
   void Write() {
     WriteMoves();
@@ -102,7 +103,7 @@ class YearWriter {
   void WriteChampions() {
     for (const TitleReign& reign : world_.Reigns()) {
       if (IsVacancy(reign) || reign.End != kReignLasts) continue;
-      YearLine line = NewLine(kYearChampion, reign.Owner, DaysOf(reign, world_.Today()),
+      YearLine line = NewLine(kYearChampion, reign.Owner, DaysOf(reign, until_),
                               reign.Holder.View(), reign.Title.View());
       line.Initials = reign.Initials;
       const int place = reign.Partner == 0 ? ledger_.PlaceOfUid(reign.Worker) : -1;
@@ -121,6 +122,7 @@ class YearWriter {
 
   Ledger& ledger_;
   const World& world_;
+  Day until_;
   int year_;
 };
 
@@ -193,11 +195,11 @@ constexpr SectionRow kSections[] = {
 
 /// Pages that were written before champions stood on them.
 YearSection ChampionsOf(const World& world, int year) {
-  const Day end{std::chrono::year{year} / 12 / 31};
+  const Day end{std::chrono::year{year + 1} / 1 / 1};
   YearSection section{kChampions, {}};
   for (const TitleReign& reign : world.Reigns()) {
-    const bool over = reign.End != kReignLasts && Day(reign.Until) <= end;
-    if (IsVacancy(reign) || Day(reign.From) > end || over) continue;
+    const bool over = reign.End != kReignLasts && Day(reign.Until) < end;
+    if (IsVacancy(reign) || Day(reign.From) >= end || over) continue;
     const auto held = (end - Day(reign.From)).count();
     section.Rows.push_back({reign.Holder.Str(),
                             Day(reign.From) <= kNoTitleDate ? "" : Counted(held, "day"),
@@ -205,10 +207,6 @@ YearSection ChampionsOf(const World& world, int year) {
                             reign.Partner == 0 ? int(reign.Worker) : 0});
   }
   return section;
-}
-
-bool IsLastOfYear(Day day) {
-  return MonthOf(day) == 12 && DayOfMonth(day) == 31;
 }
 
 YearSection AwardRowsOf(const World& world, int year) {
@@ -242,11 +240,12 @@ YearSection SectionOf(const Ledger& ledger, const SectionRow& kind, int year) {
 void CloseTheYear(World& world) {
   UpdateReigns(world);
   if (world.Session.CountsNoPast) return;
+  const Day newYear = world.Today() + std::chrono::days{1};
   Ledger ledger(world);
-  ledger.CountUntil(world.Today());
+  ledger.CountUntil(newYear);
   ledger.CountYear();
   VoteHall(world, ledger);
-  YearWriter(ledger).Write();
+  YearWriter(ledger, newYear).Write();
   ledger.Prune();
   ledger.Keep(world);
 }
@@ -267,14 +266,14 @@ std::vector<YearSection> PageOfYear(const Ledger& ledger, int year) {
                     std::ranges::none_of(ledger.Lines, [&](const YearLine& line) {
                       return line.Year == year && line.Kind == kYearPlayer;
                     });
-  if (runs) YearWriter(now).Write();
+  if (runs) YearWriter(now, ledger.Of().Today()).Write();
   for (const SectionRow& kind : kSections) {
     YearSection section = SectionOf(now, kind, year);
     if (kind.Kind != kYearChampion) {
       add(std::move(section));
       continue;
     }
-    if (runs && !IsLastOfYear(ledger.Of().Today())) section.Title = "Champions now";
+    if (runs) section.Title = "Champions now";
     add(section.Rows.empty() && !runs ? ChampionsOf(ledger.Of(), year) : std::move(section));
     add(AwardRowsOf(ledger.Of(), year));
   }

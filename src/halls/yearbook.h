@@ -9,8 +9,8 @@
 
 namespace grapplemont {
 
-/// Counts the year, votes for the hall of fame and writes the year's page. Requires 31 December,
-/// behind the awards and before everybody's Over is noted for the next year.
+/// Counts the year, votes for the hall of fame and writes the year's page. Requires the end of 31
+/// December, behind the awards and before everybody's Over is noted for the next year.
 void CloseTheYear(World& world);
 
 /// A row of the page.

@@ -44,10 +44,10 @@ TEST(AdvanceDay, RunsItsBlocksInTheirFixedOrder) {
             "MerchandiseIncome MonthlyCosts MonthlyReview CloseMonthBooks BankruptcyCheck "
             "NewPromotionCheck WorkersCareers "
             "IncidentRoll SweepDeadPromotions SweepDeadShows TellOfTheMonth UpdateReigns "
-            "OwnersWishes GiveAwards NoteMonths BoardWarning FanMail"));
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 3).size(), 5u + 10);
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 9).size(), 5u + 9 + 10);
-  EXPECT_EQ(StepsOfDayInto(year{2026} / 5 / 1).size(), 5u + 19 + 10);
+            "OwnersWishes NoteMonths BoardWarning FanMail"));
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 3).size(), 5u + 9);
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 3 / 9).size(), 5u + 9 + 9);
+  EXPECT_EQ(StepsOfDayInto(year{2026} / 5 / 1).size(), 5u + 19 + 9);
 }
 
 /// CWA with Events in March and May; a rival with one in April.

@@ -119,7 +119,7 @@ TEST(TheWrestlerOfTheYear, IsWorthHisOverHisRiseAndHisTitles) {
          crown.Reigns[0].Holder = "Cal Drift";
          UpdateReigns(w);
        },
-       "Cal Drift | Over 62, 2 more than a year ago, 182 days with a Title"},
+       "Cal Drift | Over 62, 2 more than a year ago, 183 days with a Title"},
   };
   for (const auto& row : rows) {
     World world = House();
@@ -144,22 +144,26 @@ TEST(TheTagTeamOfTheYear, IsTwoOfOneHouseAndTheirTimeAsChampionsCounts) {
   reign.End = kReignLost;
   world.Reigns().Append(reign);
   EXPECT_EQ(GivenFor(world, kTeamOfTheYear),
-            "The Roses | Over 50 between them, experience 50, 50 days as champions");
+            "The Roses | Over 50 between them, experience 50, 49 days as champions");
   Who(world, "Joy Park").Employer = Named(world.Promotions(), "NEW").Uid;
   EXPECT_EQ(GivenFor(world, kTeamOfTheYear), "The Drifters | Over 60 between them, experience 0");
 }
 
-TEST(TheMatchOfTheYear, IsTheBestOfTheTwelveMonths) {
+TEST(TheMatchOfTheYear, IsTheBestFromNewYearsDayToNewYearsEve) {
   World world = House();
-  AddMatch(world, 366, 99);
-  AddMatch(world, 0, 99);
+  AddMatch(world, 365, 99);
+  AddMatch(world, -1, 99);
   EXPECT_EQ(GivenFor(world, kMatchOfTheYear), "nobody") << "last year's and next year's";
-  AddMatch(world, 365, 70);
-  AddMatch(world, 200, 70, 3, 2);
+  AddMatch(world, 0, 70);
   EXPECT_EQ(GivenFor(world, kMatchOfTheYear),
-            "Bram Okafor beat Cal Drift | Rated 70% on 31 December 2025");
+            "Bram Okafor beat Cal Drift | Rated 70% on 31 December 2026");
+  AddMatch(world, 364, 70, 3, 2).IsEvent = true;
+  EXPECT_EQ(GivenFor(world, kMatchOfTheYear),
+            "Cal Drift beat Bram Okafor | Rated 70% on 01 January 2026");
   AddMatch(world, 150, 70, 4, 2).Title = "CWA Crown";
-  AddMatch(world, 100, 70, 5, 6).IsEvent = true;
+  HeldMatch& best = AddMatch(world, 100, 70, 5, 6);
+  best.IsEvent = true;
+  best.Title = "CWA Crown";
   AddPast(world, kPastEvent, 100, "Spring Bash", 60);
   EXPECT_EQ(GivenFor(world, kMatchOfTheYear),
             "Ilya Marsh beat Joy Park | Rated 70% at Spring Bash, 22 September 2026");
@@ -251,24 +255,28 @@ TEST(NewFaces, AreKnownByTheLastYearsEnd) {
       << "alike: the more popular";
 }
 
-TEST(NewYearsEve, GivesTheAwardsOnceAndTellsThemAndNotesHowAllStand) {
+TEST(NewYearsEve, GivesTheAwardsOnceBehindItsShowAndNotesHowAllStand) {
   World world = House();
-  world.Game().Today = kNewYearsEve - days{1};
   world.SetChance(std::make_unique<SeededDraws>(3));
   NoteYearEnd(world);
   Who(world, "Cal Drift").Over = 70;
-  AddMatch(world, 30, 77);
+  AddMatch(world, 0, 77);
   AdvanceDay(world, false);
-  ASSERT_EQ(world.Today(), kNewYearsEve);
+  ASSERT_EQ(world.Today(), kNewYearsEve + days{1});
   const int given = world.Awards().Count();
   EXPECT_EQ(given, 5) << "man, woman, team, match, most improved";
   const std::string news = NewsOf(world);
   EXPECT_NE(news.find("Year's Awards: Wrestler of the Year: "), std::string::npos) << news;
-  EXPECT_NE(news.find("Match of the Year: Bram Okafor beat Cal Drift. Rated 77% on 01 December "
+  EXPECT_NE(news.find("Match of the Year: Bram Okafor beat Cal Drift. Rated 77% on 31 December "
                       "2026."),
             std::string::npos)
       << news;
-  EXPECT_EQ(world.YearEnds()[3].Over, Who(world, "Cal Drift").Over);
+  EXPECT_EQ(world.YearEnds()[3].Over, 70);
+  // A game of an earlier version has its awards by the morning of the last day.
+  world.Game().Today = kNewYearsEve;
+  GiveAwards(world);
+  EXPECT_EQ(world.Awards().Count(), given);
+  world.Game().Today = kNewYearsEve + days{1};
   for (int day = 0; day < 5; ++day) AdvanceDay(world, false);
   EXPECT_EQ(world.Awards().Count(), given);
   EXPECT_TRUE(CheckWorld(world).empty());

@@ -237,7 +237,10 @@ TEST(Yearbook, TellsOfTheYearWhenItIsOver) {
     }
     return text;
   };
-  const std::string before = told();
+  std::string before = told();
+  const std::string now = "Champions now:";
+  ASSERT_NE(before.find(now), std::string::npos);
+  before.replace(before.find(now), now.size(), "Champions at the end:");
   CloseTheYear(world);
   EXPECT_EQ(told(), before) << "the running year is told as it will be written";
   EXPECT_EQ(before,

@@ -231,15 +231,18 @@ TEST(Yearbook, KeepsItsChampionsWhenTheirReignsHaveGone) {
   World world = House();
   UpdateReigns(world);
   Wait(world, 305);  // 31 December
-  CloseTheYear(world);
+  Crown(world, world.Titles()[1], UidIn(world, "Ned Third"), 0);
+  CloseTheYear(world);  // behind the night that crowned them
   world.Reigns().Rewrite({});
   world.Game().Today = Day{year{2027} / 6 / 1};
   const auto page = PageOfYear(PastOf(world), 2026);
   const auto champions = std::ranges::find(page, "Champions at the end", &YearSection::Title);
   ASSERT_NE(champions, page.end());
-  EXPECT_EQ(champions->Rows[0].Who, "Nat Other");
-  EXPECT_EQ(champions->Rows[0].What, "NEW Crown (NEW)");
-  EXPECT_EQ(champions->Rows[0].Uid, UidIn(world, "Nat Other"));
+  const auto row = std::ranges::find(champions->Rows, "Ned Third", &YearRow::Who);
+  ASSERT_NE(row, champions->Rows.end());
+  EXPECT_EQ(row->Figure, "1 day");
+  EXPECT_EQ(row->What, "NEW Crown (NEW)");
+  EXPECT_EQ(row->Uid, UidIn(world, "Ned Third"));
 }
 
 TEST(Ledger, MakesRoomBeforeAFileIsFull) {
