@@ -205,6 +205,7 @@ constexpr VentureAct kVentureActs[] = {
     {ForTryout, Try},       {ForScouting, Scout}, {FitWrestlers, HoldTournament},
     {nullptr, HangPosters}, {nullptr, GoOut},     {nullptr, GiveBenefit}};
 static_assert(std::size(kVentureActs) == std::size(kVentures));
+static_assert(std::size(kVentures) == std::size_t{kVentureKinds});
 
 const VentureAct& ActOf(Venture venture) {
   return kVentureActs[static_cast<std::size_t>(venture)];
@@ -229,24 +230,13 @@ std::span<const VentureRow> Ventures() {
   return kVentures;
 }
 
-bool HasSmallMonth(const Promotion& promotion) {
-  return promotion.Size >= kSmall;
-}
-
 int PriceOf(const World& world, const VentureRow& venture) {
   return ByClass(world, venture.SmallPrice, venture.BackyardPrice);
 }
 
 bool IsDoneThisMonth(const World& world, Venture venture) {
-  if (world.MonthPlans().Count() == 0) return false;
-  const MonthPlan& plan = world.MonthPlans()[1];
-  return Day(plan.Month) == FirstOfThisMonth(world) && plan.Done[static_cast<std::size_t>(venture)];
-}
-
-int VenturesLeft(const World& world) {
-  if (!HasSmallMonth(world.Player())) return 0;
-  return static_cast<int>(std::ranges::count_if(
-      kVentures, [&](const VentureRow& row) { return !IsDoneThisMonth(world, row.Is); }));
+  const MonthPlan* plan = PlanOfTheMonth(world);
+  return plan && plan->Done[static_cast<std::size_t>(venture)];
 }
 
 std::vector<const Worker*> WhomFor(const World& world, Venture venture) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "calendar/passing.h"
 #include "records/world.h"
 
 // What the player of a Small or Backyard promotion can do with a month beside its shows: each
@@ -22,12 +23,8 @@ struct VentureRow {
 };
 std::span<const VentureRow> Ventures();
 
-/// Whether the promotion is small enough to have a month of ventures.
-bool HasSmallMonth(const Promotion& promotion);
 int PriceOf(const World& world, const VentureRow& venture);
 bool IsDoneThisMonth(const World& world, Venture venture);
-/// How many are still open this month; 0 for a promotion that is too big.
-int VenturesLeft(const World& world);
 
 /// Whom it could be about, the most popular first; the same people all month as far as nothing
 /// changes for them. Empty for a venture about nobody.

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "calendar/advanceday.h"
+#include "calendar/passing.h"
 #include "records/fields/fields.h"
 #include "records/modVar.h"
 #include "records/segments.h"
@@ -171,10 +172,12 @@ TEST(MainScreen, MovesAPlainDayAndKeepsItOnDisk) {
 
 TEST(MainScreen, LetsPlainDaysPassUntilTheNextShowAndOpensItsSheet) {
   GameOnWorld play(Playing(year{2026} / 3 / 2));
+  play.World().Player().MeetingDay = "Wednesday";
   play.Desk.Open("frmMainScreen");
   play.Desk.Click("cmduntil");
   EXPECT_EQ(play.Desk.Text("txtdate"), "Friday, 06 March 2026");
   EXPECT_TRUE(play.Desk.Text("lblfacts").starts_with("Due today: Friday Fire. "));
+  EXPECT_TRUE(play.Desk.Text("lblfacts").ends_with("Passed on the way: 1 staff meeting."));
   for (const char* way : {"cmduntil", "cmdnext"}) {
     play.Desk.Click(way);
     EXPECT_EQ(play.Desk.Title(), "Television Booking Sheet For Friday Fire");
@@ -184,6 +187,30 @@ TEST(MainScreen, LetsPlainDaysPassUntilTheNextShowAndOpensItsSheet) {
     play.Desk.Click("cmdback");
     EXPECT_EQ(play.Desk.Text("txtdate"), "Friday, 06 March 2026");
   }
+}
+
+TEST(DaysThatPass, SayWhatTheyHavePassedBy) {
+  World world = SmallWorld().Promotion("CWA", kSmall).Owner("Ruth Vane").Crew(2).Game("CWA");
+  world.Player().MeetingDay = "Thursday";
+  const auto passed = [&](Day from, Day to) {
+    world.Game().Today = from;
+    const Passing passing(world);
+    world.Game().Today = to;
+    return passing.Text(world);
+  };
+  constexpr Day kThursday{year{2026} / 5 / 28};
+  EXPECT_EQ(passed(year{2026} / 4 / 27, kThursday),
+            "Passed on the way: 4 staff meetings and 6 ventures of the month.");
+  MonthPlan plan;
+  plan.Month = Day{year{2026} / 4 / 1};
+  plan.Done[2] = true;
+  world.MonthPlans().Rewrite({plan});
+  EXPECT_EQ(passed(year{2026} / 4 / 30, year{2026} / 5 / 7),
+            "Passed on the way: 5 ventures of the month.")
+      << "its own meeting was known of, and the last day's is still to come";
+  EXPECT_EQ(passed(year{2026} / 5 / 20, kThursday), "Passed on the way: 1 staff meeting.");
+  world.Player().Size = kRegional;
+  EXPECT_EQ(passed(year{2026} / 4 / 30, year{2026} / 5 / 7), "");
 }
 
 TEST(MainScreen, MovesOnFromACancelledEvent) {

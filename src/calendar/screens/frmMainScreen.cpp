@@ -6,6 +6,7 @@
 #include "calendar/deskwork.h"
 #include "calendar/guide.h"
 #include "calendar/incidents.h"
+#include "calendar/passing.h"
 #include "calendar/screens/calendarscreens.h"
 #include "calendar/screens/screendesk.h"
 #include "calendar/screens/screenguide.h"
@@ -194,7 +195,7 @@ class frmMainScreen : public ui::Screen {
     lbltonight.Text = TonightText(world());
     cmdmorning.Visible = !isOver && HasAnyNight(world());
     cmdfutures.Visible = !isOver;
-    cmdmonth.Visible = !isOver && world().Player().Size >= kSmall;
+    cmdmonth.Visible = !isOver && HasSmallMonth(world().Player());
     if (WhyNoMeeting(world()).empty())
       today += (today.empty() ? "" : ", ") + std::string("the staff meeting");
     lblfacts.Text = isOver
@@ -256,10 +257,12 @@ class frmMainScreen : public ui::Screen {
   /// Plain days pass until a show is due or something waits for the player; at least one does.
   void cmduntil_Click() {
     if (NeedsThePlayer(world())) return cmdnext_Click();
-    done_.clear();
+    const Passing passing(world());
     Waiting waiting(game_);
     AdvanceToNextShow(world(), Teller(waiting));
     waiting.Done();
+    const std::string passed = passing.Text(world());
+    done_ = passed.empty() ? "" : " " + passed;
     RefreshMainScreen();
   }
 
@@ -283,7 +286,7 @@ class frmMainScreen : public ui::Screen {
   using K = ui::ColumnKind;
   Game& game_;
   bool endIsTold_ = false;
-  std::string done_;  // what was decided backstage today
+  std::string done_;  // what was decided backstage today, or passed on the way to it
   ui::Label txtdate{*this, "txtdate"};
   ui::Label lblpromotion{*this, "lblpromotion"};
   ui::Label lblimage{*this, "lblimage"};
