@@ -131,6 +131,11 @@ std::vector<std::string> TenureLines(const World& world, const Worker& worker) {
     if (tenure->Reigns > 0) line += ", " + Counted(tenure->Reigns, "reign");
     lines.push_back(line + ".");
   }
+  // What is kept with the first of each month is not the record of today beside it.
+  const auto& totals = world.Of<TotalsState>();
+  if (!lines.empty() && totals.Count() > 0)
+    lines.push_back("Counted up to " + PlainDate(Day(totals[1].Counted) - std::chrono::days{1}) +
+                    ".");
   return lines;
 }
 
