@@ -198,6 +198,7 @@ TEST(frmFutures, AreStoppedByWhoWaitsNoLonger) {
   GameOnWorld play(Company().Game("CWA"));
   ScriptDesk& desk = play.Desk;
   desk.Open("frmFutures");
+  EXPECT_EQ(desk.Top()->Layout().Then->Name(), "cmdstop") << "Enter ends no day while it plays";
   desk.Pick("cmbyears", "10 years");
   const World before = CopyOf(play.World());
   desk.IsImpatient = true;

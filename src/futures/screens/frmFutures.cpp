@@ -44,14 +44,16 @@ class frmFutures : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return PageOf(ui::Rows({ui::Group("", {ui::Columns({ui::Field("How far", cmbyears),
-                                                        playing_.Layout().Grow()})}),
-                            ui::Tabs({ui::Group("Your promotion", {Own()}),
-                                      ui::Group("Champions", {ui::Grow(lsttitles)}),
-                                      ui::Group("Promotions", {ui::Grow(lstfeds)})})
-                                .Grow(),
-                            lblassumes}),
-                  &lblfacts, {&cmdexport, &playing_.Stop()}, &cmdplay);
+    ui::Page page = PageOf(ui::Rows({ui::Group("", {ui::Columns({ui::Field("How far", cmbyears),
+                                                                 playing_.Layout().Grow()})}),
+                                     ui::Tabs({ui::Group("Your promotion", {Own()}),
+                                               ui::Group("Champions", {ui::Grow(lsttitles)}),
+                                               ui::Group("Promotions", {ui::Grow(lstfeds)})})
+                                         .Grow(),
+                                     lblassumes}),
+                           &lblfacts, {&cmdexport, &playing_.Stop()}, &cmdplay);
+    page.Then = &playing_.Stop();  // or a second Enter would end the day
+    return page;
   }
 
   void Load() override {
