@@ -132,7 +132,7 @@ void WriterWorkload(World& world) {
           "Our writers can't keep up. For " + Counted(shows, "television show") +
               " we need at least " + std::to_string(WritersNeeded(shows)) +
               " writers, and we have " + (writers == 0 ? "none" : std::to_string(writers)) +
-              ". Until we hire more, i can't put any angles on television.");
+              ". Until we hire more, I can't put any angles on television.");
 }
 
 namespace {
