@@ -140,20 +140,28 @@ std::vector<Window::OwnCommand> Window::SharingCommands() {
   std::vector<OwnCommand> commands;
   if (!TopView() || !top_) return commands;
   const Shareable page = PageToShare(*top_, *TopView()), words = WordsToShare(page.Text);
-  const auto add = [&](const QString& caption, const QString& done, std::function<void()> share) {
-    commands.push_back({caption, [this, done, share = std::move(share)] {
-                          share();
-                          Hint(*this, done, ui::Tone::Plain);
-                        }});
+  // What people look for who do not know how it is called here.
+  const auto add = [&](const QString& caption, const char* also, std::function<void()> share) {
+    commands.push_back({caption, std::move(share), also});
+  };
+  const auto addCopy = [&](const QString& as, const char* also, const QString& done,
+                           std::function<void()> share) {
+    add("Copy " + as, also, [this, done, share = std::move(share)] {
+      share();
+      Hint(*this, done, ui::Tone::Plain);
+    });
   };
   for (const Sharing& row : kTexts)
-    add(QString("Copy this page as ") + row.Words, "The page is in the clipboard.",
-        [page, form = row.As] { CopyShared(page, form); });
+    addCopy(QString("this page as ") + row.Words, "share export clipboard post",
+            "The page is in the clipboard.", [page, form = row.As] { CopyShared(page, form); });
+  constexpr const char* kPictureWords = "share export clipboard screenshot image png";
   const QString done = "The picture is in the clipboard.";
-  add("Copy this page as a picture", done, [page] { CopyPictureOf(page); });
-  add("Copy all words of this page as a picture", done, [words] { CopyPictureOf(words); });
-  commands.push_back({"Save this page to a file", [this, page] { SavePage(page); }});
-  commands.push_back({"Save all words of this page to a file", [this, words] { SavePage(words); }});
+  addCopy("this page as a picture", kPictureWords, done, [page] { CopyPictureOf(page); });
+  addCopy("all words of this page as a picture", kPictureWords, done,
+          [words] { CopyPictureOf(words); });
+  constexpr const char* kFileWords = "share export screenshot image png markdown html bbcode";
+  add("Save this page to a file", kFileWords, [this, page] { SavePage(page); });
+  add("Save all words of this page to a file", kFileWords, [this, words] { SavePage(words); });
   return commands;
 }
 
