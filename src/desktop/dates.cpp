@@ -194,6 +194,18 @@ QString DatedAlone(std::string_view text) {
   return piece.isEmpty() ? Dated(text) : piece;
 }
 
+QString WithShortNames(QString date) {
+  const QLocale& speaks = TheDates().Speaks;
+  const auto shorten = [&date](const QString& name, const QString& brief) {
+    if (brief.size() < name.size()) date.replace(name, brief);
+  };
+  constexpr auto kShort = QLocale::ShortFormat;
+  for (int month = 1; month <= 12; ++month)
+    shorten(speaks.monthName(month), speaks.monthName(month, kShort));
+  for (int day = 1; day <= 7; ++day) shorten(speaks.dayName(day), speaks.dayName(day, kShort));
+  return date;
+}
+
 QString CellText(const ui::Cell& cell, ui::ColumnKind kind) {
   return kind == ui::ColumnKind::Date ? DatedAlone(cell.Text) : Dated(cell.Text);
 }

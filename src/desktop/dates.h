@@ -45,6 +45,9 @@ QString Dated(std::string_view text);
 /// The same for a text that is a date by itself: also "Mar 2026", "09/03", "March", "Mar" and
 /// "Monday".
 QString DatedAlone(std::string_view text);
+/// A date in the form in use with the short names of its language: "Monday, 09 March 2026" as "Mon,
+/// 09 Mar 2026".
+QString WithShortNames(QString date);
 /// A cell of a table.
 QString CellText(const ui::Cell& cell, ui::ColumnKind kind);
 

@@ -33,13 +33,6 @@ constexpr int kStep = 24;                       // a number's room grows by so m
 constexpr int kShortName = 96, kBareName = 88;  // what is left of a long name
 constexpr int kLeastName = 40;                  // less of it says nothing
 
-/// "Monday, 09 March 2026" as "Mon, 09 Mar 2026".
-QString WithShortNames(QString date) {
-  static const QRegularExpression kLongWord(
-      "([A-Za-z\\x{C0}-\\x{24F}]{3})[A-Za-z\\x{C0}-\\x{24F}]+");
-  return date.replace(kLongWord, "\\1");
-}
-
 /// "Mon, 09 Mar 2026" as "09 Mar 2026".
 QString WithoutWeekday(QString date) {
   static const QRegularExpression kWeekday("^[^\\d]+[, ]+(?=\\d)");
