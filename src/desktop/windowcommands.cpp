@@ -95,10 +95,12 @@ void Window::TakeBack(const ui::Desk::TakingBack& back, const char* told) {
     what = desk_.Take(back);
     return std::string();
   });
-  Hint(*this,
-       what.empty() ? QString("There is nothing of today to take back or do again.")
-                    : told + Shown(what),
-       ui::Tone::Muted);
+  const bool isPlayed = std::ranges::any_of(
+      desk_.Screens(), [](const auto& open) { return open->Is() == ui::Role::Hub; });
+  const QString nothing = isPlayed ? "There is nothing of today to take back or do again. Back In "
+                                     "Time has the mornings before."
+                                   : "There is nothing to take back or do again.";
+  Hint(*this, what.empty() ? nothing : told + Shown(what), ui::Tone::Muted);
 }
 
 void Window::OpenHelp() {

@@ -1,6 +1,9 @@
 #include "desktop/windowoptions.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QKeySequence>
+#include <QLineEdit>
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -27,6 +30,33 @@ QString KeyIn(const std::string& typed) {
   const bool function = keys[0].key() >= Qt::Key_F1 && keys[0].key() <= Qt::Key_F35;
   return held || function ? keys.toString(QKeySequence::PortableText) : QString();
 }
+
+bool IsTaken(const std::string& key) {
+  return std::find(std::begin(kTaken), std::end(kTaken), key) != std::end(kTaken);
+}
+
+/// While it lives, a key that is pressed in a line is written there by its name, unless the line
+/// needs it.
+class WrittenKeys : public QObject {
+ public:
+  WrittenKeys() { qApp->installEventFilter(this); }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    auto* const line = qobject_cast<QLineEdit*>(watched);
+    if (!line || event->type() != QEvent::KeyPress) return false;
+    const auto& press = static_cast<const QKeyEvent&>(*event);
+    constexpr Qt::Key kHeld[] = {Qt::Key_Control, Qt::Key_Alt, Qt::Key_Shift, Qt::Key_Meta,
+                                 Qt::Key_AltGr};
+    if (std::find(std::begin(kHeld), std::end(kHeld), press.key()) != std::end(kHeld)) return false;
+    const QKeyCombination pressed(press.modifiers() & ~Qt::KeypadModifier,
+                                  static_cast<Qt::Key>(press.key()));
+    const QString key = KeyIn(QKeySequence(pressed).toString().toStdString());
+    if (key.isEmpty() || IsTaken(key.toStdString())) return false;
+    line->setText(key);
+    return true;
+  }
+};
 
 class frmWindow : public ui::Screen {
  public:
@@ -137,8 +167,7 @@ class frmWindow : public ui::Screen {
     for (const KeyedCommand& other : commands_)
       if (other.Id != command.Id && KeyOf(other) == typed && MayMeet(other, command))
         return typed + " is the key of " + other.Caption + ".";
-    if (typed != command.Usual &&
-        std::find(std::begin(kTaken), std::end(kTaken), typed) != std::end(kTaken))
+    if (typed != command.Usual && IsTaken(typed))
       return typed + " is a key of tables and lines of text.";
     return {};
   }
@@ -151,8 +180,11 @@ class frmWindow : public ui::Screen {
 
   void cmdkey_Click() {
     const KeyedCommand command = Chosen();
-    const std::string typed =
-        desk().Prompt("Change Key", "The key for " + command.Caption + ":", KeyOf(command));
+    const std::string text = "Press the key for " + command.Caption + ", or write it:";
+    const std::string typed = [&] {
+      const WrittenKeys written;
+      return desk().Prompt("Change Key", text, KeyOf(command));
+    }();
     if (typed.empty()) return;
     const QString key = KeyIn(typed);
     if (desk().Objects(WhyNot(key, command))) return;

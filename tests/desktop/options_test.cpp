@@ -101,7 +101,14 @@ TEST_F(TheOptions, GiveACommandAnotherKey) {
     Play->Click("cmdkey");
   };
   for (const char* refused : {"x", "F4", "F11", "Ctrl+K"}) change(refused, false);
-  change("Ctrl+R", true);
+  Play->AtNextBox([&] {
+    Play->Key(Qt::Key_F5);
+    EXPECT_EQ(Play->TextOf("boxline"), "F5");
+    Play->Key(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(Play->TextOf("boxline"), "Ctrl+R");
+    Play->Click("boxok");
+  });
+  Play->Click("cmdkey");
   Play->Key(Qt::Key_Escape);
   Play->Key(Qt::Key_F2);
   EXPECT_EQ(Play->Top(), "frmHub") << "it is nobody's key any more";
@@ -272,6 +279,9 @@ TEST(TheDates, AreWrittenAsEachLanguageDoes) {
   EXPECT_EQ(desktop::DatedAlone("31 Jun 2002"), "31 Jun 2002");
   EXPECT_EQ(desktop::DatedAlone("Main Event"), "Main Event");
   EXPECT_EQ(desktop::Dated("July"), "July") << "it may be somebody's name";
+  EXPECT_NE(desktop::WithShortNames(desktop::Dated("08 July 2002")),
+            desktop::WithShortNames(desktop::Dated("08 June 2002")))
+      << "juin is not juillet";
   desktop::UseDateForm(DateForm::Game);
 }
 
@@ -312,7 +322,10 @@ TEST_F(TheOptions, AreFoundByWhatPeopleCallThem) {
                                                        {"volume", "Sound on"},
                                                        {"language", "Dates: German"},
                                                        {"animat", "Nothing moves by itself"},
-                                                       {"scale", "Window scale: 125%"}};
+                                                       {"scale", "Window scale: 125%"},
+                                                       {"share", "Copy this page as HTML"},
+                                                       {"clipboard", "Copy this page as Markdown"},
+                                                       {"screenshot", "Save this page to a file"}};
   for (const auto& [typed, found] : words) {
     Play->Key(Qt::Key_K, Qt::ControlModifier);
     Play->Type(typed);
