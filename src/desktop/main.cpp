@@ -169,6 +169,8 @@ int Play(QApplication& app, const Started& started) {
     speaker->Play(sound, volume);
   };
   desktop::Window window(desk, options);
+  if (wanted.Pictures.isEmpty())
+    window.resize(window.size().boundedTo(window.screen()->availableSize()));
   app.setWindowIcon(QIcon(window.PictureFile("icon.png")));
   game.KeepPage = [&window](const std::string& file) {
     window.KeepPage(QString::fromStdString(file));

@@ -113,8 +113,11 @@ void TableView::OpenColumnsMenu(const QPoint& globally) {
   QMenu* menu = NewMenu(this, "columnsmenu");
   AddViews(*menu);
   AddHeadings(*menu);
-  AddColumnChoices(*menu);
-  AddTableActs(*menu);
+  // A wide table's menu would fill the window.
+  constexpr int kMostInSight = 10;
+  const bool isLong = model_.columnCount() > kMostInSight;
+  AddColumnChoices(isLong ? *menu->addMenu("Columns") : *menu);
+  AddTableActs(isLong ? *menu->addMenu("Copy and save") : *menu);
   menu->popup(globally);
 }
 
