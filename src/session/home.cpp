@@ -154,7 +154,8 @@ void Describe(SlotSummary& summary, const GameInfo& game, const SlotContents& fi
   const auto house = LastOf<HouseRules>(files, [](const HouseRules&) { return true; });
   if (house) summary.House = HouseRulesText(*house);
   const auto moments = files.find(kMorningsName);
-  if (moments != files.end() && !Mornings(moments->second).Keeps())
+  summary.GoesBack = moments == files.end() || Mornings(moments->second).Keeps();
+  if (!summary.GoesBack)
     summary.House += (summary.House.empty() ? "" : ", ") + std::string("no way back");
   if (files.contains(kCommandsName))
     summary.House += (summary.House.empty() ? "" : ", ") + std::string("recorded");

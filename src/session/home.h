@@ -65,6 +65,7 @@ struct SlotSummary {
   std::string Today = {}, Level = {}, LastShow = {};  // LastShow empty before the first
   std::string House = {};                             // the rules of the house; empty for none
   std::optional<Promotion> Own = {};                  // the player's
+  bool GoesBack = true;                               // unless a rule of the house is against it
 };
 
 /// The same of files that lie nowhere yet.

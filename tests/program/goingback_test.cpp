@@ -304,6 +304,9 @@ TEST(BackInTime, AGameWithoutAWayBackHasNone) {
   play.Play.CloseSlot();
   Slot::Create(play.Play.Disk(), play.Play.SlotFolder(1), BeginningFiles(world, false, false), 9);
   EXPECT_EQ(ReadSlotSummary(play.Play.Disk(), play.Play.SlotFolder(1)).House, "no way back");
+  play.Desk.Open("frmLoadGame");
+  EXPECT_FALSE(play.Desk.Enabled("cmdmornings1"));
+  play.Desk.CloseAll();
   play.Play.OpenSlot(1);
   play.Desk.Open("frmMainScreen");
   SetPrice(play, 42);

@@ -325,8 +325,7 @@ std::map<std::string, Bytes> FilesAfter(std::map<std::string, Bytes> files, cons
     if (!PlayedSlot::IsOwn(held)) digest.Set(held, bytes);
   const Day today = DayIn(files[std::string(GameFile())]);
   const Moment before{MomentKind::Click, today, digest.Value(), {}};
-  const std::vector<KnownFile> all = KnownFiles();
-  const KnownFile* known = FindFile(all, name);
+  const KnownFile* known = FindFile(KnownFiles(), name);
   const WayBack way{BackFrom(*change, known ? known->RecordBytes : 1, ReadOf(*change))};
   if (mornings.Keeps() && !JoinsLast(mornings, {}, way, before, today))
     mornings.Add(before, way, today);

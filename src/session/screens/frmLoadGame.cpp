@@ -195,6 +195,10 @@ class frmLoadGame : public SlotScreen {
         act->Enabled = summary.Playable;
         act->Tip = summary.Playable ? "" : "This slot can't be loaded.";
       }
+      if (summary.Playable && !summary.GoesBack) {
+        cmdmornings(slot).Enabled = false;
+        cmdmornings(slot).Tip = "No way back: a rule of this game's house.";
+      }
       if (summary.Playable && !room) {
         cmdcopy(slot).Enabled = false;
         cmdcopy(slot).Tip = kAllInUse;
