@@ -52,7 +52,7 @@ inline constexpr std::array<HubCommand, 21> kHubCommands = {{
     {"cmdmeeting", "Meeting", "frmTalk", "Desk", "", "staff advice talk", ui::Reach::Today},
     {"cmdnotepad", "Notepad", "frmNotepad", "Desk", "Ctrl+N", "notes", ui::Reach::Tells},
     {"cmdmornings", "Back In Time", "frmMornings", "Desk", "",
-     "mornings undo redo go back earlier day return road what if name this moment"},
+     "name this moment mornings undo redo go back earlier day return road what if"},
     {"cmdoptions", "Options", "frmOptions frmLoadingScreens", "Desk", "F12",
      "settings mail reporter"},
 }};
