@@ -82,7 +82,8 @@ class CrownStory {
     const HeldCrown& longest = *std::ranges::max_element(held_, {}, days);
     const TitleReign& reign = longest.Reign();
     if (Day(reign.From) > kNoTitleDate && days(longest) > 0) {
-      Telling telling = Of(Tells::CrownLongest);
+      // Of the one that lasts, the days have just been said.
+      Telling telling = Of(archive_.Lasts(reign) ? Tells::CrownLongestYet : Tells::CrownLongest);
       telling.F = HolderOf(world_, reign);
       telling.On = reign.From;
       telling.Count = DaysText(days(longest));

@@ -298,12 +298,13 @@ enum class Tells {
   CrownStands,   // {title} of {promotion}, image {count}
   CrownGone,     // {title} of {promotion}
   CrownMade,
-  CrownYear,     // {title} changed hands {count} {when}: {tally}
-  CrownLongest,  // {F}, {count}, from {when}
-  CrownMost,     // {F}, {count}
-  HouseFounded,  // {promotion}, {tally}
-  HouseStands,   // {promotion}, {tally}, image {count}
-  HouseRisen,    // to {tally}
+  CrownYear,        // {title} changed hands {count} {when}: {tally}
+  CrownLongest,     // {F}, {count}, from {when}
+  CrownLongestYet,  // the same of the reign that CrownOn has just told of
+  CrownMost,        // {F}, {count}
+  HouseFounded,     // {promotion}, {tally}
+  HouseStands,      // {promotion}, {tally}, image {count}
+  HouseRisen,       // to {tally}
   HouseFallen,
   HouseClosed,
   HouseBought,  // by {G}

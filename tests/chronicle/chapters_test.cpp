@@ -161,6 +161,24 @@ TEST_F(Chronicles, TellOnceWhoCameNext) {
   }
 }
 
+/// A reign that lasts has its days said once, also where none was longer.
+TEST_F(Chronicles, CallThePresentReignTheLongestInOneBreath) {
+  LiveAYear();
+  Pass(200);
+  for (int voice = kLamplighter; voice <= kQvd; ++voice) {
+    int told = 0, days = 0;
+    for (const auto& paragraph : Read(About::Title, "CWA Crown", voice).Paragraphs)
+      for (const ToldSentence& sentence : paragraph) {
+        const Proof& proof = sentence.By.front();
+        told +=
+            proof.Of == &LayoutOf<TitleReign>() && World_.Reigns()[proof.Number].End == kReignLasts;
+        days += Says(sentence.Words, "260 days") || Says(sentence.Words, "two hundred and sixty");
+      }
+    EXPECT_EQ(told, 2);
+    EXPECT_EQ(days, 1);
+  }
+}
+
 TEST_F(Chronicles, CallNobodyHeBehindSomebodyElse) {
   for (int times = 0; times < 4; ++times) {
     Pass(10);
