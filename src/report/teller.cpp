@@ -367,14 +367,17 @@ std::string Verdict(World& world, const Segment& segment, int overall, LineMemor
   const auto* last = std::end(kVerdictsUpTo) - 1;
   const auto band = std::lower_bound(std::begin(kVerdictsUpTo), last, overall);
   const auto number = static_cast<int>(band - kVerdictsUpTo);
-  const auto lines = BlockOf(kTolland, Family::Verdict, number)->Lines;
-  const auto drawn =
-      static_cast<std::size_t>(world.Prose().Draw(static_cast<int>(lines.size())) - 1);
-  if (!memory) return SaidIn(lines[drawn], 0);
-  const std::int32_t key = KeysOf(kTolland, Family::Verdict, number)[drawn];
-  const int way = memory->Said().Times(world, key);
-  memory->Said().Say(world, key);
-  return SaidIn(lines[drawn], way);
+  const Block* block = BlockOf(kTolland, Family::Verdict, number);
+  const auto keys = KeysOf(kTolland, Family::Verdict, number);
+  const auto count = static_cast<int>(keys.size());
+  if (!memory)
+    return SaidIn(block->Lines[static_cast<std::size_t>(world.Prose().Draw(count) - 1)], 0);
+  std::vector<int> days;
+  for (const std::int32_t key : keys) days.push_back(memory->Said().DaysSince(world, key));
+  const auto line = static_cast<std::size_t>(memory->Pick(world.Prose(), block, count, days));
+  const int way = memory->Said().Times(world, keys[line]);
+  memory->Said().Say(world, keys[line]);
+  return SaidIn(block->Lines[line], way);
 }
 
 }  // namespace grapplemont

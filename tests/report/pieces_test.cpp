@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "records/segments.h"
 #include "report/cast.h"
 #include "report/report.h"
@@ -108,6 +110,23 @@ TEST(Verdict, IsTheSecondVoicesOnMatchesByTheBandOfTheRating) {
     EXPECT_EQ(text.substr(0, std::string(row.Says).size()), row.Says) << row.Overall;
     EXPECT_EQ(text.empty(), *row.Says == 0);
   }
+}
+
+/// A night of great matches has as many ways to say so as the band has.
+TEST(Verdict, SaysNoLineAgainBeforeTheOthersOfItsBand) {
+  World world = Four();
+  world.Game().Reporter = kTolland;
+  Segment segment = EmptySegment();
+  segment.Kind = kMatch;
+  segment.Style = kSingles;
+  segment.MatchType = kPlainSingles;
+  LineMemory memory;
+  std::set<std::string> said;
+  for (int match = 0; match < 3; ++match) {
+    memory.BeginSegment();
+    said.insert(Verdict(world, segment, 83, &memory));
+  }
+  EXPECT_EQ(said.size(), 3U);
 }
 
 TEST(Lines, BeginNoSentenceWithAFigure) {
