@@ -180,7 +180,8 @@ void TellBody(Teller& teller, const BoutRow& bout) {
   const Script row =
       isSingles ? SinglesRow(teller, bout.Rows, winner == nullptr) : teller.OneOf(bout.Rows);
   teller.IsBrief = row.size() <= kSquashSteps;
-  teller.IsTitleSquash = isSingles && teller.IsBrief && !teller.cast.Thing(Item::Title).empty();
+  teller.IsTitleSquash = isSingles && teller.IsBrief && !teller.cast.Thing(Item::Title).empty() &&
+                         !EndsWithoutFall(FinishCode(teller));
   if (teller.IsTitleSquash) teller.Say(Family::Squash, kSquashBegins);
   ring.Play(row, bout.Spot, winner, loser);
 }

@@ -215,8 +215,9 @@ enum PastKind {
 };
 /// Bands of PastEnding.
 enum PastOutcome {
-  kPaidBack,   // {F} wins what {S} began
-  kSameAgain,  // {F} beats {S} again
+  kPaidBack,     // {F} wins what {S} began
+  kNotPaidBack,  // {F} does not
+  kSameAgain,    // {F} beats {S} again
   kRunGoesOn,
   kRunEnds,  // of {F}, {count} wins
   kSlumpEnds,

@@ -75,6 +75,30 @@ Meetings MeetingsOf(const World& world, int style, const std::vector<int>& one,
   return had;
 }
 
+bool HaveSharedARing(const World& world, const std::vector<int>& one, const std::vector<int>& two) {
+  return std::any_of(one.begin(), one.end(), [&](int uid) {
+    const std::vector<int>& matches = MatchesWith(world, uid);
+    return std::any_of(matches.begin(), matches.end(), [&](int number) {
+      const HeldMatch& bout = world.Bouts()[number];
+      return bout.Promotion == world.PlayerUid() &&
+             std::any_of(two.begin(), two.end(), [&](int other) {
+               return std::find(bout.Worker.begin(), bout.Worker.end(), other) != bout.Worker.end();
+             });
+    });
+  });
+}
+
+bool HaveFoughtFor(const World& world, std::string_view title, const std::vector<int>& any,
+                   Day since) {
+  for (const int uid : any)
+    for (const int number : std::views::reverse(MatchesWith(world, uid))) {
+      const HeldMatch& bout = world.Bouts()[number];
+      if (Day(bout.On) <= since) break;
+      if (bout.Promotion == world.PlayerUid() && bout.Title == title) return true;
+    }
+  return false;
+}
+
 int RunOf(const World& world, int uid) {
   int run = 0;
   for (const int number : std::views::reverse(MatchesWith(world, uid))) {

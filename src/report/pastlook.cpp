@@ -18,7 +18,8 @@ using Uids = std::vector<int>;
 
 constexpr int kLately = 60, kLongApart = 365, kAMonth = 28, kSlotIsYoung = 180;
 constexpr int kALead = 3, kTooMany = 8, kFifty = 50, kARun = 5, kSeasoned = 8, kGreen = 8;
-constexpr int kALongReign = 100, kANewReign = 15, kAway = 60, kGreat = 80, kYoung = 25;
+constexpr int kALongReign = 100, kANewReign = 15, kAReturn = 180;  // days
+constexpr int kAway = 60, kGreat = 80, kYoung = 25;
 constexpr int kPerfect = 100;
 constexpr std::size_t kFewNames = 3;
 
@@ -145,7 +146,7 @@ class Look {
     const Meetings had = MeetingsOf(world_, segment_.Style, one, two);
     if (had.Met == 0) {
       if (IsSeasoned() && MatchesOf(TallyOf(world_, one[0])) >= kSeasoned &&
-          MatchesOf(TallyOf(world_, two[0])) >= kSeasoned)
+          MatchesOf(TallyOf(world_, two[0])) >= kSeasoned && !HaveSharedARing(world_, one, two))
         Add({kMetFirst, 30, one, two});
       return;
     }
@@ -157,11 +158,15 @@ class Look {
     const std::string tally =
         CountText(high) + " to " + (low > 0 ? CountText(low) : std::string("nothing"));
     if (high == low && high >= 2) Add({kSeriesLevel, 55, one, two, high});
+    const bool isLate = had.LastDaysAgo <= kLately && had.LastWinner != 0;
+    // Whoever has won them all has won the last one.
+    const bool tellsLast = isLate && low == 0 && high >= kALead;
     if (high - low >= kALead)
-      Add({kSeriesLed, 50, oneLeads ? one : two, oneLeads ? two : one, high, -1, tally});
+      Add({kSeriesLed, 50, oneLeads ? one : two, oneLeads ? two : one, high,
+           tellsLast ? had.LastDaysAgo : -1, tally});
     if (had.LastDaysAgo > kLongApart)
       Add({kMetLongAgo, 45, one, two, had.Met, had.LastDaysAgo});
-    else if (had.LastDaysAgo <= kLately && had.LastWinner != 0)
+    else if (isLate && !tellsLast)
       Add({kMetLately, 50, had.LastWinner == 1 ? one : two, had.LastWinner == 1 ? two : one, 0,
            had.LastDaysAgo});
     if (IsYearsEnd(world_.Today()) && had.BestRating >= kGreat)
@@ -176,6 +181,12 @@ class Look {
     return reign.End == kReignLasts || (!teller_.IsOurs() && Day(reign.Until) >= teller_.Today());
   }
   int DaysSince(Day day) const { return static_cast<int>((teller_.Today() - day).count()); }
+
+  /// The first match for the Title that they have since they lost it, and not too late for that.
+  bool IsReturn(const TitleReign& lost, const Uids& theirs) const {
+    return lost.End == kReignLost && DaysSince(lost.Until) <= kAReturn &&
+           !HaveFoughtFor(world_, segment_.TitleName.View(), theirs, lost.Until);
+  }
 
   void OfTitle() {
     const int holder = teller_.scene.Champion;
@@ -195,9 +206,9 @@ class Look {
     const Uids champions = SideOf(holder);
     if (lasts) OfReign(*lasts, champions, challengers);
     if (once) {
-      const bool isRematch = once == before && once->End == kReignLost;
-      Add({isRematch ? kTitleAgain : kOnceChampion, isRematch ? 75 : 58,
-           Shared(challengers, {once->Worker, once->Partner}), champions, 0,
+      const Uids theirs = Shared(challengers, {once->Worker, once->Partner});
+      const bool isRematch = once == before && IsReturn(*once, theirs);
+      Add({isRematch ? kTitleAgain : kOnceChampion, isRematch ? 75 : 58, theirs, champions, 0,
            DaysSince(once->Until)});
     }
     if (teller_.IsOurs() && IsSeasoned()) OfFirstShot(champions);

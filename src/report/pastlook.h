@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string_view>
 #include <vector>
 
 #include "records/fields/chronicle.h"
@@ -30,6 +31,11 @@ struct Meetings {
 };
 Meetings MeetingsOf(const World& world, int style, const std::vector<int>& one,
                     const std::vector<int>& two);
+/// Whether any match on the player's shows, of any kind, had both of these sides in it.
+bool HaveSharedARing(const World& world, const std::vector<int>& one, const std::vector<int>& two);
+/// Whether any of these has had a match for the Title on the player's shows since that day.
+bool HaveFoughtFor(const World& world, std::string_view title, const std::vector<int>& any,
+                   Day since);
 /// The worker's matches won in a row up to now; below 0 those lost; a draw ends either.
 int RunOf(const World& world, int uid);
 

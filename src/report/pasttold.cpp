@@ -25,7 +25,7 @@ constexpr Ago kAgo[] = {{0, "earlier tonight", "earlier tonight"},
                         {6, "a few days ago", "the other day"},
                         {10, "a week ago", "last week"},
                         {17, "two weeks ago", "the week before last"},
-                        {24, "three weeks ago", "three weeks back"},
+                        {24, "three weeks ago", "that night three weeks ago"},
                         {45, "a month ago", "last month"}};
 constexpr int kNamesItsMonth = 330, kAYearAgo = 547, kYear = 365;
 
@@ -68,7 +68,8 @@ struct OutcomeRow {
 };
 constexpr OutcomeRow kOutcomes[] = {
     {kMetLately, Who::One, false, kSameAgain},    {kMetLately, Who::Two, false, kPaidBack},
-    {kWasAttacked, Who::One, false, kPaidBack},   {kPartnerBeaten, Who::One, false, kPaidBack},
+    {kWasAttacked, Who::One, false, kPaidBack},   {kWasAttacked, Who::Two, false, kNotPaidBack},
+    {kPartnerBeaten, Who::One, false, kPaidBack}, {kPartnerBeaten, Who::Two, false, kNotPaidBack},
     {kWinsInARow, Who::One, false, kRunGoesOn},   {kWinsInARow, Who::Two, false, kRunEnds},
     {kLossesInARow, Who::One, false, kSlumpEnds}, {kSeriesLevel, Who::Either, false, kSeriesTips},
     {kThreatened, Who::One, false, kWordKept},    {kThreatened, Who::Two, false, kWordEaten},
@@ -81,7 +82,9 @@ constexpr OutcomeRow kOutcomes[] = {
 
 /// Two ends that would say the same of a match, or the opposite of it.
 bool SayTheSame(PastOutcome one, PastOutcome other) {
-  const auto isSettling = [](PastOutcome is) { return is == kSameAgain || is == kPaidBack; };
+  const auto isSettling = [](PastOutcome is) {
+    return is == kSameAgain || is == kPaidBack || is == kNotPaidBack;
+  };
   return one == other || (isSettling(one) && isSettling(other));
 }
 
@@ -96,10 +99,15 @@ bool Share(const std::vector<int>& some, const std::vector<int>& others) {
   });
 }
 
+/// A series to nothing whose last match is not told beside it ends as that would.
+PastKind EndsAs(const PastFact& fact) {
+  return fact.Is == kSeriesLed && fact.DaysAgo >= 0 ? kMetLately : fact.Is;
+}
+
 const OutcomeRow* OutcomeOf(const PastFact& fact, const std::vector<int>& winners, bool changed) {
   const bool one = Share(winners, fact.One), two = Share(winners, fact.Two);
   for (const OutcomeRow& row : kOutcomes) {
-    if (row.After != fact.Is || (row.WithTitle && !changed)) continue;
+    if (row.After != EndsAs(fact) || (row.WithTitle && !changed)) continue;
     if (row.Wins == Who::Either || (row.Wins == Who::One ? one : two)) return &row;
   }
   return nullptr;
@@ -109,8 +117,8 @@ const OutcomeRow* OutcomeOf(const PastFact& fact, const std::vector<int>& winner
 PastFact AsEnded(const PastFact& fact, const OutcomeRow& row, const std::vector<int>& winners) {
   PastFact ended = fact;
   const bool aboutLoser = row.Tells == kRunEnds || row.Tells == kWordEaten ||
-                          row.Tells == kSaidTooMuch || row.Tells == kReignOver ||
-                          row.Tells == kFiftyDone;
+                          row.Tells == kNotPaidBack || row.Tells == kSaidTooMuch ||
+                          row.Tells == kReignOver || row.Tells == kFiftyDone;
   if (!aboutLoser && Share(winners, fact.Two)) std::swap(ended.One, ended.Two);
   return ended;
 }
@@ -140,8 +148,9 @@ std::string AgoText(int days, Day today) {
 std::string SinceText(int days, Day today) {
   for (const Ago& ago : kAgo)
     if (days <= ago.Days) return std::string(ago.Since);
-  if (days <= kNamesItsMonth) return MonthText(days, today);
-  return days <= kAYearAgo ? "last year" : YearsText(days) + " back";
+  const int year = YearOf(today - std::chrono::days(days));
+  if (days <= kNamesItsMonth || year == YearOf(today)) return MonthText(days, today);
+  return year + 1 == YearOf(today) ? "last year" : std::to_string(year);
 }
 
 bool IsYearsEnd(Day day) {

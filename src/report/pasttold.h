@@ -38,7 +38,7 @@ std::string AgoText(int days, Day today);
 std::string CountText(int count);
 /// "third", "21st".
 std::string NthText(int count);
-/// The same behind "since", "until" or "of": "last week", "March", "two years back".
+/// The same behind "since", "until", "of", "from" or "after": "last week", "March", "2024".
 std::string SinceText(int days, Day today);
 
 /// The two most telling facts, before the bell. Remembers them in teller.Told.

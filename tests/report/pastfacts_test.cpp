@@ -95,6 +95,28 @@ TEST(Past, KnowsATitleOfTeamsAndOfThree) {
   EXPECT_TRUE(Past(world, Teams("Crown"), {2}).Has(kTitleNever));
 }
 
+TEST(Past, CallsOneMatchTheReturnAndOneTheFirst) {
+  World world = Four();
+  Reign(world, 2, 400, 100);
+  Reign(world, 1, 100, 0, 4);
+  Held(world, 1, 30);
+  EXPECT_TRUE(Past(world, AdaBeatsBo("Crown"), {1}).Has(kTitleAgain)) << "that was for no Title";
+  world.Bouts().Change(1).Title = "Crown";
+  const Past later(world, AdaBeatsBo("Crown"), {1});
+  EXPECT_FALSE(later.Has(kTitleAgain));
+  ASSERT_TRUE(later.Has(kOnceChampion));
+  EXPECT_EQ(later.Has(kOnceChampion)->One, std::vector<int>{2});
+
+  world.Bouts().Change(1).On = Ago(world, 200);
+  for (int uid = 1; uid <= 4; ++uid) Tally(world, uid, 20, 7);
+  Segment first = AdaBeatsBo();
+  first.Worker[1] = first.Loser = 3;
+  EXPECT_TRUE(Past(world, first).Has(kMetFirst));
+  world.Bouts().Change(1).Style = kThreeWay;
+  world.Bouts().Change(1).Worker[2] = 3;
+  EXPECT_FALSE(Past(world, first).Has(kMetFirst)) << "three had the ring together";
+}
+
 TEST(Past, SeesNobodyAsAwayWhoWasOnACard) {
   World world = Two();
   Tally(world, 1, 9, 90);
