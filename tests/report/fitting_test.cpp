@@ -245,6 +245,34 @@ TEST(Words, KeepTheOldLines) {
       EXPECT_TRUE(Says(old.Voice, old.Of, words)) << words;
 }
 
+/// {when} is "in March" or "a week ago": it is no subject, and stands behind no word that wants the
+/// name of a day. A Title of two is not one thing, and how often somebody has won before is not
+/// known where a win comes again and again.
+TEST(Words, FitWhateverThePastHolds) {
+  constexpr std::string_view kNever[] = {
+      " of {when}",     " since {when}",   " until {when}",     " from {when}",  " by {when}",
+      " before {when}", " after {when}",   " remembers {when}", "{F:s} {when}.", ". {when} was",
+      ". {when} stays", ". {when} stands", "and {when} sits"};
+  constexpr std::string_view kNotOfTitles[] = {" won it",         " keep it",      " takes it",
+                                               " fingerprint it", " want{F:s} it", " want{S:s} it"};
+  constexpr std::string_view kCounts[] = {"twice", "second", "third", "first"};
+  const auto holds = [](const std::string& text, std::span<const std::string_view> words) {
+    return std::any_of(words.begin(), words.end(),
+                       [&](std::string_view word) { return text.find(word) != std::string::npos; });
+  };
+  for (int voice = kLamplighter; voice <= kQvd; ++voice)
+    for (const Family family : {Family::PastOpening, Family::PastEnding, Family::TitleOpening})
+      for (int band = 0; band <= RowOf(family).Bands.Last; ++band)
+        for (const TaggedLine& line : ReadLinesOf(voice, family, band)) {
+          const std::string text = ". " + std::string(line.Text);
+          EXPECT_FALSE(holds(text, kNever)) << text;
+          EXPECT_FALSE(text.find("{title}") != text.npos && holds(text, kNotOfTitles)) << text;
+          const bool again = (family == Family::PastEnding && band == kSameAgain) ||
+                             (family == Family::PastOpening && band == kMetLately);
+          EXPECT_FALSE(again && holds(text, kCounts)) << text;
+        }
+}
+
 /// A draw of three picks one; the lowest band has two.
 TEST(Words, RateWithThreeLinesABand) {
   const BandRange& bands = RowOf(Family::Verdict).Bands;
