@@ -97,10 +97,10 @@ namespace {
 
 /// Which way of saying a line comes first: another under each promotion, so that no two careers
 /// begin alike.
-int FirstWay(const World& world, std::int32_t key) {
+int FirstWay(int promotion, std::int32_t key) {
   constexpr std::uint32_t kSpread = 2654435761U, kWays = 60;
   const auto mixed =
-      (static_cast<std::uint32_t>(key) ^ static_cast<std::uint32_t>(world.PlayerUid())) * kSpread;
+      (static_cast<std::uint32_t>(key) ^ static_cast<std::uint32_t>(promotion)) * kSpread;
   return static_cast<int>((mixed >> 16) % kWays);
 }
 
@@ -110,7 +110,7 @@ bool Teller::SayLine(Family family, int band, int line) {
   const auto at = static_cast<std::size_t>(line);
   const TaggedLine& read = ReadLinesOf(voice_, family, band)[at];
   const std::int32_t key = KeysOf(voice_, family, band)[at];
-  const int way = FirstWay(world, key) + memory_.Said().Times(world, key);
+  const int way = FirstWay(Promotion(), key) + memory_.Said().Times(world, key);
   memory_.Said().Say(world, key);
   const bool hasWays = read.Text.find('[') != std::string_view::npos;
   ends_.clear();
