@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <set>
+#include <string>
 
 #include "report/report.h"
 #include "report/ring.h"
@@ -176,6 +178,27 @@ TEST_P(Fitting, SaysNothingThatTheMatchHasNotShown) {
                   memory.Used(BlockOf(GetParam(), claim.Of, claim.Band), static_cast<int>(line));
       EXPECT_EQ(isSaid, isShown) << kLineTags[std::countr_zero(unsigned{claim.Tag})];
     }
+}
+
+/// Two careers do not begin in the same words, and each always begins in its own.
+TEST_P(Fitting, BeginsAnotherWayUnderEachPromotion) {
+  const Segment match = Match(kSingles);
+  const auto said = [&](int promotion) {
+    World world = Ten().Game("CWA");
+    world.Game().Reporter = GetParam();
+    world.Game().PlayerPromotion = promotion;
+    const Scene scene;
+    LineMemory memory;
+    std::set<std::string> counts;
+    for (std::size_t i = 0; i < ReadLinesOf(GetParam(), Family::TwoCount, 0).size(); ++i) {
+      Teller teller(world, match, scene, memory);
+      teller.Say(Family::TwoCount);
+      counts.insert(teller.Text());
+    }
+    return counts;
+  };
+  EXPECT_EQ(said(1), said(1));
+  EXPECT_NE(said(1), said(2));
 }
 
 constexpr int kAnyVoice = -1;
