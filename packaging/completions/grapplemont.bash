@@ -12,7 +12,7 @@ _grapplemont() {
   esac
   if [[ $program == *-world ]]; then
     if ((COMP_CWORD == 1)) && [[ $word != -* ]]; then
-      said=$("$program" --help 2>/dev/null | sed -nE 's/^  ([a-z]+).*/\1/p')
+      said=$("$program" --help 2>/dev/null | sed -nE 's/^  ([a-z-]+).*/\1/p')
       mapfile -t COMPREPLY < <(compgen -W "$said help" -- "$word")
       return
     fi

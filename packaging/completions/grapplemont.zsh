@@ -12,7 +12,7 @@ _grapplemont() {
   esac
   if [[ $program == *-world ]]; then
     if (( CURRENT == 2 )) && [[ $words[2] != -* ]]; then
-      said=(${(f)"$($program --help 2>/dev/null | sed -nE 's/^  ([a-z]+).*/\1/p')"})
+      said=(${(f)"$($program --help 2>/dev/null | sed -nE 's/^  ([a-z-]+).*/\1/p')"})
       compadd help $said
       return
     fi
