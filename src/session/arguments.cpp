@@ -28,7 +28,7 @@ std::string WithValue(const OptionKind& option) {
 }
 
 constexpr OptionKind kQuestions[] = {{"--help, -h", "", false, "these lines"},
-                                     {"--version", "", false, "the version of the program"}};
+                                     {"--version, -v", "", false, "the version of the program"}};
 
 }  // namespace
 
@@ -97,7 +97,7 @@ std::optional<Day> Arguments::Date(std::string_view name) const {
 Asked AskedIn(std::span<const std::string> words) {
   for (const std::string& word : words) {
     if (word == "--help" || word == "-h") return Asked::Help;
-    if (word == "--version") return Asked::Version;
+    if (word == "--version" || word == "-v") return Asked::Version;
   }
   return Asked::Nothing;
 }

@@ -19,6 +19,7 @@ namespace grapplemont::tools {
 namespace {
 
 constexpr std::string_view kProgram = "grapplemont-world";
+constexpr std::string_view kUsage = "usage: grapplemont-world COMMAND ...";
 
 std::array<const Command*, 13> Commands() {
   return {&kBuild, &kExport,      &kCheck,  &kNew,     &kRun,     &kTell,   &kBook,
@@ -34,8 +35,7 @@ void PrintUsage(std::ostream& out, const Command& command) {
 }
 
 void PrintHelp(std::ostream& out) {
-  out << "usage: " << kProgram
-      << " COMMAND ...\n\nMakes, checks and runs the worlds of Grapplemont.\n";
+  out << kUsage << "\n\nMakes, checks and runs the worlds of Grapplemont.\n";
   for (const Command* command : Commands())
     out << "\n  " << UsageOf(*command) << "\n      " << command->Summary << "\n";
   out << "\nWithout --home a command works on your own games. --help behind a command tells of it "
@@ -44,6 +44,8 @@ void PrintHelp(std::ostream& out) {
 }
 
 const Command& FindCommand(const std::string& name) {
+  if (name.starts_with("-"))
+    throw UsageError("\"" + name + "\" stands where the command belongs; options come behind it");
   std::vector<std::string_view> names;
   for (const Command* command : Commands()) {
     if (command->Name == name) return *command;
@@ -113,8 +115,8 @@ int RunWorldTool(std::span<const std::string> arguments, Shell shell) {
     if (arguments.empty()) throw UsageError("a command is missing");
     return RunCommand(FindCommand(arguments[0]), arguments.subspan(1), shell);
   } catch (const UsageError& fault) {
-    shell.Errors << kProgram << ": " << OneLine(ValidUtf8(fault.what())) << "\n";
-    PrintHelp(shell.Errors);
+    shell.Errors << kProgram << ": " << OneLine(ValidUtf8(fault.what())) << "\n"
+                 << kUsage << "; --help lists the commands\n";
     return 2;
   }
 }

@@ -139,8 +139,8 @@ TEST(RunConsole, RefusesWrongArguments) {
     EXPECT_TRUE(told.starts_with(usage)) << told;
     EXPECT_NE(told.find("\n  --home FOLDER       the folder"), std::string::npos) << told;
   }
-  EXPECT_EQ(Played({"--version"}).Out,
-            std::string("grapplemont-console ") + kProgramVersion + "\n");
+  for (const char* version : {"--version", "-v"})
+    EXPECT_EQ(Played({version}).Out, std::string("grapplemont-console ") + kProgramVersion + "\n");
 }
 
 TEST(RunConsole, TellsInOneLineWhyItCannotStart) {

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "session/build.h"
 #include "toolhome.h"
 
@@ -149,6 +151,7 @@ TEST_F(ToolUsage, RefusesWhatMakesNoSense) {
                     play = "run --slot 1 --days 1 ";
   const std::pair<std::string, std::string> kRows[] = {
       {"", ": a command is missing"},
+      {"--home H run", ": \"--home\" stands where the command belongs; options come behind it"},
       {"biuld", ": there is no command \"biuld\"; did you mean build?"},
       {"build a", " build: something is missing"},
       {"build a b c", " build: \"c\" is one word too many"},
@@ -173,6 +176,7 @@ TEST_F(ToolUsage, RefusesWhatMakesNoSense) {
     const std::string said = Say(typed);
     EXPECT_TRUE(said.starts_with("[grapplemont-world" + why + "\nusage: ")) << said;
     EXPECT_TRUE(said.ends_with("]=2")) << said;
+    EXPECT_EQ(std::ranges::count(said, '\n'), 2) << "nothing pushes the sentence out of sight";
   }
 }
 

@@ -18,6 +18,7 @@ struct Library {
 constexpr Library kLibraries[] = {
     {"Qt 6", "the window, its pictures and sounds", "LGPL 3"},
     {"xxHash", "the checksums of what is saved", "BSD, 2 clauses"},
+    {"zlib", "what makes exported games small", "zlib licence"},
     {"JSON for Modern C++", "what the console and the tool tell programs", "MIT"},
     {"libedit", "lines typed at the console", "BSD, 3 clauses"},
     {"Inter, DejaVu", "the letters, where they are installed", "OFL 1.1, Bitstream Vera"}};
