@@ -1,5 +1,6 @@
 # What is installed and where, in the three parts that packages are made of: the window, the programs
-# without one, and what all of them read.
+# without one, and what all of them read. The world and the pictures go to CMAKE_INSTALL_DATADIR, which
+# may be share/games; what desktops and shells look for has its place in CMAKE_INSTALL_DATAROOTDIR.
 
 set(packaging ${PROJECT_SOURCE_DIR}/packaging)
 set(id org.grapplemont.Grapplemont)
@@ -31,28 +32,25 @@ endif()
 
 # A page of the manual bears no day, so that it is the same in each build.
 set(manuals "")
-function(manual name program component)
+function(manual name component)
   if(WIN32)
     return()
   endif()
   set(page ${CMAKE_BINARY_DIR}/man/${name}.6)
-  set(asks "")
-  if(program)
-    set(asks -DPROGRAM=$<TARGET_FILE:${program}>)
-  endif()
   add_custom_command(
     OUTPUT ${page}
-    COMMAND ${CMAKE_COMMAND} ${asks} -DPAGE=${packaging}/man/${name}.6 -DOUTPUT=${page}
+    COMMAND ${CMAKE_COMMAND} -DPROGRAM=$<TARGET_FILE:${name}>
+            -DPAGE=${packaging}/man/${name}.6 -DOUTPUT=${page}
             -DFILES=${packaging}/man/files -DPROJECT_VERSION=${PROJECT_VERSION}
             -P ${PROJECT_SOURCE_DIR}/cmake/Manual.cmake
-    DEPENDS ${program} ${packaging}/man/${name}.6 ${packaging}/man/files
+    DEPENDS ${name} ${packaging}/man/${name}.6 ${packaging}/man/files
             ${PROJECT_SOURCE_DIR}/cmake/Manual.cmake
     VERBATIM)
   install(FILES ${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man6 COMPONENT ${component})
   set(manuals ${manuals} ${page} PARENT_SCOPE)
 endfunction()
 
-set(completions ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+set(completions ${CMAKE_INSTALL_DATAROOTDIR}/bash-completion/completions)
 function(completed name component)
   install(FILES ${packaging}/completions/grapplemont.bash DESTINATION ${completions}
           COMPONENT ${component} RENAME ${name})
@@ -60,16 +58,16 @@ endfunction()
 
 if(TARGET grapplemont)
   install(TARGETS grapplemont COMPONENT window)
-  manual(grapplemont "" window)
+  manual(grapplemont window)
   completed(grapplemont window)
   configure_file(${packaging}/${id}.metainfo.xml.in ${CMAKE_BINARY_DIR}/${id}.metainfo.xml @ONLY)
-  install(FILES ${CMAKE_BINARY_DIR}/${id}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
+  install(FILES ${CMAKE_BINARY_DIR}/${id}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/metainfo
           COMPONENT window)
-  install(FILES ${packaging}/grapplemont.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications
+  install(FILES ${packaging}/grapplemont.desktop DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/applications
           COMPONENT window)
-  install(FILES ${packaging}/grapplemont-slot.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages
+  install(FILES ${packaging}/grapplemont-slot.xml DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/mime/packages
           COMPONENT window)
-  set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
+  set(icons ${CMAKE_INSTALL_DATAROOTDIR}/icons/hicolor)
   foreach(size 16 22 24 32 48 64 128 256 512)
     install(FILES ${packaging}/icons/${size}.png DESTINATION ${icons}/${size}x${size}/apps
             COMPONENT window RENAME grapplemont.png)
@@ -80,17 +78,16 @@ endif()
 
 # One file, whose name says which of the two it is.
 if(TARGET grapplemont-tools)
+  set(second ${CMAKE_BINARY_DIR}/installed/grapplemont-console)
+  file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/installed)
+  file(CREATE_LINK grapplemont-world ${second} SYMBOLIC)
   install(TARGETS grapplemont-tools COMPONENT tools)
+  install(FILES ${second} DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+else()
+  install(TARGETS grapplemont-console grapplemont-world COMPONENT tools)
 endif()
 foreach(program grapplemont-console grapplemont-world)
-  if(TARGET grapplemont-tools)
-    file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/names)
-    file(CREATE_LINK grapplemont-tools ${CMAKE_BINARY_DIR}/names/${program} SYMBOLIC)
-    install(FILES ${CMAKE_BINARY_DIR}/names/${program} DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
-  else()
-    install(TARGETS ${program} COMPONENT tools)
-  endif()
-  manual(${program} ${program} tools)
+  manual(${program} tools)
   completed(${program} tools)
 endforeach()
 add_custom_target(manual ALL DEPENDS ${manuals})
@@ -100,10 +97,11 @@ install(DIRECTORY ${default_world} gfx DESTINATION ${CMAKE_INSTALL_DATADIR}/grap
 install(FILES ${share}/CHANGELOG.md ${share}/LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/grapplemont
         COMPONENT data)
 install(FILES CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT data)
+# With the pictures that they show; the others are the README's.
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT data
-        PATTERN pictures EXCLUDE)
+        REGEX "/(booking|main|show)\\.png$|\\.gif$" EXCLUDE)
 install(FILES ${packaging}/completions/grapplemont.zsh COMPONENT data
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions RENAME _grapplemont)
+        DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/zsh/vendor-completions RENAME _grapplemont)
 
 # Who made what, and what may be done with it, lies in each package.
 foreach(part window tools data)
@@ -111,6 +109,6 @@ foreach(part window tools data)
   if(part STREQUAL window)
     set(package grapplemont)
   endif()
-  install(FILES .reuse/dep5 DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${package} COMPONENT ${part}
+  install(FILES .reuse/dep5 DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${package} COMPONENT ${part}
           RENAME copyright)
 endforeach()
