@@ -45,8 +45,6 @@ Wanted Read(int argc, char** argv) {
       "A management simulation of professional wrestling. Your games are kept in your data "
       "folder.");
   parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-  parser.addHelpOption();
-  parser.addVersionOption();
   const QCommandLineOption home(
       "home", "Play in <folder>, with your games and with data and gfx of your own.", "folder");
   const QCommandLineOption pictures(
@@ -60,7 +58,9 @@ Wanted Read(int argc, char** argv) {
                               "words");
   const QCommandLineOption firstFrame(
       "first-frame", "End once the window is painted, which shows how long a start takes.");
-  parser.addOptions({home, pictures, of, firstFrame});
+  const QCommandLineOption help({"h", "help"}, "These lines.");
+  const QCommandLineOption version({"v", "version"}, "The version of the program.");
+  parser.addOptions({home, pictures, of, firstFrame, help, version});
   parser.addPositionalArgument("file", "An exported game to be put into an empty slot and played.",
                                "[file]");
   for (const char* ofQt : {"platform", "style", "display", "qwindowgeometry"}) {
@@ -69,12 +69,12 @@ Wanted Read(int argc, char** argv) {
     parser.addOption(option);
   }
   const bool makesSense = parser.parse(words.arguments());
-  if (parser.isSet("version")) parser.showVersion();
-  if (parser.isSet("help") || parser.isSet("help-all")) parser.showHelp();
+  if (parser.isSet(version)) parser.showVersion();
+  if (parser.isSet(help)) parser.showHelp();
   const QStringList files = parser.positionalArguments();
   if (!makesSense || files.size() > 1) {
-    const QString why =
-        makesSense ? "\"" + files.back() + "\" is one word too many" : parser.errorText();
+    QString why = makesSense ? "\"" + files.back() + "\" is one word too many" : parser.errorText();
+    if (why.endsWith('.')) why.chop(1);
     std::cerr << "grapplemont: " << why.toStdString() << "; --help lists what there is\n";
     std::exit(2);
   }
@@ -203,6 +203,8 @@ desktop::WithoutDisplay ConsoleFor(const Wanted& wanted, const Surroundings& aro
   const std::string folder = around.Program.substr(0, around.Program.rfind('/') + 1);
   desktop::WithoutDisplay without{folder + "grapplemont-console", {}, wanted.Pictures.isEmpty()};
   if (wanted.Home) without.Arguments = {"--home", *wanted.Home};
+  if (!wanted.Import.empty())
+    without.Then = " Import A File on its load screen takes " + wanted.Import + ".";
   return without;
 }
 
@@ -221,7 +223,8 @@ int main(int argc, char** argv) {
   ApplyScale(settings);
   QApplication app(argc, argv);
   desktop::DisplayIsThere();
-  QApplication::setDesktopFileName("grapplemont");
+  // In a Flatpak the menu entry has the name of the whole.
+  QApplication::setDesktopFileName(qEnvironmentVariable("FLATPAK_ID", "grapplemont"));
   desktop::ReadDesktop();
   try {
     return Play(app, {wanted, around, settings, log, *disk});

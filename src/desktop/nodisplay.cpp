@@ -36,7 +36,7 @@ bool IsDisplayNamed() {
                               : "No window can be opened on this display (" + watched.Last + ")";
   const bool turns = without.MayTurn && access(without.Console.c_str(), X_OK) == 0;
   std::cerr << "grapplemont: " << why
-            << (turns             ? ": here is the console instead of the window."
+            << (turns             ? ": here is the console instead of the window." + without.Then
                 : without.MayTurn ? ", and " + without.Console + " is not there to serve instead."
                                   : ".")
             << std::endl;

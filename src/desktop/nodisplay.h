@@ -14,6 +14,7 @@ struct WithoutDisplay {
   std::string Console;                 // the program that serves the same screens as text
   std::vector<std::string> Arguments;  // for it
   bool MayTurn = true;                 // else the program ends
+  std::string Then = {};               // what is added to the sentence about the console
 };
 
 /// From here on what Qt reports is noted in the log, and where it gives up on a display, as it does
