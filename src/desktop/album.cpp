@@ -228,7 +228,7 @@ void Album::Visit() {
   }
   if (screen->Is() != ui::Role::Hub) return;
   if (desk_.Top() == screen.get()) PlayOn(*screen);
-  if (desk_.Top() == screen.get()) VisitTheRest(*screen);
+  if (desk_.Top() == screen.get()) VisitTheRest();
 }
 
 /// Goes on from there to the next step, which is visited as any other.
@@ -273,16 +273,23 @@ void Album::VisitAbove(const ui::Screen& screen) {
   }
 }
 
-void Album::VisitTheRest(ui::Screen& hub) {
-  Try(hub, [this] { desk_.OpenHelp(); });
-  Try(hub, [this] { desk_.OpenGlossary({}); });
+/// A finding may lead back to a morning, which brings another hub in place of the first; what was
+/// found is of the world before then.
+void Album::VisitTheRest() {
+  const ui::Screen* const first = desk_.Top();
+  const auto go = [this](const ui::Handler& opens) {
+    if (desk_.Screens().empty()) return;
+    const std::shared_ptr<ui::Screen> hub = desk_.Screens().back();
+    if (hub->Is() == ui::Role::Hub) Try(*hub, opens);
+  };
+  go([this] { desk_.OpenHelp(); });
+  go([this] { desk_.OpenGlossary({}); });
   for (const ui::Finding& found : desk_.NewSearch()("w", 1))
-    if (desk_.Top() == &hub) Try(hub, found.Open);
+    if (desk_.Top() == first) go(found.Open);
   Take("finder", [this](const Step& look) { LookAtFinder(look); });
   Take("box", [this](const Step& look) { LookAtBox(look); });
   for (const char* name : kByName)
-    if (desk_.Top() == &hub && !taken_.contains(name) && desk_.Knows(name))
-      Try(hub, [&] { desk_.Open(name); });
+    if (!taken_.contains(name) && desk_.Knows(name)) go([&] { desk_.Open(name); });
 }
 
 void Album::LookAtFinder(const Step& look) {

@@ -46,7 +46,7 @@ class Album {
       const std::string& name, const Around& around = [](const Step& look) { look(); });
   /// What no button leads to: help, pages of names, what only time or luck brings, what lies over
   /// the pages.
-  void VisitTheRest(ui::Screen& hub);
+  void VisitTheRest();
   void LookAtFinder(const Step& look);
   void LookAtBox(const Step& look);
   void FillIn(ui::Screen& screen);

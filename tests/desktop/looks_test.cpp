@@ -182,8 +182,9 @@ TEST(TheAlbum, ComesToTheScreensAndNothingOverlapsInASmallWindowWithLargeText) {
   };
   desktop::Album album(play.Window, play.Desk, looks, check);
   album.Fill();
-  for (const char* screen : {"frmNewGame", "frmCredits", "frmEditor", "frmMainScreen", "frmRoster",
-                             "frmFinance", "frmBooking", "frmMatchOutput", "frmPostShow"})
+  for (const char* screen :
+       {"frmNewGame", "frmCredits", "frmEditor", "frmMainScreen", "frmRoster", "frmFinance",
+        "frmBooking", "frmMatchOutput", "frmPostShow", "frmProspect"})
     EXPECT_TRUE(album.Taken().contains(screen)) << screen;
   play.Window.SetLook(desktop::Scheme::Dark, 0);
   play.Desk.CloseAll();
