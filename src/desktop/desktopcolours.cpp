@@ -5,6 +5,8 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
+#include "desktop/look.h"
+
 namespace grapplemont::desktop {
 
 namespace {
@@ -39,9 +41,10 @@ void DesktopColours::Heard(const QString& group, const QString& key, const QDBus
   QVariant inside = value.variant();
   // The first answer comes wrapped once more than the changes.
   while (inside.canConvert<QDBusVariant>()) inside = inside.value<QDBusVariant>().variant();
+  // Desktops with a usual and a dark style have no preference in the usual one, which is light
+  // unless its colours say otherwise.
   const uint preference = inside.toUInt();
-  if (preference == kPrefersDark || preference == kPrefersLight)
-    turned_(preference == kPrefersDark);
+  turned_(preference == kPrefersDark || (preference != kPrefersLight && BeganDark()));
 }
 
 }  // namespace grapplemont::desktop

@@ -158,6 +158,7 @@ namespace {
 struct Desktop {
   int Text = kUsualText;
   bool Dark = true;
+  bool BeganDark = false;  // by colours of its own
 };
 Desktop desktop;
 
@@ -185,11 +186,17 @@ constexpr QRgb kUntold = 0xFFEFEFEF;
 void ReadDesktop() {
   desktop.Text = std::clamp(QFontInfo(QApplication::font()).pixelSize(), kUsualText, kLargestText);
   const QColor window = QGuiApplication::palette().color(QPalette::Window);
-  desktop.Dark = window.rgb() == kUntold || window.lightness() < 128;
+  desktop.BeganDark = window.rgb() != kUntold && window.lightness() < 128;
+  desktop.Dark = window.rgb() == kUntold || desktop.BeganDark;
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
   const auto scheme = QGuiApplication::styleHints()->colorScheme();
-  if (scheme != Qt::ColorScheme::Unknown) desktop.Dark = scheme == Qt::ColorScheme::Dark;
+  if (scheme != Qt::ColorScheme::Unknown)
+    desktop.Dark = desktop.BeganDark = scheme == Qt::ColorScheme::Dark;
 #endif
+}
+
+bool BeganDark() {
+  return desktop.BeganDark;
 }
 
 bool HearDesktop(bool dark) {

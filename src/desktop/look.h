@@ -61,6 +61,8 @@ inline constexpr int kSmallestText = 11, kLargestText = 28;
 /// Remembers what the desktop says about colours and text. Requires the application, before the
 /// first ApplyLook.
 void ReadDesktop();
+/// Whether its own colours were dark then; they were not where it said nothing.
+bool BeganDark();
 /// What the desktop says about colours meanwhile; false where that is nothing new.
 bool HearDesktop(bool dark);
 /// The text height that the desktop asks for, at least the usual one.

@@ -390,7 +390,8 @@ TEST(TheDesktopsColours, AreFollowedWhileItRunsUntilThePlayerChoosesOthers) {
   play.Window.SetColours(desktop::Scheme::System);
   EXPECT_FALSE(turn(2));
   EXPECT_FALSE(turn(1, "accent-color"));
-  EXPECT_FALSE(turn(0)) << "no preference is no change";
+  EXPECT_TRUE(turn(1));
+  EXPECT_FALSE(turn(0)) << "back to the usual style of a desktop that has a dark one beside it";
   EXPECT_TRUE(turn(1));
   desktop.Heard("org.freedesktop.appearance", "color-scheme",
                 QDBusVariant(QVariant::fromValue(QDBusVariant(2u))));
