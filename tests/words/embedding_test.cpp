@@ -40,7 +40,7 @@ class EmbeddingTest : public testing::Test {
   int Replace(const std::string& file, const std::string& what, const std::string& with) {
     std::string text = Read(file);
     const auto at = text.find(what);
-    EXPECT_NE(at, std::string::npos) << what;
+    if (at == std::string::npos) throw std::runtime_error(file + " has no " + what);
     const auto line = 1 + std::count(text.begin(), text.begin() + std::ptrdiff_t(at), '\n');
     Write(file, text.replace(at, what.size(), with));
     return static_cast<int>(line);
@@ -65,7 +65,7 @@ TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
       {"{T} is here. {.}", "{.} ends no condition"},
       {"<dwon> {T} is here, too.",
        "there is no such tag; there are down, hold, floor, held, anyway, trouble, worn, pin, low, "
-       "mid, high, leg, arm, back, up, clean, cold, warm, hot, mat"},
+       "mid, high, leg, arm, back, up, clean, cold, warm, hot, mat, long, great, tired"},
       {"{T} is in.  Camera on.", "two blanks in a row"},
       {"{T} talks to himself.",
        "write {a:himself}, with the letter of whoever it is: it goes by sex and number"},
@@ -81,7 +81,8 @@ TEST_F(EmbeddingTest, RefusesALineThatCannotBeSaid) {
       At("qvd/bouts.txt", Replace("qvd/bouts.txt", "{w} gets", "{l} wins, {w} gets")) +
       "{l} or {L} has lost, and wins here"};
   expected.push_back(
-      At("qvd/finishes.txt", Replace("qvd/finishes.txt", "<mid high> [Solid all", "[Solid all")) +
+      At("qvd/finishes.txt",
+         Replace("qvd/finishes.txt", "<mid high> [{F} and {S} came", "[{F} and {S} came")) +
       "a line that judges says for which ratings: <low>, <mid high>, or all three");
   // What the program cannot read is reported before what it may not say.
   expected.push_back(At("qvd/talk.txt", first + int(std::size(rows)) - 1) +
