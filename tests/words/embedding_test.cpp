@@ -6,6 +6,7 @@
 #include <chrono>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 #include "support/checkout.h"
 #include "support/scratchfolder.h"
