@@ -57,6 +57,14 @@ bool Window::LeaveUpTo(const ui::Screen& screen) {
   return false;
 }
 
+void Window::KeepCovered(const Scene& scene) {
+  bool isAbove = false;
+  for (const Held& screen : desk_.Screens()) {
+    if (isAbove && screen->Is() == ui::Role::Page) LayerOf(screen, scene);
+    isAbove = isAbove || screen == scene.Hub;
+  }
+}
+
 ScreenView* Window::Staying() const {
   for (const auto& screen : desk_.Screens() | std::views::reverse) {
     if (screen.get() == framed_) break;

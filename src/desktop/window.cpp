@@ -205,6 +205,7 @@ void Window::Sync() {
 }
 
 void Window::ShowNow(const Scene& scene) {
+  KeepCovered(scene);
   ScreenView* const base = LayerOf(scene.Base, scene).View;
   const bool framed = frame_ && frame_->isAncestorOf(base);
   if (framed) {

@@ -119,6 +119,9 @@ class Window : public QMainWindow, public Stage {
   void DropGone();
   Layer& LayerOf(const Held& screen, const Scene& scene);
   void Place(ScreenView& view, const Scene& scene);
+  /// Pages above the hub that are covered keep their views, also when the look changes: one of them
+  /// may stay while rooms are visited.
+  void KeepCovered(const Scene& scene);
   HubFrame& FrameOf(ui::Screen& hub);
   void Retire(Layer& layer);
   void RetireAll();

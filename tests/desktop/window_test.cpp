@@ -143,6 +143,9 @@ TEST_F(TheWindow, OpensRoomsAboveAPageThatStaysAndComesBackToIt) {
   Play.Key(Qt::Key_F2);
   Play.Key(Qt::Key_F2);
   EXPECT_EQ(Play.Desk.Screens().size(), 3U) << "one room at a time";
+  Play.Key(Qt::Key_L, Qt::ControlModifier);
+  EXPECT_FALSE(Play.See("cmdnext")->isEnabled()) << "in other colours, too";
+  EXPECT_FALSE(BearsEnter("cmdnext"));
   Play.Key(Qt::Key_Escape);
   EXPECT_EQ(Play.Top(), "frmDesk");
   EXPECT_EQ(Play.FocusName(), "cmdask");
