@@ -31,6 +31,23 @@ Chance CountOf(std::string what, const std::vector<WorldLife>& lives, const auto
           static_cast<int>(lives.size())};
 }
 
+/// Rounds the parts of a whole so that they come to 100 percent: those with the greatest remainders
+/// up, the first of equals before the others.
+void ShareOut(std::vector<Chance>& parts) {
+  std::vector<Chance*> byRemainder;
+  int rest = 100;
+  for (Chance& part : parts) {
+    if (part.Of == 0) return;
+    part.Shared = 100 * part.Worlds / part.Of;
+    rest -= part.Shared;
+    byRemainder.push_back(&part);
+  }
+  std::ranges::stable_sort(byRemainder, std::greater<int>(),
+                           [](const Chance* part) { return 100 * part->Worlds % part->Of; });
+  for (Chance* part : byRemainder)
+    if (rest-- > 0) ++part->Shared;
+}
+
 int SizeAtLast(const WorldLife& life) {
   return life.Seen.back().Stands ? life.Seen.back().Size : 0;
 }
@@ -112,6 +129,7 @@ std::vector<std::vector<Chance>> SizesAtLast(const std::vector<std::vector<World
   };
   for (const Term& size : kSizes) add(size.Code, size.Says);
   add(0, kGone);
+  for (std::vector<Chance>& sizes : all) ShareOut(sizes);
   return all;
 }
 
@@ -143,6 +161,7 @@ std::vector<Chance> ChampionsOf(const std::vector<WorldLife>& lives, std::size_t
   for (const auto& [champion, worlds] : counts)
     chances.push_back({champion, worlds, static_cast<int>(lives.size())});
   std::ranges::stable_sort(chances, std::greater<int>(), &Chance::Worlds);
+  ShareOut(chances);
   return chances;
 }
 
@@ -158,6 +177,7 @@ std::vector<Chance> SizesOf(const std::vector<WorldLife>& lives, int promotionUi
   };
   for (const Term& size : kSizes) add(size.Code, size.Says);
   add(0, kGone);
+  ShareOut(chances);
   return chances;
 }
 

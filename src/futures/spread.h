@@ -45,7 +45,8 @@ struct Chance {
   std::string What;
   int Worlds = 0;
   int Of = 0;
-  int Percent() const { return Of == 0 ? 0 : (100 * Worlds + Of / 2) / Of; }
+  int Shared = -1;  // percent, where it is a part of a whole whose parts come to 100; -1: none
+  int Percent() const { return Shared >= 0 ? Shared : Of == 0 ? 0 : (100 * Worlds + Of / 2) / Of; }
 };
 /// The classes that the promotion may have at last, from the biggest down, then that it is gone; a
 /// class that no answer leads to is left out. The same rows for each answer.

@@ -92,6 +92,15 @@ TEST(Spread, CountsWhatCameToPass) {
   for (const Chance& chance : ChampionsOf(lives, 0)) told.emplace_back(chance.What, chance.Worlds);
   EXPECT_EQ(told,
             (std::vector<std::pair<std::string, int>>{{"Ann", 2}, {"Bea", 1}, {"Vacant", 1}}));
+  // Each part rounded by itself would come to 101 of 100.
+  std::vector<WorldLife> eight;
+  for (const char* champion : {"Ann", "Ann", "Ann", "Bea", "Bea", "Bea", "", ""})
+    eight.push_back(LifeOf({Stood(kCult, 63)}, 0, champion));
+  told.clear();
+  for (const Chance& chance : ChampionsOf(eight, 0))
+    told.emplace_back(chance.What, chance.Percent());
+  EXPECT_EQ(told,
+            (std::vector<std::pair<std::string, int>>{{"Ann", 38}, {"Bea", 37}, {"Vacant", 25}}));
   const std::vector<WorldLife> richer = {
       LifeOf({Stood(kCult, 63, 7)}), LifeOf({Stood(kCult, 63, 2)}), LifeOf({Stood(kCult, 63, 2)})};
   const std::vector<WorldLife> poorer = {
