@@ -18,8 +18,11 @@ namespace grapplemont::desktop {
 namespace {
 
 /// What changes a screen so much that it is tried behind all else, in this order.
-constexpr std::array<std::string_view, 7> kLast = {
-    "cmdloadgame", "cmdcontinue", "cmdauto", "cmdfill", "cmddoshow", "cmduntil", "cmdnext"};
+constexpr std::array<std::string_view, 8> kLast = {"cmdloadgame", "cmdcontinue", "cmdauto",
+                                                   "cmdfill",     "cmddoshow",   "cmdcancel",
+                                                   "cmduntil",    "cmdnext"};
+/// Lists whose first row leads to a page of somebody, the last to one of its own.
+constexpr std::string_view kLeadsFromItsEnd = "lstproof";
 /// What makes a screen worth a second picture in the first one's place.
 constexpr std::array<std::string_view, 2> kFills = {"cmdfill", "cmdplay"};
 /// What is taken rather than left, as a show cannot be held without a card.
@@ -196,8 +199,13 @@ void Album::Click(ui::Screen& screen, const std::string& control) {
     command->click();
     return LetItPaint();
   }
+  const auto row = [&] {
+    return control == kLeadsFromItsEnd
+               ? dynamic_cast<const ui::ListBox&>(*screen.Find(control)).Count()
+               : 1;
+  };
   window_.Act([&] {
-    return isList ? ui::OpenRow(desk_, screen, control, 1) : ui::Click(desk_, screen, control);
+    return isList ? ui::OpenRow(desk_, screen, control, row()) : ui::Click(desk_, screen, control);
   });
   LetItPaint();
 }
@@ -273,23 +281,19 @@ void Album::VisitAbove(const ui::Screen& screen) {
   }
 }
 
-/// A finding may lead back to a morning, which brings another hub in place of the first; what was
-/// found is of the world before then.
+void Album::TryFromHub(const ui::Handler& opens) {
+  const std::shared_ptr<ui::Screen> top = desk_.Top() ? desk_.Screens().back() : nullptr;
+  if (top && top->Is() == ui::Role::Hub) Try(*top, opens);
+}
+
 void Album::VisitTheRest() {
-  const ui::Screen* const first = desk_.Top();
-  const auto go = [this](const ui::Handler& opens) {
-    if (desk_.Screens().empty()) return;
-    const std::shared_ptr<ui::Screen> hub = desk_.Screens().back();
-    if (hub->Is() == ui::Role::Hub) Try(*hub, opens);
-  };
-  go([this] { desk_.OpenHelp(); });
-  go([this] { desk_.OpenGlossary({}); });
-  for (const ui::Finding& found : desk_.NewSearch()("w", 1))
-    if (desk_.Top() == first) go(found.Open);
+  TryFromHub([this] { desk_.OpenHelp(); });
+  TryFromHub([this] { desk_.OpenGlossary({}); });
+  for (const ui::Finding& found : desk_.NewSearch()("w", 1)) TryFromHub(found.Open);
   Take("finder", [this](const Step& look) { LookAtFinder(look); });
   Take("box", [this](const Step& look) { LookAtBox(look); });
   for (const char* name : kByName)
-    if (!taken_.contains(name) && desk_.Knows(name)) go([&] { desk_.Open(name); });
+    if (!taken_.contains(name) && desk_.Knows(name)) TryFromHub([&] { desk_.Open(name); });
 }
 
 void Album::LookAtFinder(const Step& look) {

@@ -55,6 +55,8 @@ class Album {
   /// Clicks a control; what lies above the screen then is visited and left again.
   void Try(ui::Screen& screen, const std::string& control);
   void Try(ui::Screen& screen, const ui::Handler& opens);
+  /// The same from the hub that lies on top: who goes back in time comes to another one.
+  void TryFromHub(const ui::Handler& opens);
   void VisitAbove(const ui::Screen& screen);
   void Click(ui::Screen& screen, const std::string& control);
   void LeaveTop();
