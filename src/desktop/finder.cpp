@@ -91,6 +91,12 @@ int FitOf(const Finder::Entry& entry, const QString& letters) {
   return kApart;
 }
 
+/// Whether what was typed is in its own name, not only in what people call it besides.
+bool IsNamed(const Finder::Entry& entry, const QString& letters) {
+  return letters.isEmpty() || entry.Also.isEmpty() ||
+         FitOfName(Keep(entry.Words).Text, {}, Keep(letters).Text) >= 0;
+}
+
 }  // namespace
 
 Finder::Finder(QWidget* ground, Sources sources) : Veil(ground), from_(std::move(sources)) {
@@ -134,7 +140,7 @@ void Finder::Filter(const QString& typed) {
   if (letters.isEmpty()) AddRecent();
   Entries entries = CommandsFor(letters);
   for (const Entry& name : names_) entries.push_back(&name);
-  AddRows(std::move(entries));
+  AddRows(std::move(entries), letters);
   ShowRows(letters);
 }
 
@@ -179,7 +185,7 @@ void Finder::AddRecent() {
   }
 }
 
-void Finder::AddRows(Entries entries) {
+void Finder::AddRows(Entries entries, const QString& letters) {
   std::vector<QString> headings;  // in the order in which they were met
   std::map<QString, int> best;
   for (const Entry* entry : entries) {
@@ -193,8 +199,9 @@ void Finder::AddRows(Entries entries) {
     std::ranges::copy_if(entries, std::back_inserter(under),
                          [&](const Entry* entry) { return entry->Heading == heading; });
     std::ranges::stable_sort(under, {}, &Entry::Fit);
-    std::ranges::stable_partition(
-        under, [&](const Entry* entry) { return entry->Fit < kSureFit && IsRecent(*entry); });
+    std::ranges::stable_partition(under, [&](const Entry* entry) {
+      return entry->Fit < kSureFit && IsRecent(*entry) && IsNamed(*entry, letters);
+    });
     rows_.push_back({heading});
     for (const Entry* entry : under) rows_.push_back({{}, entry});
   }

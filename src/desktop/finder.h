@@ -54,7 +54,7 @@ class Finder : public Veil {
   void AddRecent();
   /// Adds entries below their headings, the heading of the best first; those that were chosen
   /// lately lead under each.
-  void AddRows(Entries entries);
+  void AddRows(Entries entries, const QString& letters);
   void ShowRows(const QString& letters);
   bool IsRecent(const Entry& entry) const;
   void Step(int by);

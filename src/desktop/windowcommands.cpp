@@ -85,6 +85,9 @@ std::vector<Window::OwnCommand> Window::SettingCommands() {
     if (percent != settings_.Scale())
       add(QString("Window scale: %1%").arg(percent), "zoom size larger smaller",
           [this, percent] { SetScale(percent); });
+  for (const int percent : kTextSizes)
+    if (const int zoom = ZoomFor(percent); zoom != settings_.Zoom())
+      add(QString("Text: %1%").arg(percent), kTextWords, [this, zoom] { SetZoom(zoom); });
   add("Change keys", "shortcuts keyboard rebind hotkeys", [this] { OpenOptions(); });
   return commands;
 }

@@ -17,7 +17,6 @@ namespace {
 
 /// In the order of Scheme.
 constexpr const char* kThemes[] = {"As the desktop has it", "Dark", "Light", "High contrast"};
-constexpr int kTexts[] = {85, 100, 115, 130, 150, 175, 200};  // percent of the usual size
 /// Keys that tables and lines of text know, beside all letters without Ctrl or Alt.
 constexpr const char* kTaken[] = {"Ctrl+Return", "Ctrl+C", "Ctrl+V", "Ctrl+X",
                                   "Ctrl+A",      "Ctrl+Z", "Ctrl+Y", "Ctrl+="};
@@ -65,7 +64,7 @@ class frmWindow : public ui::Screen {
         window_(window),
         commands_(std::move(commands)) {
     for (const char* theme : kThemes) cmbtheme.Add(theme);
-    for (const int text : kTexts) cmbtext.Add(std::to_string(text) + "%", text);
+    for (const int text : kTextSizes) cmbtext.Add(std::to_string(text) + "%", text);
     for (const int scale : kScales) cmbscale.Add(std::to_string(scale) + "%", scale);
     for (const DateFormName& form : kDateForms) cmbdates.Add(form.Words);
     cmbscale.Tip = "Counts from the next start of the game on.";
@@ -93,8 +92,8 @@ class frmWindow : public ui::Screen {
     const Settings& kept = window_.Kept();
     cmbtheme.Select(static_cast<int>(kept.Colours()) + 1);
     const int now = (DesktopText() + kept.Zoom()) * 100 / kUsualText;
-    cmbtext.SelectKey(
-        *std::ranges::min_element(kTexts, {}, [now](int text) { return std::abs(text - now); }));
+    cmbtext.SelectKey(*std::ranges::min_element(kTextSizes, {},
+                                                [now](int text) { return std::abs(text - now); }));
   }
 
   void Load() override {
@@ -142,10 +141,7 @@ class frmWindow : public ui::Screen {
   }
 
   void cmbtheme_Click() { window_.SetColours(static_cast<Scheme>(cmbtheme.Selected() - 1)); }
-  void cmbtext_Click() {
-    const int pixels = static_cast<int>(std::lround(kUsualText * cmbtext.Key() / 100.0));
-    window_.SetZoom(pixels - DesktopText());
-  }
+  void cmbtext_Click() { window_.SetZoom(ZoomFor(cmbtext.Key())); }
   void cmbscale_Click() { window_.SetScale(cmbscale.Key()); }
   void cmbdates_Click() { window_.SetDates(static_cast<DateForm>(cmbdates.Selected() - 1)); }
   void chksound_Click() {
@@ -240,6 +236,10 @@ class frmWindow : public ui::Screen {
 };
 
 }  // namespace
+
+int ZoomFor(int percent) {
+  return static_cast<int>(std::lround(kUsualText * percent / 100.0)) - DesktopText();
+}
 
 std::unique_ptr<ui::Screen> NewWindowOptions(ui::Desk& desk, Window& window,
                                              std::vector<KeyedCommand> commands) {

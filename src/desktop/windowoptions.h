@@ -11,6 +11,10 @@ namespace grapplemont::desktop {
 
 class Window;
 
+/// Sizes of the text to choose from, in percent of the usual one, and how far one of them is from
+/// the desktop's.
+inline constexpr int kTextSizes[] = {85, 100, 115, 130, 150, 175, 200};
+int ZoomFor(int percent);
 /// Scales of the whole window to choose from, in percent.
 inline constexpr int kScales[] = {75, 100, 125, 150, 175, 200, 250};
 

@@ -305,6 +305,13 @@ TEST_F(TheOptions, AreFoundAsCommands) {
   Begin();
   Find("High contrast");
   EXPECT_EQ(&desktop::ColoursOf(Play->See("cmdnext")), &desktop::ContrastColours());
+  Find("light");
+  Find("dark");
+  EXPECT_EQ(&desktop::ColoursOf(Play->See("cmdnext")), &desktop::DarkColours())
+      << "what is called so goes before what was chosen last";
+  Find("text 150");
+  EXPECT_EQ(Play->Window.Kept().Zoom() + desktop::DesktopText(), 20) << "of usually 13";
+  Find("text 100");
   Find("Window scale: 125%");
   EXPECT_EQ(Play->Window.Kept().Scale(), 125);
   Find("Full screen");
