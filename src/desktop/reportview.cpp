@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextEdit>
@@ -8,9 +9,11 @@
 #include <cmath>
 #include <map>
 
+#include "desktop/housestyle.h"
 #include "desktop/pieces.h"
 #include "desktop/spoken.h"
 #include "desktop/views.h"
+#include "desktop/wordswidth.h"
 
 namespace grapplemont::desktop {
 
@@ -20,6 +23,8 @@ using Style = ui::Report::Style;
 
 constexpr double kLine = 26.2;  // from one line of prose to the next, in drawn pixels
 constexpr int kAnyLine = 24;    // the same, of lines of any style
+// In a line of fewer letters long prose would be a column of broken words.
+constexpr int kLeastLetters = 14;
 
 QTextCharFormat LettersOf(Style style, const Colours& colours) {
   QTextCharFormat format;
@@ -58,6 +63,9 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
   bool HasWords() const override { return !control_.Brief || !control_.Text->empty(); }
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -73,7 +81,8 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
 
   std::vector<ui::Link> links_;  // of all paragraphs; an anchor's address is a place in here
   QPoint pressed_;
-  QString words_;  // of a report that grows, as they stood before
+  bool isReached_ = false;  // by Tab, so that it shows where the keyboard is
+  QString words_;           // of a report that grows, as they stood before
 };
 
 ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
@@ -90,7 +99,7 @@ ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
   if (report.Brief)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   else
-    setMinimumHeight(Px(96));
+    setMinimumSize(WordsWidth(ProseFont(), QString(kLeastLetters, 'n')), Px(96));
 }
 
 void ReportView::Show() {
@@ -205,6 +214,25 @@ void ReportView::FitWords() {
 void ReportView::resizeEvent(QResizeEvent* event) {
   QTextEdit::resizeEvent(event);
   FitWords();
+}
+
+void ReportView::focusInEvent(QFocusEvent* event) {
+  isReached_ = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  QTextEdit::focusInEvent(event);
+  viewport()->update();
+}
+
+void ReportView::focusOutEvent(QFocusEvent* event) {
+  isReached_ = false;
+  QTextEdit::focusOutEvent(event);
+  viewport()->update();
+}
+
+void ReportView::paintEvent(QPaintEvent* event) {
+  QTextEdit::paintEvent(event);
+  if (!isReached_) return;
+  QPainter painter(viewport());
+  DrawFocus(painter, viewport()->rect(), Px(3), palette());
 }
 
 /// Arrows and pages scroll; Enter and Escape are the screen's.

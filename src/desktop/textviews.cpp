@@ -26,13 +26,22 @@ int CursorAfter(const QString& typed, int cursor) {
   return static_cast<int>(Keep(typed.left(cursor)).Text.size());
 }
 
+/// What does not fit is not written, which the player is told.
+void SayFull(int most, QWidget& widget, Stage& stage) {
+  stage.Hint(widget, QString("There is room for %1 characters.").arg(most));
+}
+
 /// A text box of one line.
 class LineView : public ViewOf<QLineEdit, ui::TextBox> {
  public:
   LineView(ui::TextBox& box, Stage& stage, QWidget* parent) : ViewOf(box, stage, parent) {
     SetMargins(*this);
     setMinimumWidth(Px(120));
-    if (box.MaxLength > 0) setMaxLength(box.MaxLength);
+    if (box.MaxLength > 0) {
+      setMaxLength(box.MaxLength);
+      connect(this, &QLineEdit::inputRejected, this,
+              [this] { SayFull(control_.MaxLength, *this, OnStage()); });
+    }
     connect(this, &QLineEdit::textEdited, this, [this] {
       const std::string kept = KeepTyped(*this, OnStage());
       if (kept != control_.Text.Get()) Do(ui::Type, std::string_view(kept));
@@ -107,8 +116,10 @@ class NotesView : public ViewOf<QPlainTextEdit, ui::TextBox> {
     if (showing_) return;
     const QString text = toPlainText();
     std::string kept = KeepOf(text, *this, OnStage());
-    if (control_.MaxLength > 0)
-      kept.resize(std::min(kept.size(), static_cast<std::size_t>(control_.MaxLength)));
+    if (const int most = control_.MaxLength; most > 0 && std::ssize(kept) > most) {
+      kept.resize(static_cast<std::size_t>(most));
+      SayFull(most, *this, OnStage());
+    }
     if (const QString shown = Shown(kept); shown != text)
       Put(shown, CursorAfter(text, textCursor().position()));
     if (kept != control_.Text.Get()) Do(ui::Type, std::string_view(kept));

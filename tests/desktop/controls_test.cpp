@@ -38,6 +38,7 @@ TEST_F(TheControls, TakeTextInTheGamesLetters) {
   EXPECT_TRUE(Play.TextOf("hint").contains(QChar(0x142))) << "the letter that is refused is named";
   Play.Type("and more");
   EXPECT_EQ(Page.txtname.Text->size(), 12U) << "the box takes no more";
+  EXPECT_EQ(Play.TextOf("hint"), "There is room for 12 characters.");
   EXPECT_EQ(Play.TextOf("txtname"), desktop::Shown(Page.txtname.Text.Get()));
 
   Play.Click("txtnotes");
@@ -189,6 +190,21 @@ TEST_F(TheLinks, OfAReportStandOutAndOpenWithAClickUnlessTheyAreMarked) {
   EXPECT_EQ(Notes, Log());
   QTest::mouseClick(words, Qt::LeftButton, {}, bram);
   EXPECT_EQ(Notes, Log({"page of Bram"}));
+}
+
+TEST_F(TheLinks, StandInAReportThatShowsWhereTheKeyboardIs) {
+  Play.Open(std::make_unique<LinkPage>(Play.Desk));
+  auto& story = *qobject_cast<QTextEdit*>(Play.See("rptstory"));
+  const auto edgeAfter = [&](QEvent::Type moved, Qt::FocusReason by) {
+    QFocusEvent event(moved, by);
+    QApplication::sendEvent(&story, &event);
+    QWidget& words = *story.viewport();
+    return words.grab().toImage().pixelColor(0, words.height() / 2);
+  };
+  const QColor plain = edgeAfter(QEvent::FocusOut, Qt::TabFocusReason);
+  EXPECT_EQ(edgeAfter(QEvent::FocusIn, Qt::MouseFocusReason), plain);
+  EXPECT_NE(edgeAfter(QEvent::FocusIn, Qt::TabFocusReason), plain);
+  EXPECT_EQ(edgeAfter(QEvent::FocusOut, Qt::MouseFocusReason), plain);
 }
 
 TEST_F(TheLinks, OfALabelOpenWithAClick) {
