@@ -216,7 +216,7 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   auto* bar = new QTabBar(holder);
   bar->setDrawBase(false);
   bar->setExpanding(false);
-  bar->setElideMode(Qt::ElideRight);
+  bar->setElideMode(Qt::ElideNone);  // those that have no room are scrolled to
   bar->setFocusPolicy(Qt::TabFocus);
   rows->addWidget(bar, 0, Qt::AlignLeft);
   const QScopedValueRollback<QWidget*> within(holder_);
@@ -309,8 +309,8 @@ void LayoutBuilder::AddGrid(const Run& rows, QBoxLayout* into) {
     for (const Box& part : line->Parts) {
       ControlView* view = View(*part.Shown);
       Widen(*view->Widget(), part);
-      if (part.Stretch > 0 && part.Shown->Is() == ui::Kind::Label)
-        view->Widget()->setMinimumWidth(Px(kLeastWords));
+      if (auto* words = dynamic_cast<WrappedLabel*>(view->Widget()); words && part.Stretch > 0)
+        words->BreakFrom(kLeastWords);
       grid->addWidget(view->Widget(), row, column, Qt::AlignVCenter);
       grid->setColumnStretch(column, part.Stretch);
       most = std::max(most, part.Stretch);

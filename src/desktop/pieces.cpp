@@ -35,8 +35,19 @@ QSize WrappedLabel::sizeHint() const {
   return {width, heightForWidth(width)};
 }
 
+/// The widest of its words, which alone cannot break.
+int WrappedLabel::WordWidth() const {
+  int widest = 0;
+  for (const QString& word : text().simplified().split(' '))
+    widest = std::max(widest, WordsWidth(font(), word));
+  return widest + 2;
+}
+
 QSize WrappedLabel::minimumSizeHint() const {
-  return {std::min(NaturalWidth(), Px(unbroken_)), fontMetrics().height()};
+  const int natural = NaturalWidth(), least = Px(unbroken_);
+  const int word = natural > least && unbroken_ < kUnbroken ? WordWidth() : 0;
+  return {std::min(natural, std::max(least, std::min(word, Px(kUnbroken)))),
+          fontMetrics().height()};
 }
 
 int WrappedLabel::heightForWidth(int width) const {

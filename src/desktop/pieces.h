@@ -39,7 +39,7 @@ class WrappedLabel : public QLabel {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
   int heightForWidth(int width) const override;
-  /// Lets it break where it is as wide as this, in drawn pixels.
+  /// Lets it break where it is as wide as this, in drawn pixels, and as its widest word.
   void BreakFrom(int width) { unbroken_ = width; }
   /// Whether it is cut where it would break; a tip tells all of it.
   void SetOneLine(bool oneLine);
@@ -50,6 +50,7 @@ class WrappedLabel : public QLabel {
 
  private:
   int NaturalWidth() const;
+  int WordWidth() const;
 
   int unbroken_;
   bool oneLine_ = false;

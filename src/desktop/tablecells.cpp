@@ -235,6 +235,10 @@ int CellWidth(const ui::Cell& cell, const ui::Column& column) {
   return WordsWidth(TextFont(), text) + sides + 1;
 }
 
+int BareWidth(const ui::Cell& cell, const ui::Column& column) {
+  return CellWidth(cell, column) - (IsBar(cell, column.Kind) ? Px(kBarRoom) : 0);
+}
+
 /// What opens is shown as a link: the first words of its row. Rows that have a button are worked by
 /// it.
 bool TableCells::IsLink(const QModelIndex& index) const {

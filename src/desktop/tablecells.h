@@ -86,6 +86,8 @@ class TableCells : public QStyledItemDelegate {
 
 /// The width that a cell's contents ask for, with the room at its sides.
 int CellWidth(const ui::Cell& cell, const ui::Column& column);
+/// The same without the bar that may stand before its number.
+int BareWidth(const ui::Cell& cell, const ui::Column& column);
 /// How wide the picture before a cell's text is, with its gap; 0 for none.
 int DrawnWidth(const ui::Column& column, int key);
 bool AlignsRight(ui::ColumnKind kind);

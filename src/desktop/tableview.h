@@ -75,6 +75,7 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   int DropEmpty(int room, std::vector<int>& widths) const;
   int PinnedIn(const std::vector<int>& widths) const;
   void SqueezeTexts(int missing, std::vector<int>& widths);
+  int BareWidthOf(int column) const;
   int DropBars(int missing, std::vector<int>& widths);
   void ScrollRest(const std::vector<int>& asked, std::vector<int>& widths);
   void ApplyColumns();

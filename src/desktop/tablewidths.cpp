@@ -149,6 +149,15 @@ void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
   if (missing > 0) ScrollRest(asked, widths);
 }
 
+/// What a column of bars needs for its numbers, and for the tags that stand in place of some.
+int TableView::BareWidthOf(int column) const {
+  const int rows = std::min(model_.rowCount(), kMeasuredRows);
+  int width = 0;
+  for (int row = 0; row < rows; ++row)
+    width = std::max(width, BareWidth(table_.At(row, column), model_.Column(column)));
+  return width;
+}
+
 /// Takes the bars from where they stand before a number, from the last column on, until nothing
 /// is missing; gives the room that has come free.
 int TableView::DropBars(int missing, std::vector<int>& widths) {
@@ -156,7 +165,8 @@ int TableView::DropBars(int missing, std::vector<int>& widths) {
   for (std::size_t place = widths.size(); place-- > 0 && freed < missing;) {
     const int column = table_.Columns()[place];
     if (model_.Column(column).Kind != ui::ColumnKind::Percent) continue;
-    const int bare = std::max(HeadingWidth(place), widths[place] - Px(kBarRoom));
+    const int bare =
+        std::max({HeadingWidth(place), widths[place] - Px(kBarRoom), BareWidthOf(column)});
     if (bare >= widths[place]) continue;
     freed += widths[place] - bare;
     widths[place] = bare;

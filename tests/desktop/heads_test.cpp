@@ -4,6 +4,7 @@
 #include <QMenu>
 
 #include "desktop/player.h"
+#include "desktop/tablecells.h"
 #include "ui/controlarray.h"
 
 // How heads, cards and tables share the room of a page.
@@ -41,6 +42,39 @@ TEST(TheTables, KeepTheirColumnsTogetherAndAnEmptyOneLeavesItsRoomToAnother) {
   play.Window.Sync();
   for (int i = 0; i < 4; ++i) QApplication::processEvents();
   EXPECT_NEAR(next.height(), play.Grid("lstmembers").height(), 80);
+}
+
+/// A narrow table whose bars have to leave.
+class HurtPage : public ui::Screen {
+ public:
+  explicit HurtPage(ui::Desk& desk) : Screen(desk, "frmHurt", "Hurt") {
+    lsthurt.Add({"Zane Tempest", {40, "Suspended", ui::Tone::Red}, 88, "A torn calf"}, 1);
+    lsthurt.Add({"Mister Fabulous", 100, 7, "A walk by the sea, and no match that he lost"}, 2);
+  }
+  ui::Page Layout() override {
+    return {.Body = ui::Columns({ui::Group("", {ui::Grow(lsthurt)}).Grow(2),
+                                 ui::Group("", {ui::Grow(lstother)}).Grow(3)})};
+  }
+  ui::ListBox lsthurt{*this,
+                      "lsthurt",
+                      {{"Name", ui::ColumnKind::Text, 1},
+                       {"C.", ui::ColumnKind::Percent},
+                       {"M.", ui::ColumnKind::Percent},
+                       {"Why", ui::ColumnKind::Text, 1}}};
+  ui::ListBox lstother{*this, "lstother"};
+};
+
+TEST(TheTables, KeepTheTagsOfAColumnWhoseBarsLeave) {
+  Player play;
+  play.Window.resize(1024, 800);
+  HurtPage* const page = new HurtPage(play.Desk);
+  play.Open(std::unique_ptr<ui::Screen>(page));
+  QApplication::processEvents();
+  const desktop::TableGrid& grid = play.Grid("lsthurt");
+  const ui::ListBox::Row row = page->lsthurt.RowOf(1);
+  const int tag = desktop::CellWidth(row.Cells[1], page->lsthurt.Columns()[1]);
+  EXPECT_GE(grid.columnWidth(1), tag);
+  EXPECT_LT(grid.columnWidth(1), tag + desktop::Px(desktop::kBarRoom) / 2) << "the bars have left";
 }
 
 TEST(TheHead, KeepsItsMainActionInTheTitlesLineAndFoldsTheOthers) {

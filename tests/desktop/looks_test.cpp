@@ -184,7 +184,7 @@ TEST(TheAlbum, ComesToTheScreensAndNothingOverlapsInASmallWindowWithLargeText) {
   album.Fill();
   for (const char* screen :
        {"frmNewGame", "frmCredits", "frmEditor", "frmMainScreen", "frmRoster", "frmFinance",
-        "frmBooking", "frmMatchOutput", "frmPostShow", "frmProspect"})
+        "frmBooking", "frmMatchOutput", "frmPostShow", "frmProspect", "frmMonth", "frmGodMode"})
     EXPECT_TRUE(album.Taken().contains(screen)) << screen;
   play.Window.SetLook(desktop::Scheme::Dark, 0);
   play.Desk.CloseAll();
@@ -440,6 +440,55 @@ TEST(ALargeDialog, TakesTheRoomOfAUsualWindow) {
     EXPECT_LE(list.width(), most.width());
     EXPECT_LE(list.height(), most.height());
   }
+}
+
+/// Steps beside their numbers, tabs, and prose beside drop-downs, in letters twice as large.
+TEST(TheWords, AreNeverCutInTheirMiddle) {
+  class Wordy : public ui::Screen {
+   public:
+    explicit Wordy(ui::Desk& desk) : Screen(desk, "frmWordy", "Words") {
+      for (ui::ComboBox* choice : {&cmbyear, &cmbsection}) choice->Add("Everything that there is");
+      rptstory.Write("Neon Tide Wrestling is National.");
+    }
+    ui::Page Layout() override {
+      const std::vector<ui::Box> steps{ui::Columns({cmdone, ui::Grow(lblone)}),
+                                       ui::Columns({cmdtwo, ui::Grow(lbltwo)})};
+      return {.Body = ui::Rows(
+                  {ui::Columns({ui::Group("Steps", steps).Grow(1),
+                                ui::Tabs({ui::Group("Overview", {lblfirst}),
+                                          ui::Group("Camp and territory", {lblsecond}),
+                                          ui::Group("Championships", {lblthird})})
+                                    .Grow(6)}),
+                   ui::Group("", {ui::Columns({ui::Rows({ui::Field("Year", cmbyear),
+                                                         ui::Field("Section", cmbsection)}),
+                                               ui::Grow(rptstory)})})})};
+    }
+    ui::Button cmdone{*this, "cmdone", "1"}, cmdtwo{*this, "cmdtwo", "2"};
+    ui::Label lblone{*this, "lblone", "Segment Type = Match"},
+        lbltwo{*this, "lbltwo", "Select Participants"}, lblfirst{*this, "lblfirst", "One"},
+        lblsecond{*this, "lblsecond", "Two"}, lblthird{*this, "lblthird", "Three"};
+    ui::ComboBox cmbyear{*this, "cmbyear"}, cmbsection{*this, "cmbsection"};
+    ui::Report rptstory{*this, "rptstory"};
+  };
+  Log notes;
+  Player play;
+  play.Open(std::make_unique<Hub>(play.Desk, notes));
+  play.Open(std::make_unique<Wordy>(play.Desk));
+  play.Window.resize(1024, 640);
+  for (const int percent : {100, 125, 150, 200}) {
+    SCOPED_TRACE(percent);
+    play.Window.SetLook(desktop::Scheme::Dark, desktop::DesktopText() * (percent - 100) / 100);
+    for (int i = 0; i < 4; ++i) QApplication::processEvents();
+    const QWidget& step = *play.See("lbltwo");
+    EXPECT_GE(step.width(), step.fontMetrics().horizontalAdvance("Participants"));
+    const auto& bar = *play.See("frmWordy")->findChild<QTabBar*>();
+    for (int tab = 0; tab < bar.count(); ++tab)
+      EXPECT_GE(bar.tabRect(tab).width(), bar.fontMetrics().horizontalAdvance(bar.tabText(tab)));
+    const auto& story = *qobject_cast<QTextEdit*>(play.See("rptstory"));
+    EXPECT_GE(story.viewport()->width(),
+              QFontMetrics(desktop::ProseFont()).horizontalAdvance("Wrestling"));
+  }
+  play.Window.SetLook(desktop::Scheme::Dark, 0);
 }
 
 TEST(TheLines, OfProseEndWhereTheyCanBeRead) {
