@@ -335,7 +335,7 @@ std::string PostLine(const std::vector<PostCount>& posts) {
   for (const PostCount& post : posts) {
     line += (line.empty() ? "" : ", ") + std::string(PostOf(post.Post).Plural) + joint +
             std::to_string(post.Have);
-    if (post.Need > 0) line += joint + "of" + joint + std::to_string(post.Need);
+    if (post.Need > 0) line += joint + "(" + std::to_string(post.Need) + joint + "needed)";
   }
   return line + ".";
 }

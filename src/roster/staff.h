@@ -64,7 +64,7 @@ inline bool IsShort(const PostCount& post) {
 }
 /// Every post but the Owner's, in the order of their codes.
 std::vector<PostCount> PostCounts(const World& world);
-/// "Announcers 1 of 1, Referees 2, ..." and what to do about posts that lack hands.
+/// "Announcers 1 (1 needed), Referees 2, ..." and what to do about posts that lack hands.
 std::string PostLine(const std::vector<PostCount>& posts);
 std::string PostAdvice(const std::vector<PostCount>& posts);
 

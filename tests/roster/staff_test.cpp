@@ -263,8 +263,8 @@ TEST(PostAdvice, CountsWhatThePromotionNeeds) {
   std::string line = PostLine(PostCounts(world));
   std::ranges::replace(line, '\xA0', ' ');
   EXPECT_EQ(line,
-            "Announcers 0 of 1, Referees 0, Production 0, Medical 1 of 2, Writers 1 of 4, "
-            "Road Agents 0 of 2, Trainers 0 of 1.");
+            "Announcers 0 (1 needed), Referees 0, Production 0, Medical 1 (2 needed), "
+            "Writers 1 (4 needed), Road Agents 0 (2 needed), Trainers 0 (1 needed).");
   EXPECT_EQ(PostAdvice(PostCounts(world)),
             "Announcers: hire 1 more, or nobody calls the shows. Medical: hire 1 more, or the "
             "roster recovers slowly. Writers: hire 3 more, or angles have to wait. Road Agents: "

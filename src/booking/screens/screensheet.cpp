@@ -79,7 +79,9 @@ ui::Page SheetScreen::Layout() {
                .Grow(2)}),
       &lblfacts, std::move(actions), &cmddoshow);
   page.Then = &cmdnextrow;
-  page.Stays = "Not while today's show is being booked: it comes first, or is cancelled.";
+  page.Stays = IsDraft()
+                   ? "Not while a show is being drafted: keep the draft, or go back."
+                   : "Not while today's show is being booked: it comes first, or is cancelled.";
   return page;
 }
 

@@ -215,7 +215,7 @@ class frmWorker : public GameScreen {
     ShowWay(cmdprevious, beside.Before, "Nobody stands before in this promotion.");
     ShowWay(cmdnext, beside.After, "Nobody stands behind in this promotion.");
     if (beside.Of > 1)
-      lblfacts.Text = lblfacts.Text.Get() + " " + std::to_string(beside.Place) + " of " +
+      lblfacts.Text = lblfacts.Text.Get() + " Number " + std::to_string(beside.Place) + " of " +
                       std::to_string(beside.Of) + " there.";
   }
   void ShowWay(ui::Button& button, int uid, const char* nobody) {
