@@ -5,6 +5,8 @@
 #include <bit>
 #include <cctype>
 #include <cstdint>
+#include <functional>
+#include <iterator>
 #include <span>
 #include <tuple>
 
@@ -18,10 +20,11 @@ namespace {
 
 using Kind = Found::Kind;
 
-constexpr int kInside = kSureFit;  // the letters stand inside a word
-constexpr int kTypo = 10;          // a wrong letter is worse than any place in the name
-constexpr int kBehindAll = 100;    // a mail holds many words: names come first
-constexpr int kWorkless = 200;     // behind everybody who works somewhere
+constexpr int kInside = kSureFit;    // the letters stand inside a word
+constexpr int kSaid = kSureFit - 1;  // every word begins one that people say for it
+constexpr int kTypo = 10;            // a wrong letter is worse than any place in the name
+constexpr int kBehindAll = 100;      // a mail holds many words: names come first
+constexpr int kWorkless = 200;       // behind everybody who works somewhere
 
 /// A letter without its accent, small; a blank for what is not a letter.
 char Plain(char letter) {
@@ -115,6 +118,20 @@ std::vector<std::string> TypedWords(std::string_view typed) {
     words.push_back(plain.substr(at, next - at));
     at = next;
   }
+  return words;
+}
+
+/// Those that say what is looked for: "how do I sign somebody" asks for "sign". All of them where
+/// none does.
+std::vector<std::string> WordsThatCount(std::vector<std::string> words) {
+  static constexpr std::string_view kWeightless[] = {
+      " a",   " an", " anybody", " anyone", " can",  " do",    " for",      " how",
+      " i",   " in", " my",      " of",     " on",   " our",   " somebody", " someone",
+      " the", " to", " up",      " we",     " what", " where", " who",      " with"};
+  const auto counts = [](const std::string& word) {
+    return std::ranges::find(kWeightless, word) == std::end(kWeightless);
+  };
+  if (std::ranges::any_of(words, counts)) std::erase_if(words, std::not_fn(counts));
   return words;
 }
 
@@ -215,12 +232,13 @@ std::string_view KindOfFound(Kind kind) {
 }
 
 int FitOfName(std::string_view name, std::string_view also, std::string_view typed) {
-  const std::vector<std::string> words = TypedWords(typed);
+  const std::vector<std::string> words = WordsThatCount(TypedWords(typed));
   if (words.empty()) return -1;
-  const int fit = FitOf(PlainWords(name), words, true);
-  const int other = FitOf(PlainWords(also), words, false) + 1;  // its own name goes first
-  const bool isOther = other > 0 && other <= kSureFit && (fit < 0 || other < fit);
-  return isOther ? other : fit;
+  const std::string own = PlainWords(name), all = own + PlainWords(also);
+  const int fit = FitOf(own, words, true);
+  const bool isSaid = std::ranges::all_of(
+      words, [&all](const std::string& word) { return all.find(word) != all.npos; });
+  return isSaid && (fit < 0 || fit > kSaid) ? kSaid : fit;
 }
 
 NameSearch::NameSearch(const World& world) : world_(world) {

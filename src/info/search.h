@@ -34,7 +34,8 @@ inline constexpr int kKindsOfFound = static_cast<int>(Found::Kind::Mail) + 1;
 
 /// How far a name is from what was typed: below kSureFit each typed word begins one of its words; a
 /// slip counts more than any place. -1 when it does not hold them at all. `also` are other words
-/// that people say for it, which forgive no slip.
+/// that people say for it, which forgive no slip; typed words may stand in either. Words such as
+/// "how", "a" and "somebody" count only where nothing else is typed.
 int FitOfName(std::string_view name, std::string_view also, std::string_view typed);
 inline constexpr int kSureFit = 3;
 

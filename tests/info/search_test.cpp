@@ -63,6 +63,11 @@ TEST(Search, KnowsOtherWordsForANameButForgivesNoSlipInThem) {
   EXPECT_EQ(FitOfName("News", "mail inbox", "mial"), -1);
   EXPECT_EQ(FitOfName("News", "mail inbox", " "), -1);
   EXPECT_GT(FitOfName("Finance", "money", "finence"), kSureFit);
+  EXPECT_EQ(FitOfName("Ticket Prices", "seats raise", "raise ticket price"), 2) << "in either";
+  EXPECT_EQ(FitOfName("Ticket Prices", "seats raise", "raise wage"), -1);
+  EXPECT_EQ(FitOfName("Ticket Prices", "seats raise", "aise"), -1) << "no middle of another word";
+  EXPECT_EQ(FitOfName("Tickets", "", "how do I ticket somebody"), 0);
+  EXPECT_EQ(FitOfName("Tickets", "", "somebody"), -1) << "it is all there is";
 }
 
 TEST(Search, KnowsWhatHasGoneSince) {

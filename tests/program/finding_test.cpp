@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "calendar/screens/screenrooms.h"
+#include "info/search.h"
 #include "program/richworld.h"
 #include "support/gameonworld.h"
 
@@ -88,6 +90,29 @@ TEST_F(FindingTest, OpensPagesThatNoSideBarHasAndSaysWhatStandsAgainstOne) {
   Open("Load Game");
   EXPECT_EQ(Play.Desk.TopName(), "frmCompare");
   EXPECT_EQ(Play.Desk.NewSearch()("bank", 1).front().Words, "Loan") << "by another word for it";
+}
+
+TEST_F(FindingTest, LeadsOnWhoSaysItInWordsOfTheirOwn) {
+  const std::pair<const char*, const char*> pages[] = {{"raise ticket price", "Ticket Prices"},
+                                                       {"turn heel", "Turns"},
+                                                       {"a bank loan", "Loan"},
+                                                       {"auto booker", "Drafts"}};
+  for (const auto& [typed, page] : pages) {
+    const auto found = Play.Desk.NewSearch()(typed, 1);
+    EXPECT_EQ(found.empty() ? "" : found.front().Words, page) << typed;
+  }
+  const std::pair<const char*, std::string_view> rooms[] = {
+      {"sign somebody", "Other Workers"},  {"hire", "Other Workers"}, {"sack", "Roster"},
+      {"how do I fire someone", "Roster"}, {"tv deal", "Television"}, {"schedule", "Events"},
+      {"new champion", "Titles"},          {"injured", "Roster"}};
+  for (const auto& [typed, room] : rooms) {
+    const auto fit = [typed = typed](const HubCommand& command) {
+      const int is = FitOfName(command.Caption, command.Also, typed);
+      return is < 0 ? 100 : is;
+    };
+    const HubCommand& best = *std::ranges::min_element(kHubCommands, {}, fit);
+    EXPECT_EQ(fit(best) < kSureFit ? best.Caption : "", room) << typed;
+  }
 }
 
 TEST_F(FindingTest, LeavesASheetAlone) {
