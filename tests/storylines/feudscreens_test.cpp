@@ -3,6 +3,7 @@
 #include "storylines/feuds.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
+#include "ui/acts.h"
 
 namespace grapplemont::test {
 namespace {
@@ -110,6 +111,30 @@ TEST(frmFeudStart, KnowsWhoMayAndWhoBelongsTogether) {
     desk.Click("cmdstart");
   }
   EXPECT_EQ(desk.Selected("lstfeuds"), std::vector{1}) << "the feud just started";
+  EXPECT_EQ(desk.FirstColumn("lstfeuds")[0], "Law and Order vs Cal Drift \\ Mouth");
+}
+
+TEST(frmFeudStart, BeginsWithThoseWhoWereChosenBefore) {
+  GameOnWorld play(Roster());
+  ScriptDesk& desk = play.Desk;
+  const auto start = [&desk](std::vector<int> rows) {
+    desk.CloseAll();
+    desk.Open("frmFeuds");
+    EXPECT_EQ(ui::PickRows(desk, *desk.Top(), "lstpeople", std::move(rows)), "");
+    desk.Click("cmdask");
+  };
+  start({2});
+  EXPECT_EQ(desk.Selected("lstwres1"), std::vector{2});
+  EXPECT_EQ(desk.Selected("lstwres2"), std::vector<int>());
+  EXPECT_FALSE(desk.Enabled("cmdstart"));
+  start({2, 3});
+  EXPECT_EQ(desk.Text("lblheat"), "Starting heat 73%: mean Over 63, a Face against a Heel +10.");
+  start({1, 2, 3, 4});
+  desk.ExpectAsk("Start?",
+                 "Are you sure you wish to start a feud between Law and Order and Cal Drift \\ "
+                 "Mouth?",
+                 true);
+  desk.Click("cmdstart");
   EXPECT_EQ(desk.FirstColumn("lstfeuds")[0], "Law and Order vs Cal Drift \\ Mouth");
 }
 

@@ -1,3 +1,8 @@
+#include "storylines/screens/frmFeudStart.h"
+
+#include <algorithm>
+#include <utility>
+
 #include "records/world.h"
 #include "storylines/feuds.h"
 #include "storylines/partners.h"
@@ -25,7 +30,8 @@ std::string Forecast(const StartingHeat& start) {
 /// feud lists 1 and 2 are one side, lists 3 and 4 the other.
 class frmFeudStart : public GameScreen {
  public:
-  explicit frmFeudStart(Game& game) : GameScreen(game, "frmFeudStart", "Start A Feud") {
+  explicit frmFeudStart(Game& game, std::vector<int> people = {})
+      : GameScreen(game, "frmFeudStart", "Start A Feud"), people_(std::move(people)) {
     BackBefore(cmdstart);
   }
 
@@ -41,6 +47,9 @@ class frmFeudStart : public GameScreen {
 
   void Load() override {
     FillLists();
+    chksingles.Checked = people_.size() <= 2;
+    for (int head = 1; head <= std::min(kHeads, static_cast<int>(people_.size())); ++head)
+      lstwres(head).SelectKey(people_[static_cast<std::size_t>(head - 1)]);
     ShowHeads();
     ShowForecast();
   }
@@ -133,6 +142,7 @@ class frmFeudStart : public GameScreen {
     Close();
   }
 
+  std::vector<int> people_;  // chosen at first
   ui::CheckBox chksingles{*this, "chksingles", "Singles feud", true,
                           &frmFeudStart::chksingles_Click};
   ui::Label lblheat{*this, "lblheat"};
@@ -153,5 +163,9 @@ class frmFeudStart : public GameScreen {
 }  // namespace
 
 SCREEN(frmFeudStart)
+
+std::unique_ptr<ui::Screen> MakefrmFeudStart(Game& game, std::vector<int> people) {
+  return std::make_unique<frmFeudStart>(game, std::move(people));
+}
 
 }  // namespace grapplemont

@@ -4,6 +4,7 @@
 #include "records/fields/fields.h"
 #include "records/world.h"
 #include "storylines/feuds.h"
+#include "storylines/screens/frmFeudStart.h"
 #include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
 
@@ -130,6 +131,7 @@ class frmFeuds : public GameScreen {
         "interviews and angles.";
     lstfeuds.Acts = {{&cmdask}, {&cmdstat}, {&cmdend}};
     lstfeuds.Room = lstfeuds.Least = kFeuds;
+    lstpeople.Extends = true;
     lstpeople.EmptyText = "Nobody is free for a feud: it takes people who are fit and known.";
   }
 
@@ -248,7 +250,7 @@ class frmFeuds : public GameScreen {
 
   void Start() {
     next_ = FreeFeudSlot(world());
-    desk().Open("frmFeudStart");
+    desk().Open(MakefrmFeudStart(game_, lstpeople.Keys()));
   }
 
   void cmdask_Click() {
