@@ -15,6 +15,7 @@
 #include "records/segmentparts.h"
 #include "records/segments.h"
 #include "show/holdshow.h"
+#include "show/showfeuds.h"
 #include "show/titlechange.h"
 #include "show/turns.h"
 #include "storylines/feuds.h"
@@ -53,6 +54,19 @@ std::vector<std::string> DetailsOfMatch(const World& world, const Segment& match
   if (form.Losers == 1)
     return {"Fall: " + NameOf(world, match.Winner) + " over " + NameOf(world, match.Loser)};
   return {"Order of elimination: " + NamesOf(world, match, LosersInOrder(match), form.Teams)};
+}
+
+/// The feud of a slot as it ends: who, and how it stands.
+std::string FeudEnding(const World& world, int slot) {
+  const Feud& feud = world.Feuds()[slot];
+  const FeudScore score = FeudWins(feud);
+  const bool hottest = std::ranges::none_of(world.Feuds(), [&feud](const Feud& other) {
+    return !IsFreeSlot(other) && other.Heat > feud.Heat;
+  });
+  return "The feud between " + FeudText(world, feud) + " ends: heat " + std::to_string(feud.Heat) +
+         (hottest ? ", the hottest you have, " : ", ") +
+         Counted((world.Today() - Day(feud.Started)).count(), "day") + ", " +
+         std::to_string(score.One) + " : " + std::to_string(score.Two) + ".";
 }
 
 std::string PlayedBy(const World& world, const Segment& angle, const Role& role) {
@@ -220,8 +234,7 @@ std::vector<std::string> ChangesBy(const World& world, const Segment& segment) {
   for (const int uid : EverybodyOf(segment))
     if (const Worker* worker = world.FindWorker(uid); worker && !worker->Debuted)
       changes.push_back(worker->Name + " is seen for the first time.");
-  if (segment.Kind == kMatch && PurposeOf(segment).Does == Aim::EndsFeud)
-    changes.emplace_back("The feud between them ends.");
+  if (const int slot = FeudEndedBy(world, segment)) changes.push_back(FeudEnding(world, slot));
   return changes;
 }
 

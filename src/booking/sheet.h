@@ -69,7 +69,7 @@ std::vector<std::string> SummaryOfRow(const World& world, const Segment& segment
 /// royal, who beats whom in a team, in which order people leave, who plays which part in an angle.
 std::vector<std::string> DetailsOfRow(const World& world, const Segment& segment);
 /// What the Segment would leave changed, a sentence each: a new champion, who turns, who is seen
-/// for the first time, a feud that it ends.
+/// for the first time, a feud that it ends and how that stands.
 std::vector<std::string> ChangesBy(const World& world, const Segment& segment);
 /// The same of the rows that a card adds: "Row 3: Bram Okafor wins the CWA Crown."
 std::vector<std::string> ChangesBy(const World& world, const AutoCard& card);

@@ -50,6 +50,23 @@ TEST(AutoBookScreen, ProposesACardAndLeavesTheSheetAlone) {
   EXPECT_EQ(SheetOf(play.World()), sheet);
 }
 
+TEST(AutoBookScreen, LeavesOutWhatThePlayerDoesNotWant) {
+  OnSheet play(Sunday());
+  play.Book(2, Singles(play.World(), "CWA Hand 29", "CWA Hand 30"));
+  play.Desk.Click("cmdauto");
+  const Names proposed = Card(play);
+  play.Desk.Pick("lstcard", 2);
+  EXPECT_EQ(play.Desk.Tip("cmdleave"), "It stands on the sheet: remove it there.");
+  play.Desk.Pick("lstcard", 1);
+  play.Desk.Click("cmdleave");
+  EXPECT_EQ(Card(play), Names(proposed.begin() + 1, proposed.end()));
+  EXPECT_EQ(play.Desk.Selected("lstcard"), std::vector{1}) << "the next one";
+  EXPECT_TRUE(play.Desk.Enabled("cmdagain")) << "its row may be filled otherwise";
+  play.Desk.Click("cmdsheet");
+  EXPECT_EQ(play.Row(1)[1], "<Nothing Booked>");
+  EXPECT_EQ(play.Row(3)[0] + " " + play.Row(3)[1], proposed[2]);
+}
+
 TEST(AutoBookScreen, RunsTheShowAndMovesOnToTheNextDay) {
   OnSheet play(Sunday());
   play.Desk.Click("cmdauto");

@@ -149,6 +149,13 @@ TEST(TelevisionSheet, TellsWhatIsBookedInARow) {
   EXPECT_TRUE(textOf(4).ends_with("\nEdit changes a step of it, Remove empties the row."))
       << textOf(4);
   EXPECT_NE(textOf(1).find("Nothing is booked here."), std::string::npos);
+
+  match.Purpose = purpose1::kEndFeud;
+  play.Book(2, match);
+  EXPECT_NE(textOf(2).find("The feud between CWA Hand 1 and CWA Hand 2 ends: heat 71, the hottest "
+                           "you have, 0 days, 0 : 0."),
+            std::string::npos)
+      << textOf(2);
 }
 
 TEST(TelevisionSheet, SaysWhatTheShowMayComeToAndWhoIsFree) {

@@ -45,6 +45,7 @@ class frmAutoBook : public GameScreen {
       : GameScreen(game, name, title), order_(std::move(order)) {
     BackBefore(cmdagain);
     lstcard.EmptyText = "There is no show today to book a card for.";
+    lstcard.Acts = {{&cmdleave}};
     lblmissing.Colour = ui::Tone::Amber;
     txtchanges.Brief = true;
   }
@@ -52,7 +53,7 @@ class frmAutoBook : public GameScreen {
   ui::Page Layout() override {
     ui::Page page =
         PageOf(ui::Columns({ui::Group("", {ui::Grow(lstcard)}).Grow(3),
-                            ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(),
+                            ui::Rows({ui::Group("", {ui::Grow(txtrow), cmdleave}).Grow(),
                                       ui::Group("What it changes", {txtchanges}),
                                       ui::Group("What it may come to", {lblrating, lblmissing})})
                                 .Grow()}),
@@ -69,6 +70,7 @@ class frmAutoBook : public GameScreen {
 
   void Lay(const AutoCard& card) {
     card_ = card;
+    isOpen_ = NewSegments(world(), card_) > 0;
     ShowCard();
     lstcard.Select(1);
     ShowRow();
@@ -84,9 +86,8 @@ class frmAutoBook : public GameScreen {
     ShowChanges();
     ShowMissing();
     const bool any = lstcard.Count() > 0;
-    EnableUnless(cmdagain, NewSegments(world(), card_) > 0
-                               ? ""
-                               : "Every row that could be filled is booked: it would be the same.");
+    EnableUnless(cmdagain,
+                 isOpen_ ? "" : "Every row that could be filled is booked: it would be the same.");
     EnableUnless(cmdbook, WithCard(world(), card_, [&] { return MayStart(world(), false); }) ? ""
                           : any ? "The card is too short for the show to be held."
                                 : "There is no show today.");
@@ -149,13 +150,28 @@ class frmAutoBook : public GameScreen {
 
   void ShowRow() {
     const int record = lstcard.Key();
+    const auto row = static_cast<std::size_t>(record - 1);
+    EnableUnless(cmdleave, record == 0                  ? "Choose a row of the card first."
+                           : card_.Reasons[row].empty() ? "It stands on the sheet: remove it there."
+                                                        : "");
     if (record == 0) return txtrow.Write("");
     using Style = ui::Report::Style;
-    const auto row = static_cast<std::size_t>(record - 1);
     std::vector<ui::Report::Paragraph> told = ToldOf(world(), card_.Rows[row], order_.IsEvent);
     told.push_back({Style::Strong, "Why"});
     told.push_back({Style::Line, ReasonOf(record)});
     txtrow.Write(std::move(told));
+  }
+
+  /// The card without the row, which stays empty on the sheet.
+  void cmdleave_Click() {
+    const int place = lstcard.Selected();
+    const auto row = static_cast<std::size_t>(lstcard.Key() - 1);
+    card_.Rows[row] = EmptySegment();
+    card_.Reasons[row].clear();
+    lstcard.EmptyText = "Every row is left out. Another Card proposes others.";
+    ShowCard();
+    lstcard.Select(std::min(place, lstcard.Count()));
+    ShowRow();
   }
 
   void cmdsheet_Click() {
@@ -181,6 +197,7 @@ class frmAutoBook : public GameScreen {
 
   FillOrder order_;
   AutoCard card_;
+  bool isOpen_ = false;  // there were rows to fill when it was proposed
   ShowForecast forecast_;
   ui::Label lblfacts{*this, "lblfacts"};
   ui::ListBox lstcard{*this, "lstcard", HeadingsOf(Table()), &frmAutoBook::ShowRow};
@@ -188,6 +205,7 @@ class frmAutoBook : public GameScreen {
   ui::Report txtchanges{*this, "txtchanges"};
   ui::Label lblrating{*this, "lblrating"};
   ui::Label lblmissing{*this, "lblmissing"};
+  ui::Button cmdleave{*this, "cmdleave", "Leave This Row Out", &frmAutoBook::cmdleave_Click};
   ui::Button cmdagain{*this, "cmdagain", "Another Card", &frmAutoBook::Propose};
   ui::Button cmdsheet{*this, "cmdsheet", "Send To The Sheet", &frmAutoBook::cmdsheet_Click};
   ui::Button cmdbook{*this, "cmdbook", "Run This Show", &frmAutoBook::cmdbook_Click};
