@@ -182,7 +182,7 @@ constexpr Term kMoodReasons[] = {{kMoodMatchGood, "", "in matches above their st
                                  {kMoodWon, "", "won"},
                                  {kMoodHeldDown, "", "lost while standing too low on the card"},
                                  {kMoodBooked, "", "held a booking against you"},
-                                 {kMoodLeftOut, "", "was left off a show"},
+                                 {kMoodLeftOut, "", "was in no match or angle of a show"},
                                  {kMoodMovedUp, "", "was moved up the card"},
                                  {kMoodMovedDown, "", "was moved down the card"},
                                  {kMoodTurnFailed, "", "a turn failed"},
