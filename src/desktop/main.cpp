@@ -169,7 +169,7 @@ int Play(QApplication& app, const Started& started) {
     speaker->Play(sound, volume);
   };
   desktop::Window window(desk, options);
-  if (wanted.Pictures.isEmpty())
+  if (wanted.Pictures.isEmpty() && window.Kept().Place().isEmpty())
     window.resize(window.size().boundedTo(window.screen()->availableSize()));
   app.setWindowIcon(QIcon(window.PictureFile("icon.png")));
   game.KeepPage = [&window](const std::string& file) {
