@@ -246,6 +246,11 @@ TEST(BackInTime, WhatIsReadNamedOrRenamedDoesNotStandBeforeAClick) {
   play.World().Rollback();
   desk.Open("frmMornings");
   EXPECT_EQ(desk.Rows("lstmornings").size(), 12u) << "what was named is kept";
+  EXPECT_FALSE(desk.Enabled("cmdforget"));
+  desk.Pick("lstmornings", 1);
+  desk.ExpectAsk("Forget The Name", kAnyText, true, ui::Default::No);
+  desk.Click("cmdforget");
+  EXPECT_EQ(desk.Rows("lstmornings").size(), 11u);
 }
 
 TEST(BackInTime, TheEndOfACareerIsGoneBackFrom) {

@@ -259,6 +259,16 @@ TEST(Clicks, AreTakenBackPastWhatWasNamedSince) {
   play.Go(at[5]);
   play.GoBackTo(*play.Slot->ClickToUndo(), PlayedStep::Undo);
   EXPECT_TRUE(Same(at[0], play.World));
+  // A name that is forgotten takes nothing along.
+  play.Go(at[3], {PlayedStep::Click, "Sign"});
+  play.Slot->Name("by mistake");
+  const std::size_t count = moments.Count();
+  play.Slot->ForgetName(play.Last());
+  EXPECT_EQ(count - 1, moments.Count());
+  EXPECT_TRUE(Same(at[2], named()));
+  ASSERT_EQ("Sign", play.Slot->WhatToUndo());
+  play.GoBackTo(*play.Slot->ClickToUndo(), PlayedStep::Undo);
+  EXPECT_TRUE(Same(at[0], play.World));
 }
 
 TEST(Moments, OfFilesThatWereChangedFromOutsideAreNotBelieved) {

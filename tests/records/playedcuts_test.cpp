@@ -46,8 +46,13 @@ Story TellPlayed(int commits, std::uint64_t seed, PlayedQuirks quirks = {},
       if (const auto old = Restored(*play.Slot, play.World, *play.Slot->ClickToUndo()))
         go(*old, {PlayedStep::Undo, "undo"});
     } else if (what == 3) {
+      std::size_t named = 0;
+      while (named < count && play.Slot->Moments()[named].Is != MomentKind::Named) ++named;
       try {
-        play.Slot->Name("name " + std::to_string(i));
+        if (named < count && i % 2 == 0)
+          play.Slot->ForgetName(named);
+        else
+          play.Slot->Name("name " + std::to_string(i));
       } catch (const DiskError&) {
         disk.Heal();
       }

@@ -260,6 +260,12 @@ void Mornings::Thin(bool dayIsOver) {
   Fold(std::move(goes));
 }
 
+void Mornings::Forget(std::size_t at) {
+  std::vector<bool> goes(entries_.size());
+  goes[at] = true;
+  Fold(std::move(goes));
+}
+
 void Mornings::Fold(std::vector<bool> goes) {
   const auto oldest = std::ranges::find(goes, false) - goes.begin();
   goes.erase(goes.begin(), goes.begin() + oldest);
@@ -278,7 +284,9 @@ void Mornings::Fold(std::vector<bool> goes) {
     if (step && last.Way) step = Joined(*step, *std::move(last.Way));
     if (!step || !last.Way) return Clear();
     last.Way = std::move(step);
-    if (last.Of.Is == MomentKind::Morning) last.Of.Name.clear();  // it is more than that click
+    // It is more than that click then, but for a name that was given behind it.
+    const bool isMore = entries_[i].Of.Is != MomentKind::Named;
+    if (isMore && last.Of.Is == MomentKind::Morning) last.Of.Name.clear();
   }
   Keep(std::move(stay), first - 1);
 }

@@ -67,6 +67,8 @@ class Mornings {
   void Add(Moment of, const WayBack& way, Day after);
   /// The last moment is the present again.
   void DropLast();
+  /// One that the player has named is a moment no more.
+  void Forget(std::size_t at);
   /// The world is, or is but for a little, what it was at the moment `click`; `way` leads from
   /// there to what it was till now, `digest` is what it is. Of the moments from the click on only
   /// what the player has named stays.

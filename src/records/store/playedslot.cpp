@@ -252,6 +252,12 @@ void PlayedSlot::Name(const std::string& name) {
   WriteOwn(ahead);
 }
 
+void PlayedSlot::ForgetName(std::size_t moment) {
+  Ahead ahead(*this, {});
+  mornings_.Forget(moment);
+  WriteOwn(ahead);
+}
+
 void PlayedSlot::Record(const std::string& commands) {
   Ahead ahead(*this, {});
   commands_.Add(commands);

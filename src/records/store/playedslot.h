@@ -42,6 +42,8 @@ class PlayedSlot {
 
   /// Gives the present a name that it can be gone back to by; a commit of its own.
   void Name(const std::string& name);
+  /// Takes such a name off again; the moment is a named one.
+  void ForgetName(std::size_t moment);
 
   /// Whether what the player does is recorded, and to keep what has changed nothing of the world.
   bool Records() const { return commands_.Records(); }

@@ -26,6 +26,10 @@ std::string_view KindOf(const Moment& moment) {
   }
 }
 
+bool IsNamed(const PastMoment& past) {
+  return past.Of.Is == MomentKind::Named;
+}
+
 /// What the game can go back to.
 class frmMornings : public GameScreen {
  public:
@@ -42,7 +46,7 @@ class frmMornings : public GameScreen {
 
   ui::Page Layout() override {
     return PageOf(ui::Group("", {ui::Grow(lstmornings), lblkept}), &lblfacts,
-                  {&cmdundo, &cmdredo, &cmdname}, &cmdgo);
+                  {&cmdundo, &cmdredo, &cmdname, &cmdforget}, &cmdgo);
   }
 
   void Return() override {
@@ -55,6 +59,7 @@ class frmMornings : public GameScreen {
     EnableUnless(cmdname, why);
     ShowClick(cmdundo, "Undo", desk().Undo, "Nothing was done today that can be taken back.");
     ShowClick(cmdredo, "Redo", desk().Redo, "Nothing was taken back.");
+    cmdforget.Visible = std::ranges::any_of(past_, IsNamed);
     lstmornings_Click();
   }
 
@@ -67,10 +72,9 @@ class frmMornings : public GameScreen {
          [this](const PastMoment& past) { return SinceText(game_, past); }},
         {{"Image", K::Percent}, [](const PastMoment& past) { return ui::Cell(past.Image); }},
         {{"Kind", K::Tag}, [](const PastMoment& past) { return std::string(KindOf(past.Of)); }}};
-    const auto isNamed = [](const PastMoment& past) { return past.Of.Is == MomentKind::Named; };
-    if (std::ranges::any_of(past_, isNamed))
-      columns.push_back({{"Name"}, [isNamed](const PastMoment& past) {
-                           return isNamed(past) ? past.Of.Name : std::string();
+    if (std::ranges::any_of(past_, IsNamed))
+      columns.push_back({{"Name"}, [](const PastMoment& past) {
+                           return IsNamed(past) ? past.Of.Name : std::string();
                          }});
     if (std::ranges::any_of(past_, &PastMoment::OnOtherRoad))
       columns.push_back(
@@ -93,7 +97,12 @@ class frmMornings : public GameScreen {
     return place >= 1 && place <= past_.size() ? &past_[place - 1] : nullptr;
   }
 
-  void lstmornings_Click() { EnableUnless(cmdgo, Chosen() ? "" : "Choose a morning first."); }
+  void lstmornings_Click() {
+    const PastMoment* chosen = Chosen();
+    const bool isNamed = chosen && IsNamed(*chosen);
+    EnableUnless(cmdgo, chosen ? "" : "Choose a morning first.");
+    EnableUnless(cmdforget, isNamed ? "" : "Choose a moment that you have named first.");
+  }
 
   void cmdgo_Click() {
     if (const PastMoment* chosen = Chosen()) AskAndGoBack(game_, PastMoment(*chosen));
@@ -105,6 +114,18 @@ class frmMornings : public GameScreen {
     if (name.empty() || desk().Objects(WhyNotName(name)) || !MayForget()) return;
     game_.Commit();
     game_.OpenedSlot().Name(name);
+    Return();
+  }
+
+  void cmdforget_Click() {
+    const PastMoment* chosen = Chosen();
+    if (!chosen || !desk().Ask("Forget The Name",
+                               MomentText(chosen->Of) +
+                                   " is kept no longer then, unless it is a morning that is kept "
+                                   "anyway. Forget it?",
+                               ui::Default::No))
+      return;
+    game_.OpenedSlot().ForgetName(chosen->Number);
     Return();
   }
 
@@ -140,6 +161,7 @@ class frmMornings : public GameScreen {
   ui::Button cmdundo{*this, "cmdundo", "Undo", [this] { desk().Take(desk().Undo); }};
   ui::Button cmdredo{*this, "cmdredo", "Redo", [this] { desk().Take(desk().Redo); }};
   ui::Button cmdname{*this, "cmdname", "Name This Moment", &frmMornings::cmdname_Click};
+  ui::Button cmdforget{*this, "cmdforget", "Forget The Name", &frmMornings::cmdforget_Click};
   ui::Button cmdgo{*this, "cmdgo", "Go There", &frmMornings::cmdgo_Click};
 };
 
