@@ -221,6 +221,7 @@ enum PastOutcome {
   kRunGoesOn,
   kRunEnds,  // of {F}, {count} wins
   kSlumpEnds,
+  kSlumpGoesOn,
   kSeriesTips,  // {F} is one ahead
   kWordKept,
   kWordEaten,    // by {F}, who spoke
@@ -232,6 +233,7 @@ enum PastOutcome {
   kCrownBack,
   kEveryCrown,
   kBackWithAWin,
+  kBackBeaten,
   kLastBow,
   kFiftyDone,
   kWentTooFar,    // {F} is badly hurt

@@ -77,7 +77,8 @@ constexpr OutcomeRow kOutcomes[] = {
     {kReignLong, Who::One, false, kReignGrows},   {kReignLong, Who::Two, true, kReignOver},
     {kOnceChampion, Who::One, true, kCrownBack},  {kTitleAgain, Who::One, true, kCrownBack},
     {kAwayLong, Who::One, false, kBackWithAWin},  {kMetFiftyTimes, Who::Either, false, kFiftyDone},
-    {kTitleAgain, Who::Two, false, kSameAgain},
+    {kTitleAgain, Who::Two, false, kSameAgain},   {kLossesInARow, Who::Two, false, kSlumpGoesOn},
+    {kAwayLong, Who::Two, false, kBackBeaten},
 };
 
 /// Two ends that would say the same of a match, or the opposite of it.
@@ -116,9 +117,10 @@ const OutcomeRow* OutcomeOf(const PastFact& fact, const std::vector<int>& winner
 /// The fact seen from the end: who has won comes first, unless it is about who has lost.
 PastFact AsEnded(const PastFact& fact, const OutcomeRow& row, const std::vector<int>& winners) {
   PastFact ended = fact;
-  const bool aboutLoser = row.Tells == kRunEnds || row.Tells == kWordEaten ||
-                          row.Tells == kNotPaidBack || row.Tells == kSaidTooMuch ||
-                          row.Tells == kReignOver || row.Tells == kFiftyDone;
+  constexpr PastOutcome kOfLosers[] = {kRunEnds,   kWordEaten,   kSaidTooMuch, kReignOver,
+                                       kFiftyDone, kNotPaidBack, kSlumpGoesOn, kBackBeaten};
+  const bool aboutLoser =
+      std::find(std::begin(kOfLosers), std::end(kOfLosers), row.Tells) != std::end(kOfLosers);
   if (!aboutLoser && Share(winners, fact.Two)) std::swap(ended.One, ended.Two);
   return ended;
 }

@@ -172,11 +172,17 @@ TEST_P(Voices, SettleAMatchOneWay) {
   TellPastEnding(teller);
   EXPECT_TRUE(WasSaid(memory, Family::PastEnding, kPaidBack, GetParam()));
   EXPECT_FALSE(WasSaid(memory, Family::PastEnding, kSameAgain, GetParam())) << teller.Text();
-  LineMemory lost;
-  Teller beaten(world, segment, scene, lost);
-  beaten.Told = {{kWasAttacked, 80, {2}, {1}, 0, 7}};
-  TellPastEnding(beaten);
-  EXPECT_TRUE(WasSaid(lost, Family::PastEnding, kNotPaidBack, GetParam())) << beaten.Text();
+  // What whoever had cause to win comes to when they lose.
+  for (const auto& [before, tells] : {std::pair(kWasAttacked, kNotPaidBack),
+                                      {kLossesInARow, kSlumpGoesOn},
+                                      {kAwayLong, kBackBeaten}}) {
+    LineMemory lost;
+    Teller beaten(world, segment, scene, lost);
+    beaten.Told = {{before, 80, {2}, {1}, 5, 7}};
+    TellPastEnding(beaten);
+    EXPECT_TRUE(WasSaid(lost, Family::PastEnding, tells, GetParam())) << beaten.Text();
+    EXPECT_NE(beaten.Text().find("Bo"), std::string::npos) << "it is about the loser";
+  }
   // A series to nothing ends as its last match does, one that is only led does not.
   for (const int days : {20, -1}) {
     LineMemory fresh;
