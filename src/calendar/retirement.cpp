@@ -20,7 +20,7 @@ namespace grapplemont {
 namespace {
 
 /// One who goes on whatever their age is.
-constexpr std::string_view kIronMan = "Tobias Fenn";
+constexpr std::string_view kTireless = "Tobias Fenn";
 
 /// At this age and above one in this many stops; 1 is everybody and needs no draw.
 struct AgeBand {
@@ -110,7 +110,7 @@ void LeaveTheRing(World& world, Worker& worker) {
 void Birthday(World& world, Worker& worker) {
   GrowOlder(world, worker);
   const bool hadEnough = DrawStop(world, worker.Age, kWorkersStop);
-  if (hadEnough && worker.Name != kIronMan)
+  if (hadEnough && worker.Name != kTireless)
     Announce(world, worker);
   else
     LeaveTheRing(world, worker);

@@ -35,8 +35,8 @@ constexpr Words kHelpedALot = {
      "That feud was excellent, brother, it has really helped the Maulster. "},
     {"That last feud rocked, it has helped my career a lot! ",
      "That last feud rocked, brother, Maulamania is running wilder than ever! "}};
-constexpr Wording kGreat = {"The last feud was great, thanks. ",
-                            "The last feud was great, thanks, brother. "};
+constexpr Wording kWasGreat = {"The last feud was great, thanks. ",
+                               "The last feud was great, thanks, brother. "};
 constexpr Wording kExcellent = {
     "My last feud was excellent, it has helped me a lot. ",
     "My last feud was excellent, brother, it has helped the Maulster a lot. "};
@@ -49,7 +49,7 @@ constexpr FeudMail kMails[] = {
      "That last feud ruled, we hope the next one is just as good! "},
     {FeudStory::Comeback,
      false,
-     {kGreat, kGreat},
+     {kWasGreat, kWasGreat},
      "Great feud, that helped both us and our opponents get over. ",
      "Great feud, that helped both us and our opponents get over. "},
     {FeudStory::Long,

@@ -15,6 +15,8 @@ namespace grapplemont {
 
 namespace {
 
+using Style = ui::Report::Style;
+
 constexpr int kMonthsShown = 120;
 constexpr std::size_t kNightsShown = 20;
 constexpr int kLettersOfWide = 190;  // of a window that has room for more than news and figures
@@ -66,7 +68,6 @@ class frmTheEnd : public ui::Screen {
   }
 
   void Load() override {
-    using Style = ui::Report::Style;
     const World& world = game_.World();
     EnableUnless(cmdmornings, WhyNoWayBack(game_));
     const EndStory story = StoryOfTheEnd(world, world.Game().EndCode);

@@ -12,6 +12,8 @@ namespace grapplemont {
 
 namespace {
 
+using Style = ui::Report::Style;
+
 class frmTitleScreen : public ui::Screen {
  public:
   explicit frmTitleScreen(Game& game)
@@ -186,7 +188,6 @@ class frmCredits : public GameScreen {
  public:
   explicit frmCredits(Game& game)
       : GameScreen(game, "frmCredits", "Credits", {.Is = ui::Role::Cover}) {
-    using Style = ui::Report::Style;
     rptcredits.Write(
         {{Style::Heading, "Grapplemont"},
          {Style::Body, "Made by the people of the Grapplemont project."},
@@ -222,7 +223,6 @@ class frmCreditsXtra : public GameScreen {
  public:
   explicit frmCreditsXtra(Game& game)
       : GameScreen(game, "frmCreditsXtra", "Other Credits", {.Is = ui::Role::Cover}) {
-    using Style = ui::Report::Style;
     rptcredits.Write({{Style::Strong, "Built with"},
                       {Style::Body,
                        "Qt (the window), GoogleTest and Google Benchmark (the proof), and the "
