@@ -216,7 +216,8 @@ void Finder::ShowRows(const QString& letters) {
       item->setFlags(Qt::NoItemFlags);
   }
   if (rows_.empty()) {
-    auto* none = new QListWidgetItem("Nothing is called \"" + letters + "\".", list_);
+    auto* none =
+        new QListWidgetItem("Nothing is called \"" + letters + "\". Try one word of it.", list_);
     none->setFlags(Qt::NoItemFlags);
   }
   list_->setCurrentRow(rows_.empty() ? -1 : 1);

@@ -160,10 +160,27 @@ void StepScreen::ShowStep(int step) {
                      : "Kept from before, if it still holds then.";
 }
 
+std::vector<std::string> StepScreen::Chosen(const Segment& draft) {
+  std::vector<std::string> lines = SoFar(world(), draft);
+  const bool isCrowd = draft.Kind == kMatch && draft.Style == kSpecial;
+  if (!marks_ || isCrowd) return lines;
+  for (const int uid : PeopleOf(draft)) {
+    const std::string marks = MarksOf(uid), name = SideText(world(), {uid});
+    if (marks.empty()) continue;
+    const auto own = std::ranges::find_if(
+        lines, [&](const std::string& line) { return line.starts_with(name + ": "); });
+    if (own != lines.end())
+      *own += ", " + marks;
+    else
+      lines.push_back(name + ": " + marks);
+  }
+  return lines;
+}
+
 void StepScreen::ShowOutlook() {
   if (!isReady_) return;
   const Segment draft = Draft();
-  std::string lines = Joined(SoFar(world(), draft), "\n");
+  std::string lines = Joined(Chosen(draft), "\n");
   const std::vector<int> champions = NewChampions(world(), draft);
   if (!champions.empty()) lines += "\nNew champion: " + SideText(world(), champions);
   lblwho.Text = lines.empty() ? "Nobody has been chosen yet." : lines;

@@ -92,6 +92,8 @@ class StepScreen : public ui::Screen {
   void ShowOutlook();
 
  private:
+  /// Who is chosen, a line a side, and their marks, which lists abreast may have no room for.
+  std::vector<std::string> Chosen(const Segment& draft);
   void Finish(bool goOn);
   bool IsLast();
   void Leave();
