@@ -58,6 +58,25 @@ TEST(TheMorningAfter, SaysFirstThatTheNightWasFlatAndWhatItTook) {
   }
 }
 
+TEST(TheMorningAfter, SaysWhyNobodyHasBoughtAnEvent) {
+  GameOnWorld play(OnSunday());
+  World& world = play.World();
+  BookOne(world);
+  StartShow(world, false, {});
+  RunNextSegment(world, nullptr);
+  CloseShow(world);
+  HistoryEntry held;
+  held.On = world.Today();
+  held.Kind = kPastEvent;
+  held.Promotion = world.PlayerUid();
+  world.History().Append(held);
+  play.Desk.Open("frmMorning");
+  EXPECT_EQ(play.Desk.Text("lblviewers"), "-");
+  EXPECT_EQ(play.Desk.Text("lblnote(4)"), "No pay-per-view");
+  EXPECT_EQ(play.Desk.Tip("cmdwhy(4)"), "No pay-per-view, so there are no steps.");
+  EXPECT_EQ(play.Desk.Text("lblnote(3)"), "Not moved");
+}
+
 TEST(TheReportColumn, ReadsAShowAgainFromItsRow) {
   GameOnWorld play(OnSunday());
   World& world = play.World();

@@ -142,9 +142,11 @@ class frmMorning : public GameScreen {
   }
 
   /// An Event is bought, a show on television is watched.
+  bool IsBought(const Figure& figure) const {
+    return figure.Kind == kNoteViewers && morning_.Show && morning_.Show->Kind == kPastEvent;
+  }
   const char* CaptionOf(const Figure& figure) const {
-    const bool isBought = morning_.Show && morning_.Show->Kind == kPastEvent;
-    return isBought && figure.Kind == kNoteViewers ? "Buy rate" : figure.Caption;
+    return IsBought(figure) ? "Buy rate" : figure.Caption;
   }
 
   /// What stands below the number: where it came from, and how it was the last time.
@@ -169,10 +171,11 @@ class frmMorning : public GameScreen {
   void ShowFigure(int i) {
     const Figure& figure = FigureAt(i);
     const NotedNumber* number = morning_.Of(figure.Kind);
-    EnableUnless(cmdwhy(i), number ? "" : "The show has not moved it.");
+    const std::string none = IsBought(figure) ? "No pay-per-view" : "Not moved";
+    EnableUnless(cmdwhy(i), number ? "" : none + ", so there are no steps.");
     if (!number) {
       lblfigures(i).Text = "-";
-      lblnotes(i).Text = "Not moved";
+      lblnotes(i).Text = none;
       return;
     }
     lblfigures(i).Text = FigureText(figure, *number);
