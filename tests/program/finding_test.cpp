@@ -101,10 +101,16 @@ TEST_F(FindingTest, LeadsOnWhoSaysItInWordsOfTheirOwn) {
     const auto found = Play.Desk.NewSearch()(typed, 1);
     EXPECT_EQ(found.empty() ? "" : found.front().Words, page) << typed;
   }
-  const std::pair<const char*, std::string_view> rooms[] = {
-      {"sign somebody", "Other Workers"},  {"hire", "Other Workers"}, {"sack", "Roster"},
-      {"how do I fire someone", "Roster"}, {"tv deal", "Television"}, {"schedule", "Events"},
-      {"new champion", "Titles"},          {"injured", "Roster"}};
+  const std::pair<const char*, std::string_view> rooms[] = {{"sign somebody", "Other Workers"},
+                                                            {"hire", "Other Workers"},
+                                                            {"sack", "Roster"},
+                                                            {"how do I fire someone", "Roster"},
+                                                            {"tv deal", "Television"},
+                                                            {"schedule", "Events"},
+                                                            {"new champion", "Titles"},
+                                                            {"hire a writer", "Other Staff"},
+                                                            {"create a stable", "Stables"},
+                                                            {"injured", "Roster"}};
   for (const auto& [typed, room] : rooms) {
     const auto fit = [typed = typed](const HubCommand& command) {
       const int is = FitOfName(command.Caption, command.Also, typed);
