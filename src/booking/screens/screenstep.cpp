@@ -160,7 +160,7 @@ void StepScreen::ShowStep(int step) {
                      : "Kept from before, if it still holds then.";
 }
 
-std::vector<std::string> StepScreen::Chosen(const Segment& draft) {
+std::vector<std::string> StepScreen::ChosenLines(const Segment& draft) {
   std::vector<std::string> lines = SoFar(world(), draft);
   const bool isCrowd = draft.Kind == kMatch && draft.Style == kSpecial;
   if (!marks_ || isCrowd) return lines;
@@ -180,7 +180,7 @@ std::vector<std::string> StepScreen::Chosen(const Segment& draft) {
 void StepScreen::ShowOutlook() {
   if (!isReady_) return;
   const Segment draft = Draft();
-  std::string lines = Joined(Chosen(draft), "\n");
+  std::string lines = Joined(ChosenLines(draft), "\n");
   const std::vector<int> champions = NewChampions(world(), draft);
   if (!champions.empty()) lines += "\nNew champion: " + SideText(world(), champions);
   lblwho.Text = lines.empty() ? "Nobody has been chosen yet." : lines;

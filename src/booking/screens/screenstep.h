@@ -93,7 +93,7 @@ class StepScreen : public ui::Screen {
 
  private:
   /// Who is chosen, a line a side, and their marks, which lists abreast may have no room for.
-  std::vector<std::string> Chosen(const Segment& draft);
+  std::vector<std::string> ChosenLines(const Segment& draft);
   void Finish(bool goOn);
   bool IsLast();
   void Leave();
