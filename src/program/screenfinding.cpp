@@ -196,13 +196,13 @@ void AddMoments(Game& game, std::string_view typed, std::size_t most,
 
 void AddTerms(Game& game, std::string_view typed, std::size_t most,
               std::vector<ui::Finding>& findings) {
-  for (const GlossaryTerm* term : TermsLike(typed, most))
+  for (const auto& [term, fit] : TermsLike(typed, most))
     findings.push_back({"Glossary",
                         term->Name,
                         term->Of,
                         {},
-                        [&game, term] { game.Desk().OpenGlossary(term->Name); },
-                        std::max(0, FitOfName(term->Name, {}, typed))});
+                        [&game, term = term] { game.Desk().OpenGlossary(term->Name); },
+                        fit});
 }
 
 }  // namespace

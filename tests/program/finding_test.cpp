@@ -101,6 +101,10 @@ TEST_F(FindingTest, LeadsOnWhoSaysItInWordsOfTheirOwn) {
     const auto found = Play.Desk.NewSearch()(typed, 1);
     EXPECT_EQ(found.empty() ? "" : found.front().Words, page) << typed;
   }
+  const auto terms = Play.Desk.NewSearch()("momentom", 5);
+  EXPECT_TRUE(std::ranges::any_of(terms, [](const ui::Finding& one) {
+    return one.Heading == "Glossary" && one.Words == "Momentum";
+  })) << "a slip in a term";
   const std::pair<const char*, std::string_view> rooms[] = {{"sign somebody", "Other Workers"},
                                                             {"hire", "Other Workers"},
                                                             {"sack", "Roster"},

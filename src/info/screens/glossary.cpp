@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "info/screens/glossaryfigures.h"
+#include "info/search.h"
 #include "records/fields/wording.h"
 #include "records/world.h"
 #include "ui/game.h"
@@ -151,18 +152,14 @@ const GlossaryTerm* FindTerm(std::string_view heading) {
   return found;
 }
 
-std::vector<const GlossaryTerm*> TermsLike(std::string_view typed, std::size_t most) {
-  const std::string small = Small(typed);
-  std::vector<const GlossaryTerm*> begin, hold;
-  if (small.empty()) return begin;
-  for (const GlossaryTerm& term : Glossary()) {
-    const auto at = Small(term.Name).find(small);
-    if (at == 0) begin.push_back(&term);
-    if (at != std::string::npos && at > 0) hold.push_back(&term);
-  }
-  begin.insert(begin.end(), hold.begin(), hold.end());
-  begin.resize(std::min(begin.size(), most));
-  return begin;
+std::vector<TermFit> TermsLike(std::string_view typed, std::size_t most) {
+  std::vector<TermFit> terms;
+  for (const GlossaryTerm& term : Glossary())
+    if (const int fit = FitOfName(term.Name, Joined(term.Also, " "), typed); fit >= 0)
+      terms.push_back({&term, fit});
+  std::ranges::stable_sort(terms, {}, &TermFit::Fit);
+  if (terms.size() > most) terms.resize(most);
+  return terms;
 }
 
 }  // namespace grapplemont

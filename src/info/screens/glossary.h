@@ -20,7 +20,13 @@ const std::vector<GlossaryTerm>& Glossary();
 /// By its name or a short heading; of several of a name a worker's, then the first. nullptr for
 /// none.
 const GlossaryTerm* FindTerm(std::string_view heading);
-/// Terms in whose names the letters stand, those that begin with them first; none for no letters.
-std::vector<const GlossaryTerm*> TermsLike(std::string_view typed, std::size_t most);
+/// A term, and how far it is from what was typed: 0 is best.
+struct TermFit {
+  const GlossaryTerm* Term;
+  int Fit;
+};
+/// Terms that are called like this, or whose short headings are, the best first; a slip is
+/// forgiven. None for no letters.
+std::vector<TermFit> TermsLike(std::string_view typed, std::size_t most);
 
 }  // namespace grapplemont
