@@ -278,10 +278,24 @@ void TableGrid::DropAt(int row) {
   viewport()->update();
 }
 
+/// Where only a stump of what is read first would stand at the edge, the columns before it are
+/// scrolled away.
+void TableGrid::BeginAtName() {
+  constexpr int kRead = 180;
+  if (model_.Pin.Count > 0 || model_.rowCount() == 0) return;
+  const auto& columns = model_.Table().Columns();
+  const int name = columns[static_cast<std::size_t>(model_.Table().NamePlace())];
+  const int left = columnViewportPosition(name);
+  if (left + std::min(columnWidth(name), Px(kRead)) > viewport()->width())
+    horizontalScrollBar()->setValue(left);
+}
+
 void TableGrid::paintEvent(QPaintEvent* event) {
   // Only now is it certain what room there is.
-  if (!std::exchange(painted_, true) && currentIndex().isValid())
-    scrollTo(currentIndex(), PositionAtCenter);
+  if (!std::exchange(painted_, true)) {
+    if (currentIndex().isValid()) scrollTo(currentIndex(), PositionAtCenter);
+    BeginAtName();
+  }
   QTableView::paintEvent(event);
   QPainter painter(viewport());
   DrawBeyond(painter);

@@ -93,6 +93,7 @@ class TableGrid : public QTableView {
   /// Picks a row as the keys that are held with it say.
   void PickAs(int row, Qt::KeyboardModifiers held);
   void UpdatePinned();
+  void BeginAtName();
   void DrawPinned(QPainter& painter);
   void DrawBeyond(QPainter& painter);
   void DrawCursor(QPainter& painter);

@@ -44,6 +44,38 @@ TEST(TheTables, KeepTheirColumnsTogetherAndAnEmptyOneLeavesItsRoomToAnother) {
   EXPECT_NEAR(next.height(), play.Grid("lstmembers").height(), 80);
 }
 
+/// News of which the day and its kind leave the story no room.
+TEST(TheTables, BeginWithWhatIsReadFirstWhereItWouldBeAStump) {
+  class Stories : public ui::Screen {
+   public:
+    explicit Stories(ui::Desk& desk) : Screen(desk, "frmStories", "Stories") {
+      lststories.Add({"15/05/26", "Departure", "Somebody has left whom all of us will miss"}, 1);
+    }
+    ui::Page Layout() override {
+      return {.Body = ui::Columns({ui::Group("", {ui::Grow(lststories)}).Grow(1),
+                                   ui::Group("", {ui::Grow(lstother)}).Grow(2)})};
+    }
+    ui::ListBox lststories{*this,
+                           "lststories",
+                           {{"Date", ui::ColumnKind::Date, 2},
+                            {"What", ui::ColumnKind::Tag, 2},
+                            {"Story", ui::ColumnKind::Text, 14}}};
+    ui::ListBox lstother{*this, "lstother"};
+  };
+  for (const int percent : {100, 200}) {
+    Player play;
+    play.Window.SetLook(desktop::Scheme::Dark, desktop::DesktopText() * (percent - 100) / 100);
+    play.Window.resize(1024, 640);
+    play.Open(std::make_unique<Stories>(play.Desk));
+    for (int i = 0; i < 4; ++i) QApplication::processEvents();
+    const desktop::TableGrid& grid = play.Grid("lststories");
+    grid.viewport()->grab();
+    const int seen = grid.viewport()->width() - grid.columnViewportPosition(2);
+    EXPECT_GE(seen, std::min(grid.columnWidth(2), grid.viewport()->width() / 2)) << percent;
+    play.Window.SetLook(desktop::Scheme::Dark, 0);
+  }
+}
+
 /// A narrow table whose bars have to leave.
 class HurtPage : public ui::Screen {
  public:
