@@ -50,10 +50,16 @@ QSize WrappedLabel::minimumSizeHint() const {
           fontMetrics().height()};
 }
 
+/// A line that is hardly longer than can be read does not leave a word alone in the next.
+int WrappedLabel::RoomIn(int width) const {
+  const int readable = ReadableWidth();
+  return NaturalWidth() <= readable * 6 / 5 ? width : std::min(width, readable);
+}
+
 int WrappedLabel::heightForWidth(int width) const {
   const QMargins sides = contentsMargins();
   const int across = sides.left() + sides.right();
-  const int room = std::min(width - across, ReadableWidth());
+  const int room = RoomIn(width - across);
   if (text().isEmpty()) return QLabel::heightForWidth(room + across);
   if (oneLine_) return fontMetrics().height() + sides.top() + sides.bottom();
   const int words = WordsHeight(font(), text(), room);
@@ -79,7 +85,7 @@ void WrappedLabel::paintEvent(QPaintEvent*) {
     return DrawWords(painter, contentsRect(), Qt::AlignVCenter, font(),
                      WordsWithin(font(), text().simplified(), contentsRect().width()));
   QRect room = contentsRect();
-  if (alignment() & Qt::AlignLeft) room.setWidth(std::min(room.width(), ReadableWidth()));
+  if (alignment() & Qt::AlignLeft) room.setWidth(RoomIn(room.width()));
   DrawWrapped(painter, room, alignment(), font(), text());
 }
 

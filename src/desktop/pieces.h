@@ -51,6 +51,7 @@ class WrappedLabel : public QLabel {
  private:
   int NaturalWidth() const;
   int WordWidth() const;
+  int RoomIn(int width) const;
 
   int unbroken_;
   bool oneLine_ = false;
