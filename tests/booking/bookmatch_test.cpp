@@ -177,7 +177,15 @@ TEST(BookMatch, BooksAPlainSinglesMatchWithWhatIsPreselected) {
   play.Desk.OpenRow("lstwres1", "Man 3");
   EXPECT_EQ(play.Desk.TopName(), "frmBook1vs1") << "not every list has a pick";
   play.Desk.OpenRow("lstwres2", "Man 4");
-  for (int step = 4; step < 9; ++step) play.Next();
+  for (int step = 4; step < 6; ++step) play.Next();
+  ASSERT_EQ(play.Desk.TopName(), "frmBook1vs1Finish");
+  for (const auto& [finish, says] :
+       {std::pair("Man 3 by interference", "Nobody has been asked yet."),
+        std::pair("Man 3 cleanly", "Nobody objects.")}) {
+    play.Desk.Pick("lstfinish", finish);
+    EXPECT_EQ(play.Desk.Text("txtsay"), says) << finish;
+  }
+  for (int step = 6; step < 9; ++step) play.Next();
   EXPECT_TRUE(play.Desk.Empty());
   Segment expected = MatchOf(play.World(), kSingles, kPlainSingles, {"Man 3", "Man 4"});
   expected.Winner = 3;

@@ -321,7 +321,7 @@ TEST(Refusals, GiveWhyTheyAreFinal) {
     for (const Refusal& refusal : refusals) EXPECT_EQ(refusal.Veto, row.Veto);
     const PriceTold told =
         TellPrice(world, Match(world, row.Style, row.Type, row.Winner, {1}), EmptySegment());
-    EXPECT_TRUE(told.Text.starts_with("It cannot be booked so.\n")) << told.Text;
+    EXPECT_TRUE(told.Text.starts_with("It cannot be booked like this.\n")) << told.Text;
     EXPECT_TRUE(told.Text.ends_with(row.Veto)) << told.Text;
     EXPECT_FALSE(told.IsFree);
   }

@@ -224,7 +224,9 @@ void StepScreen::ShowForecast(const Segment& draft) {
   const bool any = now.Rating != Forecast{};
   lblforecast.Colour = any ? ui::Tone::Plain : ui::Tone::Muted;
   lblforecast.Tip = any && draft.Kind == kMatch ? kLuckLeftOut : "";
-  lblforecast.Text = any ? ForecastText(now.Rating) : "Told once people are chosen.";
+  lblforecast.Text = any                       ? ForecastText(now.Rating)
+                     : PeopleOf(draft).empty() ? "Told once people are chosen."
+                                               : "Told once nothing is missing.";
   EnableUnless(*cmdwhy, any ? "" : "Nothing has been foreseen yet.");
   before_ = any && whole ? std::optional(now.Rating) : std::nullopt;
   typical_ = std::move(now.Typical);
@@ -323,7 +325,8 @@ bool MatchStepScreen::IsOverruled(const Refusal& refusal) {
 void MatchStepScreen::ShowObjections(const Segment& draft, MatchStep step) {
   std::vector<Refusal> refusals;
   std::string price;
-  if (WhyNotLeft(draft, step).empty()) {
+  const std::string lacks = WhyNotLeft(draft, step);
+  if (lacks.empty()) {
     refusals = RefusalsAt(world(), draft, step);
     // Where a purpose follows, its step tells the price.
     if (step == kResultStep && PurposesOf(draft.Style).empty())
@@ -335,6 +338,7 @@ void MatchStepScreen::ShowObjections(const Segment& draft, MatchStep step) {
   if (refusals.size() > kShown)
     text += "and " + std::to_string(refusals.size() - kShown) + " more.\n";
   if (refusals.empty()) text = price.empty() ? "Nobody objects." : "Nobody objects aloud; ";
+  if (!lacks.empty()) text = "Nobody has been asked yet.";
   if (!refusals.empty() && !price.empty()) text += "If you insist, ";
   if (!price.empty()) text += price + ".";
   if (text.back() == '\n') text.pop_back();

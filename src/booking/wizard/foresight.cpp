@@ -132,7 +132,7 @@ PriceTold TellPrice(const World& world, const Segment& segment, const Segment& p
   const std::vector<Refusal> refusals = RefusalsOf(world, segment);
   for (const Refusal& refusal : refusals)
     if (refusal.IsFinal || !refusal.Veto.empty())
-      return {"It cannot be booked so.\n" + refusal.Words +
+      return {"It cannot be booked like this.\n" + refusal.Words +
                   (refusal.Veto.empty() ? "" : "\n" + refusal.Veto),
               false};
   const PriceOfBooking price = PriceOf(world, segment, paid);
