@@ -52,6 +52,11 @@ QTextBlockFormat BlockOf(Style style, bool first) {
   return format;
 }
 
+/// Another window or a menu has the keyboard for a while.
+bool IsMeanwhile(const QFocusEvent& event) {
+  return event.reason() == Qt::ActiveWindowFocusReason || event.reason() == Qt::PopupFocusReason;
+}
+
 /// Long prose: a serif with wide lines.
 class ReportView : public ViewOf<QTextEdit, ui::Report> {
  public:
@@ -76,10 +81,15 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
   void Write(QTextCursor& cursor, const ui::Report::Paragraph& paragraph,
              const QTextCharFormat& letters);
   void WriteNames(QTextCursor& cursor, std::string_view text, const QTextCharFormat& letters);
+  /// Marks the next link, or the one before, as the keyboard's.
+  void StepLink(int by);
   /// The link under the mouse; nullptr for none.
   const ui::Link* LinkAt(const QMouseEvent& event) const;
 
-  std::vector<ui::Link> links_;  // of all paragraphs; an anchor's address is a place in here
+  /// Of all paragraphs, by where they stand in the document; an anchor's address is a place in
+  /// here.
+  std::vector<ui::Link> links_;
+  int marked_ = -1;  // the place of the keyboard's
   QPoint pressed_;
   bool isReached_ = false;  // by Tab, so that it shows where the keyboard is
   QString words_;           // of a report that grows, as they stood before
@@ -105,6 +115,7 @@ ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
 void ReportView::Show() {
   clear();
   links_.clear();
+  marked_ = -1;
   const Colours& colours = ColoursOf(this);
   QTextCursor cursor(document());
   cursor.beginEditBlock();  // it is laid out once, when all is written
@@ -152,7 +163,8 @@ void ReportView::Write(QTextCursor& cursor, const ui::Report::Paragraph& paragra
     QTextCharFormat leads = letters;
     leads.setAnchor(true);
     leads.setAnchorHref(QString::number(links_.size()));
-    links_.push_back({lead.From, lead.Length, [this, key = lead.Key] { control_.OnLead(key); }});
+    const auto from = static_cast<std::size_t>(cursor.position());
+    links_.push_back({from, lead.Length, [this, key = lead.Key] { control_.OnLead(key); }});
     WriteNames(cursor, words.substr(lead.From, lead.Length), leads);
     written = lead.From + lead.Length;
   }
@@ -169,8 +181,10 @@ void ReportView::WriteNames(QTextCursor& cursor, std::string_view text,
     linked.setAnchorHref(QString::number(links_.size()));
     linked.setForeground(ColoursOf(this).Blue);
     cursor.insertText(Shown(text.substr(written, link.From - written)), letters);
-    cursor.insertText(Shown(text.substr(link.From, link.Length)), linked);
     written = link.From + link.Length;
+    const std::string_view name = text.substr(link.From, link.Length);
+    link.From = static_cast<std::size_t>(cursor.position());
+    cursor.insertText(Shown(name), linked);
     links_.push_back(std::move(link));
   }
   cursor.insertText(Shown(text.substr(written)), letters);
@@ -217,13 +231,15 @@ void ReportView::resizeEvent(QResizeEvent* event) {
 }
 
 void ReportView::focusInEvent(QFocusEvent* event) {
-  isReached_ = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  const Qt::FocusReason reason = event->reason();
+  if (!IsMeanwhile(*event))
+    isReached_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
   QTextEdit::focusInEvent(event);
   viewport()->update();
 }
 
 void ReportView::focusOutEvent(QFocusEvent* event) {
-  isReached_ = false;
+  isReached_ = isReached_ && IsMeanwhile(*event);
   QTextEdit::focusOutEvent(event);
   viewport()->update();
 }
@@ -235,8 +251,28 @@ void ReportView::paintEvent(QPaintEvent* event) {
   DrawFocus(painter, viewport()->rect(), Px(3), palette());
 }
 
-/// Arrows and pages scroll; Enter and Escape are the screen's.
+void ReportView::StepLink(int by) {
+  const auto count = static_cast<int>(links_.size());
+  const int before = marked_ < 0 && by < 0 ? 0 : marked_;
+  marked_ = (before + by + count) % count;
+  const ui::Link& link = links_[static_cast<std::size_t>(marked_)];
+  QTextCursor cursor(document());
+  cursor.setPosition(static_cast<int>(link.From));
+  cursor.setPosition(static_cast<int>(link.From + link.Length), QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+  ensureCursorVisible();
+  setAccessibleDescription(cursor.selectedText());
+  Announce(*this);
+}
+
+/// Arrows and pages scroll, those to the sides go from link to link; Enter and Escape are the
+/// screen's.
 void ReportView::keyPressEvent(QKeyEvent* event) {
+  if (marked_ >= 0 && IsEnter(event->key()) && event->modifiers().testFlag(Qt::ControlModifier))
+    return Follow(links_[static_cast<std::size_t>(marked_)].Open);
+  const bool aside = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
+  if (aside && event->modifiers() == Qt::NoModifier && !links_.empty())
+    return StepLink(event->key() == Qt::Key_Left ? -1 : 1);
   static const std::map<int, QAbstractSlider::SliderAction> kScrolls = {
       {Qt::Key_Down, QAbstractSlider::SliderSingleStepAdd},
       {Qt::Key_Up, QAbstractSlider::SliderSingleStepSub},

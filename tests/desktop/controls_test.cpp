@@ -192,9 +192,18 @@ TEST_F(TheLinks, OfAReportStandOutAndOpenWithAClickUnlessTheyAreMarked) {
   EXPECT_EQ(Notes, Log({"page of Bram"}));
 }
 
-TEST_F(TheLinks, StandInAReportThatShowsWhereTheKeyboardIs) {
+TEST_F(TheLinks, OfAReportAreReachedByTheKeyboardWhichIsSeenThere) {
   Play.Open(std::make_unique<LinkPage>(Play.Desk));
   auto& story = *qobject_cast<QTextEdit*>(Play.See("rptstory"));
+  for (const auto& [key, name] : {std::pair(Qt::Key_Right, "Ludo"),
+                                  {Qt::Key_Left, "Bram"},
+                                  {Qt::Key_Right, "Ludo"},
+                                  {Qt::Key_Right, "Bram"}}) {
+    QTest::keyClick(&story, key);
+    EXPECT_EQ(story.textCursor().selectedText().toStdString(), name);
+  }
+  QTest::keyClick(&story, Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(Notes, Log({"page of Bram"}));
   const auto edgeAfter = [&](QEvent::Type moved, Qt::FocusReason by) {
     QFocusEvent event(moved, by);
     QApplication::sendEvent(&story, &event);
