@@ -33,8 +33,8 @@ class frmBookWinner : public MatchStepScreen {
     for (int box = 1; box <= form_.Losers; ++box)
       boxes.push_back(ui::Field(LoserLabel(box), cmbloser(box)));
     boxes.push_back(ui::Spacer());
-    return ui::Rows({ui::Columns({ui::Group("Result", std::move(boxes)).Grow(2),
-                                  ui::Group("In the ring", {ui::Grow(lstring)}).Grow(3)})
+    return ui::Rows({ui::Columns({ui::Group("Result", std::move(boxes)).Grow(1),
+                                  ui::Group("In the ring", {ui::Grow(lstring)}).Grow(2)})
                          .Grow(),
                      Objections()});
   }
