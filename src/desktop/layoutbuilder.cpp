@@ -309,8 +309,11 @@ void LayoutBuilder::AddGrid(const Run& rows, QBoxLayout* into) {
     for (const Box& part : line->Parts) {
       ControlView* view = View(*part.Shown);
       Widen(*view->Widget(), part);
-      if (auto* words = dynamic_cast<WrappedLabel*>(view->Widget()); words && part.Stretch > 0)
+      if (auto* words = dynamic_cast<WrappedLabel*>(view->Widget()); words && part.Stretch > 0) {
         words->BreakFrom(kLeastWords);
+        // Beside many buttons a long word has to give way.
+        if (line->Parts.size() > 2) words->setMinimumWidth(Px(kLeastWords));
+      }
       grid->addWidget(view->Widget(), row, column, Qt::AlignVCenter);
       grid->setColumnStretch(column, part.Stretch);
       most = std::max(most, part.Stretch);

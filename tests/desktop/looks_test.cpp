@@ -499,7 +499,15 @@ TEST(TheLines, OfProseEndWhereTheyCanBeRead) {
       for (int i = 0; i < 60; ++i) words += "The crowd has waited for this. ";
       rptstory.Write(words);
     }
-    ui::Page Layout() override { return {.Body = ui::Rows({ui::Grow(rptstory)})}; }
+    ui::Page Layout() override {
+      return {.Body = ui::Rows({lblline, lbllines, ui::Grow(rptstory)})};
+    }
+    ui::Label lblline{*this, "lblline",
+                      "You must have a minimum of 4 matches, and a minimum of 8 segments overall."},
+        lbllines{
+            *this, "lbllines",
+            "You must have a minimum of 4 matches, and a minimum of 8 segments overall, before "
+            "the doors of the hall may be opened to the public."};
     ui::Report rptstory{*this, "rptstory"};
   };
   Player play;
@@ -511,6 +519,9 @@ TEST(TheLines, OfProseEndWhereTheyCanBeRead) {
   EXPECT_LT(story.document()->size().width(),
             QFontMetrics(desktop::ProseFont()).horizontalAdvance(letters));
   EXPECT_GT(story.width(), 2000) << "the page has the room";
+  const int line = play.See("lblline")->fontMetrics().height();
+  EXPECT_LT(play.See("lblline")->height(), 2 * line) << "no word stands alone below it";
+  EXPECT_GE(play.See("lbllines")->height(), 2 * line);
 }
 
 }  // namespace
