@@ -182,7 +182,9 @@ void TellBody(Teller& teller, const BoutRow& bout) {
   teller.IsBrief = row.size() <= kSquashSteps;
   teller.IsTitleSquash = isSingles && teller.IsBrief && !teller.cast.Thing(Item::Title).empty() &&
                          !EndsWithoutFall(FinishCode(teller));
-  if (teller.IsTitleSquash) teller.Say(Family::Squash, kSquashBegins);
+  // Whoever is hit first and has to turn it has rushed at nobody.
+  const bool isOneWay = row.find('#') == row.npos;
+  if (teller.IsTitleSquash && isOneWay) teller.Say(Family::Squash, kSquashBegins);
   ring.Play(row, bout.Spot, winner, loser);
 }
 

@@ -247,7 +247,7 @@ TEST_P(Voices, MakeAnEventOfATitleSquash) {
   World world = Two();
   world.Game().Reporter = GetParam();
   int told = 0;
-  for (int round = 0; round < 60; ++round) {
+  for (int round = 0; round < 120; ++round) {
     for (const char* title : {"Crown", "None"}) {
       LineMemory memory;
       Scene scene;
@@ -256,7 +256,9 @@ TEST_P(Voices, MakeAnEventOfATitleSquash) {
       if (round % 3 == 0) segment.Finish = kCountOut;
       WriteReport(world, segment, scene, memory);
       const bool begins = WasSaid(memory, Family::Squash, kSquashBegins, GetParam());
-      EXPECT_EQ(begins, WasSaid(memory, Family::Squash, kSquashDone, GetParam()));
+      const bool isTurned = WasSaid(memory, Family::Counter, 0, GetParam());
+      const bool isDone = WasSaid(memory, Family::Squash, kSquashDone, GetParam());
+      EXPECT_EQ(begins, isDone && !isTurned) << "the other one had the first word";
       EXPECT_TRUE(!begins || (title == std::string("Crown") && segment.Finish == kClean));
       told += begins;
     }
