@@ -14,17 +14,22 @@ namespace {
 
 constexpr int kRecalled = 35;  // days
 
-/// Angles in which somebody is beaten up: at which places those who do it stand, and whom they hit.
-struct AttackRow {
+/// At which places of an angle those stand who do it, and those to whom it is done.
+struct ActRow {
   int Angle;
   std::initializer_list<int> By, On;
 };
-const AttackRow kAttacks[] = {{kAmbush, {2, 3}, {1}},         {kGetTheTable, {3, 4}, {1, 2}},
-                              {kLadderToSuccess, {2}, {1}},   {kBloodGetsSpilt, {2}, {1}},
-                              {kGettingGroinal, {2, 3}, {1}}, {kStrengthInNumbers, {2, 3, 4}, {1}},
-                              {kDebutAttack, {2}, {1}},       {kParamedics, {2}, {1}},
-                              {kFireball, {2}, {1}},          {kDoubleTrouble, {1, 2}, {3, 4}},
-                              {kWeakestLink, {2, 3}, {1}},    {kTeamDebutAttack, {1, 2}, {3, 4}}};
+/// Angles in which somebody is beaten up.
+const ActRow kAttacks[] = {{kAmbush, {2, 3}, {1}},         {kGetTheTable, {3, 4}, {1, 2}},
+                           {kLadderToSuccess, {2}, {1}},   {kBloodGetsSpilt, {2}, {1}},
+                           {kGettingGroinal, {2, 3}, {1}}, {kStrengthInNumbers, {2, 3, 4}, {1}},
+                           {kDebutAttack, {2}, {1}},       {kParamedics, {2}, {1}},
+                           {kFireball, {2}, {1}},          {kDoubleTrouble, {1, 2}, {3, 4}},
+                           {kWeakestLink, {2, 3}, {1}},    {kTeamDebutAttack, {1, 2}, {3, 4}}};
+
+/// Angles in which somebody asks for a match.
+const ActRow kChallenges[] = {
+    {kChallenge, {1}, {2}}, {kWhyWait, {1}, {2}}, {kTagChallenge, {1, 2}, {3, 4}}};
 
 /// Of an interview: the others hear what is coming to them.
 bool IsThreat(int purpose) {
@@ -50,13 +55,20 @@ class Recall {
         if (act.Is(kStruck)) Attack(PeopleOf(segment, act.By), PeopleOf(segment, act.On), daysAgo);
     if (segment.Kind == kInterview && IsThreat(segment.Purpose)) ReadTalk(segment, daysAgo);
   }
-  std::vector<PastFact> Facts() { return std::move(facts_); }
+  /// The latest first.
+  std::vector<PastFact> Facts() {
+    std::ranges::stable_sort(facts_, {}, &PastFact::DaysAgo);
+    return std::move(facts_);
+  }
 
  private:
   void ReadAngle(const Segment& segment, int daysAgo) {
-    for (const AttackRow& row : kAttacks)
+    for (const ActRow& row : kAttacks)
       if (row.Angle == segment.Style)
         Attack(AtPlaces(segment, row.By), AtPlaces(segment, row.On), daysAgo);
+    for (const ActRow& row : kChallenges)
+      if (row.Angle == segment.Style)
+        Challenge(AtPlaces(segment, row.By), AtPlaces(segment, row.On), daysAgo);
     if (segment.Style == kContractSigning &&
         Between(AtPlaces(segment, {1}), AtPlaces(segment, {2})) != 0)
       facts_.push_back({kSignedFor, 78, one_, two_, 0, daysAgo});
@@ -83,6 +95,13 @@ class Recall {
     if (side != 0)
       facts_.push_back({kWasAttacked, daysAgo <= 10 ? 80 : 57, Shared(side == 1 ? two_ : one_, on),
                         Shared(side == 1 ? one_ : two_, by), 0, daysAgo});
+  }
+
+  void Challenge(const std::vector<int>& by, const std::vector<int>& on, int daysAgo) {
+    const int side = Between(by, on);
+    if (side != 0)
+      facts_.push_back({kChallenged, daysAgo == 0 ? 79 : 63, Shared(side == 1 ? one_ : two_, by),
+                        Shared(side == 1 ? two_ : one_, on), 0, daysAgo});
   }
 
   /// 1 or 2 for the side that does it to the other; 0 where it is between others.

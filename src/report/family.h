@@ -207,6 +207,7 @@ enum PastKind {
   kNewAtTheTop,    // {F}, in the {nth} match here
   kLastMatch,
   kThreatened,  // {F} threatened {S}
+  kChallenged,  // {F} challenged {S} {when}
   kSignedFor,
   kManagerSpoke,  // {m} for {F}
   kYearsBest,     // the two had one of the year's best {when}
@@ -224,9 +225,11 @@ enum PastOutcome {
   kSlumpGoesOn,
   kSeriesTips,  // {F} is one ahead
   kWordKept,
-  kWordEaten,    // by {F}, who spoke
-  kSaidSo,       // {m} did, of {F}
-  kSaidTooMuch,  // the same, and {F} lost
+  kWordEaten,      // by {F}, who spoke
+  kChallengeWon,   // by {F}, who made it
+  kChallengeLost,  // the same
+  kSaidSo,         // {m} did, of {F}
+  kSaidTooMuch,    // the same, and {F} lost
   kReignGrows,
   kReignOver,  // of {F}, {count} days
   kFirstCrown,

@@ -39,7 +39,8 @@ bool HaveFoughtFor(const World& world, std::string_view title, const std::vector
 /// The worker's matches won in a row up to now; below 0 those lost; a draw ends either.
 int RunOf(const World& world, int uid);
 
-/// The attacks and signed contracts of the last five weeks' cards and of the rows before this one.
+/// The attacks, threats, challenges and signed contracts of the last five weeks' cards and of the
+/// rows before this one, the latest first.
 std::vector<PastFact> CallbacksOf(Teller& teller, const std::vector<int>& one,
                                   const std::vector<int>& two);
 /// Those of a side who are among the others.

@@ -67,18 +67,31 @@ struct OutcomeRow {
   PastOutcome Tells;
 };
 constexpr OutcomeRow kOutcomes[] = {
-    {kMetLately, Who::One, false, kSameAgain},    {kMetLately, Who::Two, false, kPaidBack},
-    {kWasAttacked, Who::One, false, kPaidBack},   {kWasAttacked, Who::Two, false, kNotPaidBack},
-    {kPartnerBeaten, Who::One, false, kPaidBack}, {kPartnerBeaten, Who::Two, false, kNotPaidBack},
-    {kWinsInARow, Who::One, false, kRunGoesOn},   {kWinsInARow, Who::Two, false, kRunEnds},
-    {kLossesInARow, Who::One, false, kSlumpEnds}, {kSeriesLevel, Who::Either, false, kSeriesTips},
-    {kThreatened, Who::One, false, kWordKept},    {kThreatened, Who::Two, false, kWordEaten},
-    {kManagerSpoke, Who::One, false, kSaidSo},    {kManagerSpoke, Who::Two, false, kSaidTooMuch},
-    {kReignLong, Who::One, false, kReignGrows},   {kReignLong, Who::Two, true, kReignOver},
-    {kOnceChampion, Who::One, true, kCrownBack},  {kTitleAgain, Who::One, true, kCrownBack},
-    {kAwayLong, Who::One, false, kBackWithAWin},  {kMetFiftyTimes, Who::Either, false, kFiftyDone},
-    {kTitleAgain, Who::Two, false, kSameAgain},   {kLossesInARow, Who::Two, false, kSlumpGoesOn},
+    {kMetLately, Who::One, false, kSameAgain},
+    {kMetLately, Who::Two, false, kPaidBack},
+    {kWasAttacked, Who::One, false, kPaidBack},
+    {kWasAttacked, Who::Two, false, kNotPaidBack},
+    {kPartnerBeaten, Who::One, false, kPaidBack},
+    {kPartnerBeaten, Who::Two, false, kNotPaidBack},
+    {kWinsInARow, Who::One, false, kRunGoesOn},
+    {kWinsInARow, Who::Two, false, kRunEnds},
+    {kLossesInARow, Who::One, false, kSlumpEnds},
+    {kSeriesLevel, Who::Either, false, kSeriesTips},
+    {kThreatened, Who::One, false, kWordKept},
+    {kThreatened, Who::Two, false, kWordEaten},
+    {kManagerSpoke, Who::One, false, kSaidSo},
+    {kManagerSpoke, Who::Two, false, kSaidTooMuch},
+    {kReignLong, Who::One, false, kReignGrows},
+    {kReignLong, Who::Two, true, kReignOver},
+    {kOnceChampion, Who::One, true, kCrownBack},
+    {kTitleAgain, Who::One, true, kCrownBack},
+    {kAwayLong, Who::One, false, kBackWithAWin},
+    {kMetFiftyTimes, Who::Either, false, kFiftyDone},
+    {kTitleAgain, Who::Two, false, kSameAgain},
+    {kLossesInARow, Who::Two, false, kSlumpGoesOn},
     {kAwayLong, Who::Two, false, kBackBeaten},
+    {kChallenged, Who::One, false, kChallengeWon},
+    {kChallenged, Who::Two, false, kChallengeLost},
 };
 
 /// Two ends that would say the same of a match, or the opposite of it.
@@ -117,8 +130,9 @@ const OutcomeRow* OutcomeOf(const PastFact& fact, const std::vector<int>& winner
 /// The fact seen from the end: who has won comes first, unless it is about who has lost.
 PastFact AsEnded(const PastFact& fact, const OutcomeRow& row, const std::vector<int>& winners) {
   PastFact ended = fact;
-  constexpr PastOutcome kOfLosers[] = {kRunEnds,   kWordEaten,   kSaidTooMuch, kReignOver,
-                                       kFiftyDone, kNotPaidBack, kSlumpGoesOn, kBackBeaten};
+  constexpr PastOutcome kOfLosers[] = {kRunEnds,     kWordEaten,  kSaidTooMuch,
+                                       kReignOver,   kFiftyDone,  kNotPaidBack,
+                                       kSlumpGoesOn, kBackBeaten, kChallengeLost};
   const bool aboutLoser =
       std::find(std::begin(kOfLosers), std::end(kOfLosers), row.Tells) != std::end(kOfLosers);
   if (!aboutLoser && Share(winners, fact.Two)) std::swap(ended.One, ended.Two);

@@ -108,7 +108,17 @@ TEST(Past, RecallsWhatWasSaidAndDoneBefore) {
   kept.On = Ago(world, 7);
   world.KeptRows().Append(kept);
   EXPECT_EQ(Past(world, AdaBeatsBo()).Has(kWasAttacked)->One, std::vector<int>{1});
-  world.KeptRows()[1].On = Ago(world, 40);
+  // Of two it is the later one, and who has asked for a match is not who was asked.
+  world.KeptRows()[1].On = Ago(world, 30);
+  kept.On = Ago(world, 20);
+  world.KeptRows().Append(kept);
+  EXPECT_EQ(Past(world, AdaBeatsBo()).Has(kWasAttacked)->DaysAgo, 20);
+  world.KeptRows()[1].Booked.Style = kChallenge;
+  const Past asked(world, AdaBeatsBo());
+  ASSERT_TRUE(asked.Has(kChallenged));
+  EXPECT_EQ(asked.Has(kChallenged)->One, std::vector<int>{1});
+  EXPECT_EQ(asked.Has(kChallenged)->Two, std::vector<int>{2});
+  world.KeptRows()[2].On = Ago(world, 40);
   EXPECT_FALSE(Past(world, AdaBeatsBo()).Has(kWasAttacked));
 }
 
@@ -175,6 +185,7 @@ TEST_P(Voices, SettleAMatchOneWay) {
   // What whoever had cause to win comes to when they lose.
   for (const auto& [before, tells] : {std::pair(kWasAttacked, kNotPaidBack),
                                       {kLossesInARow, kSlumpGoesOn},
+                                      {kChallenged, kChallengeLost},
                                       {kAwayLong, kBackBeaten}}) {
     LineMemory lost;
     Teller beaten(world, segment, scene, lost);
