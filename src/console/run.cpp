@@ -17,7 +17,7 @@ namespace grapplemont::console {
 namespace {
 
 constexpr std::string_view kProgram = "grapplemont-console";
-constexpr int kNarrowest = 60, kWidest = 160;  // letters a line, whatever the terminal has
+constexpr int kLeastLetters = 60, kMostLetters = 160;  // letters a line, whatever the terminal has
 constexpr std::string_view kToday = "--today", kSeed = "--seed", kJson = "--json";
 constexpr OptionKind kOptions[] = {
     kHomeOption,
@@ -105,7 +105,7 @@ int RunConsoleHere(std::span<const std::string> words) {
   settings.Prompt = IsTerminal(Stream::In) && IsTerminal(Stream::Out);
   if (settings.Prompt) settings.Ask = TerminalTypist();
   if (const int columns = TerminalColumns(); settings.Prompt && columns > 0)
-    settings.Width = std::clamp(columns, kNarrowest, kWidest);
+    settings.Width = std::clamp(columns, kLeastLetters, kMostLetters);
   return RunConsole(words, {std::cin, std::cout, std::cerr}, std::move(settings));
 }
 
