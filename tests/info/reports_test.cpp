@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "info/infowords.h"
 #include "info/morning.h"
 #include "report/report.h"
 #include "show/holdshow.h"
@@ -114,6 +115,14 @@ TEST(TheReportColumn, ReadsAShowAgainFromItsRow) {
   EXPECT_NE(text.find("Overall Rating " + std::to_string(told.Overall) + "%"), std::string::npos);
   play.Desk.Click("cmdback");
   EXPECT_EQ(play.Desk.TopName(), "frmResults");
+}
+
+TEST(FillLine, EndsASentenceOnceBehindANameWithAStop) {
+  for (const auto& [line, said] : {std::pair("No {show}. I went home.", "No Main St. I went home."),
+                                   {"it was {show}.", "It was Main St."},
+                                   {"{show}... I went home.", "Main St.... I went home."},
+                                   {"Well ... {show}!", "Well ... Main St.!"}})
+    EXPECT_EQ(FillLine(line, {{"show", "Main St."}}), said);
 }
 
 }  // namespace
