@@ -8,12 +8,15 @@
 #include "desktop/button.h"
 #include "desktop/dates.h"
 #include "desktop/views.h"
+#include "desktop/wordswidth.h"
 #include "ui/acts.h"
 #include "ui/filter.h"
 
 namespace grapplemont::desktop {
 
 namespace {
+
+constexpr const char* kFilterHint = "Filter\u2026";
 
 /// What the search line offers, in the table's own words.
 QString SearchHint(const ui::ListBox& list) {
@@ -29,7 +32,7 @@ QString SearchHint(const ui::ListBox& list) {
     if (number && plain && !place && !column.Title.empty())
       return "Filter: " + Shown(column.Title) + " >60\u2026";
   }
-  return "Filter\u2026";
+  return kFilterHint;
 }
 
 /// Whoever looks for a date types what is shown of it.
@@ -282,7 +285,16 @@ bool TableView::FocusSearch() {
   return true;
 }
 
+/// An example stands in the line where there is room for all of it.
+void TableView::FitHint() {
+  constexpr int kSides = 24;
+  const QString hint = SearchHint(control_);
+  const bool fits = WordsWidth(search_->font(), hint) + Px(kSides) <= search_->width();
+  search_->setPlaceholderText(fits ? hint : QString(kFilterHint));
+}
+
 bool TableView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == search_ && event->type() == QEvent::Resize) FitHint();
   if (watched != search_ || event->type() != QEvent::KeyPress)
     return QWidget::eventFilter(watched, event);
   const int key = static_cast<QKeyEvent*>(event)->key();

@@ -67,6 +67,7 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   void FitColumns();
   const std::vector<int>& NaturalWidths();
   std::vector<int> MeasuredWidths() const;
+  void FitHint();
   bool IsText(std::size_t place) const;
   bool IsWords(std::size_t place) const;  // texts and tags
   int HeadingWidth(std::size_t place) const;

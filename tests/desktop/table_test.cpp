@@ -87,6 +87,17 @@ TEST_F(TheTableInTheWindow, FiltersByTheSearchLine) {
   EXPECT_EQ(Play.Desk.Top(), Page) << "the first Escape only empties the line";
 }
 
+TEST_F(TheTableInTheWindow, OffersAnExampleOfAFilterWhereItIsWhole) {
+  Open();
+  auto& line = *qobject_cast<QLineEdit*>(Play.See("lstpeople_search"));
+  for (const auto& [width, hint] :
+       {std::pair(60, "Filter\u2026"), {240, "Filter: Over >60\u2026"}}) {
+    line.setFixedWidth(width);
+    QApplication::processEvents();
+    EXPECT_EQ(line.placeholderText(), QString(hint)) << width;
+  }
+}
+
 TEST_F(TheTableInTheWindow, LeavesNobodyChosenWhomTheFilterHides) {
   Open();
   Play.ClickRow("lstpeople", 0);
