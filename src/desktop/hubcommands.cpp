@@ -136,12 +136,12 @@ void Window::AddPageActs(std::vector<Finder::Entry>& entries) {
 
 /// So are rooms, and one that waits says what for.
 void Window::AddRooms(std::vector<Finder::Entry>& entries) {
-  const auto add = [&](ui::Button& command, const std::string& where, const std::string& key,
-                       const std::string& also) {
+  const auto add = [&](const char* heading, ui::Button& command, const std::string& where,
+                       const std::string& key, const std::string& also) {
     if (!command.Visible) return;
     std::string why = WhyWaits(command);
     if (why.empty()) why = WhyNotPress(command);
-    entries.push_back({"Rooms", Shown(command.Text.Get()), NotNow(Shown(where), why),
+    entries.push_back({heading, Shown(command.Text.Get()), NotNow(Shown(where), why),
                        settings_.Key(command.Name(), key), [this, &command, why] {
                          why.empty() ? PressHub(command) : Hint(*this, Shown(why));
                        }});
@@ -149,10 +149,11 @@ void Window::AddRooms(std::vector<Finder::Entry>& entries) {
     entries.back().IsOff = !why.empty();
   };
   const ui::Page& hub = HubView()->Page();
-  for (ui::Button* action : hub.TopActions) add(*action, {}, {}, {});
+  for (ui::Button* action : hub.TopActions)
+    add("Commands", *action, action->Enabled ? action->Tip.Get() : std::string(), {}, {});
   for (const auto& group : hub.Side)
     for (const auto& command : group.Commands)
-      add(*command.Press, group.Title, command.Key, command.Also);
+      add("Rooms", *command.Press, group.Title, command.Key, command.Also);
 }
 
 std::vector<Finder::Entry> Window::FinderEntries() {

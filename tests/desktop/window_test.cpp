@@ -279,6 +279,14 @@ TEST_F(TheWindow, TellsInTheSearchWhyAPagesActionCannotBeDone) {
   Play.Key(Qt::Key_Return);
   EXPECT_EQ(Play.TextOf("hint"), "Nothing is chosen yet.");
   EXPECT_EQ(Notes, Log());
+  Play.Desk.Screens().front()->Find("cmdnext")->Tip = "Ends the day.";
+  Play.Key(Qt::Key_K, Qt::ControlModifier);
+  Play.Type("Next Day");
+  list = dynamic_cast<QListWidget*>(Play.See("finderlist"));
+  EXPECT_EQ(list->item(0)->text(), "Commands") << "it is no room";
+  EXPECT_EQ(list->currentItem()->text(), "Next Day");
+  EXPECT_EQ(list->currentItem()->data(Qt::AccessibleDescriptionRole).toString(), "Ends the day.");
+  Play.Key(Qt::Key_Escape);
 }
 
 TEST_F(TheWindow, GivesTheKeyboardBackToWhatOpenedAPage) {

@@ -42,6 +42,7 @@ class frmMainScreen : public ui::Screen {
   explicit frmMainScreen(Game& game)
       : Screen(game.Desk(), "frmMainScreen", "Today", ui::Role::Hub), game_(game) {
     CommandNamed("cmdfed").Tip = "Click for promotional matters.";
+    txtname.Tip = "Your career: jobs, reputation and the owner's wishes.";
     lstahead.EmptyText =
         "No show in sight. Find a network on the Television page, or plan an Event on the Events "
         "page.";
@@ -164,8 +165,13 @@ class frmMainScreen : public ui::Screen {
         "the promotion's page tells each step.";
     lblmoney.Text = Dollars(player.Money);
     lblmoney.Colour = player.Money < 0 ? ui::Tone::Red : ui::Tone::Plain;
-    for (ui::Button* button : {&cmdnext, &cmduntil})
+    const std::pair<ui::Button*, const char*> moves[] = {
+        {&cmdnext, "Ends the day; on the day of a show it opens the sheet first."},
+        {&cmduntil, "Lets plain days pass, and stops where you are needed."}};
+    for (const auto& [button, does] : moves) {
       EnableUnless(*button, HasEnded(world().Game()) ? kCareerIsOver : "");
+      if (button->Enabled) button->Tip = does;
+    }
   }
 
   void ShowMail() {

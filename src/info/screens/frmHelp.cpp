@@ -61,13 +61,18 @@ void AddKeys(Paragraphs& words, ui::Screen& screen, const ShellKeys& keys) {
   // Nothing leads back from the hub.
   if (IsThere(page.Cancel) && screen.Is() != ui::Role::Hub)
     AddLine(words, "Escape: " + page.Cancel->Text.Get());
-  bool opens = false, lists = false;
-  for (const ui::Control* control : screen.Controls())
+  bool opens = false, lists = false, reads = false;
+  for (const ui::Control* control : screen.Controls()) {
+    const auto* report = dynamic_cast<const ui::Report*>(control);
+    reads = reads || IsThere(report);
     if (const auto* list = dynamic_cast<const ui::ListBox*>(control); IsThere(list)) {
       lists = true;
       opens = opens || list->OnOpen;
     }
+  }
   if (opens) AddLine(words, "Double click or Ctrl+Enter: open the row");
+  if (reads)
+    AddLine(words, "Left, Right and Ctrl+Enter: the names in a report, and the page of one");
   if (lists) {
     AddLine(words, "Backspace: all of a filtered list again");
     AddLine(words, "Menu key or Shift+F10: what can be done to the row; sort, filter, columns");
