@@ -281,12 +281,12 @@ void TableGrid::DropAt(int row) {
 /// Where only a stump of what is read first would stand at the edge, the columns before it are
 /// scrolled away.
 void TableGrid::BeginAtName() {
-  constexpr int kRead = 180;
+  constexpr int kStump = 80;
   if (model_.Pin.Count > 0 || model_.rowCount() == 0) return;
   const auto& columns = model_.Table().Columns();
   const int name = columns[static_cast<std::size_t>(model_.Table().NamePlace())];
   const int left = columnViewportPosition(name);
-  if (left + std::min(columnWidth(name), Px(kRead)) > viewport()->width())
+  if (left + std::min(columnWidth(name), Px(kStump)) > viewport()->width())
     horizontalScrollBar()->setValue(left);
 }
 
