@@ -224,7 +224,8 @@ TEST(TelevisionSheet, MovesEditsAndTakesBackItsRows) {
         rows.push_back(std::to_string(record) + " " + play.Row(record)[1]);
     return rows;
   };
-  for (const char* name : {"cmdedit", "cmdundo", "cmdredo"}) EXPECT_FALSE(play.Desk.Enabled(name));
+  for (const char* name : {"cmdedit", "cmddown", "cmdundo", "cmdredo"})
+    EXPECT_FALSE(play.Desk.Enabled(name)) << name;
   Segment upset = Singles(play.World(), "CWA Hand 5", "CWA Hand 1");
   upset.TitleName = "CWA Crown";
   ASSERT_EQ(WhyNotBookable(play.World(), upset, {false, "All"}), Names());

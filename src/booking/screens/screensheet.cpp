@@ -224,10 +224,14 @@ void SheetScreen::ShowRowActs() {
   EnableUnless(cmdedit, !open                               ? "Choose a row that is booked."
                         : Row(record).Kind == kEmptySegment ? "Nothing is booked in this row."
                                                             : "");
-  EnableUnless(cmdup, !open ? "Choose a row of the show." : record == 1 ? "It is the first." : "");
-  EnableUnless(cmddown, !open                  ? "Choose a row of the show."
-                        : record == OpenRows() ? "It is the last."
-                                               : "");
+  const auto whyNotTo = [&](int other, const char* edge) {
+    return !open                                     ? "Choose a row of the show."
+           : other < 1 || other > OpenRows()         ? edge
+           : IsEmptyRow(record) && IsEmptyRow(other) ? "Nothing is booked in either row."
+                                                     : "";
+  };
+  EnableUnless(cmdup, whyNotTo(record - 1, "It is the first."));
+  EnableUnless(cmddown, whyNotTo(record + 1, "It is the last."));
   EnableUnless(cmdlast, Kept(false).Rows.empty() ? "No card of this show has been kept yet." : "");
   EnableUnless(cmdundo, history_.MayUndo() ? "" : "Nothing has been done on this sheet.");
   EnableUnless(cmdredo, history_.MayRedo() ? "" : "Nothing has been taken back.");
