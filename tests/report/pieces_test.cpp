@@ -126,7 +126,7 @@ TEST(Verdict, SaysNoLineAgainBeforeTheOthersOfItsBand) {
     memory.BeginSegment();
     said.insert(Verdict(world, segment, 83, &memory));
   }
-  EXPECT_EQ(said.size(), 6U);
+  EXPECT_EQ(said.size(), 5U) << "one of the three lines has one way alone";
 }
 
 TEST(Lines, BeginNoSentenceWithAFigure) {
