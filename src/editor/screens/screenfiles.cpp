@@ -6,8 +6,13 @@
 
 namespace grapplemont {
 
+namespace {
+
+using K = ui::ColumnKind;
+
+}  // namespace
+
 std::vector<ui::Column> FaultColumns(std::string what) {
-  using K = ui::ColumnKind;
   return {{"File", K::Text, 3},
           {"Record", K::Number, 2},
           {"Name", K::Text, 5},

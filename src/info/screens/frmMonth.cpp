@@ -7,6 +7,8 @@ namespace grapplemont {
 
 namespace {
 
+using Style = ui::Report::Style;
+
 using K = ui::ColumnKind;
 
 constexpr const char* kTooBig =
@@ -74,7 +76,6 @@ class frmMonth : public GameScreen {
   }
 
   void lstventures_Click() {
-    using Style = ui::Report::Style;
     const VentureRow* venture = Chosen();
     lstwhom.Visible = venture && *venture->Whom;
     if (!venture) {

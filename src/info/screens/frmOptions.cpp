@@ -14,6 +14,8 @@ namespace grapplemont {
 
 namespace {
 
+using Style = ui::Report::Style;
+
 /// In the order of GameInfo.Reporter, from 0.
 constexpr std::array<const char*, 3> kReporters = {"The Lamplighter", "Rafe Tolland", "QVD"};
 constexpr int kOptions = static_cast<int>(kMailOptionTable.size());
@@ -270,7 +272,6 @@ class frmUser : public GameScreen {
   }
 
   void ShowRecord() {
-    using Style = ui::Report::Style;
     const GameInfo& info = world().Game();
     std::vector<ui::Report::Paragraph> words = {
         {Style::Heading, info.PlayerName.Str()},

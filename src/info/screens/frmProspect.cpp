@@ -10,6 +10,8 @@ namespace grapplemont {
 
 namespace {
 
+using Style = ui::Report::Style;
+
 using K = ui::ColumnKind;
 
 ui::Cell StepCell(int step) {
@@ -101,7 +103,6 @@ class frmProspect : public GameScreen {
   }
 
   void WriteWords(const Prospect& prospect) {
-    using Style = ui::Report::Style;
     std::vector<ui::Report::Paragraph> words = {{Style::Heading, Expectation(prospect)}};
     for (const std::string& fact : prospect.Facts) words.push_back({Style::Line, fact});
     if (!prospect.WillLeave.empty())

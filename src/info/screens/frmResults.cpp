@@ -15,6 +15,8 @@ namespace grapplemont {
 
 namespace {
 
+using Style = ui::Report::Style;
+
 using K = ui::ColumnKind;
 
 const CellColumns<KeptShow> kReports = {
@@ -66,14 +68,12 @@ class frmReports : public GameScreen {
   }
 
   static ui::Report::Style StyleOf(int kind) {
-    using Style = ui::Report::Style;
     if (kind == kWhoMet) return Style::Strong;
     if (kind == kDetails || kind == kFigures) return Style::Muted;
     return kind == kWinner ? Style::Line : Style::Body;
   }
 
   void ShowReport() {
-    using Style = ui::Report::Style;
     const int key = lstreports.Key();
     if (key < 1 || key > static_cast<int>(shows_.size())) return txtreport.Write("");
     const KeptShow& show = shows_[static_cast<std::size_t>(key - 1)];

@@ -10,6 +10,8 @@ namespace grapplemont {
 
 namespace {
 
+using Style = ui::Report::Style;
+
 using K = ui::ColumnKind;
 
 ui::Cell WhenCell(const Advice& advice) {
@@ -66,7 +68,6 @@ class frmTalk : public GameScreen {
   }
 
   void lsttalk_Click() {
-    using Style = ui::Report::Style;
     const Advice* advice = Chosen();
     const bool leads = advice && desk().Knows(advice->Screen);
     EnableUnless(cmdgo, leads ? "" : "There is nothing to be done about it.");
