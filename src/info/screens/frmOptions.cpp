@@ -216,7 +216,8 @@ class frmUser : public GameScreen {
   explicit frmUser(Game& game) : GameScreen(game, "frmUser", "Career") {
     BackBefore(cmdplayon);
     lstwishes.EmptyText =
-        "No wishes yet. An owner tells three when a year begins, or a job with at least four months "
+        "No wishes yet. An owner tells three when a year begins, or a job with at least four "
+        "months "
         "of the year left, and judges them on 31 December.";
   }
 
