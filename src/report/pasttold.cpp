@@ -178,7 +178,8 @@ void TellYear(Teller& teller, Family family, int band) {
   if (!teller.scene.IsEvent || !teller.IsOurs() || !IsYearsEnd(teller.Today())) return;
   const HeldMatch* best = BestOfTheYear(teller.world);
   // What has just been better closes the year by itself.
-  if (!best || (band == kYearStands && teller.scene.Overall > best->Rating)) return;
+  const bool isClosing = family == Family::PastEnding;
+  if (!best || (isClosing && teller.scene.Overall > best->Rating)) return;
   const int many = best->Winners;
   const auto winners = best->Worker.begin() + many;
   const PastFact fact{{},
