@@ -84,16 +84,11 @@ ui::Box DeskCards::People() {
 
 ui::Box DeskCards::Standing() {
   // Names need more room than lines.
-  return ui::Columns(
-             {ui::Rows({ui::Columns({ui::Group("Champions", {ui::Grow(lstchampions)}).Grow(4),
-                                     ui::Group("Hottest feuds", {ui::Grow(lstfeuds)}).Grow(3)})
-                            .Wide(kLettersOfCard)})
-                  .Grow(3),
-              ui::Rows({ui::Columns({ui::Group("Image", {ui::Grow(chtimage)}).Grow(),
-                                     ui::Group("Money", {ui::Grow(chtmoney)}).Grow()})
-                            .Wide(kLettersOfCard)})
-                  .Grow(2)})
-      .Wide(2 * kLettersOfCard);
+  return ui::Columns({ui::Group("Champions", {ui::Grow(lstchampions)}).Grow(5),
+                      ui::Group("Hottest feuds", {ui::Grow(lstfeuds)}).Grow(3),
+                      ui::Group("Image", {ui::Grow(chtimage)}).Grow(2),
+                      ui::Group("Money", {ui::Grow(chtmoney)}).Grow(2)})
+      .Wide(kLettersOfCard);
 }
 
 void DeskCards::ShowStories() {
