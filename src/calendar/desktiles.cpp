@@ -4,6 +4,7 @@
 #include "business/past.h"
 #include "calendar/advanceday.h"
 #include "calendar/deskwork.h"
+#include "records/fields/fields.h"
 #include "records/fields/vocabulary.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
@@ -40,7 +41,8 @@ DeskTile MoneyTile(const World& world, const Promotion& player) {
   const long long moved = before == kNoEnd ? Balance(player.ThisMonth) : player.Money - before;
   return {"Money " + Dollars(player.Money),
           MovedText(player, moved) + ", " + Dollars(due < 0 ? -due : due) +
-              (due < 0 ? " comes in" : " due") + " on the 1st",
+              (due < 0 ? " comes in" : " due") +
+              (IsFirstOfMonth(world.Today()) ? " on the next 1st" : " on the 1st"),
           player.Money < due ? -1 : std::max(SignOf(moved - due), 0)};
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 constexpr VentureRow kVentures[] = {
     {Venture::Tryout, "Monthly tryout", 1500, 300,
-     "One of those who come signs at once, on their own terms, for a tenth less than they ask.",
+     "One of those who come signs at once, on the terms they ask for, less a tenth of the wage.",
      "Who comes to the tryout"},
     {Venture::Scouting, "Scouting trip", 800, 150,
      "Somebody who is content elsewhere hears of you: their morale falls by 11 to 20, and below 61 "

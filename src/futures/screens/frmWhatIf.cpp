@@ -42,7 +42,8 @@ class frmWhatIf : public GameScreen {
                               .Grow(2)})
                  .Grow(3),
              spread_.Table().Grow(2), lblassumes}),
-        &lblfacts, {&cmdexport, &playing_.Stop()});
+        &lblfacts, {&cmdexport}, &playing_.Stop());  // what has been played until then is kept
+    page.Then = &cmdback;
     page.Large = true;
     return page;
   }

@@ -136,18 +136,15 @@ class frmFeuds : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return {
-        .Facts = &lblfacts,
-        .Actions = {&cmdback, &cmdend, &cmdstat, &cmdask},
-        .Main = &cmdask,
-        .Cancel = &cmdback,
-        .Body = ui::Columns(
+    return PageOf(
+        ui::Columns(
             {ui::Rows({ui::Group("", {ui::Grow(lstfeuds)}),
                        ui::Group("Who is in it, or free for one", {ui::Grow(lstpeople)}).Grow(2)})
                  .Grow(3),
              ui::Rows({ui::Group("The score so far", {ui::Grow(lstscore)}).Grow(3),
                        ui::Group("Maeve's advice", {ui::Grow(txtmaeve)}).Grow(2)})
-                 .Grow(2)})};
+                 .Grow(2)}),
+        &lblfacts, {&cmdend, &cmdstat}, &cmdask);
   }
 
   void Load() override {
