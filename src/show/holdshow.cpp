@@ -190,7 +190,7 @@ void FeelLeftOut(World& world, Worker& worker) {
   const int before = worker.Morale;
   MoveMorale(world, worker, -world.RandomDraw(8), kMoodLeftOut);
   NoteStep(world, {kNoteMorale, worker.Name.Str(), worker.Uid}, worker.Morale - before,
-           worker.Morale, "fit, but in no match or angle");
+           worker.Morale, "rested, but in no match or angle");
 }
 
 bool WasAtStake(const World& world, const Title& title) {
