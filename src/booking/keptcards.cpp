@@ -30,13 +30,16 @@ const HistoryEntry* LastShow(const World& world) {
 }
 
 ComingShow Coming(const World& world, CardOwner owner, Day on) {
-  const KeptCard draft = FindCard(world, owner, on);
-  const auto booked = std::ranges::count_if(
-      draft.Rows, [](const Segment& segment) { return segment.Kind != kEmptySegment; });
-  return {std::move(owner), on, {}, static_cast<int>(booked)};
+  const int booked = RowsBooked(FindCard(world, owner, on));
+  return {std::move(owner), on, {}, booked};
 }
 
 }  // namespace
+
+int RowsBooked(const KeptCard& card) {
+  return static_cast<int>(std::ranges::count_if(
+      card.Rows, [](const Segment& segment) { return segment.Kind != kEmptySegment; }));
+}
 
 KeptCard FindCard(const World& world, const CardOwner& owner) {
   Day last = {};

@@ -26,6 +26,8 @@ struct KeptCard {
 KeptCard FindCard(const World& world, const CardOwner& owner);
 /// The one of that day.
 KeptCard FindCard(const World& world, const CardOwner& owner, Day on);
+/// How many of its rows have something on them.
+int RowsBooked(const KeptCard& card);
 /// Keeps the card. A draft takes the place of the one for the same day, and an empty one takes that
 /// away; those of days that are over go. Held cards stay for five weeks, since the reports recall
 /// what was done on them.

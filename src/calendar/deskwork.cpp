@@ -59,9 +59,11 @@ std::string BookedText(const World& world, const Appointment& show) {
   if (show.Kind == "No Event") return {};
   if (show.On != world.Today()) return DraftedText(world, show);
   const bool isEvent = IsEventAppointment(show);
-  // Until today's sheet is opened, the last show's card lies there.
+  // Until today's sheet is opened, the last show's card lies there, and what is drafted waits.
   const bool isOurs = world.Segments().Count() > 0 && !WasHeld(world);
-  return OfLeast(isOurs ? CountSheet(world, isEvent).Segments : 0, TermsOf(world, isEvent));
+  const int booked = isOurs ? CountSheet(world, isEvent).Segments
+                            : RowsBooked(FindCard(world, {show.What, isEvent, true}, show.On));
+  return OfLeast(booked, TermsOf(world, isEvent));
 }
 
 std::string TonightText(const World& world) {

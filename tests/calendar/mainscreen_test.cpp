@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "booking/keptcards.h"
 #include "calendar/advanceday.h"
 #include "calendar/passing.h"
 #include "records/fields/fields.h"
@@ -65,6 +66,8 @@ TEST(MainScreen, IsADeskWithWhatWantsLookingAt) {
   lastWeek.Kind = kMatch;
   lastWeek.Rating = 40;
   world.Segments().Rewrite(std::vector<Segment>(8, lastWeek));
+  const CardOwner drafted{"Friday Fire", false, true};
+  KeepCard(world, drafted, {lastWeek}, world.Today());
   GameOnWorld play(std::move(world));
   play.Desk.Open("frmMainScreen");
   EXPECT_EQ(play.Desk.Rows("lstchampions").at(0)[1], "CWA Crown");
@@ -78,7 +81,8 @@ TEST(MainScreen, IsADeskWithWhatWantsLookingAt) {
   EXPECT_TRUE(facts.starts_with("Due today: Friday Fire. 2 hurt or worn, ")) << facts;
   ASSERT_TRUE(play.Desk.Visible("cmdbook"));
   for (const std::size_t show : {0U, 1U})
-    EXPECT_EQ(play.Desk.Rows("lstahead")[show].at(1).substr(0, 5), "0 of ");
+    EXPECT_EQ(play.Desk.Rows("lstahead")[show].at(1).substr(0, 5), show == 0 ? "1 of " : "0 of ");
+  KeepCard(play.World(), drafted, {}, play.World().Today());
   play.Desk.OpenRow("lstahead", 2);
   EXPECT_EQ(play.Desk.TopName(), "frmDrafts");
   play.Desk.Click("cmdback");
