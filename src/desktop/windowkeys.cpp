@@ -30,16 +30,17 @@ bool CanBePressed(const ui::Button* button) {
 
 }  // namespace
 
-/// A page has its own main action. While that cannot be pressed, one above the hub goes on to the
-/// hub's, and all else leads back. What is being typed keeps Enter from either: a name that is
-/// finished with it must not end the day.
+/// A page has its own main action. One above the hub without any goes on to the hub's, all else
+/// leads back: a second Enter must not end the day behind what the first has done. What is being
+/// typed keeps Enter from either.
 ui::Button* Window::EnterButton() const {
   const ScreenView *top = TopView(), *hub = HubView();
   if (!top || box_ || finder_) return nullptr;
-  if (ui::Button* const main = top->MainNow(); CanBePressed(main)) return main;
+  ui::Button* const main = top->MainNow();
+  if (CanBePressed(main)) return main;
   const ui::Role role = top->Shows().Is();
   if (role == ui::Role::Hub) return nullptr;
-  if (hub && role == ui::Role::Page) {
+  if (hub && role == ui::Role::Page && !main) {
     if (qobject_cast<QLineEdit*>(focusWidget())) return nullptr;
     ui::Button* const next = hub->MainNow(false);
     if (CanBePressed(next) && WhyWaits(*next).empty()) return next;
