@@ -40,9 +40,9 @@ ui::Button* Window::EnterButton() const {
   if (CanBePressed(main)) return main;
   const ui::Role role = top->Shows().Is();
   if (role == ui::Role::Hub) return nullptr;
-  if (hub && role == ui::Role::Page && !main) {
+  if (hub && role == ui::Role::Page) {
     if (qobject_cast<QLineEdit*>(focusWidget())) return nullptr;
-    ui::Button* const next = hub->MainNow(false);
+    ui::Button* const next = main ? nullptr : hub->MainNow(false);
     if (CanBePressed(next) && WhyWaits(*next).empty()) return next;
   }
   ui::Button* const back = top->Page().Cancel;

@@ -114,9 +114,10 @@ TEST_F(TheWindow, SaysWhyEnterDoesNothing) {
   EXPECT_EQ(Notes, Log());
   Play.See("cmdask")->setFocus(Qt::TabFocusReason);
   Play.Window.Sync();
-  EXPECT_TRUE(BearsEnter("cmdnext")) << "where nothing is typed";
+  EXPECT_TRUE(BearsEnter("cmdback")) << "where nothing is typed";
+  EXPECT_FALSE(BearsEnter("cmdnext")) << "a second Enter never ends the day";
   Play.Key(Qt::Key_Return);
-  EXPECT_EQ(Notes.back(), "next day");
+  EXPECT_EQ(Notes.back(), "hub again");
 }
 
 TEST_F(TheWindow, OpensRoomsAboveAPageThatStaysAndComesBackToIt) {
