@@ -48,8 +48,10 @@ class ToolHome : public ::testing::Test {
   std::map<std::string, std::string> RecordFiles(const std::string& folder) const {
     std::map<std::string, std::string> files;
     for (const auto& entry : std::filesystem::directory_iterator(In(folder)))
-      if (entry.path().extension() == ".dat")
-        files[entry.path().filename()] = Read(folder + "/" + entry.path().filename().string());
+      if (entry.path().extension() == ".dat") {
+        const std::string name = entry.path().filename().string();
+        files[name] = Read(folder + "/" + name);
+      }
     return files;
   }
 
