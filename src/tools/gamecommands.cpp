@@ -148,7 +148,8 @@ World CopyOfSlot(Game& game, int slot) {
   for (const KnownFile& file : known)
     if (auto contents = Slot::Peek(game.Disk(), game.SlotFolder(slot), known, file.Name))
       files.emplace(file.Name, std::move(*contents));
-  World world(game.NewDraws(Game::kPlay), game.NewDraws(Game::kProse), game.NewDraws(Game::kLife));
+  World world(game.NewDraws(Game::kPlay), game.NewDraws(Game::kReportProse),
+              game.NewDraws(Game::kLife));
   world.Load(std::move(files));
   return world;
 }

@@ -43,7 +43,7 @@ using Json = nlohmann::ordered_json;
 
 void GiveSeed(World& world, std::uint64_t seed) {
   world.SetChance(Game::DrawsOf(seed, Game::kPlay));
-  world.ExchangeProse(Game::DrawsOf(seed, Game::kProse));
+  world.ExchangeProse(Game::DrawsOf(seed, Game::kReportProse));
   world.SetLife(Game::DrawsOf(seed, Game::kLife));
 }
 

@@ -79,8 +79,8 @@ std::vector<std::string> Game::OpenSlot(int slot, bool dropDamaged) {
   step_ = {.Commands = files->Records() ? "session " + std::to_string(*options_.Seed) + " " +
                                               IsoDate(PresentDay()) + "\n"
                                         : std::string()};
-  auto world =
-      std::make_unique<grapplemont::World>(NewDraws(kPlay), NewDraws(kProse), NewDraws(kLife));
+  auto world = std::make_unique<grapplemont::World>(NewDraws(kPlay), NewDraws(kReportProse),
+                                                    NewDraws(kLife));
   options_.Seed = seed;
   world->Load(files->Files());
   RequireKnownTotals(*world);

@@ -62,7 +62,7 @@ class Game : public ui::Work {
   /// What chance is for; each has a stream of its own.
   enum Stream : std::uint64_t {
     kPlay,
-    kProse,
+    kReportProse,
     kWorldMaking,
     kWorldProse,
     kPictures,
