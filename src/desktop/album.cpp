@@ -21,8 +21,9 @@ namespace {
 constexpr std::array<std::string_view, 8> kLast = {"cmdloadgame", "cmdcontinue", "cmdauto",
                                                    "cmdfill",     "cmddoshow",   "cmdcancel",
                                                    "cmduntil",    "cmdnext"};
-/// Lists whose first row leads to a page of somebody, the last to one of its own.
-constexpr std::string_view kLeadsFromItsEnd = "lstproof";
+/// Lists whose first row leads to a page of somebody, the last to one of its own; or which begin
+/// with nobody at all.
+constexpr std::array<std::string_view, 2> kLeadFromTheirEnd = {"lstproof", "lststaff"};
 /// What makes a screen worth a second picture in the first one's place.
 constexpr std::array<std::string_view, 2> kFills = {"cmdfill", "cmdplay"};
 /// What is taken rather than left, as a show cannot be held without a card.
@@ -200,7 +201,7 @@ void Album::Click(ui::Screen& screen, const std::string& control) {
     return LetItPaint();
   }
   const auto row = [&] {
-    return control == kLeadsFromItsEnd
+    return std::ranges::find(kLeadFromTheirEnd, control) != kLeadFromTheirEnd.end()
                ? dynamic_cast<const ui::ListBox&>(*screen.Find(control)).Count()
                : 1;
   };
