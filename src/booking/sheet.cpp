@@ -168,13 +168,10 @@ std::string TitleTip(const Segment& segment) {
 std::string WhyNoAutoBooker(const World& world) {
   if (Holds(world, HouseRule::NoAutoBooker))
     return "A rule of the house: every row is booked by hand.";
-  return HasAutoBooker(world) ? "" : "Nobody above the jobbers is fit, so there is nobody to book.";
-}
-
-bool HasAutoBooker(const World& world) {
-  return std::any_of(world.Workers().begin(), world.Workers().end(), [&](const Worker& worker) {
+  const bool isAnybodyFit = std::ranges::any_of(world.Workers(), [&](const Worker& worker) {
     return WorksForPlayer(world, worker) && worker.Status == "Nor" && worker.Position < kJobber;
   });
+  return isAnybodyFit ? "" : "Nobody above the jobbers is fit, so there is nobody to book.";
 }
 
 std::string KindOfRow(const Segment& segment) {

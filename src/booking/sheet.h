@@ -48,8 +48,6 @@ std::string SheetWarning(const SheetTerms& terms, bool isEvent);
 /// "CWA Crown Title Match!"; empty where none is at stake.
 std::string TitleTip(const Segment& segment);
 
-/// Somebody above the jobbers is fit, so that there is something to book.
-bool HasAutoBooker(const World& world);
 /// Why the player cannot let it book; empty when they can.
 std::string WhyNoAutoBooker(const World& world);
 

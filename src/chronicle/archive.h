@@ -84,8 +84,6 @@ class Archive {
   const std::map<std::pair<int, std::string>, CrownLine>& Lines() const { return lines_; }
   const std::vector<FeudPast>& Feuds() const { return feuds_; }
 
-  /// The first year and the last of which anything is kept.
-  std::pair<int, int> Years() const { return {firstYear_, lastYear_}; }
   /// "CWA": also of a promotion that is gone; empty for an unknown one.
   std::string HouseName(int promotion) const;
   std::string FullHouseName(int promotion) const;

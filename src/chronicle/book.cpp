@@ -42,16 +42,6 @@ WorldBook WriteBook(const Archive& archive, int voice) {
   return book;
 }
 
-WorldBook BookOf(const Archive& archive, const Subject& subject, int voice) {
-  Chapter chapter = WriteChapter(archive, subject, voice);
-  WorldBook book;
-  book.Title = chapter.Heading;
-  book.Under = "Told by " + std::string(VoiceName(voice)) + ", " + PlainDate(archive.Of().Today());
-  chapter.Heading.clear();
-  book.Parts.push_back({"", {std::move(chapter)}});
-  return book;
-}
-
 std::string ProofName(const Proof& proof) {
   return std::string(proof.Of->File) + ", record " + std::to_string(proof.Number);
 }

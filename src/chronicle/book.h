@@ -21,8 +21,6 @@ struct WorldBook {
 
 /// The book of the archive's world in a voice; what there is little to tell of is left out.
 WorldBook WriteBook(const Archive& archive, int voice);
-/// One chapter as a book.
-WorldBook BookOf(const Archive& archive, const Subject& subject, int voice);
 
 /// How a book is written down.
 struct BookForm {

@@ -1,7 +1,5 @@
 #include "records/houserules.h"
 
-#include <algorithm>
-
 namespace grapplemont {
 
 namespace {

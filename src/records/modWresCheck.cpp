@@ -132,11 +132,6 @@ std::string PairName(const World& world, int workerA, int workerB) {
   return team != "None" ? team : WorkerName(world, workerA) + " \\ " + WorkerName(world, workerB);
 }
 
-std::string DevTerritoryName(const World& world, int promotionUid) {
-  const Promotion* promotion = world.FindPromotion(promotionUid);
-  return promotion ? promotion->DevName.Str() : "None";
-}
-
 const Stable* FindStable(const World& world, std::string_view name) {
   return FindNamed(world.Stables(), name);
 }
@@ -167,9 +162,6 @@ std::string_view DispositionCode(std::string_view text) {
   for (const Term& term : kDispositions)
     if (term.Says == text) return term.Stored;
   return {};
-}
-std::string_view ContractText(std::string_view code) {
-  return KnownOr(Says(kContracts, code));
 }
 
 std::string ContractLine(const Worker& worker) {

@@ -38,8 +38,6 @@ std::string StaffName(const World& world, int staffUid);
 std::string TeamNameOf(const World& world, int workerA, int workerB);
 /// How a pair is called: its team's name, else "A \ B" of the two full names.
 std::string PairName(const World& world, int workerA, int workerB);
-/// The territory's name, else "None".
-std::string DevTerritoryName(const World& world, int promotionUid);
 /// The first record of this name; nullptr for none.
 const Stable* FindStable(const World& world, std::string_view name);
 const Title* FindTitle(const World& world, std::string_view name);
@@ -54,8 +52,6 @@ std::string_view PositionText(int position);
 /// "Face", "Heel", "Tweener", "Unknown"; the code is "F", "H", "T", empty for an unknown text.
 std::string_view DispositionText(std::string_view code);
 std::string_view DispositionCode(std::string_view text);
-/// "Written", "None", "Unknown".
-std::string_view ContractText(std::string_view code);
 /// "Written contract for 12 months, at $40,000 per month", as the roster shows it.
 std::string ContractLine(const Worker& worker);
 /// "Available", "Broken Leg, out for 3 months" and so on.

@@ -1,6 +1,5 @@
 #include "records/segmentforms.h"
 
-#include <algorithm>
 #include <span>
 
 #include "records/angles.h"

@@ -1,7 +1,5 @@
 #include "rivals/newtalent.h"
 
-#include <algorithm>
-
 #include "records/modVar.h"
 #include "records/severing.h"
 #include "rivals/tuning.h"

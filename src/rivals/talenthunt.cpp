@@ -1,7 +1,6 @@
 #include "rivals/talenthunt.h"
 
 #include <algorithm>
-#include <set>
 
 #include "rivals/ownership.h"
 #include "rivals/purse.h"

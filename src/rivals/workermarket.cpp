@@ -1,6 +1,5 @@
 #include "rivals/workermarket.h"
 
-#include <map>
 #include <vector>
 
 #include "business/finance.h"

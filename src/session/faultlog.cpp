@@ -1,7 +1,6 @@
 #include "session/faultlog.h"
 
 #include <algorithm>
-#include <cstring>
 #include <exception>
 
 #include "records/fields/fields.h"

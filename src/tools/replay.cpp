@@ -6,7 +6,6 @@
 #include <charconv>
 #include <deque>
 #include <filesystem>
-#include <ostream>
 
 #include "program/screens.h"
 #include "records/fields/charset.h"

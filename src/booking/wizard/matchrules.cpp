@@ -1,7 +1,6 @@
 #include "booking/wizard/matchrules.h"
 
 #include <algorithm>
-#include <iterator>
 #include <set>
 
 namespace grapplemont {

@@ -56,8 +56,4 @@ constexpr Field kAnnalFields[] = {
 
 GM_LAYOUT(Annal, "annals.dat", 32000, kAnnalFields)
 
-std::string_view AnnalText(int kind) {
-  return Says(kAnnalKinds, kind);
-}
-
 }  // namespace grapplemont

@@ -55,7 +55,4 @@ struct Annal {
 GM_RECORD(Annal, 124);
 GM_GROWS(Annal);
 
-/// "Signed"; empty for an unknown code.
-std::string_view AnnalText(int kind);
-
 }  // namespace grapplemont

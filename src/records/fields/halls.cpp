@@ -143,10 +143,6 @@ constexpr Field kHallFields[] = {
 
 }  // namespace
 
-std::string_view FeatName(int kind) {
-  return Says(kFeats, kind);
-}
-
 GM_LAYOUT(TotalsState, "totals.dat", 1, kTotalsFields)
 // Everybody there is, and two thousand of those who have gone.
 GM_LAYOUT(Career, "careers.dat", 30000, kCareerFields)

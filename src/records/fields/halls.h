@@ -174,7 +174,4 @@ struct HallMember {
 GM_RECORD(HallMember, 79);
 GM_GROWS(HallMember);
 
-/// "Match", "Gate".
-std::string_view FeatName(int kind);
-
 }  // namespace grapplemont

@@ -88,10 +88,6 @@ Candidate Find(std::string_view name, const std::vector<std::string_view>& candi
 
 }  // namespace
 
-std::string_view Nearest(std::string_view name, const std::vector<std::string_view>& candidates) {
-  return Find(name, candidates).Name;
-}
-
 std::string DidYouMean(std::string_view name, const std::vector<std::string_view>& candidates) {
   // Far longer than any name there is: the measure would take its time, and lead nowhere.
   constexpr std::size_t kMostLetters = 200;

@@ -13,12 +13,9 @@ std::string Counted(long long count, std::string_view one, std::string_view many
 /// "Ann, Bea, Cy".
 std::string Joined(const std::vector<std::string>& parts, std::string_view between = ", ");
 
-/// The candidate that `name` was probably meant to be: the fewest letters put in, left out,
-/// exchanged or swapped with their neighbour, small and capital letters all but alike; the first
-/// among equals. Empty without candidates.
-std::string_view Nearest(std::string_view name, const std::vector<std::string_view>& candidates);
-
-/// "; did you mean CWA?", "; the nearest is CWA" where it takes a stretch, or nothing.
+/// "; did you mean CWA?", "; the nearest is CWA" where it takes a stretch, or nothing without
+/// candidates. Meant is the one with the fewest letters put in, left out, exchanged or swapped with
+/// their neighbour, small and capital letters all but alike; the first among equals.
 std::string DidYouMean(std::string_view name, const std::vector<std::string_view>& candidates);
 
 // Texts with slots in braces: "{who} has left {house}." Reports, meeting, news, rumours, fans and

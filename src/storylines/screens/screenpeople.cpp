@@ -87,10 +87,6 @@ std::vector<ui::Column> ShortColumns() {
   return HeadingsOf(PeopleTable());
 }
 
-std::vector<ui::Cell> ShortRow(const Worker& worker) {
-  return RowOf(PeopleTable(), worker, worker.Uid).Cells;
-}
-
 void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people) {
   FillTable(list, PeopleTable(), people);
 }

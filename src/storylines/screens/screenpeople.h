@@ -75,9 +75,8 @@ ui::Cell StatusCell(const Worker& worker);
 
 /// Name, Over and disposition; then `more`.
 CellColumns<Worker> PeopleTable(CellColumns<Worker> more = {});
-/// The table and the row of these three alone.
+/// The table of these three alone.
 std::vector<ui::Column> ShortColumns();
-std::vector<ui::Cell> ShortRow(const Worker& worker);
 void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people);
 /// "09 Mar 2026".
 std::string BriefDate(Day day);
