@@ -49,4 +49,8 @@ void ScriptDraws(World& world, const std::vector<ScriptedDraw>& script) {
   world.SetChance(std::make_unique<ScriptedDraws>(script));
 }
 
+void ScriptLife(World& world, const std::vector<ScriptedDraw>& script) {
+  world.SetLife(std::make_unique<ScriptedDraws>(script));
+}
+
 }  // namespace grapplemont::test

@@ -52,5 +52,7 @@ class ScriptedDraws : public Draws {
 void ScriptDraws(World& world, std::initializer_list<ScriptedDraw> script);
 void ScriptDraws(World& world, const std::vector<int>& script);
 void ScriptDraws(World& world, const std::vector<ScriptedDraw>& script);
+/// The same of what others do behind the player's back.
+void ScriptLife(World& world, const std::vector<ScriptedDraw>& script);
 
 }  // namespace grapplemont::test

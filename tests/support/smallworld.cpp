@@ -371,6 +371,10 @@ World CopyOf(const World& world) {
   return copy;
 }
 
+void ExpectSound(const World& world) {
+  for (const Fault& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();
+}
+
 void ExpectSame(const World& world, const World& expected) {
   EXPECT_EQ("", FirstDifference(world, expected));
 }

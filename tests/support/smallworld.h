@@ -36,6 +36,7 @@ namespace grapplemont::test {
 
 template <class T>
 using Change = std::function<void(T&)>;
+using Names = std::vector<std::string>;
 
 /// 1 March 2026, a Sunday and the first of its month.
 inline constexpr Day kGameStart{std::chrono::year{2026} / 3 / 1};
@@ -117,6 +118,8 @@ auto& Named(R& records, std::string_view name) {
 std::map<std::string, Bytes> BytesOf(const World& world);
 /// A second world of the same bytes, for a comparison later.
 World CopyOf(const World& world);
+/// Fails the test for everything that CheckWorld finds.
+void ExpectSound(const World& world);
 /// Fails the test with the first record and field in which the worlds differ.
 void ExpectSame(const World& world, const World& expected);
 
