@@ -7,18 +7,16 @@
 namespace grapplemont::test {
 namespace {
 
-using Names = std::vector<std::string>;
 constexpr BookingView kTv, kEvent{true};
 
 TEST(OfferedAngles, GoByRiskSizeCommissionerAndDate) {
-  struct Row {
+  const auto day = [](int month, int of) { return Day{std::chrono::year{2026} / month / of}; };
+  const struct {
     int Number, Risk, Size;
     bool Commissioner;
     Day Today;
     const char* WhyNot;
-  };
-  const auto day = [](int month, int of) { return Day{std::chrono::year{2026} / month / of}; };
-  const Row kRows[] = {
+  } kRows[] = {
       {1, 0, kBackyard, false, kGameStart, ""},
       {kAmbush, 36, kBackyard, false, kGameStart, ""},
       {kAmbush, 35, kBackyard, false, kGameStart, "The risk level must be over 35."},
@@ -31,7 +29,7 @@ TEST(OfferedAngles, GoByRiskSizeCommissionerAndDate) {
       {68, 0, kCult, false, day(1, 1), ""},
       {68, 0, kCult, false, day(1, 11), "Only on 01 January."},
   };
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     World world = SmallWorld()
                       .Promotion("CWA", row.Size, [&](Promotion& p) { p.Risk = row.Risk; })
                       .Worker("Ada Crown", kNonWrestler, 60)
@@ -57,11 +55,7 @@ SmallWorld Company() {
                 w.Split = "Blue";
               })
       .Worker("Cy Manager", kManager, 50)
-      .Worker("Di New", kManager, 50,
-              [](Worker& w) {
-                w.Gender = false;
-                w.Debuted = false;
-              })
+      .Worker("Di New", kManager, 50, [](Worker& w) { w.Gender = false, w.Debuted = false; })
       .Worker("Ed Suit", kNonWrestler, 50)
       .Worker("Flo Hurt", kMidcard, 50,
               [](Worker& w) {
@@ -73,11 +67,7 @@ SmallWorld Company() {
                 w.TurnPending = true;
               })
       .Worker("Gus Fresh", kJobber, 20,
-              [](Worker& w) {
-                w.Debuted = false;
-                w.Disposition = "T";
-                w.TurnPending = true;
-              })
+              [](Worker& w) { w.Debuted = false, w.Disposition = "T", w.TurnPending = true; })
       .Stable("The Tide", {"Abel Face"})
       .Stable("The Guild")
       .Title("Held Crown", "Abel Face")

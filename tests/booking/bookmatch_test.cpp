@@ -7,11 +7,9 @@
 namespace grapplemont::test {
 namespace {
 
-using Names = std::vector<std::string>;
 /// One booking, from the style to the record.
 struct Booking {
-  const char* Style;
-  const char* Type;
+  const char *Style, *Type;
   int People;
   std::vector<Picks> Steps;  // result, finish, aftermath, purpose
   std::vector<std::pair<Word Segment::*, int>> Expect;
@@ -197,12 +195,11 @@ TEST(BookMatch, BooksAPlainSinglesMatchWithWhatIsPreselected) {
 }
 
 TEST(BookMatch, RefusesResultsThatCannotBe) {
-  struct Row {
+  const struct {
     int Style, Type, Winner;
     std::vector<int> Losers;
     const char* Message;
-  };
-  const Row kRows[] = {
+  } kRows[] = {
       {kTag, 1, 1, {1}, "A worker cannot both win and lose a match"},
       {kTag, 1, 3, {4}, "Team mates cannot both win and lose the same match."},
       {kTag, 1, 3, {1}, ""},
@@ -215,7 +212,7 @@ TEST(BookMatch, RefusesResultsThatCannotBe) {
       {kFourOnFour, kSurvivor, 1, {5, 6, 7, 8}, ""},
       {kSpecial, kTenMan, 7, {7}, "The same person cannot win and be runner up!"},
   };
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     Segment match = EmptySegment();
     match.Kind = kMatch;
     match.Style = row.Style;

@@ -25,11 +25,7 @@ World Company() {
       .Worker("Tide One", kMidcard, 50)
       .Worker("Tide Two", kMidcard, 50)
       .Worker("Tide Hurt", kMidcard, 50)
-      .Worker("Una Small", kMidcard, 50,
-              [](Worker& w) {
-                w.Gender = false;
-                w.Weight = "L";
-              })
+      .Worker("Una Small", kMidcard, 50, [](Worker& w) { w.Gender = false, w.Weight = "L"; })
       .Crew(10)
       .Stable("The Tide", {"Tide One", "Tide Two", "Tide Hurt"})
       .Stable("The Mob", {"CWA Hand 1", "CWA Hand 2", "CWA Hand 3", "CWA Hand 4", "CWA Hand 5",
@@ -37,11 +33,7 @@ World Company() {
       .Title("Open Crown")
       .Title("Queens Crown", {}, {}, [](Title& t) { t.Woman = true; })
       .Title("Light Crown", {}, {}, [](Title& t) { t.Lightweight = true; })
-      .Title("Light Pair", {}, {},
-             [](Title& t) {
-               t.Singles = false;
-               t.Lightweight = true;
-             })
+      .Title("Light Pair", {}, {}, [](Title& t) { t.Singles = false, t.Lightweight = true; })
       .Title("Held Crown", "Ann Ace")
       .Game("CWA");
   World world = small;

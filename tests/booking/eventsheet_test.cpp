@@ -7,7 +7,6 @@
 namespace grapplemont::test {
 namespace {
 
-using Names = std::vector<std::string>;
 using std::chrono::year;
 
 constexpr Day kEventDay{year{2026} / 3 / 29};
@@ -120,13 +119,11 @@ TEST(EventSheet, SeatsItsTableWhenTheRestIsFilled) {
 }
 
 TEST(EventSheet, AsksAboutItsCommentatorsBeforeItStarts) {
-  struct Case {
-    const char* Announcer;
-    const char* Colour;
+  const struct {
+    const char *Announcer, *Colour;
     bool Wrestler;
     bool Incomplete, Same;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {"None", "None", false, true, false},
       {"Milo Grant", "None", false, true, false},
       {"Milo Grant", "Pia Root", false, false, false},
@@ -134,7 +131,7 @@ TEST(EventSheet, AsksAboutItsCommentatorsBeforeItStarts) {
       // The worker has the number of the announcer.
       {"Milo Grant", "CWA Hand 1", true, false, false},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     SCOPED_TRACE(std::string(c.Announcer) + ", " + c.Colour);
     World world = OnTheDay(Arena());
     Named(world.Workers(), "CWA Hand 1").Announcer = true;

@@ -7,7 +7,6 @@
 namespace grapplemont::test {
 namespace {
 
-using Names = std::vector<std::string>;
 using Purposes = std::vector<int>;
 
 World Company() {
@@ -104,15 +103,14 @@ TEST(Interviews, KnowFeuds) {
 }
 
 TEST(Interviews, TurnThoseWhoAreWaitingTo) {
-  struct Row {
-    int Style;
-    Names People, Pending, Heels;
-    bool Turns;
-  };
   const Names kSolo = {"Bob Bold", "Cat Cold"}, kTeam = {"Ann Ace", "Bob Bold", "Cat Cold"},
               kManaged = {"Bob Bold", "Max Mouth", "Cat Cold"},
               kManagedTeam = {"Max Mouth", "Bob Bold", "Ann Ace", "Cat Cold"};
-  const Row kRows[] = {
+  const struct {
+    int Style;
+    Names People, Pending, Heels;
+    bool Turns;
+  } kRows[] = {
       {kSingleTalk, kSolo, {"Bob Bold"}, {"Cat Cold"}, true},  // liked or not
       {kSingleTalk, kSolo, {"Cat Cold"}, {}, false},
       {kSingleTalk, {"Bob Bold"}, {"Bob Bold"}, {}, false},  // nobody to turn on
@@ -125,7 +123,7 @@ TEST(Interviews, TurnThoseWhoAreWaitingTo) {
       {kManagedTeamTalk, kManagedTeam, {"Ann Ace", "Bob Bold"}, {}, true},
       {kManagedTeamTalk, kManagedTeam, {"Ann Ace", "Bob Bold"}, {"Ann Ace"}, false},
   };
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     World world = Company();
     for (const std::string& name : row.Pending) Named(world.Workers(), name).TurnPending = true;
     for (const std::string& name : row.Heels) Named(world.Workers(), name).Disposition = "H";

@@ -133,11 +133,10 @@ void RunIn(Segment& match) {
 
 /// Everybody is ready to turn; who is offered depends on the occasion.
 TEST(Purposes, TurnWhoActs) {
-  struct Row {
+  const struct {
     int Style, Finish, Aftermath;
     Codes Turns;
-  };
-  const Row kRows[] = {
+  } kRows[] = {
       {kSingles, kClean, 1, {}},
       {kSingles, kClean, 3, {11}},
       {kSingles, kClean, 5, {5}},
@@ -159,7 +158,7 @@ TEST(Purposes, TurnWhoActs) {
   };
   World world = BookingRoster().Game("CWA");
   for (Worker& worker : world.Workers()) worker.TurnPending = true;
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     Segment match = row.Style == kSingles ? Singles(world, 1, true) : TagMatch(world, 1, true);
     match.Finish = row.Finish;
     match.Aftermath = row.Aftermath;

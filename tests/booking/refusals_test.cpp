@@ -177,16 +177,14 @@ TEST(Refusals, PutNoPriceOnAWomanLowOnTheCard) {
 }
 
 TEST(Refusals, OfWhoIsToBeStripped) {
-  struct Row {
-    int Type;
-    const char* First;
-    const char* Second;
-    int Attitude, Behaviour;  // of Woman 2
-    Lines Says;
-  };
   const std::string kMan = ": You're joking, right???";
   const std::string kWoman = ": You're a sick freak! Go to hell!";
-  const Row kRows[] = {
+  const struct {
+    int Type;
+    const char *First, *Second;
+    int Attitude, Behaviour;  // of Woman 2
+    Lines Says;
+  } kRows[] = {
       {kPlainSingles, "Man 1", "Woman 2", 90, 90, {}},
       {kBraAndPanties, "Woman 2", "Man 1", 90, 90, {"Man 1" + kMan}},
       {kBuckNaked, "Man 1", "Man 2", 20, 20, {"Man 1" + kMan, "Man 2" + kMan}},
@@ -194,7 +192,7 @@ TEST(Refusals, OfWhoIsToBeStripped) {
       {kBuckNaked, "Woman 1", "Woman 2", 31, 30, {"Woman 2" + kWoman}},
       {kBuckNaked, "Woman 2", "Woman 1", 30, 31, {"Woman 2" + kWoman}},
   };
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     World world = Roster();
     Named(world.Workers(), "Woman 2").Attitude = row.Attitude;
     Named(world.Workers(), "Woman 2").Behaviour = row.Behaviour;
@@ -206,18 +204,17 @@ TEST(Refusals, OfWhoIsToBeStripped) {
 }
 
 TEST(Refusals, OfTheFinish) {
-  struct Row {
+  const std::string kCleanly = "Man 1: I am not losing this match cleanly.";
+  const std::string kBetter =
+      "Man 1: If i am to lose this match by interference, i want someone better to run in.";
+  const std::string kBump = "Man 1: I'm not taking a sick bump, sorry.";
+  const struct {
     int Style, Finish;
     Numbers Loser;  // Man 1, as much as half of their team
     int WinnerOver, RunInOver;
     Lines Says;
     int Level;
-  };
-  const std::string kCleanly = "Man 1: I am not losing this match cleanly.";
-  const std::string kBetter =
-      "Man 1: If i am to lose this match by interference, i want someone better to run in.";
-  const std::string kBump = "Man 1: I'm not taking a sick bump, sorry.";
-  const Row kRows[] = {
+  } kRows[] = {
       {kSingles, kClean, {50, 39}, 79, 0, {kCleanly}, 1},
       {kSingles, kClean, {50, 39}, 80, 0, {}, 0},
       {kSingles, kClean, {50, 40}, 50, 0, {}, 0},
@@ -230,7 +227,7 @@ TEST(Refusals, OfTheFinish) {
       {kTag, kClean, {50, 50}, 50, 0, {}, 0},
       {kTag, kSickBump, {50, 96}, 50, 0, {kBump}, 0},
   };
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     SCOPED_TRACE(std::to_string(row.Style) + ", finish " + std::to_string(row.Finish) + ", " +
                  std::to_string(row.WinnerOver));
     World world = Roster();
@@ -250,21 +247,20 @@ TEST(Refusals, OfTheFinish) {
 
 TEST(Refusals, OfTheAftermath) {
   using namespace after1;
-  struct Row {
-    int Aftermath, Winner;    // of Man 1, named first, and Man 2
-    const char* Disposition;  // of both
-    bool TurnPending;
-    int Attitude;
-    Lines Says;
-    Levels Minds;
-  };
   const std::string kHeat =
       ": If i am to lose, i want to do something after the match to get my heat back.";
   const std::string kHand = ": I don't think refusing a handshake is good for my character.";
   const std::string kRun = "Man 1: I don't think running away is good for my character.";
   const std::string kCheap =
       "Man 1: I don't think cheap-shotting on a handshake is good for my character.";
-  const Row kRows[] = {
+  const struct {
+    int Aftermath, Winner;    // of Man 1, named first, and Man 2
+    const char* Disposition;  // of both
+    bool TurnPending;
+    int Attitude;
+    Lines Says;
+    Levels Minds;
+  } kRows[] = {
       {kNothing, 2, "T", false, 29, {"Man 1" + kHeat}, {{1, 1}}},
       {kNothing, 2, "T", false, 30, {}, {}},
       {kRevengeAttack, 2, "T", false, 29, {}, {}},
@@ -284,7 +280,7 @@ TEST(Refusals, OfTheAftermath) {
       {kSecondRefusesHand, 2, "F", false, 96, {"Man 2" + kHand}, {{1, 2}}},
       {kSecondRefusesHand, 0, "F", false, 96, {"Man 2" + kHand}, {}},
   };
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     SCOPED_TRACE(std::to_string(row.Aftermath) + row.Disposition + std::to_string(row.Winner));
     World world = Roster();
     for (const int man : {1, 2}) {
@@ -300,18 +296,17 @@ TEST(Refusals, OfTheAftermath) {
 }
 
 TEST(Refusals, GiveWhyTheyAreFinal) {
-  struct Row {
+  const struct {
     int Style, Type, Winner, Controls;
     const char* Veto;
-  };
-  const Row kRows[] = {
+  } kRows[] = {
       {kSingles, 1, 2, 1, "Because he has creative control, you cannot challenge this."},
       {kTag, 1, 3, 2, "Because they have creative control, you cannot challenge this."},
       {kThreeWay, 2, 3, 1, "Because he has creative control, you cannot challenge this."},
       {kThreeOnThree, 1, 5, 1, "Because of creative control, you cannot challenge this."},
       {kFourOnFour, 2, 5, 1, "Because he has creative control, you cannot challenge this."},
   };
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     World world = Roster();
     Give(world, 1, {100, 96});
     world.FindWorker(row.Controls)->CreativeControl = true;

@@ -14,16 +14,11 @@ SmallWorld BookingRoster() {
   SmallWorld small;
   small.Promotion("CWA", kGlobal, [](Promotion& p) { p.Risk = 100; });
   for (int i = 1; i <= 12; ++i)
-    small.Worker("Man " + std::to_string(i), kMidcard, 60, [](Worker& w) {
-      w.Attitude = 96;
-      w.HighSpots = true;
-    });
+    small.Worker("Man " + std::to_string(i), kMidcard, 60,
+                 [](Worker& w) { w.Attitude = 96, w.HighSpots = true; });
   for (int i = 1; i <= 4; ++i)
-    small.Worker("Woman " + std::to_string(i), kMidcard, 60, [](Worker& w) {
-      w.Gender = false;
-      w.Attitude = 20;
-      w.Behaviour = 20;
-    });
+    small.Worker("Woman " + std::to_string(i), kMidcard, 60,
+                 [](Worker& w) { w.Gender = false, w.Attitude = 20, w.Behaviour = 20; });
   return small;
 }
 

@@ -33,11 +33,10 @@ Segment Sound(const World& world) {
 }
 
 TEST(WhyNotBookable, FindsEachThingThatCouldNotHaveBeenChosen) {
-  struct Row {
+  const struct {
     Change<Segment> Breaks;
     Lines Says;
-  };
-  const Row kRows[] = {
+  } kRows[] = {
       {[](Segment&) {}, {}},
       {[](Segment& s) { s.Kind = kEmptySegment; }, {"Nothing is booked."}},
       {[](Segment& s) { s.MatchType = 20; }, {"The promotion does not offer this match type."}},
@@ -75,15 +74,12 @@ TEST(WhyNotBookable, FindsEachThingThatCouldNotHaveBeenChosen) {
        {"You cannot select the same interfering person twice", "Man 9 runs in twice."}},
       {[](Segment& s) { s.Other2 = 0; }, {"You must select someone to run in for this aftermath"}},
       {[](Segment& s) { s.Purpose = purpose1::kEndFeud; }, {"The match cannot have this purpose."}},
-      {[](Segment& s) {
-         s.MatchType = kBraAndPanties;
-         s.TitleName = "None";
-       },
+      {[](Segment& s) { s.MatchType = kBraAndPanties, s.TitleName = "None"; },
        {"Man 1: You're joking, right???", "Man 2: You're joking, right???"}},
   };
   const World world = Roster();
   int number = 0;
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     Segment match = Sound(world);
     row.Breaks(match);
     EXPECT_EQ(WhyNotBookable(world, match, {}), row.Says) << "row " << number;

@@ -12,8 +12,6 @@
 namespace grapplemont::test {
 namespace {
 
-using Names = std::vector<std::string>;
-
 constexpr const char* kBackText =
     "Are you sure you wish to go back? It will erase any booking you have done so far.";
 
@@ -41,16 +39,15 @@ World Sunday(const char* slot = "P") {
 }
 
 TEST(TelevisionSheet, OpensAsManyRowsAsItsTimeSlotHas) {
-  struct Case {
+  const struct {
     const char* Slot;
     int Open, Matches, Segments;
     std::string Facts;
-  };
-  const Case kCases[] = {{"P", 11, 4, 8, "Harbor 9, Prime Time, 11 rows"},
-                         {"E", 8, 3, 7, "Harbor 9, Early Evening, 8 rows"},
-                         {"L", 6, 3, 6, "Harbor 9, Late Night, 6 rows"},
-                         {"G", 5, 2, 5, "Harbor 9, Graveyard, 5 rows"}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{"P", 11, 4, 8, "Harbor 9, Prime Time, 11 rows"},
+                {"E", 8, 3, 7, "Harbor 9, Early Evening, 8 rows"},
+                {"L", 6, 3, 6, "Harbor 9, Late Night, 6 rows"},
+                {"G", 5, 2, 5, "Harbor 9, Graveyard, 5 rows"}};
+  for (const auto& c : kCases) {
     SCOPED_TRACE(c.Slot);
     OnSheet play(OnAir(c.Slot)
                      .Show("Late Tide", "Sunday", "Harbor 9",
@@ -76,13 +73,12 @@ TEST(TelevisionSheet, OpensAsManyRowsAsItsTimeSlotHas) {
 }
 
 TEST(Sheet, LetsAShowStartOnceItsMinimumIsBooked) {
-  struct Case {
+  const struct {
     const char* About;
     const char* Slot;    // nullptr: an Event
     std::string Booked;  // M, I, A or a dot, from record 1
     bool Starts;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {"two of five are matches", "G", "MMIIA", true},
       {"four matches are four segments", "G", "MMMM", false},
       {"one match too few", "G", "MIIIA", false},
@@ -91,7 +87,7 @@ TEST(Sheet, LetsAShowStartOnceItsMinimumIsBooked) {
       {"five on the Event itself", nullptr, ".MMMMA", false},
       {"six on the Event itself", nullptr, ".MMMMAI", true},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     SCOPED_TRACE(c.About);
     SmallWorld small = OnAir(c.Slot ? c.Slot : "P");
     if (!c.Slot)
@@ -374,16 +370,15 @@ TEST(TelevisionSheet, CancelsTheShowAfterAsking) {
 }
 
 TEST(TelevisionSheet, OffersTheAutoBookerWhileSomebodyAboveTheJobbersIsFit) {
-  struct Case {
+  const struct {
     int Position;
     const char* Status;
     bool Offered;
-  };
-  const Case kCases[] = {{kOpener, "Nor", true},
-                         {kJobber, "Nor", false},
-                         {kManager, "Nor", false},
-                         {kMainEvent, "Inj", false}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{kOpener, "Nor", true},
+                {kJobber, "Nor", false},
+                {kManager, "Nor", false},
+                {kMainEvent, "Inj", false}};
+  for (const auto& c : kCases) {
     OnSheet play(SmallWorld()
                      .Network("Harbor 9")
                      .Promotion("CWA")

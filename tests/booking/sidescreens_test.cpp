@@ -6,8 +6,6 @@
 namespace grapplemont::test {
 namespace {
 
-using Names = std::vector<std::string>;
-
 Change<Worker> Unseen() {
   return [](Worker& worker) { worker.Debuted = false; };
 }
@@ -36,12 +34,10 @@ TEST(WaysToDebut, FitThePersonAndTheDay) {
                             })
                     .Game("CWA");
   constexpr const char* kTwo = "1 vs 1: one of the two, purpose \"Debut\"";
-  struct Case {
-    const char* Who;
-    const char* How;
+  const struct {
+    const char *Who, *How;
     const char* WhyNot;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {"Fresh", kTwo, ""},
       {"Mouth", kTwo, ""},
       {"Suit", kTwo, "-"},
@@ -52,7 +48,7 @@ TEST(WaysToDebut, FitThePersonAndTheDay) {
       {"Fresh", "Challenge", "-"},
       {"Hurt", "Debut Attack", "Hurt: Broken Leg, out for 3 months."},
   };
-  for (const Case& c : kCases) EXPECT_EQ(WhyNot(world, c.Who, c.How), c.WhyNot) << c.Who << c.How;
+  for (const auto& c : kCases) EXPECT_EQ(WhyNot(world, c.Who, c.How), c.WhyNot) << c.Who << c.How;
 }
 
 TEST(frmDebut, KnowsWhichSheetItStandsBeside) {

@@ -11,11 +11,7 @@ inline SmallWorld TalkCompany() {
   const auto client = [](Worker& w) { w.Manager = 1; };
   SmallWorld small;
   small.Network("Channel Nine")
-      .Promotion("CWA", kGlobal,
-                 [](Promotion& p) {
-                   p.Risk = 100;
-                   p.Commissioner = 2;
-                 })
+      .Promotion("CWA", kGlobal, [](Promotion& p) { p.Risk = 100, p.Commissioner = 2; })
       .Worker("Max Mouth", kManager, 50)
       .Worker("Com Boss", kNonWrestler, 50)
       .Worker("Bob Bold", kMainEvent, 80, client)
@@ -23,18 +19,10 @@ inline SmallWorld TalkCompany() {
       .Worker("Dan Dark", kMidcard, 60, [](Worker& w) { w.TurnPending = true; })
       .Worker("Eve East", kMidcard, 60, [](Worker& w) { w.Gender = false; })
       .Worker("Fay Fair", kMidcard, 60,
-              [](Worker& w) {
-                w.Gender = false;
-                w.Disposition = "H";
-                w.TurnPending = true;
-              })
+              [](Worker& w) { w.Gender = false, w.Disposition = "H", w.TurnPending = true; })
       .Worker("New Noel", kMidcard, 40, [](Worker& w) { w.Debuted = false; })
       .Worker("New Nora", kMidcard, 40,
-              [](Worker& w) {
-                w.Gender = false;
-                w.Debuted = false;
-                w.Manager = 1;
-              })
+              [](Worker& w) { w.Gender = false, w.Debuted = false, w.Manager = 1; })
       .Worker("Tide One", kMidcard, 60)
       .Worker("Tide Two", kMidcard, 60, [](Worker& w) { w.Manager = 12; })
       .Worker("Mo Fresh", kManager, 30, [](Worker& w) { w.Debuted = false; })

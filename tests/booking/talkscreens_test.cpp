@@ -9,7 +9,6 @@
 namespace grapplemont::test {
 namespace {
 
-using Names = std::vector<std::string>;
 using Cells = std::vector<Names>;
 
 /// The wizard without its screen: a step at a time over a buffer that a test can look into.

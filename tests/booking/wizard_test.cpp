@@ -92,12 +92,9 @@ TEST(StepBack, UndoesInterviewsAndAngles) {
                    [](Segment& s) { s.Worker[0] = s.Worker[1] = s.Worker[2] = 1; },
                    [](Segment& s) { s.Worker[3] = s.Worker[4] = 4; },
                    [](Segment& s) { s.Purpose = kVerbalAttack; }});
-  ExpectTakenBack({[](Segment& s) { s.Kind = kAngle; }, [](Segment& s) { s.Style = 71; },
-                   [](Segment& s) {
-                     s.Worker[0] = 3;
-                     s.TitleName = "Crown";
-                     s.Text = "The Dock Rats";
-                   }});
+  ExpectTakenBack(
+      {[](Segment& s) { s.Kind = kAngle; }, [](Segment& s) { s.Style = 71; },
+       [](Segment& s) { s.Worker[0] = 3, s.TitleName = "Crown", s.Text = "The Dock Rats"; }});
 }
 
 TEST(TextOfStep, TellsInterviewsAndAngles) {
