@@ -11,11 +11,7 @@ namespace grapplemont::test {
 namespace {
 
 Change<Network> Grave(int audience, int risk = 60, bool generic = false) {
-  return [=](Network& n) {
-    n.GraveAudience = audience;
-    n.GraveRisk = risk;
-    n.Generic = generic;
-  };
+  return [=](Network& n) { n.GraveAudience = audience, n.GraveRisk = risk, n.Generic = generic; };
 }
 
 /// The player "CWA" has the uid 4, so that the rival "NEW" can be any of the others.
@@ -26,10 +22,8 @@ SmallWorld RivalOf(int uid, int size) {
     small.Promotion(other == 4     ? "CWA"
                     : other == uid ? "NEW"
                                    : "P" + std::to_string(other),
-                    other == uid ? size : kRegional, [](Promotion& p) {
-                      p.Risk = 60;
-                      p.Image = 50;
-                    });
+                    other == uid ? size : kRegional,
+                    [](Promotion& p) { p.Risk = 60, p.Image = 50; });
   small.Game("CWA");
   return small;
 }
@@ -53,14 +47,13 @@ const Draws kSigned = {{6, 2}, {100, 50}, {7, 3}, {7, 5}, {7, 4}};
 
 // A Cult rival of image 50 could draw 320: eight tenths of 401 are 320, of 402 they are 321.
 TEST(RivalNewTvShows, AskInThisOrder) {
-  struct Case {
+  const struct {
     const char* What;
     int Audience, Risk, Shows;
     bool Generic;
     Draws Script;
     bool Signs;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {"too risky draws nothing", 10, 59, 0, false, {}, false},
       {"full draws nothing", 10, 60, 28, false, {}, false},
       {"full but generic", 10, 60, 28, true, kSigned, true},
@@ -69,7 +62,7 @@ TEST(RivalNewTvShows, AskInThisOrder) {
       {"too few draw, after the draw", 402, 60, 0, false, {{6, 2}}, false},
       {"no interest on 1", 10, 60, 0, false, {{6, 1}}, false},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     World world = RivalOf(5, kCult);
     Grave(c.Audience, c.Risk, c.Generic)(world.Networks()[1]);
     AddShows(world, 0, std::vector<const char*>(static_cast<std::size_t>(c.Shows), "Monday"), "E");
@@ -130,18 +123,17 @@ TEST(RivalNewTvShows, GoToTheBiggestNetworkATieToTheEarlier) {
 }
 
 TEST(RivalNewTvShows, FindADayAndAName) {
-  struct Case {
+  // Saturday is the rival's own, Monday to Wednesday and Sunday are the network's.
+  const struct {
     std::vector<int> Days;
     bool Generic;
     const char* Day;
-  };
-  // Saturday is the rival's own, Monday to Wednesday and Sunday are the network's.
-  const Case kCases[] = {{{1, 6, 7}, false, "Friday"},    // no hit: the last free one
-                         {{4, 1, 2}, false, "Thursday"},  // the first
-                         {{4, 5, 3}, false, "Friday"},    // of two the last
-                         {{1, 5, 4}, false, "Thursday"},
-                         {{2, 2, 6}, true, "Tuesday"}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{{1, 6, 7}, false, "Friday"},    // no hit: the last free one
+                {{4, 1, 2}, false, "Thursday"},  // the first
+                {{4, 5, 3}, false, "Friday"},    // of two the last
+                {{1, 5, 4}, false, "Thursday"},
+                {{2, 2, 6}, true, "Tuesday"}};
+  for (const auto& c : kCases) {
     World world = RivalOf(5, kCult);
     world.Networks()[1].Generic = c.Generic;
     AddShows(world, 5, {"Saturday"}, "P");
@@ -171,14 +163,13 @@ World TwoShows() {
 }
 
 TEST(TvContractReview, RenewsARivalsShowAtTwoWeeks) {
-  struct Case {
+  // Seven tenths of 405 are 283, eight tenths 324; the graveyard wants 100.
+  constexpr struct {
     int Risk, Rating, Weeks;
     const char* Slot = "P";
-  };
-  // Seven tenths of 405 are 283, eight tenths 324; the graveyard wants 100.
-  constexpr Case kCases[] = {{60, 282, 2},  {60, 283, 20}, {60, 324, 20},
-                             {60, 325, 27}, {61, 400, 2},  {60, 99, 27, "G"}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{60, 282, 2},  {60, 283, 20}, {60, 324, 20},
+                {60, 325, 27}, {61, 400, 2},  {60, 99, 27, "G"}};
+  for (const auto& c : kCases) {
     World world = TwoShows();
     for (Show& show : world.Shows()) {
       show.ContractWeeks = 3;
@@ -197,16 +188,15 @@ TEST(TvContractReview, RenewsARivalsShowAtTwoWeeks) {
 }
 
 TEST(TvContractReview, EndsShows) {
-  struct Case {
+  constexpr struct {
     int Weeks, Strikes;
     const char* Told;  // nullptr: the show goes on
-  };
-  constexpr Case kCases[] = {{1, 0, " has not been renewed by Nine!"},
-                             {9, 3, " has been dropped by Nine!"},
-                             {1, 3, " has not been renewed by Nine!"},
-                             {9, 2, nullptr},
-                             {9, 4, nullptr}};
-  for (const Case& c : kCases)
+  } kCases[] = {{1, 0, " has not been renewed by Nine!"},
+                {9, 3, " has been dropped by Nine!"},
+                {1, 3, " has not been renewed by Nine!"},
+                {9, 2, nullptr},
+                {9, 4, nullptr}};
+  for (const auto& c : kCases)
     for (const int number : {1, 2}) {
       SCOPED_TRACE(std::to_string(c.Weeks) + " " + std::to_string(c.Strikes));
       World world = TwoShows();

@@ -17,11 +17,8 @@ World Office(const Change<Promotion>& change = {}, int difficulty = kMedium) {
 }
 
 TEST(TheOffice, AsksBeforeMoneyGoesAndMindsWhatIsThere) {
-  GameOnWorld play(Office([](Promotion& p) {
-    p.Money = 30'000;
-    p.Production = 33;
-    p.TicketPrice = 140;
-  }));
+  GameOnWorld play(
+      Office([](Promotion& p) { p.Money = 30'000, p.Production = 33, p.TicketPrice = 140; }));
   ScriptDesk& desk = play.Desk;
   const Promotion& player = play.World().Player();
   desk.Open("frmTicket");

@@ -10,8 +10,6 @@
 namespace grapplemont::test {
 namespace {
 
-using Names = std::vector<std::string>;
-
 constexpr const char* kNoBenefit = "we don't feel your shows would benefit our network.";
 constexpr const char* kTooSmall = "we don't feel your promotion is really big enough";
 constexpr const char* kTooRisky = "we're not comfortable with the riskiness of your product.";
@@ -29,19 +27,16 @@ struct Standing {
 };
 
 World TapeUnderWay(const Standing& s) {
-  World world = SmallWorld()
-                    .Network("Nine",
-                             [&](Network& n) {
-                               n.GraveAudience = s.Audience;
-                               n.GraveRisk = s.GraveRisk;
-                               n.Generic = s.Generic;
-                             })
-                    .Promotion("CWA", s.Size,
-                               [&](Promotion& p) {
-                                 p.Image = s.Image;
-                                 p.Risk = s.Risk;
-                               })
-                    .Game("CWA", kGameStart, [&](GameInfo& g) { g.Economy = s.Economy; });
+  World world =
+      SmallWorld()
+          .Network("Nine",
+                   [&](Network& n) {
+                     n.GraveAudience = s.Audience;
+                     n.GraveRisk = s.GraveRisk;
+                     n.Generic = s.Generic;
+                   })
+          .Promotion("CWA", s.Size, [&](Promotion& p) { p.Image = s.Image, p.Risk = s.Risk; })
+          .Game("CWA", kGameStart, [&](GameInfo& g) { g.Economy = s.Economy; });
   Show show;
   show.Network = 1;
   for (int i = 0; i < s.Shows; ++i) world.Shows().Append(show);
@@ -50,12 +45,11 @@ World TapeUnderWay(const Standing& s) {
 }
 
 TEST(AnswerPromoTapes, TellsTheLastReasonThatAppliesElseDraws) {
-  struct Case {
+  const struct {
     Standing Is;
     const char* Says;
     int Draw = 0;  // 0: none
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {{.Audience = 202}, kNoBenefit},  // six tenths of 201 are 120
       {{.Audience = 182, .Economy = 15}, kNoBenefit},
       {{.Size = kSmall, .Audience = 2}, kNoBenefit},
@@ -71,7 +65,7 @@ TEST(AnswerPromoTapes, TellsTheLastReasonThatAppliesElseDraws) {
       {{.Shows = 29}, kNotLooking, 1},
       {{.Size = kSmall, .Audience = 1}, kNotLooking, 1},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     World world = TapeUnderWay(c.Is);
     world.Game().TvOfferWait = 9;
     ScriptDraws(world, c.Draw == 0 ? std::vector<int>{} : std::vector{c.Draw});
@@ -142,13 +136,12 @@ TEST(TvOffer, HasWeeksASlotAndDays) {
   for (int size = kGlobal; size <= kBackyard; ++size)
     weeks.push_back(OfferOnTheTable(Offered(size))->Weeks);
   EXPECT_EQ(weeks, (std::vector{52, 24, 12, 12, 6, 6}));
-  struct Case {
+  constexpr struct {
     int Early, Late, Prime;
     const char* Slot;  // the last that the promotion outdraws
-  };
-  constexpr Case kCases[] = {{120, 120, 120, "G"}, {119, 120, 120, "E"}, {119, 119, 120, "L"},
-                             {119, 119, 119, "P"}, {120, 119, 120, "L"}, {120, 120, 119, "P"}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{120, 120, 120, "G"}, {119, 120, 120, "E"}, {119, 119, 120, "L"},
+                {119, 119, 119, "P"}, {120, 119, 120, "L"}, {120, 120, 119, "P"}};
+  for (const auto& c : kCases) {
     const World world = Offered(kRegional, [&](Network& n) {
       n.EarlyAudience = c.Early;
       n.LateAudience = c.Late;

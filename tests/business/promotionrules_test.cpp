@@ -90,12 +90,7 @@ TEST(Splits, HaveNamesOfTheirOwn) {
 
 SmallWorld Schools() {
   SmallWorld small;
-  small
-      .Promotion("CWA", kCult,
-                 [](Promotion& p) {
-                   p.Money = 500000;
-                   p.Commissioner = 4;
-                 })
+  small.Promotion("CWA", kCult, [](Promotion& p) { p.Money = 500000, p.Commissioner = 4; })
       .Worker("Raw", kTrainingCamp, 20)
       .Worker("Deal", kDevelopmentDeal, 75)
       .Worker("Sent", 82, 30)

@@ -162,16 +162,14 @@ TEST(frmTVContract, EndsABadShowForNothingAndAnyOtherForAPenalty) {
 }
 
 TEST(frmTVContract, MovesAShowUnderTheLimitOfRisk) {
-  struct Move {
+  constexpr struct {
     const char* From;
     NetworkView View;
     const char* To;
     int Risk;  // the limit below which it must be
-  };
-  constexpr Move kMoves[] = {
-      {"E", kTerrible, "G", 70}, {"E", kHappy, "L", 60}, {"E", kGreat, "P", 50},
-      {"P", kTerrible, "G", 60}, {"P", kLow, "L", 60},   {"L", kTerrible, "G", 70},
-      {"L", kLow, "G", 70},      {"L", kGreat, "P", 50}, {"G", kGreat, "L", 60}};
+  } kMoves[] = {{"E", kTerrible, "G", 70}, {"E", kHappy, "L", 60}, {"E", kGreat, "P", 50},
+                {"P", kTerrible, "G", 60}, {"P", kLow, "L", 60},   {"L", kTerrible, "G", 70},
+                {"L", kLow, "G", 70},      {"L", kGreat, "P", 50}, {"G", kGreat, "L", 60}};
   std::size_t offers = 0;
   for (const char* from : {"E", "P", "L", "G"})
     for (const NetworkView view : {kUnseen, kTerrible, kLow, kHappy, kGreat})
@@ -179,7 +177,7 @@ TEST(frmTVContract, MovesAShowUnderTheLimitOfRisk) {
           !TalkOfMove(w, w.Player(), w.Shows()[1], w.Networks()[1]).Slot.empty())
         ++offers;
   EXPECT_EQ(offers, std::size(kMoves)) << "and nothing else";
-  for (const Move& move : kMoves) {
+  for (const auto& move : kMoves) {
     SCOPED_TRACE(std::string(move.From) + std::to_string(move.View));
     World world = OnTheAir(move.From, move.View, move.Risk);
     const auto talk = [&] {
@@ -215,20 +213,16 @@ TEST(frmTVContract, MovesAShowUnderTheLimitOfRisk) {
 /// The first words of each thing that Maeve says of a National show whose slot wants 402 and bears
 /// 60; 60 is what its public expects of commentators.
 std::string Advice(const std::function<void(World&, Show&)>& change, int size = kNational) {
-  World world = SmallWorld()
-                    .Network("Nine", [](Network& n) { n.PrimeAudience = 402; })
-                    .Promotion("CWA", size)
-                    .Staff("Nigel", kAnnouncer, 90)
-                    .Staff("Carol", kAnnouncer, 90)
-                    .Worker("Bram", [](Worker& w) { w.Charisma = 49; })
-                    .Show("Friday Fire", "Friday", "Nine",
-                          [](Show& s) {
-                            s.Announcer = 1;
-                            s.Colour = 2;
-                            s.Rating1 = 500;
-                            s.Rating3 = 300;
-                          })
-                    .Game("CWA");
+  World world =
+      SmallWorld()
+          .Network("Nine", [](Network& n) { n.PrimeAudience = 402; })
+          .Promotion("CWA", size)
+          .Staff("Nigel", kAnnouncer, 90)
+          .Staff("Carol", kAnnouncer, 90)
+          .Worker("Bram", [](Worker& w) { w.Charisma = 49; })
+          .Show("Friday Fire", "Friday", "Nine",
+                [](Show& s) { s.Announcer = 1, s.Colour = 2, s.Rating1 = 500, s.Rating3 = 300; })
+          .Game("CWA");
   Show& show = world.Shows()[1];
   change(world, show);
   std::string titles;
@@ -257,19 +251,18 @@ TEST(Maeve, SpeaksOfTheTable) {
 
 TEST(Maeve, SpeaksOfTheRatingsElseOfTheRisk) {
   // Of 402: 241.2, 281.4, 321.6 and 361.8. Of 400: 240, 280, 320 and 360.
-  struct Case {
+  constexpr struct {
     int Audience, Rating, Risk;
     const char* Says;
-  };
-  constexpr Case kCases[] = {{402, 281, 99, "Uh-oh!"},
-                             {402, 282, 60, "Nothing's Happening!"},
-                             {402, 321, 61, "Too Risky!"},
-                             {402, 322, 61, "OK!"},
-                             {402, 362, 61, "Great!"},
-                             {400, 279, 60, "Uh-oh!"},
-                             {400, 320, 60, "Nothing's Happening!"},
-                             {400, 360, 60, "OK!"}};
-  for (const Case& c : kCases)
+  } kCases[] = {{402, 281, 99, "Uh-oh!"},
+                {402, 282, 60, "Nothing's Happening!"},
+                {402, 321, 61, "Too Risky!"},
+                {402, 322, 61, "OK!"},
+                {402, 362, 61, "Great!"},
+                {400, 279, 60, "Uh-oh!"},
+                {400, 320, 60, "Nothing's Happening!"},
+                {400, 360, 60, "OK!"}};
+  for (const auto& c : kCases)
     EXPECT_EQ(Advice([&](World& w, Show& s) {
                 w.Networks()[1].PrimeAudience = c.Audience;
                 w.Player().Risk = c.Risk;
