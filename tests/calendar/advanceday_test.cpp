@@ -6,7 +6,6 @@
 #include "business/past.h"
 #include "calendar/advanceday.h"
 #include "calendar/events.h"
-#include "records/checks/checkworld.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
@@ -91,8 +90,7 @@ TEST(EventNames, AreThePlayersOwnAndFit) {
   World world = Planned().Game("CWA");
   const struct {
     int Month;
-    const char* Name;
-    const char* Why;
+    const char *Name, *Why;
   } rows[] = {{3, " ", "Type a name first."},
               {3, "May Mayhem", "You have an Event called May Mayhem already."},
               {5, "May Mayhem", ""},
@@ -102,14 +100,13 @@ TEST(EventNames, AreThePlayersOwnAndFit) {
 }
 
 TEST(EventScreen, ShowsTheYearAndMarksTheOneThatIsDue) {
-  struct Case {
+  constexpr struct {
     int Day;
     bool Planned;
     const char* Mark;
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {1, true, "Due"}, {29, true, "Tonight"}, {30, true, "Over"}, {29, false, "Missing"}};
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     World world = Planned().Game("CWA", year{2026} / 3 / c.Day);
     if (!c.Planned) DropEvent(world, 3);
     GameOnWorld play(std::move(world));
@@ -184,7 +181,7 @@ TEST(EventScreen, PlansRenamesChangesAndDrops) {
   EXPECT_EQ(PlayerEvent(world, 7)->Name.View(), "Hotter July");
   EXPECT_EQ(PlayerEvent(world, 7)->Type, 1);
   EXPECT_EQ(world.Events().Count(), 3);
-  EXPECT_TRUE(CheckWorld(world).empty());
+  ExpectSound(world);
 }
 
 TEST(Events, TakeThePlacesThatPromotionsHaveLeft) {

@@ -46,10 +46,8 @@ World House(Day today = kGameStart, int size = kCult, int economy = 15) {
       .OnTheMarket()
       .Worker("Free Fred", kOpener, 40, [](Worker& w) { w.Wage = 290; })
       .Staff("Free Frida", kMedical, 80);
-  World world = small.Game("CWA", today, [&](GameInfo& g) {
-    g.Economy = economy;
-    g.Difficulty = kHard;
-  });
+  World world =
+      small.Game("CWA", today, [&](GameInfo& g) { g.Economy = economy, g.Difficulty = kHard; });
   world.SetChance(std::make_unique<SeededDraws>(7));
   return world;
 }
@@ -69,12 +67,10 @@ Told OfHistory(const World& world, NoteKind kind, int number) {
   return {number, NotedScore(world, kind, world.Today())};
 }
 
-struct Case {
+const struct {
   const char* Name;
   std::function<Told()> Play;
-};
-
-const Case kCases[] = {
+} kCases[] = {
     {"attendance of an Event",
      [] {
        const World w = AfterShow(kLastSunday);
@@ -161,7 +157,7 @@ const Case kCases[] = {
 };
 
 TEST(Explained, NumbersAreTheSumOfTheirSteps) {
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     SCOPED_TRACE(c.Name);
     const Told told = c.Play();
     ASSERT_FALSE(told.Why.Steps().empty());

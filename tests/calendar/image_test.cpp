@@ -70,15 +70,14 @@ TEST(ChangeImage, MayCostThePlayerHisJob) {
 }
 
 TEST(ChangeImage, TellsOfARivalUnderTheOptionsAndLetsItSpendByItsStanding) {
-  struct Case {
-    int Size, FedOption, OwnerOption;
-    const char* News;
-  };
   // The player is Regional; a rival counts by the size that it has fallen to.
   constexpr const char* kFall = "NEW News: NEW have fallen to Regional level.\n";
   constexpr const char* kQuit = "NEW News: Owner NEW Boss has quit NEW.\n";
-  const Case kCases[] = {{kCult, 1, 2, kFall}, {kCult, 2, 1, kQuit}, {kRegional, 1, 1, ""}};
-  for (const Case& c : kCases) {
+  const struct {
+    int Size, FedOption, OwnerOption;
+    const char* News;
+  } kCases[] = {{kCult, 1, 2, kFall}, {kCult, 2, 1, kQuit}, {kRegional, 1, 1, ""}};
+  for (const auto& c : kCases) {
     World world = TwoPromotions(kRegional, 5).Game("CWA");
     Promotion& rival = Named(world.Promotions(), "NEW");
     rival.Size = c.Size;

@@ -56,27 +56,23 @@ SmallWorld WithAgents(int agents) {
 World Lone(int behaviour, int condition, int agents = 1) {
   return WithAgents(agents)
       .Worker("Bram Okafor",
-              [&](Worker& worker) {
-                worker.Behaviour = behaviour;
-                worker.Condition = condition;
-              })
+              [&](Worker& worker) { worker.Behaviour = behaviour, worker.Condition = condition; })
       .Game("CWA", kLater);
 }
 
 TEST(IncidentRoll, RollsByConditionAndBehaviour) {
-  struct Case {
+  const struct {
     int Condition, Injury, Behaviour;
     std::vector<int> Odds;
-  };
-  const Case kCases[] = {{100, 2500, 90, {}},
-                         {90, 2500, 70, {10000, 9000, 8000, 8000}},
-                         {89, 1800, 69, {6000, 6500, 4000, 5000}},
-                         {60, 1800, 49, {4000, 4200, 1000, 1200}},
-                         {59, 1200, 29, {2500, 2800, 500, 800}},
-                         {40, 1200, 10, {2500, 2800, 500, 800}},
-                         {39, 800, 9, {1200, 1400, 100, 200}}};
+  } kCases[] = {{100, 2500, 90, {}},
+                {90, 2500, 70, {10000, 9000, 8000, 8000}},
+                {89, 1800, 69, {6000, 6500, 4000, 5000}},
+                {60, 1800, 49, {4000, 4200, 1000, 1200}},
+                {59, 1200, 29, {2500, 2800, 500, 800}},
+                {40, 1200, 10, {2500, 2800, 500, 800}},
+                {39, 800, 9, {1200, 1400, 100, 200}}};
   constexpr int kOff[] = {200, 150, 30, 20};
-  for (const Case& c : kCases)
+  for (const auto& c : kCases)
     for (const bool isShort : {false, true}) {
       World world = Lone(c.Behaviour, c.Condition, isShort ? 0 : 1);
       std::vector<int> expected{180, c.Injury};
@@ -88,11 +84,10 @@ TEST(IncidentRoll, RollsByConditionAndBehaviour) {
 }
 
 TEST(IncidentRoll, BooksTheFirstThatHits) {
-  struct Case {
+  const struct {
     std::map<int, int> Answers;
     int Type;  // 0 none
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {{{2500, 100}}, kInjury},
       {{{2500, 101}}, 0},
       {{{6000, 200}}, kRehab},
@@ -104,7 +99,7 @@ TEST(IncidentRoll, BooksTheFirstThatHits) {
       {{{6500, 400}, {4000, 3}, {5000, 25}}, kPolice},
       {{{4000, 3}, {5000, 25}}, kLate},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     World world = Lone(60, 100);
     Asked(world, c.Answers);
     std::vector<std::pair<int, int>> expected;
@@ -143,17 +138,16 @@ TEST(IncidentRoll, KeepsTenADay) {
 }
 
 TEST(IncidentRoll, OffersAfterSixtyDaysWhatIsNotTooFarAbove) {
-  struct Case {
+  constexpr struct {
     Day On;
     int Own, Size, Drawn;
     bool Offers;
-  };
-  constexpr Case kCases[] = {{kLater, kRegional, kNational, 2, true},
-                             {kLater, kRegional, kGlobal, 2, false},
-                             {kLater, kGlobal, kBackyard, 2, true},
-                             {kLater, kRegional, kNational, 1, false},  // their own
-                             {kLater - std::chrono::days{1}, kRegional, kNational, 2, false}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{kLater, kRegional, kNational, 2, true},
+                {kLater, kRegional, kGlobal, 2, false},
+                {kLater, kGlobal, kBackyard, 2, true},
+                {kLater, kRegional, kNational, 1, false},  // their own
+                {kLater - std::chrono::days{1}, kRegional, kNational, 2, false}};
+  for (const auto& c : kCases) {
     World world = WithAgents(1).Promotion("NEW", c.Size).Game("CWA", c.On);
     world.Session.StartSize = c.Own;
     ScriptDraws(world, c.On == kLater ? std::vector<ScriptedDraw>{{180, 5}, {2, c.Drawn}}

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "calendar/incidents.h"
-#include "records/checks/checkworld.h"
 #include "records/modVar.h"
 #include "roster/talks.h"
 #include "support/gameonworld.h"
@@ -47,7 +46,7 @@ struct Backstage {
     Play.Desk.Open("frmMainScreen");
   }
   ~Backstage() {
-    for (const Fault& fault : CheckWorld(Play.World())) ADD_FAILURE() << fault.Line();
+    ExpectSound(Play.World());
   }
   Worker& Who(const char* name) { return Named(Play.World().Workers(), name); }
   std::string Told() { return Play.Desk.Text("txtincident"); }
@@ -57,12 +56,11 @@ struct Backstage {
 };
 
 TEST(IncidentScreen, TellsOfEachKind) {
-  struct Case {
+  const struct {
     Listed What;
     std::initializer_list<ScriptedDraw> Draws;
     const char* Words;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {{kPolice, "Ann Teal"},
        {},
        "Ann Teal has been involved in a police incident! Apparently she was carrying drugs when "
@@ -73,7 +71,7 @@ TEST(IncidentScreen, TellsOfEachKind) {
        "takes 2 months."},
       {{kJobOffer, "BRD"}, {}, "The BRD board would like to offer you a job. "},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Backstage backstage({c.What}, Company(), c.Draws);
     ASSERT_TRUE(backstage.Waits());
     EXPECT_EQ(backstage.Told(), c.Words);

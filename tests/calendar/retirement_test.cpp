@@ -66,7 +66,11 @@ Worker& Sol(World& world) {
 const ScriptedDraw kSkillsStay{5, 3};
 
 TEST(Retirement, IsDrawnByAgeAndToldByTheOptionTheShortlistAndOnesOwn) {
-  struct Case {
+  constexpr std::string_view kFree =
+      "Retiring!: Sol Varga has announced she will retire in one month.\n";
+  constexpr std::string_view kRival =
+      "Retirement!: Sol Varga has announced he will retire from NEW in one month.\n";
+  const struct {
     int AgeBefore;
     Script Draws;  // after the skills
     bool Announces;
@@ -76,25 +80,20 @@ TEST(Retirement, IsDrawnByAgeAndToldByTheOptionTheShortlistAndOnesOwn) {
     std::string_view Mail =
         "Retirement!: Sol Varga has announced he will retire from CWA in one "
         "month.\n";
-  };
-  constexpr std::string_view kFree =
-      "Retiring!: Sol Varga has announced she will retire in one month.\n";
-  constexpr std::string_view kRival =
-      "Retirement!: Sol Varga has announced he will retire from NEW in one month.\n";
-  const Case kCases[] = {{33, {}, false},
-                         {34, {{40, 1}}, true},
-                         {34, {{40, 2}}, false},
-                         {44, {{15, 1}}, true},
-                         {50, {{3, 1}}, true},
-                         {64, {{3, 2}}, false},
-                         {65, {}, true},
-                         {65, {}, true, "", 0, false, kFree},
-                         {65, {}, true, "", 1, false, ""},
-                         {65, {}, true, "", 2, true, kFree},
-                         {65, {}, true, "NEW", 0, false, kRival},
-                         {65, {}, true, "NEW", 1, false, ""},
-                         {65, {}, true, "NEW", 2, true, kRival}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{33, {}, false},
+                {34, {{40, 1}}, true},
+                {34, {{40, 2}}, false},
+                {44, {{15, 1}}, true},
+                {50, {{3, 1}}, true},
+                {64, {{3, 2}}, false},
+                {65, {}, true},
+                {65, {}, true, "", 0, false, kFree},
+                {65, {}, true, "", 1, false, ""},
+                {65, {}, true, "", 2, true, kFree},
+                {65, {}, true, "NEW", 0, false, kRival},
+                {65, {}, true, "NEW", 1, false, ""},
+                {65, {}, true, "NEW", 2, true, kRival}};
+  for (const auto& c : kCases) {
     SCOPED_TRACE(c.AgeBefore);
     World world = With(c.Employer, [&](Worker& worker) {
       worker.Age = c.AgeBefore;
@@ -113,10 +112,7 @@ TEST(Retirement, IsDrawnByAgeAndToldByTheOptionTheShortlistAndOnesOwn) {
 
 TEST(Retirement, WaitsForTheMonthAfterABirthdayEvenIfAnnouncedBefore) {
   for (const int drawn : {1, 2}) {
-    World world = With("CWA", [](Worker& worker) {
-      worker.Age = 36;
-      worker.RetiringSoon = true;
-    });
+    World world = With("CWA", [](Worker& worker) { worker.Age = 36, worker.RetiringSoon = true; });
     const int uid = Sol(world).Uid;
     ScriptDraws(world, Then({kSkillsStay}, {{40, drawn}}));
     AgeAndRetire(world);
@@ -172,16 +168,15 @@ TEST(Retirement, LeavesNoLinkBehind) {
     incident.Uid = uid;
     world.Incidents().Append(incident);
   }
-  struct Booked {
+  constexpr struct {
     int Style;
     std::size_t Place;  // where they stand
     bool RunsIn, Stays;
-  };
-  constexpr Booked kBooked[] = {{kSingles, 1, false, false},
-                                {kTag, 3, false, false},
-                                {kSingles, 0, true, false},
-                                {kSingles, 0, false, true}};
-  for (const Booked& row : kBooked) {
+  } kBooked[] = {{kSingles, 1, false, false},
+                 {kTag, 3, false, false},
+                 {kSingles, 0, true, false},
+                 {kSingles, 0, false, true}};
+  for (const auto& row : kBooked) {
     Segment segment = EmptySegment();
     segment.Kind = kMatch;
     segment.Style = row.Style;
@@ -204,7 +199,7 @@ TEST(Retirement, LeavesNoLinkBehind) {
   EXPECT_EQ(world.Incidents()[1].Type, 0);
   EXPECT_EQ(world.Incidents()[2].Type, 6) << "a job offer names a promotion";
   int number = 0;
-  for (const Booked& row : kBooked)
+  for (const auto& row : kBooked)
     EXPECT_EQ(world.Segments()[++number].Kind, row.Stays ? kMatch : kEmptySegment) << number;
 }
 
@@ -214,10 +209,7 @@ World WithStaff(std::string_view employer, int position, int age, int option = 0
   Houses(small, employer);
   return small
       .Staff("Pen Ward", position, 50,
-             [&](Staff& staff) {
-               staff.BirthMonth = kFebruary;
-               staff.Age = age;
-             })
+             [&](Staff& staff) { staff.BirthMonth = kFebruary, staff.Age = age; })
       .Game("CWA", kGameStart, [&](GameInfo& game) { game.MailStaffRetire = option; });
 }
 
@@ -230,26 +222,25 @@ Script Newcomer(int position) {
 }
 
 TEST(StaffRetirement, IsDrawnByAgeAndAtOnce) {
-  struct Case {
+  const struct {
     int AgeBefore;
     Script Draws;
     bool Retires;
     std::string_view Employer = "CWA";
     int Option = 2;
     const char* From = " from CWA";  // nullptr: untold
-  };
-  const Case kCases[] = {{48, {}, false},
-                         {49, {{10, 1}}, true},
-                         {58, {{10, 2}}, false},
-                         {59, {{3, 1}}, true},
-                         {65, {{2, 1}}, true},
-                         {72, {{2, 2}}, false},
-                         {73, {}, true},
-                         {73, {}, true, "NEW", 0, " from NEW"},
-                         {73, {}, true, "NEW", 1, nullptr},
-                         {73, {}, true, "", 0, ""},
-                         {73, {}, true, "", 1, nullptr}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{48, {}, false},
+                {49, {{10, 1}}, true},
+                {58, {{10, 2}}, false},
+                {59, {{3, 1}}, true},
+                {65, {{2, 1}}, true},
+                {72, {{2, 2}}, false},
+                {73, {}, true},
+                {73, {}, true, "NEW", 0, " from NEW"},
+                {73, {}, true, "NEW", 1, nullptr},
+                {73, {}, true, "", 0, ""},
+                {73, {}, true, "", 1, nullptr}};
+  for (const auto& c : kCases) {
     SCOPED_TRACE(c.AgeBefore);
     World world = WithStaff(c.Employer, kMedical, c.AgeBefore, c.Option);
     world.Session.StartSize = kRegional;

@@ -28,20 +28,18 @@ World OnTour(int image, int crew, int peers = 0, int shows = 0) {
 
 TEST(RivalHouseShows, HoldWhoMindsItsClassWhereItIs) {
   const tuning::Tour& tour = tuning::kTours[kCult - 1];
-  struct Case {
+  const struct {
     int Image, Crew, Peers, Shows, Step;
     const char* Why;
-  };
-  const Case kCases[] = {
-      {tuning::kNearARise, 12, 0, 0, -tour.Loss, "not ready for what is near"},
-      {tuning::kNearARise, 12, 0, 2, -3 * tour.Loss, "and seen twice a week"},
-      {tuning::kNearARise - 1, 12, 0, 0, 0, "no rise is near"},
-      {tuning::kNearARise, tuning::kHouseShowCrew - 1, 0, 0, 0, "nobody to tour with"},
-      {tuning::kNearAFall, 12, 0, 0, tour.Gain, "at home, and near a fall"},
-      {tuning::kNearAFall, 12, 0, 1, 2 * tour.Gain, "and seen once a week"},
-      {tuning::kNearAFall + 1, 12, 0, 0, 0, "no fall is near"},
-      {tuning::kNearAFall, 12, 1, 0, 0, "its peers are far better"}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{tuning::kNearARise, 12, 0, 0, -tour.Loss, "not ready for what is near"},
+                {tuning::kNearARise, 12, 0, 2, -3 * tour.Loss, "and seen twice a week"},
+                {tuning::kNearARise - 1, 12, 0, 0, 0, "no rise is near"},
+                {tuning::kNearARise, tuning::kHouseShowCrew - 1, 0, 0, 0, "nobody to tour with"},
+                {tuning::kNearAFall, 12, 0, 0, tour.Gain, "at home, and near a fall"},
+                {tuning::kNearAFall, 12, 0, 1, 2 * tour.Gain, "and seen once a week"},
+                {tuning::kNearAFall + 1, 12, 0, 0, 0, "no fall is near"},
+                {tuning::kNearAFall, 12, 1, 0, 0, "its peers are far better"}};
+  for (const auto& c : kCases) {
     World world = OnTour(c.Image, c.Crew, c.Peers, c.Shows);
     RivalHouseShows(world);
     const Promotion& rival = Named(world.Promotions(), "XWF");

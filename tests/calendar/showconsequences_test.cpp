@@ -117,10 +117,8 @@ TEST(PlayerShowConsequences, CostMoneyAndImageWhenAShowIsNotHeld) {
     SCOPED_TRACE(c.EventType);
     SmallWorld small = Company();
     if (c.EventType != 0) small.Event(3, c.EventType);
-    World world = small.Game("CWA", c.On, [](GameInfo& game) {
-      game.Difficulty = kRockHard;
-      game.Reputation = 0;
-    });
+    World world = small.Game(
+        "CWA", c.On, [](GameInfo& game) { game.Difficulty = kRockHard, game.Reputation = 0; });
     world.Player().Risk = 90;
     world.Session.ShowRating = 95;
     ScriptDraws(world, {});
@@ -141,18 +139,15 @@ TEST(PlayerShowConsequences, CostMoneyAndImageWhenAShowIsNotHeld) {
 }
 
 TEST(PlayerShowConsequences, FollowDifficultyAndReputation) {
-  struct Case {
+  constexpr struct {
     int Difficulty, Reputation, Event, Tv;
-  };
-  constexpr Case kCases[] = {{kEasy, 80, 51, 51},   {kHard, 80, 48, 49},   {kRockHard, 80, 47, 48},
-                             {kMedium, 25, 50, 50}, {kMedium, 24, 49, 49}, {kMedium, 0, 48, 49}};
-  for (const Case& c : kCases)
+  } kCases[] = {{kEasy, 80, 51, 51},   {kHard, 80, 48, 49},   {kRockHard, 80, 47, 48},
+                {kMedium, 25, 50, 50}, {kMedium, 24, 49, 49}, {kMedium, 0, 48, 49}};
+  for (const auto& c : kCases)
     for (const bool isEvent : {true, false}) {
-      World world = Company(kRegional).Event(3, 3).Game("CWA", isEvent ? kLastSunday : kFriday,
-                                                        [&](GameInfo& game) {
-                                                          game.Difficulty = c.Difficulty;
-                                                          game.Reputation = c.Reputation;
-                                                        });
+      World world = Company(kRegional).Event(3, 3).Game(
+          "CWA", isEvent ? kLastSunday : kFriday,
+          [&](GameInfo& game) { game.Difficulty = c.Difficulty, game.Reputation = c.Reputation; });
       world.Session.ShowRating = 45;  // of itself it changes nothing at this size
       PlayerShowConsequences(world, false);
       EXPECT_EQ(world.Player().Image, isEvent ? c.Event : c.Tv) << c.Difficulty << c.Reputation;

@@ -26,13 +26,12 @@ void Hopeless(Worker& worker) {
 }
 
 TEST(DailyUpkeep, LetsTheUnhappyWalkOutAndTheHopelessSitOut) {
-  struct Case {
+  const struct {
     const char* Name;
     void (*Change)(Worker&);
     bool Leaves;
     const char* Says;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {"Bram Okafor", Unhappy, true,
        "I'm not happy in this promotion, so i am leaving to work elsewhere."},
       {"Maul Gantry", Unhappy, true,
@@ -48,7 +47,7 @@ TEST(DailyUpkeep, LetsTheUnhappyWalkOutAndTheHopelessSitOut) {
          worker.ContractType = "???";
        },
        true, "I've had enough with this promotion and the way i've been treated, i'm leaving."}};
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     World world = SmallWorld()
                       .Promotion("CWA")
                       .Worker(c.Name, kMidcard, 50, c.Change)
@@ -94,16 +93,15 @@ TEST(DailyUpkeep, HoldsWhomNothingLetsGo) {
 }
 
 TEST(DailyUpkeep, MovesTheMoodOfThoseKeptAway) {
-  struct Case {
+  const struct {
     int Position, Age;
     std::vector<int> Draws;  // after the Condition's
     int Morale;              // from 50
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {kDevelopmentDeal, 25, {2}, 51},    {81, 18, {1}, 50},     {kDevelopmentDeal, 26, {}, 50},
       {kDevelopmentDeal, 27, {2, 1}, 51}, {86, 34, {1, 2}, 49},  {kDevelopmentDeal, 35, {}, 50},
       {kTrainingCamp, 20, {}, 50},        {kMidcard, 20, {}, 50}};
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     World world = One([&](Worker& worker) {
       worker.Position = c.Position;
       worker.Age = c.Age;
@@ -118,19 +116,18 @@ TEST(DailyUpkeep, MovesTheMoodOfThoseKeptAway) {
 }
 
 TEST(EconomyDrift, MovesByItsBands) {
-  struct Case {
+  const struct {
     int Before;
     bool Rising;
     std::vector<int> Draws;
     int After;
     bool RisingAfter;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {50, true, {8}, 51, true},   {50, false, {8}, 49, false},       {50, true, {9}, 50, true},
       {20, false, {1}, 19, false}, {80, true, {1}, 81, true},         {81, true, {}, 82, true},
       {19, true, {}, 26, true},    {99, true, {}, 100, false},        {7, false, {}, 0, true},
       {5, false, {}, -2, false},   {-32765, false, {}, -32768, false}};
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     World world = SmallWorld().Promotion("CWA").Game("CWA");
     world.Game().Economy = c.Before;
     world.Game().EconomyRising = c.Rising;

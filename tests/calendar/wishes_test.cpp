@@ -36,13 +36,9 @@ OwnerWish WishOf(const World& world, int kind, int target) {
   return wish;
 }
 
-void DrawLife(World& world, std::initializer_list<ScriptedDraw> script) {
-  world.SetLife(std::make_unique<ScriptedDraws>(script));
-}
-
 TEST(OwnersWishes, AreThreeDifferentOnesThatMakeSense) {
   World world = Owned();
-  DrawLife(world, {1, 1, 1});
+  ScriptLife(world, {1, 1, 1});
   OwnersWishes(world);
   ASSERT_EQ(world.Wishes().Count(), 3);
   // The first that fit, in the order of their kinds: nobody here is a woman.
@@ -70,7 +66,7 @@ TEST(OwnersWishes, AreJudgedAtTheYearsEndAndMoveReputationTrustAndOffers) {
   EXPECT_EQ(OpenWishes(world).size(), 3u);
   world.Game().Today = kYearsEnd;
   world.Incidents().Rewrite(std::vector<Incident>(10));
-  DrawLife(world, {{2, 1}, {1, 1}});
+  ScriptLife(world, {{2, 1}, {1, 1}});
   OwnersWishes(world);
   EXPECT_EQ(world.Wishes()[1].State, kWishGranted);
   EXPECT_EQ(world.Game().Reputation, 66);
@@ -89,7 +85,7 @@ TEST(OwnersWishes, MissedOnesCostTrustAndThoseOfAJobThatWasLeftAreDropped) {
   former.Promotion = int(Named(world.Promotions(), "BIG").Uid);
   world.Wishes().Append(former);
   world.Game().Today = kYearsEnd;
-  DrawLife(world, {});
+  ScriptLife(world, {});
   OwnersWishes(world);
   EXPECT_EQ(world.Wishes()[1].State, kWishMissed);
   EXPECT_EQ(world.Wishes()[3].State, kWishDropped);

@@ -8,6 +8,7 @@
 
 #include "booking/auto/autobooker.h"
 #include "booking/sheet.h"
+#include "business/finance.h"
 #include "calendar/advanceday.h"
 #include "info/results.h"
 #include "records/checks/checkworld.h"
@@ -179,13 +180,6 @@ TEST(Careers, FinishAShowThatWasCutOff) {
   }
 }
 
-/// What the nine books of a month took in and gave out.
-int Balance(const MonthBooks& books) {
-  return books.TicketIncome + books.MerchIncome + books.PpvIncome + books.SponsorIncome -
-         books.WrestlerWages - books.StaffWages - books.ProductionCost - books.AdvertisingCost -
-         books.MerchCost;
-}
-
 /// Day by day; an Event called off and a loan's payment pass the books by, so Event days and
 /// debtors are left out, and so is whoever has as much money as anybody can.
 TEST(Careers, BookEveryDollarOfAYear) {
@@ -201,7 +195,7 @@ TEST(Careers, BookEveryDollarOfAYear) {
         if (!now || IsEventDay(today) || was.LoanAmount > 0 || now->LoanAmount > 0) continue;
         if (std::abs(now->Money) == 90000000) continue;
         const bool closed = IsFirstOfMonth(world.Today());
-        const int booked = Balance(closed ? now->LastMonth : now->ThisMonth);
+        const long long booked = Balance(closed ? now->LastMonth : now->ThisMonth);
         ASSERT_EQ(now->Money - was.Money, booked - Balance(was.ThisMonth))
             << now->Initials.Str() << " on " << IsoDate(today);
         moved += now->Money != was.Money;
