@@ -50,15 +50,14 @@ TEST(AnswerToRelease, RefusesInAPoorMarketAndWithNowhereToGo) {
   World world = Employed(kBackyard, kBackyard);
   world.Player().Money = -1;  // would be reason enough
   Bram(world).Over = 10;
-  struct Case {
+  const struct {
     int Economy, Over;
     std::vector<std::string> Words;
-  };
-  const Case kCases[] = {{39, 10, {kPoor, kFormally}},
-                         {39, 50, {kPoor, kNowhere, kFormally}},
-                         {40, 50, {kNowhere, kFormally}},
-                         {40, 10, {}}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{39, 10, {kPoor, kFormally}},
+                {39, 50, {kPoor, kNowhere, kFormally}},
+                {40, 50, {kNowhere, kFormally}},
+                {40, 10, {}}};
+  for (const auto& c : kCases) {
     world.Game().Economy = c.Economy;
     Bram(world).Over = c.Over;
     const ReleaseAnswer answer = AnswerToRelease(world, Bram(world));
@@ -71,10 +70,6 @@ TEST(AnswerToRelease, RefusesInAPoorMarketAndWithNowhereToGo) {
 }
 
 TEST(AnswerToRelease, TakesTheFirstReasonToGo) {
-  struct Case {
-    int Size, Over, Morale, Money;
-    const char* Words;  // behind the name; nullptr when they stay
-  };
   constexpr const char* kMoney =
       ": 'With the financial situation of the company the way it is, i accept!'";
   constexpr const char* kUnhappy = ": 'I am unhappy here, so i accept!'";
@@ -84,7 +79,10 @@ TEST(AnswerToRelease, TakesTheFirstReasonToGo) {
   constexpr const char* kRegionals =
       ": 'Thanks boss, i was hoping to try my luck elsewhere. I accept.'";
   constexpr const char* kBigs = ": 'Thanks, i will accept so that i can try my luck elsewhere.'";
-  constexpr Case kCases[] = {
+  constexpr struct {
+    int Size, Over, Morale, Money;
+    const char* Words;  // behind the name; nullptr when they stay
+  } kCases[] = {
       {1, 50, 40, 0, nullptr},    {1, 50, 40, -1, kMoney},  {6, 90, 10, -1, kMoney},
       {1, 50, 39, 0, kUnhappy},   {6, 90, 39, 0, kUnhappy}, {6, 21, 40, 0, kBackyards},
       {6, 20, 40, 0, nullptr},    {5, 41, 40, 0, kSmalls},  {5, 40, 40, 0, nullptr},
@@ -93,7 +91,7 @@ TEST(AnswerToRelease, TakesTheFirstReasonToGo) {
       {1, 100, 40, 0, nullptr},   {6, 10, 80, -1, kMoney},
   };
   World world = Employed(kGlobal, kGlobal);
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     world.Player().Size = c.Size;
     world.Player().Money = c.Money;
     Bram(world).Over = c.Over;
@@ -108,33 +106,29 @@ TEST(AnswerToRelease, TakesTheFirstReasonToGo) {
 }
 
 TEST(BuyOutCost, GrowsWithTheDifficulty) {
-  struct Case {
+  constexpr struct {
     int Difficulty, Wage, Months;
     long long Cost;
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {kEasy, 20, 15, 20000},         {kMedium, 20, 15, 140000},   {kMedium, 20, 1, 0},
       {kMedium, 20, 2, 20000},        {kHard, 20, 15, 300000},     {kRockHard, 20, 15, 600000},
       {kRockHard, 300, 60, 36000000}, {kHard, 0, 15, 0},           {kEasy, 20, kNoEnd, 20000},
       {kMedium, 20, kNoEnd, 120000},  {kHard, 20, kNoEnd, 120000}, {kRockHard, 20, kNoEnd, 120000}};
-  for (const Case& c : kCases)
+  for (const auto& c : kCases)
     EXPECT_EQ(BuyOutCost(c.Difficulty, c.Wage, c.Months), c.Cost)
         << c.Difficulty << " " << c.Wage << " " << c.Months;
 }
 
 TEST(PartingOf, HasThreeCasesInOrder) {
-  struct Case {
-    const char* Status;
-    const char* Type;
+  constexpr struct {
+    const char *Status, *Type;
     int Morale;
     Parting Expected;
-  };
-  constexpr Case kCases[] = {
-      {"Nor", "Wri", 20, Parting::BuyOut}, {"Nor", "Wri", 19, Parting::Gladly},
-      {"Hom", "Wri", 80, Parting::Gladly}, {"Nor", "Non", 20, Parting::Verbal},
-      {"Nor", "Non", 19, Parting::Gladly}, {"Hom", "Non", 80, Parting::Gladly},
-      {"Inj", "Wri", 80, Parting::BuyOut}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{"Nor", "Wri", 20, Parting::BuyOut}, {"Nor", "Wri", 19, Parting::Gladly},
+                {"Hom", "Wri", 80, Parting::Gladly}, {"Nor", "Non", 20, Parting::Verbal},
+                {"Nor", "Non", 19, Parting::Gladly}, {"Hom", "Non", 80, Parting::Gladly},
+                {"Inj", "Wri", 80, Parting::BuyOut}};
+  for (const auto& c : kCases) {
     Worker worker;
     worker.Status = c.Status;
     worker.ContractType = c.Type;
@@ -160,13 +154,11 @@ TEST(Terminate, BuysOutWhateverIsInTheBank) {
 }
 
 TEST(Terminate, BreaksAVerbalContractForFreeButNotForNothing) {
-  struct Case {
+  constexpr struct {
     int Morale, Behaviour, Age;
     bool Betrayed;
-  };
-  constexpr Case kCases[] = {
-      {69, 81, 36, true}, {70, 81, 36, false}, {69, 80, 36, false}, {69, 81, 35, false}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{69, 81, 36, true}, {70, 81, 36, false}, {69, 80, 36, false}, {69, 81, 35, false}};
+  for (const auto& c : kCases) {
     World world = Employed(kGlobal, kGlobal);
     Worker& bram = Bram(world);
     const int money = world.Player().Money;

@@ -172,11 +172,7 @@ TEST(MarketStanding, TellsEmployerAndEnd) {
       {Months(2), "Under contract to NEW, 2 months left."},
       {Verbal, "Verbally with NEW, 2 months left."},
       {Unsackable, "Bound to NEW for good."},
-      {[](Worker& w) {
-         w.Unsackable = false;
-         w.ContractMonths = 8;
-         w.Employer = 1;
-       },
+      {[](Worker& w) { w.Unsackable = false, w.ContractMonths = 8, w.Employer = 1; },
        "Verbally with you, 8 months left."},
       {Free, "Free to sign."}};
   for (const auto& [change, words] : kRows) {
@@ -200,12 +196,11 @@ Demands DemandsOf(int size, const Change<Worker>& change) {
 }
 
 TEST(ContractDemands, GoBySizeAgeOverAndWage) {
-  struct Case {
+  const struct {
     int Size, Age, Over, Now;
     bool Employed;
     Demands Wanted;  // position, months, written, wage
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {1, 16, 91, 49, false, {1, 12, true, 53}},   {1, 17, 90, 49, false, {2, 24, true, 53}},
       {1, 24, 81, 273, false, {2, 24, true, 300}}, {1, 25, 80, 274, false, {3, 36, true, 300}},
       {1, 29, 51, 49, true, {4, 36, true, 63}},    {2, 30, 50, 59, false, {4, 48, true, 61}},
@@ -219,7 +214,7 @@ TEST(ContractDemands, GoBySizeAgeOverAndWage) {
       {5, 30, 6, 20, false, {4, 6, false, 19}},    {6, 30, 26, 2, false, {1, 6, false, 2}},
       {6, 20, 10, 10, false, {3, 6, false, 9}},    {6, 20, 11, 9, false, {2, 6, false, 9}}};
   int number = 0;
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     SCOPED_TRACE("case " + std::to_string(number++));
     const Demands wants = DemandsOf(c.Size, [&](Worker& w) {
       w.Age = c.Age;
@@ -238,16 +233,15 @@ TEST(ContractDemands, GoBySizeAgeOverAndWage) {
 }
 
 TEST(ContractDemands, WantControlWhenTheyAreStarsOrHaveIt) {
-  struct Case {
+  constexpr struct {
     int Attitude, Age, Over, Wage;
     bool Has, Wants;
-  };
-  constexpr Case kCases[] = {{49, 31, 91, 250, false, true},  {49, 49, 91, 250, false, true},
-                             {50, 31, 91, 250, false, false}, {49, 30, 91, 250, false, false},
-                             {49, 50, 91, 250, false, false}, {49, 31, 90, 250, false, false},
-                             {49, 31, 91, 249, false, false}, {80, 49, 50, 10, true, true},
-                             {80, 50, 50, 10, true, false}};
-  for (const Case& c : kCases)
+  } kCases[] = {{49, 31, 91, 250, false, true},  {49, 49, 91, 250, false, true},
+                {50, 31, 91, 250, false, false}, {49, 30, 91, 250, false, false},
+                {49, 50, 91, 250, false, false}, {49, 31, 90, 250, false, false},
+                {49, 31, 91, 249, false, false}, {80, 49, 50, 10, true, true},
+                {80, 50, 50, 10, true, false}};
+  for (const auto& c : kCases)
     EXPECT_EQ(DemandsOf(1,
                         [&](Worker& w) {
                           w.Attitude = c.Attitude;
@@ -262,14 +256,13 @@ TEST(ContractDemands, WantControlWhenTheyAreStarsOrHaveIt) {
 }
 
 TEST(RenewalTerms, AskForMoreWithThePlaceOnTheCard) {
-  struct Case {
+  constexpr struct {
     int Position, Wage, Wanted;
-  };
-  constexpr Case kCases[] = {{1, 109, 119},  {2, 9, 9},      {2, 10, 11},   {3, 119, 124},
-                             {4, 20, 21},    {4, 19, 19},    {5, 100, 101}, {6, 99, 99},
-                             {50, 250, 252}, {81, 200, 202}, {1, 280, 300}, {6, 0, 1}};
+  } kCases[] = {{1, 109, 119},  {2, 9, 9},      {2, 10, 11},   {3, 119, 124},
+                {4, 20, 21},    {4, 19, 19},    {5, 100, 101}, {6, 99, 99},
+                {50, 250, 252}, {81, 200, 202}, {1, 280, 300}, {6, 0, 1}};
   World world = SmallWorld().Promotion("CWA", kCult).Game("CWA");
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Worker worker;
     worker.Position = c.Position;
     worker.Wage = c.Wage;

@@ -39,14 +39,13 @@ Worker Bram() {
 
 /// Each objection at both sides of its edges; the last ones show their order.
 TEST(JudgeRenewal, HearsTheFirstObjectionThatHolds) {
-  struct Case {
+  const struct {
     RenewalTerms Wants;   // size, wage, written
     ContractOffer Offer;  // wage, months, written, control
     int Age, Over, Now, Loyalty, Attitude;
     bool HasControl;
     const char* Words;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {{1, 100, true}, {100, 24, true, false}, 28, 15, 100, 80, 80, false, ""},
       {{6, 100, true}, {100, 24, true, false}, 28, 21, 100, 80, 80, false, kBackyards},
       {{6, 100, true}, {100, 24, true, false}, 28, 20, 100, 80, 80, false, ""},
@@ -113,7 +112,7 @@ TEST(JudgeRenewal, HearsTheFirstObjectionThatHolds) {
       {{1, 20, true}, {20, 24, true, true}, 31, 91, 20, 50, 39, false, ""},
   };
   int number = 0;
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     SCOPED_TRACE("case " + std::to_string(number++));
     Worker worker = Bram();
     worker.Age = c.Age;
@@ -161,12 +160,10 @@ TEST(WhyNoRenewal, ClosesTheTalksForThreeReasons) {
   constexpr const char* kHappy = "Bram Okafor is happy with the current contract.";
   constexpr const char* kRefuses = "Bram Okafor refuses to even begin negotiations with you.";
   constexpr const char* kUnwilling = "Bram Okafor does not want to negotiate.";
-  struct Case {
+  constexpr struct {
     int Months, Morale, Loyalty;
-    const char* Status;
-    const char* Words;
-  };
-  constexpr Case kCases[] = {
+    const char *Status, *Words;
+  } kCases[] = {
       {25, 40, 40, "Nor", kHappy},     {24, 40, 40, "Nor", ""},
       {25, 39, 40, "Nor", kUnwilling}, {25, 40, 39, "Nor", kUnwilling},
       {25, 40, 40, "Hom", kHappy},     {12, 80, 80, "Hom", kRefuses},
@@ -174,7 +171,7 @@ TEST(WhyNoRenewal, ClosesTheTalksForThreeReasons) {
       {12, 20, 80, "Nor", kUnwilling}, {12, 80, 20, "Nor", kUnwilling},
       {12, 40, 40, "Inj", ""},         {kNoEnd, 80, 80, "Nor", ""},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Worker worker = Bram();
     worker.ContractMonths = c.Months;
     worker.Morale = c.Morale;

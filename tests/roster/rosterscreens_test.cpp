@@ -1,8 +1,8 @@
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
+#include "records/modWresCheck.h"
 #include "storylines/titles.h"
 #include "support/gameonworld.h"
 #include "ui/acts.h"
@@ -12,7 +12,6 @@
 namespace grapplemont::test {
 namespace {
 
-using Names = std::vector<std::string>;
 constexpr const char* kBram = "Bram Okafor";
 constexpr const char* kRay = "Rival Ray";
 
@@ -29,18 +28,11 @@ SmallWorld Business() {
       .Worker(kBram, kMainEvent, 80, [](Worker& w) { w.Wage = 40; })
       .Worker("Ilya Marsh", kMidcard, 64, [](Worker& w) { w.Split = "Red"; })
       .Worker("Low Down", kJobber, 20,
-              [](Worker& w) {
-                w.Age = 20;
-                w.Unsackable = true;
-                w.ContractMonths = kNoEnd;
-              })
+              [](Worker& w) { w.Age = 20, w.Unsackable = true, w.ContractMonths = kNoEnd; })
       .Promotion("NEW", kSmall)
       .Worker(kRay, kMainEvent, 70)
       .Worker("Fixed Fay", kOpener, 30,
-              [](Worker& w) {
-                w.Unsackable = true;
-                w.ContractMonths = kNoEnd;
-              })
+              [](Worker& w) { w.Unsackable = true, w.ContractMonths = kNoEnd; })
       .OnTheMarket()
       .Worker("Free Fred", kOpener, 40)
       .Game("CWA");

@@ -103,11 +103,7 @@ TEST(WorkerFacts, TellOfFreeAgents) {
   World world = SmallWorld()
                     .Promotion("CWA")
                     .OnTheMarket()
-                    .Worker("Dot Hale",
-                            [](Worker& w) {
-                              w.Gender = false;
-                              w.Diva = true;
-                            })
+                    .Worker("Dot Hale", [](Worker& w) { w.Gender = false, w.Diva = true; })
                     .Game("CWA");
   EXPECT_EQ(Told(world, "Dot Hale", "Contract"),
             Lines({"Works for nobody. Last known as Midcard.", "Last earned $10,000 a month."}));
@@ -126,10 +122,7 @@ TEST(WorkerFacts, TellOfTies) {
                     .Worker("Sir Reginald", kManager, 40, [](Worker& w) { w.Manager = 0; })
                     .Worker("Judge Hale", kNonWrestler, 40)
                     .Team("Law and Order", kBram, "Ilya Marsh",
-                          [](Team& t) {
-                            t.Finisher = "The Verdict";
-                            t.Experience = 31;
-                          })
+                          [](Team& t) { t.Finisher = "The Verdict", t.Experience = 31; })
                     .Stable("The Firm", {kBram})
                     .Network("Nine")
                     .Show("Friday Fire", "Friday", "Nine")
@@ -189,17 +182,15 @@ TEST(WorkerFacts, TellOfTitlesHeldAndReignsThatWere) {
 }
 
 TEST(Potential, IsToldByWhoTeachesThePlayersPeople) {
-  struct Row {
+  constexpr struct {
     int Position, Over, Potential;
     const char* Words;
-  };
-  constexpr Row kRows[] = {
-      {kMidcard, 40, 90, ""},
-      {7, 50, 50, "Ox McGinty thinks that Okafor has learned what can be learned here."},
-      {83, 50, 60, "Ox McGinty thinks that Okafor has a little left to learn."},
-      {83, 50, 75, "Ox McGinty thinks that Okafor has room to grow."},
-      {83, 50, 76, "Ox McGinty thinks that Okafor could go very far."},
-      {75, 50, 76, "Coach Choi thinks that Okafor could go very far."}};
+  } kRows[] = {{kMidcard, 40, 90, ""},
+               {7, 50, 50, "Ox McGinty thinks that Okafor has learned what can be learned here."},
+               {83, 50, 60, "Ox McGinty thinks that Okafor has a little left to learn."},
+               {83, 50, 75, "Ox McGinty thinks that Okafor has room to grow."},
+               {83, 50, 76, "Ox McGinty thinks that Okafor could go very far."},
+               {75, 50, 76, "Coach Choi thinks that Okafor could go very far."}};
   World world = SmallWorld()
                     .Promotion("CWA")
                     .Staff("Ox McGinty", kRoadAgent)
@@ -216,7 +207,7 @@ TEST(Potential, IsToldByWhoTeachesThePlayersPeople) {
     return std::string();
   };
   Worker& bram = Named(world.Workers(), kBram);
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     bram.Position = row.Position;
     bram.Over = row.Over;
     bram.Potential = row.Potential;
