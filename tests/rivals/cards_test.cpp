@@ -15,10 +15,6 @@
 namespace grapplemont::test {
 namespace {
 
-void ScriptLife(World& world, const std::vector<ScriptedDraw>& script) {
-  world.SetLife(std::make_unique<ScriptedDraws>(script));
-}
-
 /// The day of an Event, a rival with three who are fit and a champion.
 World TitleNight() {
   return SmallWorld()
@@ -29,11 +25,7 @@ World TitleNight() {
       .Worker("Best", kMainEvent, 60)
       .Worker("Second", kMainEvent, 50)
       .Worker("Third", kMainEvent, 40)
-      .Worker("Hurt", kMainEvent, 70,
-              [](Worker& w) {
-                w.Status = "Inj";
-                w.StatusMonths = 2;
-              })
+      .Worker("Hurt", kMainEvent, 70, [](Worker& w) { w.Status = "Inj", w.StatusMonths = 2; })
       .Worker("Corner", kManager, 80)
       .Title("XWF Crown", "Best")
       .Game("CWA", Day{std::chrono::year{2026} / 3 / 29});

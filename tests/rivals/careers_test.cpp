@@ -20,10 +20,6 @@ namespace {
 
 using std::chrono::year;
 
-void ScriptLife(World& world, std::initializer_list<ScriptedDraw> script) {
-  world.SetLife(std::make_unique<ScriptedDraws>(script));
-}
-
 /// A rival's worker, and a world around them in which every other step is quiet.
 struct Career {
   World Where;
@@ -144,10 +140,7 @@ TEST(Popularity, IsDeservedByTalentClassPlaceAndHealth) {
 }
 
 TEST(Popularity, DriftsToWhatIsDeservedButNeverUnderItsFloor) {
-  Career career([](Worker& w) {
-    w.OverFloor = 49;
-    w.Potential = 50;
-  });
+  Career career([](Worker& w) { w.OverFloor = 49, w.Potential = 50; });
   const int rise = tuning::kMonthsToRise, fade = tuning::kMonthsToFade, fancy = tuning::kFancyIn;
   ScriptLife(career.Where, {{rise, 3}, {fancy, 3}, {rise, 2}, {fancy, 1}});
   DriftOver(career.Where, career.Who, 50 + rise + 2);

@@ -25,21 +25,20 @@ Promotion WithMoney(int money, std::array<int, 3> before, int wages) {
 }
 
 TEST(Purse, IsJudgedByTheReserveAndTwoMonths) {
-  struct Row {
+  const struct {
     int Money;
     std::array<int, 3> Before;
     Purse Expected;
-  };
-  const Row kRows[] = {{-1, {10, 5, 1}, Purse::Saving},
-                       {5999, {10, 20, 30}, Purse::Saving},
-                       {6000, {10, 20, 30}, Purse::Steady},
-                       {5999, {10, 20, 20}, Purse::Steady},
-                       {5999, {30, 20, 10}, Purse::Steady},
-                       {6000, {30, 20, 10}, Purse::Spending},
-                       {6000, {30, 20, 20}, Purse::Steady},
-                       {6000, {30, 20, kNoEnd}, Purse::Steady},
-                       {5999, {10, kNoEnd, kNoEnd}, Purse::Steady}};
-  for (const Row& row : kRows)
+  } kRows[] = {{-1, {10, 5, 1}, Purse::Saving},
+               {5999, {10, 20, 30}, Purse::Saving},
+               {6000, {10, 20, 30}, Purse::Steady},
+               {5999, {10, 20, 20}, Purse::Steady},
+               {5999, {30, 20, 10}, Purse::Steady},
+               {6000, {30, 20, 10}, Purse::Spending},
+               {6000, {30, 20, 20}, Purse::Steady},
+               {6000, {30, 20, kNoEnd}, Purse::Steady},
+               {5999, {10, kNoEnd, kNoEnd}, Purse::Steady}};
+  for (const auto& row : kRows)
     EXPECT_EQ(PurseOf(WithMoney(row.Money, row.Before, 1000)), row.Expected)
         << row.Money << " after " << row.Before[0] << ", " << row.Before[1] << ", "
         << row.Before[2];

@@ -17,10 +17,6 @@
 namespace grapplemont::test {
 namespace {
 
-void ScriptLife(World& world, const std::vector<ScriptedDraw>& script) {
-  world.SetLife(std::make_unique<ScriptedDraws>(script));
-}
-
 Promotion& RivalOf(World& world) {
   return Named(world.Promotions(), "XWF");
 }
@@ -82,18 +78,11 @@ TEST(PayScale, IsTheOwnersHandAndTheSameWheneverAsked) {
 TEST(RivalSponsorSigning, DrawsAmongTheWillingThatFitTheClass) {
   const tuning::PayBand& usual = tuning::kUsualPay[kSmall - 1];
   const auto pays = [](int pay, int morality = 10) {
-    return [=](Sponsor& sponsor) {
-      sponsor.Pay = pay;
-      sponsor.Morality = morality;
-    };
+    return [=](Sponsor& sponsor) { sponsor.Pay = pay, sponsor.Morality = morality; };
   };
   World world = SmallWorld()
                     .Promotion("CWA")
-                    .Promotion("XWF", kSmall,
-                               [](Promotion& p) {
-                                 p.Image = 60;
-                                 p.Risk = 50;
-                               })
+                    .Promotion("XWF", kSmall, [](Promotion& p) { p.Image = 60, p.Risk = 50; })
                     .OnTheMarket()
                     .Sponsor("Too Dear", pays(usual.To + 1))
                     .Sponsor("Fine A", pays(usual.To))

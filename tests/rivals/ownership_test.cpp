@@ -20,16 +20,15 @@ World WithOwners(int size, std::initializer_list<int> talents) {
 }
 
 TEST(OwnerlessPromotions, PassOnToTheNextWhoSuitsTheirSize) {
-  struct Row {
+  const struct {
     int Size;
     std::initializer_list<int> Talents;
     std::vector<ScriptedDraw> Draws;
     const char* Taken;
-  };
-  const Row kRows[] = {{kGlobal, {75, 76}, {{14, 1}, {2, 1}}, "Rich 76"},
-                       {kRegional, {76, 75, 16, 60}, {{14, 1}, {2, 2}, {3, 1}}, "Rich 16"},
-                       {kBackyard, {46, 45, 15, 60}, {{14, 1}, {3, 2}, {2, 1}}, "Rich 15"}};
-  for (const Row& row : kRows) {
+  } kRows[] = {{kGlobal, {75, 76}, {{14, 1}, {2, 1}}, "Rich 76"},
+               {kRegional, {76, 75, 16, 60}, {{14, 1}, {2, 2}, {3, 1}}, "Rich 16"},
+               {kBackyard, {46, 45, 15, 60}, {{14, 1}, {3, 2}, {2, 1}}, "Rich 15"}};
+  for (const auto& row : kRows) {
     World world = WithOwners(row.Size, row.Talents);
     ScriptDraws(world, row.Draws);
     OwnerlessPromotions(world);
@@ -92,23 +91,21 @@ Worker Person(int brawl, int technical, int speed, int over) {
 }
 
 TEST(Taste, ScoresWorkersByWhatItLooksFor) {
-  struct Row {
+  const struct {
     Taste Looks;
     Change<Worker> Is;
     int Score;
-  };
-  const Row kRows[] = {
-      {kBrawlers, {}, (80 * 3 + 50) / 4},
-      {kTechnicians, {}, (60 * 3 + 50) / 4},
-      {kHighFlyers, {}, (41 * 3 + 50) / 4},
-      {kAllRound, {}, (80 * 3 + 50) / 4},
-      {kWomen, {}, 25},
-      {kWomen, [](Worker& w) { w.Gender = false; }, 50},
-      {kWomen, [](Worker& w) { w.Gender = false, w.Diva = true; }, 87},
-      {kYouth, [](Worker& w) { w.Age = 28; }, (80 * 3 + 50) / 4 / 2},
-      {kYouth, [](Worker& w) { w.Age = 27; }, (90 * 3 + 50) / 4},
-      {kYouth, [](Worker& w) { w.Age = 27, w.Potential = 55; }, (80 * 3 + 50) / 4}};
-  for (const Row& row : kRows) {
+  } kRows[] = {{kBrawlers, {}, (80 * 3 + 50) / 4},
+               {kTechnicians, {}, (60 * 3 + 50) / 4},
+               {kHighFlyers, {}, (41 * 3 + 50) / 4},
+               {kAllRound, {}, (80 * 3 + 50) / 4},
+               {kWomen, {}, 25},
+               {kWomen, [](Worker& w) { w.Gender = false; }, 50},
+               {kWomen, [](Worker& w) { w.Gender = false, w.Diva = true; }, 87},
+               {kYouth, [](Worker& w) { w.Age = 28; }, (80 * 3 + 50) / 4 / 2},
+               {kYouth, [](Worker& w) { w.Age = 27; }, (90 * 3 + 50) / 4},
+               {kYouth, [](Worker& w) { w.Age = 27, w.Potential = 55; }, (80 * 3 + 50) / 4}};
+  for (const auto& row : kRows) {
     Worker worker = Person(80, 60, 41, 50);
     if (row.Is) row.Is(worker);
     EXPECT_EQ(WorkerScore(worker, row.Looks), row.Score) << TasteText(row.Looks);

@@ -15,10 +15,6 @@
 namespace grapplemont::test {
 namespace {
 
-void ScriptLife(World& world, const std::vector<ScriptedDraw>& script) {
-  world.SetLife(std::make_unique<ScriptedDraws>(script));
-}
-
 std::string Initials(int number) {
   return "P" + std::to_string(number);
 }

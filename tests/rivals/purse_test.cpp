@@ -13,8 +13,6 @@
 namespace grapplemont::test {
 namespace {
 
-using Names = std::vector<std::string>;
-
 /// A Regional rival in debt.
 SmallWorld ForSale(int money = -700000) {
   SmallWorld small;
@@ -28,23 +26,12 @@ SmallWorld ForSale(int money = -700000) {
                  })
       .Owner("Sir Sell")
       .Staff("Pen", kWriter, 50,
-             [](Staff& s) {
-               s.Unsackable = true;
-               s.ContractMonths = kNoEnd;
-               s.Morale = 4;
-             })
+             [](Staff& s) { s.Unsackable = true, s.ContractMonths = kNoEnd, s.Morale = 4; })
       .Worker("Champ", kMainEvent, 70)
       .Worker("Home Body", kMidcard, 30,
-              [](Worker& w) {
-                w.Status = "Hom";
-                w.Morale = 3;
-                w.ContractMonths = 1;
-              })
+              [](Worker& w) { w.Status = "Hom", w.Morale = 3, w.ContractMonths = 1; })
       .Worker("Safe", kMidcard, 45,
-              [](Worker& w) {
-                w.Unsackable = true;
-                w.ContractMonths = kNoEnd;
-              })
+              [](Worker& w) { w.Unsackable = true, w.ContractMonths = kNoEnd; })
       .Worker("Camper", kTrainingCamp, 20, [](Worker& w) { w.ContractMonths = 2; })
       .Stable("The Firm", {"Champ", "Safe"})
       .Title("XWF Tag Titles", "Champ", "Safe")

@@ -11,19 +11,13 @@
 namespace grapplemont::test {
 namespace {
 
-using Names = std::vector<std::string>;
-
 SmallWorld TwoPromotions() {
   SmallWorld small;
   small.Network("Nine")
       .Promotion("CWA", kRegional)
       .Owner("Ruth Vane")
       .Crew(4)
-      .Promotion("XWF", kCult,
-                 [](Promotion& p) {
-                   p.Money = -1;
-                   p.Image = 12;
-                 })
+      .Promotion("XWF", kCult, [](Promotion& p) { p.Money = -1, p.Image = 12; })
       .Owner("Gus Hubcap", [](Staff& owner) { owner.Wage = 4; })
       .Staff("Voice", kAnnouncer, 61)
       .Worker("Low", kJobber, 10)

@@ -15,10 +15,6 @@
 namespace grapplemont::test {
 namespace {
 
-void ScriptLife(World& world, const std::vector<ScriptedDraw>& script) {
-  world.SetLife(std::make_unique<ScriptedDraws>(script));
-}
-
 /// Six at the rival, or more: Over 80 to 30, one a place of the card.
 SmallWorld Six(int crew = 6) {
   SmallWorld small;

@@ -12,11 +12,7 @@ namespace grapplemont::test {
 namespace {
 
 Change<Worker> Of(int brawl, int over, int wage = 10) {
-  return [=](Worker& worker) {
-    worker.Brawl = brawl;
-    worker.Over = over;
-    worker.Wage = wage;
-  };
+  return [=](Worker& worker) { worker.Brawl = brawl, worker.Over = over, worker.Wage = wage; };
 }
 
 /// The player is Cult; a rival of the size stands beside them, and everything is told.
@@ -87,10 +83,7 @@ TEST(RivalSigning, TakesThePlayersPeopleOutOfAllTheyWereIn) {
                     .Stable("The Firm", {"Bram Okafor"})
                     .Title("CWA Crown", "Bram Okafor")
                     .Show("Slam", "Monday", "Nine",
-                          [](Show& show) {
-                            show.Colour = 1;
-                            show.ColourIsWorker = true;
-                          })
+                          [](Show& show) { show.Colour = 1, show.ColourIsWorker = true; })
                     .Game("CWA")
                     .Feud("Bram Okafor", "Ilya Marsh")
                     .BuildUnchecked();
