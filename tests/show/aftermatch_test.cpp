@@ -8,14 +8,13 @@ namespace grapplemont::test {
 namespace {
 
 TEST(AfterMatch, SumsUpBeforeItLimits) {
-  struct Case {
+  constexpr struct {
     int Position, Over, Morale, Attitude, Quality, Crowd;
     int OverAfter, MoraleAfter;
-  };
-  constexpr Case kCases[] = {{kJobber, 36, 6, 60, 80, 80, 39, 1},     // 3 fits: 6 - 3 - 5 + 3
-                             {kMainEvent, 40, 50, 0, 66, 0, 42, 50},  // 40 - 1 + 3
-                             {4, 34, 50, 0, 91, 0, 42, 50}};          // lifted twice
-  for (const Case& c : kCases) {
+  } kCases[] = {{kJobber, 36, 6, 60, 80, 80, 39, 1},     // 3 fits: 6 - 3 - 5 + 3
+                {kMainEvent, 40, 50, 0, 66, 0, 42, 50},  // 40 - 1 + 3
+                {4, 34, 50, 0, 91, 0, 42, 50}};          // lifted twice
+  for (const auto& c : kCases) {
     Stage stage;
     Worker& ash = stage["Ash"];
     ash.Position = c.Position;
@@ -49,12 +48,11 @@ TEST(CardPosition, PullsAtWhoStandsInTheWrongPlace) {
       "me.\n";
   const std::string polite = "Ash: I think i should be higher up the card.\n";
   const std::string blunt = "Ash: I should be higher on the card, promote me up the roster.\n";
-  struct Case {
+  const struct {
     int Position, Over, Attitude, Mood;
     int OverPull, MoralePull;
     std::string Mails;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       // in a Regional promotion
       {3, 40, 81, 2, 0, 0, ""},              // in place
       {4, 40, 61, 1, 0, 0, ""},              // a little low
@@ -66,7 +64,7 @@ TEST(CardPosition, PullsAtWhoStandsInTheWrongPlace) {
       {2, 35, 81, 2, -1, 0, tooHigh},        // high
       {1, 35, 81, 2, -3, 0, hot + tooHigh},  // far too high
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Stage stage;
     Worker& ash = stage["Ash"];
     ash.Position = c.Position;
@@ -110,15 +108,13 @@ TEST(CardPosition, SpeaksOfAWomanAsSuchAndLetsTheLegendSpeakHisWay) {
 }
 
 TEST(DrawInjuries, GoesByStrainConditionAndSickBumps) {
-  struct Case {
+  constexpr struct {
     int Strain, Condition, Finish;
     int Loser, Winner;  // the odds; 0: nothing is drawn
-  };
-  constexpr Case kCases[] = {{2, 10, kClean, 0, 0},      {3, 40, kClean, 400, 400},
-                             {3, 39, kClean, 200, 200},  {4, 40, kClean, 250, 250},
-                             {5, 39, kClean, 75, 75},    {1, 40, kSickBump, 40, 0},
-                             {4, 39, kSickBump, 20, 125}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{2, 10, kClean, 0, 0},      {3, 40, kClean, 400, 400}, {3, 39, kClean, 200, 200},
+                {4, 40, kClean, 250, 250},  {5, 39, kClean, 75, 75},   {1, 40, kSickBump, 40, 0},
+                {4, 39, kSickBump, 20, 125}};
+  for (const auto& c : kCases) {
     Stage stage;
     stage.Match(kSingles, {"Ash", "Bea"});
     stage.Result("Bea", "Ash", c.Finish);
@@ -142,14 +138,13 @@ TEST(DrawInjuries, GoesByStrainConditionAndSickBumps) {
 }
 
 TEST(HurtOthers, SparesThePartnerAndBringsMailsByPlace) {
-  struct Case {
+  const struct {
     int Style;
     std::string_view Stiff;
     int Blow;
     std::string_view Mails;
     std::vector<int> Condition;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {kTag,
        "Cal",
        10,
@@ -165,7 +160,7 @@ TEST(HurtOthers, SparesThePartnerAndBringsMailsByPlace) {
        {100, 100, 90, 90}},
       {kSingles, "Bea", 9, "", {91, 100, 100, 100}},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Stage stage;
     stage.Match(c.Style, {"Ash", "Bea", "Cal", "Dot"});
     ScriptDraws(stage.W,

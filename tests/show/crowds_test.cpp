@@ -149,12 +149,11 @@ TEST(HeadToHead, KeepsItsLimitsAndGaps) {
   const std::string close =
       "Maeve: Our ratings battle with Rival Hour is so close that neither show is gaining a clear "
       "advantage!\n";
-  struct Contest {
+  const struct {
     int Lead;  // of the rival, whose network reaches 500
     int Change;
     std::string News;
-  };
-  const Contest kContests[] = {
+  } kContests[] = {
       {78, 0, close},
       {-78, 0, close},
       {80, 0, ""},
@@ -167,7 +166,7 @@ TEST(HeadToHead, KeepsItsLimitsAndGaps) {
        "Maeve: Rival Hour are trying to compete with us, but are being destroyed in the "
        "ratings.\n"},
       {-400, 0, ""}};
-  for (const Contest& c : kContests)
+  for (const auto& c : kContests)
     for (const bool isPlayers : {true, false}) {
       World world = SmallWorld()
                         .Network("Nine")

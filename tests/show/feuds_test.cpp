@@ -19,20 +19,19 @@ std::string Record(const Feud& feud) {
 }
 
 TEST(TallyResult, CountsByStyleAndFinish) {
-  struct Case {
-    int Style, Type, Finish;
-    std::string_view Record;
-  };
   constexpr std::string_view kCleanWin = "0 0 0 0 : 1 0 0 0", kCheapWin = "0 0 0 0 : 0 1 0 0",
                              kNothing = "0 0 0 0 : 0 0 0 0";
-  constexpr Case kCases[] = {
+  constexpr struct {
+    int Style, Type, Finish;
+    std::string_view Record;
+  } kCases[] = {
       {kSingles, 1, kCountOut, kCleanWin},
       {kTag, 1, kPartnerTurns, kCheapWin},
       {kThreeOnThree, 1, kCheapVictory, kCheapWin},
       {kFourOnFour, kPlainEightMan, kClean, kCleanWin},
       {kFourOnFour, kSurvivor, kClean, kNothing},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Stage stage(Eight().Feud("Gus", "Hal").Feud("Ash", "Hal"));
     // Hal stands in the second side of every style.
     if (c.Style == kSingles)
@@ -66,15 +65,14 @@ TEST(Tallies, GoToTheFirstFeudAgainstWhoTakesTheFallAndToTheirSide) {
 }
 
 TEST(Tallies, CoolAFeudThatOneSideRunsAwayWith) {
-  struct Case {
+  constexpr struct {
     int CleanA, CheapA, CleanB, CheapB;  // before a word of A's
     int Heat, After;
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {8, 0, 3, 0, 50, 50}, {9, 0, 4, 0, 50, 48}, {4, 0, 9, 0, 50, 48}, {3, 3, 1, 0, 50, 50},
       {3, 4, 1, 0, 50, 45}, {3, 4, 0, 1, 50, 50}, {1, 0, 3, 4, 50, 45}, {9, 0, 1, 0, 6, 0},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Stage stage(Eight().Feud("Ash", "Bea", [&](Feud& feud) {
       feud.Clean1 = c.CleanA;
       feud.Dirty1 = c.CheapA;
@@ -121,12 +119,11 @@ std::string Attacks(int style, int finish, int aftermath, bool isDraw,
 }
 
 TEST(TallyAttacks, OfSinglesComeFromRunInsAndAftermath) {
-  struct Case {
+  constexpr struct {
     int Finish, Aftermath;
     bool IsDraw;
     std::string_view Attacks;  // Bea wins over Ash; Eli and Fay run in
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {kClean, 1, false, ""},
       {kInterference, 1, false, "Eli>Ash"},
       {kBotchedInterference, 1, false, "Bea>Eli"},
@@ -139,19 +136,18 @@ TEST(TallyAttacks, OfSinglesComeFromRunInsAndAftermath) {
       {kBotchedInterference, 26, false, "Bea>Eli Fay>Ash Fay>Eli"},
       {kDqThroughInterference, 27, false, "Ash>Fay Eli>Bea Eli>Fay"},
   };
-  for (const Case& c : kCases)
+  for (const auto& c : kCases)
     EXPECT_EQ(Attacks(kSingles, c.Finish, c.Aftermath, c.IsDraw, {"Ash", "Bea", "Eli", "Fay"}),
               c.Attacks)
         << "finish " << c.Finish << ", aftermath " << c.Aftermath;
 }
 
 TEST(TallyAttacks, OfTeamsGoPairByPair) {
-  struct Case {
+  constexpr struct {
     int Finish, Aftermath;
     bool IsDraw;
     std::string_view Attacks;  // Cal and Dot beat Ash and Bea; Eli and Fay, Gus and Hal run in
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {kClean, 1, false, ""},
       {kInterference, 1, false, "Eli>Ash Fay>Bea"},
       {kBotchedInterference, 1, false, "Cal>Eli Dot>Fay"},
@@ -165,7 +161,7 @@ TEST(TallyAttacks, OfTeamsGoPairByPair) {
       {kClean, 25, false, "Gus>Ash Hal>Bea"},
       {kClean, 27, false, "Gus>Ash Gus>Cal Hal>Bea Hal>Dot"},
   };
-  for (const Case& c : kCases)
+  for (const auto& c : kCases)
     EXPECT_EQ(Attacks(kTag, c.Finish, c.Aftermath, c.IsDraw,
                       {"Ash", "Bea", "Cal", "Dot", "Eli", "Fay", "Gus", "Hal"}),
               c.Attacks)
@@ -268,12 +264,11 @@ TEST(EndFeud, OfSinglesPaysABitSooner) {
 }
 
 TEST(EndFeud, NeedsItsPurposeAndTheRightPeople) {
-  struct Ring {
+  const struct {
     int Style, Purpose;
     std::initializer_list<const char*> People;
     bool Ends;
-  };
-  const Ring kRings[] = {
+  } kRings[] = {
       {kSingles, purpose1::kEndFeud, {"Bea", "Dot"}, true},
       {kSingles, purpose1::kEndFeud, {"Ash", "Bea"}, false},
       {kSingles, purpose1::kContinueFeud, {"Bea", "Dot"}, false},
@@ -282,7 +277,7 @@ TEST(EndFeud, NeedsItsPurposeAndTheRightPeople) {
       {kTag, purpose1::kEndFeud, {"Cal", "Dot", "Bea", "Ash"}, false},
       {kTag, purpose2::kEndFeud, {"Eli", "Fay", "Gus", "Hal"}, false},  // of two, not of teams
   };
-  for (const Ring& ring : kRings) {
+  for (const auto& ring : kRings) {
     Stage stage(Eight()
                     .TagFeud("Ash", "Bea", "Cal", "Dot", Kept({4, 3, 0, 0}, {1, 0, 0, 0}))
                     .Feud("Eli", "Gus"));

@@ -30,10 +30,7 @@ TEST(Commentary, ChargesEveryLimitThatIsPassed) {
   for (const auto& [size, talent, announcer, colour] : kRows) {
     SCOPED_TRACE(testing::Message() << "size " << size << " talent " << talent);
     const auto speaks = [&, t = talent](bool can) {
-      return [=](Worker& w) {
-        w.Charisma = t;
-        w.Speaks = can;
-      };
+      return [=](Worker& w) { w.Charisma = t, w.Speaks = can; };
     };
     World world = Promoter(size)
                       .Staff("Gil", kAnnouncer, talent)

@@ -7,18 +7,17 @@ namespace grapplemont::test {
 namespace {
 
 TEST(ScoreMatch, ChangesQualityAndCrowdByTheMatchType) {
-  struct Case {
+  const struct {
     int Type, Brawl;
     std::vector<ScriptedDraw> Draws;
     int Quality, Crowd, Strain;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {kPlainSingles, 50, {}, 55, 47, 1},
       {kCage, 50, {{10, 7}, {5, 2}}, 48, 49, 2},
       {kTables, 68, {{10, 10}, {5, 1}}, 59, 48, 2},  // from 69
       {kTables, 70, {{5, 1}}, 70, 48, 2},            // tables cost no match of 70
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Rig rig(Cast(2, [&](Worker& w) { w.Brawl = c.Brawl; }).Game("CWA"), MatchOf(kSingles, c.Type));
     ScriptDraws(rig.W, c.Draws);
     ScoreMatch(rig.Run);
@@ -127,12 +126,11 @@ TEST(Chemistry, IsThatOfEveryTeamThatIsASideAndComesLastOfAll) {
 }
 
 TEST(RemarkOnShape, TellsTheWorstOfEachWorkerInTheirOrder) {
-  struct Case {
+  const struct {
     int Morale, Condition;
     bool Man;
     std::string Remark;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {29, 39, true,
        " looked unmotivated and in bad shape. He blew numerous spots throughout the match. "},
       {80, 29, false,
@@ -140,7 +138,7 @@ TEST(RemarkOnShape, TellsTheWorstOfEachWorkerInTheirOrder) {
        "heal! "},
       {29, 40, false, " was sluggish and didn't put much effort in. "},
       {30, 30, true, ""}};
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Rig rig(Cast().Game("CWA"), MatchOf(kThreeWay));
     for (const int uid : {1, 3, 5}) {
       rig.Who(uid).Morale = c.Morale;
@@ -155,13 +153,12 @@ TEST(RemarkOnShape, TellsTheWorstOfEachWorkerInTheirOrder) {
 TEST(Selling, CostsAMatchThatWasToPutSomebodyOver) {
   const std::string no = " basically no-sold everything, which ruined the match. ";
   const std::string little = " didn't really sell very much, which hurt the match rating. ";
-  struct Case {
+  const struct {
     int Style, Purpose, Winner;
     std::vector<int> Sells;  // of Ash, Bea, Cal and Dot
     int Before, Quality;
     std::string Notes;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {kSingles, purpose1::kPutWinnerOver, 1, {0, 29}, 50, 35, "Bea" + no},
       {kSingles, purpose1::kPutWinnerOver, 1, {0, 49}, 50, 40, "Bea" + little},
       {kSingles, purpose1::kPutWinnerOver, 2, {30, 0}, 50, 40, "Ash" + little},
@@ -172,7 +169,7 @@ TEST(Selling, CostsAMatchThatWasToPutSomebodyOver) {
       {kTag, purpose2::kPutFirstTeamOver, 1, {0, 0, 50, 29}, 50, 35, "Dot" + no},
       {kThreeWay, 3, 3, {0, 0, 0}, 50, 50, ""},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Rig rig(Cast().Game("CWA"), MatchOf(c.Style));
     rig.S.Purpose = c.Purpose;
     rig.S.Winner = c.Winner;
@@ -186,16 +183,15 @@ TEST(Selling, CostsAMatchThatWasToPutSomebodyOver) {
 }
 
 TEST(Stiffness, CostsSinglesAndTagMatchesAlone) {
-  struct Case {
+  constexpr struct {
     int Style, Stiff, Quality;     // 55 before
     std::array<int, 4> Condition;  // of Ash, Bea, Cal and Dot; Bea is the stiff or the soft one
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {kSingles, 24, 49, {100, 100, 100, 100}}, {kTag, 25, 55, {100, 100, 100, 100}},
       {kSingles, 82, 55, {100, 100, 100, 100}}, {kSingles, 83, 55, {95, 100, 100, 100}},
       {kTag, 83, 55, {100, 100, 95, 95}},       {kThreeWay, 100, 55, {100, 100, 100, 100}},
       {kThreeWay, 0, 55, {100, 100, 100, 100}}};
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Rig rig(Cast().Game("CWA"), MatchOf(c.Style));
     rig.Who(2).Stiff = c.Stiff;
     rig.Run.Quality.Add(55, "start");

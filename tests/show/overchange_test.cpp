@@ -62,15 +62,14 @@ TEST(ShiftOverSingles, TellsWhatCameOfIt) {
 
 TEST(ShiftOverTeams, DrawsForEachOfTheFour) {
   // Cal and Dot, 21 above the two who win.
-  struct Case {
+  const struct {
     int Finish, Crowd;
     std::vector<int> Draws;  // Cal, Dot, Bea, Ash
     std::vector<int> After;
-  };
-  const Case kCases[] = {{kCountOut, 0, {2, 1, 1, 1}, {50, 50, 59, 61}},
-                         {kCountOut, 0, {1, 1, 2, 1}, {50, 51, 60, 61}},
-                         {kClean, 100, {2, 2, 2, 2}, {53, 53, 59, 60}}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{kCountOut, 0, {2, 1, 1, 1}, {50, 50, 59, 61}},
+                {kCountOut, 0, {1, 1, 2, 1}, {50, 51, 60, 61}},
+                {kClean, 100, {2, 2, 2, 2}, {53, 53, 59, 60}}};
+  for (const auto& c : kCases) {
     Stage stage;
     stage.Match(kTag, {"Ash", "Bea", "Cal", "Dot"});
     stage.Result("Bea", "Dot", c.Finish);
@@ -85,19 +84,18 @@ TEST(ShiftOverTeams, DrawsForEachOfTheFour) {
 }
 
 TEST(ReportOver, SaysWhatTheDifficultyAllows) {
-  struct Case {
+  constexpr struct {
     int Difficulty, Change;
     bool IsMatch, FeudEnding;
     std::string_view Says;
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {kEasy, 0, true, false, ""},
       {kEasy, 1, true, false, "Ash gained 1 point of overness from this match. "},
       {kEasy, -1, true, false, "Ash lost 1 points of overness from this match. "},
       {kEasy, 7, true, true, "Ash gained 7 points of overness from this feud ending. "},
       {kEasy + 1, -2, false, false, "Ash lost overness from this segment. "},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Stage stage;
     stage.W.Game().Difficulty = c.Difficulty;
     stage.Run.FeudEnding = c.FeudEnding;
@@ -108,21 +106,20 @@ TEST(ReportOver, SaysWhatTheDifficultyAllows) {
 }
 
 TEST(TalkConsequences, GiveAndTakeByDistance) {
-  struct Case {
+  constexpr struct {
     std::string_view Why;
     int Over, Overall;
     int Of, Draw;  // 0 for no draw
     int After;
     int DrawBeside, Beside;  // of 2, for a manager who stands by; 0 for no draw
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {"sensation", 50, 91, 4, 3, 53, 2, 51},       {"no sensation", 50, 90, 3, 3, 53, 1, 50},
       {"for the top too", 92, 95, 4, 4, 96, 2, 93}, {"as high as he", 91, 91, 0, 0, 91, 0, 91},
       {"clearly above", 50, 59, 3, 1, 51, 2, 51},   {"above", 50, 58, 0, 0, 50, 0, 50},
       {"a little below", 50, 35, 0, 0, 50, 0, 50},  {"not far below", 50, 30, 0, 0, 48, 0, 48},
       {"far below", 50, 29, 4, 4, 44, 0, 48},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Stage stage;
     stage.Talk(kInterview, kManagedTalk, {"Ash", "Bea", "Cal"});
     stage["Ash"].Over = stage["Bea"].Over = c.Over;
@@ -137,16 +134,15 @@ TEST(TalkConsequences, GiveAndTakeByDistance) {
 }
 
 TEST(TalkConsequences, ReachWhoeverSpeaksByStyle) {
-  struct Case {
+  const struct {
     int Style;
     std::vector<int> After, Draws;  // a draw of 4 gives 4, the manager's of 2 gives 1
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {kSingleTalk, {54, 50, 50, 50}, {4}},
       {kTeamTalk, {54, 54, 50, 50}, {4, 4}},
       {kManagedTeamTalk, {54, 54, 51, 50}, {4, 4, 2}},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Stage stage;
     stage.Talk(kInterview, c.Style, {"Ash", "Bea", "Cal", "Dot", "Eli"});
     stage.Rate(0, 0, 100);
@@ -157,18 +153,17 @@ TEST(TalkConsequences, ReachWhoeverSpeaksByStyle) {
 }
 
 TEST(TalkConsequences, ReachAnAnglesPeopleAndItsStablesLeaderOnce) {
-  struct Case {
+  const struct {
     int Angle;
     std::initializer_list<const char*> People;
     std::vector<int> Draws, After;  // of Ash, Bea, Cal, Dot; Eli and Fay, who leads the stable
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {kTeamFaceTurn, {"Ash", "Bea", "Cal", "Dot"}, {1, 2, 3, 4}, {51, 52, 53, 54, 50, 60}},
       {kImpression, {"Ash", "Bea"}, {1}, {51, 50, 50, 50, 50, 60}},  // who is aped gains nothing
       {kStableAttack, {"Ash"}, {1, 4}, {51, 50, 50, 50, 50, 64}},
       {kStableKickOut, {"Fay"}, {2}, {50, 50, 50, 50, 50, 62}},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Stage stage(Eight().Stable("The Kiln", {"Eli", "Fay"}));
     stage["Fay"].Over = 60;
     stage.Talk(kAngle, c.Angle, c.People);
@@ -189,19 +184,18 @@ void RunAngle(Stage& stage, int angle, std::initializer_list<const char*> cast) 
 }
 
 TEST(TalkConsequences, MoveManagersAndMembers) {
-  struct Case {
+  const struct {
     int Angle;
     std::initializer_list<const char*> People;
     std::string_view Notes;
-  };
-  const Case kCases[] = {{kManagementIssues,
-                          {"Ash", "Bea", "Cal"},
-                          "Ash no longer manages Cal. Ash now manages Bea. "},
-                         {kManagersSurprise, {"Ash", "Bea"}, "Ash now manages Bea. "},
-                         {kStableInduction, {"Ash"}, "Ash joined The Kiln. "},
-                         {kStableKickOut, {"Eli"}, "Eli is out of The Kiln. "},
-                         {kStableDebut, {"Bea"}, ""}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{kManagementIssues,
+                 {"Ash", "Bea", "Cal"},
+                 "Ash no longer manages Cal. Ash now manages Bea. "},
+                {kManagersSurprise, {"Ash", "Bea"}, "Ash now manages Bea. "},
+                {kStableInduction, {"Ash"}, "Ash joined The Kiln. "},
+                {kStableKickOut, {"Eli"}, "Eli is out of The Kiln. "},
+                {kStableDebut, {"Bea"}, ""}};
+  for (const auto& c : kCases) {
     Stage stage(Eight().Stable("The Kiln", {"Eli", "Fay"}));
     stage.S.Text = "The Kiln";
     stage["Cal"].Manager = stage.Uid("Ash");

@@ -42,11 +42,7 @@ TEST(RunSegment, StoresTheRatingAndAddsItToTheShowButForAnEventsFirst) {
 }
 
 TEST(RunSegment, HalvesATitleMatchBeforeTheBurnOutAndTellsAllOfIt) {
-  World world = Tonight(Cast(31,
-                             [](Worker& w) {
-                               w.Over = 89;
-                               w.Potential = 89;
-                             })
+  World world = Tonight(Cast(31, [](Worker& w) { w.Over = 89, w.Potential = 89; })
                             .Title("Crown", "Hand 31")
                             .Game("CWA"),
                         {MatchOf(kSpecial, kRoyalRumble), MatchOf(kSpecial, kRoyalRumble)});

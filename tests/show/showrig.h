@@ -83,10 +83,7 @@ struct Rig {
 
 /// Eight workers of the player's with the uids 1 to 8 and Over 50, all Faces; Bea is a woman.
 inline SmallWorld Eight() {
-  SmallWorld small = Cast(8, [](Worker& w) {
-    w.Disposition = "F";
-    w.Gender = w.Name != "Bea";
-  });
+  SmallWorld small = Cast(8, [](Worker& w) { w.Disposition = "F", w.Gender = w.Name != "Bea"; });
   small.Game("CWA");
   return small;
 }

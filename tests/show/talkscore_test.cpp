@@ -56,13 +56,12 @@ int CrowdOfAngle(SmallWorld&& small, int number) {
 }
 
 TEST(ScoreAngle, TakesTheMeanOfThoseWhoCountTheirFeudAndTheirTallies) {
-  struct Case {
+  constexpr struct {
     int Number;
     int Crowd;
     char Feud;  // P the first two's lifts, T the teams' lifts, - none
     const char* Tallies;
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {1, 31, '-', ""},
       {26, 34, '-', ""},
       {6, 31, 'P', "2>1"},
@@ -76,7 +75,7 @@ TEST(ScoreAngle, TakesTheMeanOfThoseWhoCountTheirFeudAndTheirTallies) {
       {62, 80, '-', ""},
       {70, 65, '-', ""},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     SCOPED_TRACE(c.Number);
     EXPECT_EQ(CrowdOfAngle(Talkers(), c.Number), c.Crowd);
     EXPECT_EQ(CrowdOfAngle(std::move(Talkers().Feud("Ash", "Bea", Hot(90))), c.Number),
@@ -92,20 +91,19 @@ TEST(ScoreAngle, TakesTheMeanOfThoseWhoCountTheirFeudAndTheirTallies) {
 }
 
 TEST(ScoreAngle, CountsOnlyWhoeverIsNamed) {
-  struct Case {
+  const struct {
     int Number;
     std::vector<int> Uids;
     const char *Stable, *Steps, *Tallies;
-  };
-  const Case kCases[] = {{78, {1, 2}, "Pack", "mean talk of Bea 33, Ash 30 +31", ""},
-                         {16, {1, 2}, "Pack", "mean talk of Ash 30, Bea 33 +31", "2>1"},
-                         {1, {1, 99}, "Pack", "mean talk of Ash 30, nobody 0 +15", ""},
-                         {50, {1}, "Nobody's", "talk of Ash 30 +30", ""},
-                         {62, {}, "None", "", ""},
-                         {70, {4}, "Pack", "mean talk of Dot 51, the guest 100 +75", ""},
-                         {80, {1, 2}, "Pack", "", ""},
-                         {0, {1, 2}, "Pack", "", ""}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{78, {1, 2}, "Pack", "mean talk of Bea 33, Ash 30 +31", ""},
+                {16, {1, 2}, "Pack", "mean talk of Ash 30, Bea 33 +31", "2>1"},
+                {1, {1, 99}, "Pack", "mean talk of Ash 30, nobody 0 +15", ""},
+                {50, {1}, "Nobody's", "talk of Ash 30 +30", ""},
+                {62, {}, "None", "", ""},
+                {70, {4}, "Pack", "mean talk of Dot 51, the guest 100 +75", ""},
+                {80, {1, 2}, "Pack", "", ""},
+                {0, {1, 2}, "Pack", "", ""}};
+  for (const auto& c : kCases) {
     Rig rig(Rivals().Game("CWA"), AngleOf(c.Number, c.Uids));
     rig.S.Text = c.Stable;
     rig.W.Player().Production = 3;
@@ -129,18 +127,17 @@ TEST(ScoreAngle, LimitsSpectaclesAlone) {
 }
 
 TEST(ScoreInterview, HearsOneOrTwoAndTalliesAgainstTheOneSpokenOf) {
-  struct Case {
+  const struct {
     int Style, Crowd;
     std::vector<int> Uids;
     const char* Tallies;
-  };
-  const Case kCases[] = {{kSingleTalk, 30, {1, 2}, "1>2"},
-                         {kTeamTalk, 31, {1, 2, 3}, "1>3"},
-                         {kTeamTalk, 31, {1, 2}, ""},
-                         {kManagedTalk, 30, {1, 2, 3}, "1>3 2>3"},
-                         {kManagedTeamTalk, 30, {1, 2, 3, 4}, "1>4 2>4"},
-                         {kManagedTeamTalk, 30, {1, 2, 3}, ""}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{kSingleTalk, 30, {1, 2}, "1>2"},
+                {kTeamTalk, 31, {1, 2, 3}, "1>3"},
+                {kTeamTalk, 31, {1, 2}, ""},
+                {kManagedTalk, 30, {1, 2, 3}, "1>3 2>3"},
+                {kManagedTeamTalk, 30, {1, 2, 3, 4}, "1>4 2>4"},
+                {kManagedTeamTalk, 30, {1, 2, 3}, ""}};
+  for (const auto& c : kCases) {
     Rig rig(Rivals().Game("CWA"), SegmentOf(kInterview, c.Style, 0, c.Uids));
     for (Feud& feud : rig.W.Feuds()) feud.Heat = 20;
     const bool isOfSomebody = *c.Tallies != 0;
@@ -152,13 +149,11 @@ TEST(ScoreInterview, HearsOneOrTwoAndTalliesAgainstTheOneSpokenOf) {
 }
 
 TEST(Writers, CapTheQualityOfAnAngle) {
-  struct Case {
+  const struct {
     std::vector<int> Talents;
     int Quality, Then;
-  };
-  const Case kCases[] = {
-      {{}, 90, 90}, {{40, 61}, 66, 65}, {{40, 61}, 65, 65}, {{0, 99, 0}, 90, 76}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{{}, 90, 90}, {{40, 61}, 66, 65}, {{40, 61}, 65, 65}, {{0, 99, 0}, 90, 76}};
+  for (const auto& c : kCases) {
     SmallWorld small = Cast();
     int number = 0;
     for (const int talent : c.Talents)
@@ -204,18 +199,17 @@ TEST(Heat, OfTalkAimsAboveItAndIsHeldBackNearTheTop) {
 }
 
 TEST(Heat, FollowsTalkInEveryFeudBetweenSpeakersAndThoseSpokenOf) {
-  struct Case {
+  // Slots: 1 Ash-Bea, 2 Ash-Cal, 3 Bea+Hal-Cal+Dot, 4 Cal-Dot, 5 Gus+Eli-Cal+Hal, 6 Bea-Dot.
+  const struct {
     int Kind, Style;
     std::vector<int> Touched;
-  };
-  // Slots: 1 Ash-Bea, 2 Ash-Cal, 3 Bea+Hal-Cal+Dot, 4 Cal-Dot, 5 Gus+Eli-Cal+Hal, 6 Bea-Dot.
-  const Case kCases[] = {{kInterview, kSingleTalk, {1}},
-                         {kInterview, kTeamTalk, {2, 3, 6}},
-                         {kInterview, kManagedTalk, {2, 3}},
-                         {kInterview, kManagedTeamTalk, {3, 4, 5, 6}},
-                         {kAngle, kBetterEnemies, {1, 3, 4, 5, 6}},
-                         {kAngle, 46, {}}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{kInterview, kSingleTalk, {1}},
+                {kInterview, kTeamTalk, {2, 3, 6}},
+                {kInterview, kManagedTalk, {2, 3}},
+                {kInterview, kManagedTeamTalk, {3, 4, 5, 6}},
+                {kAngle, kBetterEnemies, {1, 3, 4, 5, 6}},
+                {kAngle, 46, {}}};
+  for (const auto& c : kCases) {
     Rig rig(Cast()
                 .Feud("Bea", "Ash")
                 .Feud("Ash", "Cal")

@@ -22,11 +22,10 @@ Title& Pair(Stage& stage) {
 }
 
 TEST(ChangeTitle, DependsOnStyleAndFinish) {
-  struct Case {
+  constexpr struct {
     int Style, Finish;
     bool Changes;
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {kSingles, kClean, true},
       {kSingles, kCountOut, false},
       {kSingles, kCheating, true},
@@ -38,7 +37,7 @@ TEST(ChangeTitle, DependsOnStyleAndFinish) {
       {kThreeOnThree, kClean, false},
       {kFourOnFour, kClean, false},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Stage stage(WithTitles());
     stage.Match(c.Style, {"Ash", "Bea", "Cal", "Dot", "Eli", "Fay", "Gus", "Hal"});
     stage.Result(c.Style == kSingles ? "Bea" : "Cal", "Ash", c.Finish);

@@ -20,15 +20,14 @@ struct Turn : Stage {
 };
 
 TEST(ApplyTurn, FollowsBothAlignmentsAndWhoIsMoreOver) {
-  struct Case {
+  constexpr struct {
     std::string_view Turner, Other, Below, Equal, Above;  // "H" turned; "H!" and the crowd is cool
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {"F", "F", "H", "H", "H"}, {"F", "T", "H", "H", "H!"}, {"F", "H", "T!", "H!", "H!"},
       {"H", "H", "F", "F", "F"}, {"H", "T", "F", "F", "F!"}, {"H", "F", "T!", "T!", "T!"},
       {"T", "F", "H", "H", "H"}, {"T", "H", "F", "F", "F"},  {"T", "T", "H!", "F!", "F!"},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     const std::string_view expected[] = {c.Below, c.Equal, c.Above};
     for (int i = 0; i < 3; ++i) {
       Turn turn(c.Turner, c.Other, 49 + i);
@@ -48,7 +47,14 @@ TEST(ApplyTurn, FollowsBothAlignmentsAndWhoIsMoreOver) {
 }
 
 TEST(ApplyTurn, TellsEachOutcomeAndPaysForIt) {
-  struct Case {
+  constexpr std::string_view
+      kDone = "Ash's turn was completed, and he is now a heel. ",
+      kFlat = "Ash's turn didn't work very well, and that affected the crowd. ",
+      kTooSoon =
+          "The fans realised that Ash turned not too long ago, and so this time they didn't "
+          "care so much. ",
+      kBaffling = "The fans were baffled by Ash's behaviour, and that killed their enthusiasm. ";
+  const struct {
     std::string_view Turner, Other;
     int DaysAgo;  // of the last turn
     bool IsPending;
@@ -57,21 +63,13 @@ TEST(ApplyTurn, TellsEachOutcomeAndPaysForIt) {
     std::string_view Notes;
     int Lost;  // points of Over
     std::string_view Becomes;
-  };
-  constexpr std::string_view
-      kDone = "Ash's turn was completed, and he is now a heel. ",
-      kFlat = "Ash's turn didn't work very well, and that affected the crowd. ",
-      kTooSoon =
-          "The fans realised that Ash turned not too long ago, and so this time they didn't "
-          "care so much. ",
-      kBaffling = "The fans were baffled by Ash's behaviour, and that killed their enthusiasm. ";
-  const Case kCases[] = {
+  } kCases[] = {
       {"F", "F", 999, true, {{10, 7}, {10, 2}, {3, 3}}, 68, 49, 80, kDone, 1, "H"},
       {"H", "F", 999, true, {{15, 15}, {20, 20}}, 42, 25, 50, kFlat, 25, "T"},
       {"F", "F", 90, true, {{40, 40}}, 48, 35, 30, kTooSoon, 15, "H"},
       {"F", "F", 999, false, {{40, 1}}, 36, 38, 69, kBaffling, 12, "F"},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Turn turn(c.Turner, c.Other);
     turn.W.Game().Difficulty = kEasy;
     turn["Ash"].TurnPending = c.IsPending;
@@ -90,15 +88,14 @@ TEST(ApplyTurn, TellsEachOutcomeAndPaysForIt) {
 }
 
 TEST(ApplyTurn, RemembersTheLastTurnForAYear) {
-  struct Case {
+  const struct {
     int DaysAgo;
     std::vector<int> Memory;  // draws of 15
     bool IsTooSoon;
-  };
-  const Case kCases[] = {{0, {}, true},       {90, {}, true},        {91, {10}, true},
-                         {91, {11, 5}, true}, {180, {11, 6}, false}, {181, {5}, true},
-                         {365, {6}, false},   {366, {}, false},      {-1, {}, false}};
-  for (const Case& c : kCases) {
+  } kCases[] = {{0, {}, true},       {90, {}, true},        {91, {10}, true},
+                {91, {11, 5}, true}, {180, {11, 6}, false}, {181, {5}, true},
+                {365, {6}, false},   {366, {}, false},      {-1, {}, false}};
+  for (const auto& c : kCases) {
     Turn turn("F", "F");
     turn["Ash"].LastTurn = kGameStart - std::chrono::days(c.DaysAgo);
     std::vector<int> draws = c.Memory;
@@ -146,11 +143,10 @@ struct Booking : Stage {
 };
 
 TEST(BookedTurns, OfSinglesNeedAPurposeAndItsOccasion) {
-  struct Case {
+  constexpr struct {
     int Finish, Aftermath;
     std::string_view RunIn, Winner, Loser, Saver;  // purposes 5, 10, 11, 31; Bea wins over Ash
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {kClean, 1, "", "", "", ""},
       {kCountOut, 1, "", "Bea on Ash", "", ""},
       {kInterference, 1, "Eli on Ash", "Bea on Ash", "", ""},
@@ -166,7 +162,7 @@ TEST(BookedTurns, OfSinglesNeedAPurposeAndItsOccasion) {
       {kClean, 21, "", "", "Ash on Bea", ""},
       {kDqThroughInterference, 26, "", "", "", "Fay on Eli"},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     const std::pair<int, std::string_view> purposes[] = {
         {5, c.RunIn}, {10, c.Winner}, {11, c.Loser}, {31, c.Saver}, {1, ""}, {3, ""}};
     for (const auto& [purpose, turns] : purposes) {
@@ -183,11 +179,10 @@ TEST(BookedTurns, OfSinglesNeedAPurposeAndItsOccasion) {
 }
 
 TEST(BookedTurns, OfTeamsGoByFinishAftermathAndPurpose) {
-  struct Case {
+  constexpr struct {
     int Finish, Aftermath, Purpose;
     std::string_view Turns;  // Bea pins Cal
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {kClean, 1, 1, ""},
       {kPartnerTurns, 1, 1, "Dot on Cal"},
       {kClean, 4, 1, "Ash on Bea"},
@@ -208,7 +203,7 @@ TEST(BookedTurns, OfTeamsGoByFinishAftermathAndPurpose) {
       {kClean, 23, 36, "Gus on Cal, Hal on Cal"},
       {kClean, 27, 36, ""},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Booking booking;
     booking.Match(kTag, {"Ash", "Bea", "Cal", "Dot"});
     booking.Result("Bea", "Cal", c.Finish);
@@ -251,15 +246,14 @@ TEST(BookedTurns, OfTeamsInADrawLookAcrossTheRing) {
 }
 
 TEST(BookedTurns, OfBigTeamsAreTheirFinish) {
-  struct Case {
+  constexpr struct {
     int Style, Finish;
     std::string_view Turns;
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {kThreeOnThree, 2, ""}, {kThreeOnThree, 3, "Ash on Bea"}, {kThreeOnThree, 8, "Fay on Dot"},
       {kThreeOnThree, 9, ""}, {kFourOnFour, 4, "Bea on Ash"},   {kFourOnFour, 10, "Hal on Eli"},
       {kFourOnFour, 11, ""}};
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Booking booking;
     booking.Match(c.Style, {"Ash", "Bea", "Cal", "Dot", "Eli", "Fay", "Gus", "Hal"});
     booking.Result("Ash", "Hal", c.Finish);
@@ -281,11 +275,10 @@ TEST(BookedTurns, OfInterviewsAreThoseWhoSpeak) {
 }
 
 TEST(BookedTurns, OfAnglesAreSomeAlwaysAndSomeOfThePending) {
-  struct Case {
+  constexpr struct {
     int Angle;
     std::string_view Always, Pending;
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {kWalking, "", ""},
       {kAmbush, "", "Dot on Bea"},
       {kHeelTurnAngle, "Ash on Bea", "Ash on Bea"},
@@ -294,7 +287,7 @@ TEST(BookedTurns, OfAnglesAreSomeAlwaysAndSomeOfThePending) {
       {kTeamFaceTurn, "Ash on Cal, Bea on Dot", "Ash on Cal, Bea on Dot"},
       {kRejectedProposal, "", "Bea on Ash"},
   };
-  for (const Case& c : kCases)
+  for (const auto& c : kCases)
     for (const bool isPending : {false, true}) {
       Booking booking(Eight().Stable("The Kiln", {"Fay", "Gus", "Ash"}));
       booking["Gus"].Over = 60;

@@ -67,19 +67,18 @@ TEST(WhyNoFeud, NamesTheFirstReason) {
 }
 
 TEST(StartingHeat, IsPopularityAndContrastWithinItsLimits) {
-  struct Case {
+  const struct {
     std::vector<int> Overs;
     const char* Are;  // the disposition of each
     int Popularity, Contrast, Heat;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {{60, 51}, "FH", 55, 10, 65},          {{60, 50}, "HF", 55, 10, 65},
       {{60, 50}, "FF", 55, -10, 45},         {{60, 50}, "TT", 55, -10, 45},
       {{60, 50}, "TH", 55, 0, 55},           {{81, 81}, "FH", 81, 10, 90},
       {{19, 19}, "FF", 19, -10, 10},         {{61, 60, 50, 52}, "FFHH", 55, 10, 65},
       {{60, 60, 50, 50}, "FHHH", 55, 0, 55}, {{60, 60, 50, 50}, "FHFH", 55, 0, 55},
   };
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     World world = SixPeople();
     for (std::size_t i = 0; i < c.Overs.size(); ++i)
       world.Workers()[static_cast<int>(i) + 1].Disposition = std::string_view(c.Are + i, 1);
@@ -93,12 +92,11 @@ TEST(StartingHeat, IsPopularityAndContrastWithinItsLimits) {
 TEST(FeudRefusal, ComesFromTheSideThatStandsFarAbove) {
   const std::string teams =
       ": 'We are not willing to do this feud, our opponents are not in our league.'";
-  struct Case {
+  const struct {
     std::vector<int> Overs;
     std::string Words;  // empty: both are willing
     std::string Veto;   // with Bea's creative control
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {{70, 50}, "", ""},
       {{71, 50}, "Ash: 'I am not willing to do this feud, Bea is not in my league.'", ""},
       {{50, 71},
@@ -109,7 +107,7 @@ TEST(FeudRefusal, ComesFromTheSideThatStandsFarAbove) {
       {{50, 50, 60, 80}, "", ""},
       {{50, 50, 61, 80}, "Cal \\ Dot" + teams, ""},
   };
-  for (const Case& c : kCases)
+  for (const auto& c : kCases)
     for (const bool control : {false, true}) {
       World world = SixPeople();
       world.Workers()[2].CreativeControl = control;
@@ -145,13 +143,12 @@ TEST(EndFeudOffCamera, HurtsWhomTheDrawHits) {
       ": Ending my last feud off-camera was a stupid move, it has hurt my popularity.\n";
   const std::string bad =
       ": Ending my last feud off-camera was a bad move, i think it has hurt my popularity.\n";
-  struct Ending {
+  const struct {
     int Wins;
     std::vector<int> Overs, Moods;  // of Ash, Bea, Cal and Dot: Over and Attitude
     std::vector<int> Draws, After;
     std::string Mails;
-  };
-  const Ending kEndings[] = {
+  } kEndings[] = {
       {3, {50, 50, 50, 50}, {60, 60, 60, 60}, {}, {50, 50, 50, 50}, ""},
       {4,
        {50, 40, 30, 20},
@@ -166,7 +163,7 @@ TEST(EndFeudOffCamera, HurtsWhomTheDrawHits) {
        {0, 0, 0, 50},
        "Ash" + stupid + "Cal" + stupid},
   };
-  for (const Ending& e : kEndings) {
+  for (const auto& e : kEndings) {
     World world = SixPeople().TagFeud("Ash", "Bea", "Cal", "Dot", [&](Feud& feud) {
       feud.Clean1 = e.Wins - 3;
       feud.Sneak1 = feud.Interference2 = feud.Dirty2 = 1;
@@ -201,11 +198,10 @@ TEST(AssessFeud, SaysTheFirstSentenceThatApplies) {
   const auto loses = [](const std::string& side) {
     return side + " would lose popularity if they lost the feud";
   };
-  struct Case {
+  const struct {
     Counters One, Two;
     std::string Says;
-  };
-  const Case kCases[] = {
+  } kCases[] = {
       {{1, 0, 1, 0}, {0, 1, 0, 0}, noHeat},  // below four, whatever else is true
       {{4, 0, 0, 0}, {0, 0, 0, 0}, cheap},
       {{2, 0, 9, 9}, {2, 0, 9, 9}, cheap},          // attacks are not wins
@@ -226,7 +222,7 @@ TEST(AssessFeud, SaysTheFirstSentenceThatApplies) {
     for (std::size_t kind = 0; kind < fields.size(); ++kind) *fields[kind] = numbers[kind];
   };
   World world = SixPeople().Feud("Ash", "Bea").TagFeud("Bea", "Ash", "Cal", "Dot");
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     Feud& feud = world.Feuds()[1];
     count({&feud.Clean1, &feud.Dirty1, &feud.Interference1, &feud.Sneak1}, c.One);
     count({&feud.Clean2, &feud.Dirty2, &feud.Interference2, &feud.Sneak2}, c.Two);

@@ -8,8 +8,6 @@
 namespace grapplemont::test {
 namespace {
 
-using Names = std::vector<std::string>;
-
 constexpr const char* kEmptySlot = "<<<Empty Feud Slot>>>";
 
 SmallWorld Roster() {

@@ -3,7 +3,6 @@
 #include <tuple>
 
 #include "records/angles.h"
-#include "records/checks/checkworld.h"
 #include "records/segments.h"
 #include "storylines/partners.h"
 #include "support/gameonworld.h"
@@ -11,8 +10,6 @@
 
 namespace grapplemont::test {
 namespace {
-
-using Names = std::vector<std::string>;
 
 SmallWorld Roster() {
   SmallWorld small;
@@ -45,10 +42,6 @@ void ExpectRefused(ScriptDesk& desk, const BadNames& names, const char* button) 
   }
 }
 
-void ExpectFaultless(const World& world) {
-  for (const auto& fault : CheckWorld(world)) ADD_FAILURE() << fault.Line();
-}
-
 TEST(frmStables, ShowsTakesInAndTakesOut) {
   GameOnWorld play(Roster());
   ScriptDesk& desk = play.Desk;
@@ -70,7 +63,7 @@ TEST(frmStables, ShowsTakesInAndTakesOut) {
   EXPECT_EQ(desk.Rows("lstwres")[1], (Names{"Bea", "60", "Face", "The Firm"}));
   desk.ExpectSay("Error!", "Bea belongs to The Firm. Take him out of it first.");
   desk.OpenRow("lstwres", "Bea");
-  ExpectFaultless(world);
+  ExpectSound(world);
 }
 
 TEST(frmStables, FoundsRenamesOrRefuses) {
@@ -99,17 +92,16 @@ TEST(frmStables, RenameAndDissolveWhatIsBookedForThem) {
   GameOnWorld play(Roster());
   ScriptDesk& desk = play.Desk;
   World& world = play.World();
-  struct Row {
+  const struct {
     int Kind, Style;
     const char* Text;
     int Rating;
     bool Goes;
-  };
-  const Row kRows[] = {
+  } kRows[] = {
       {kAngle, kStableAttack, "The Firm", 0, true},   {kAngle, kStableVideo, "The Firm", 0, true},
       {kAngle, kStableAttack, "The Rest", 0, false},  {kAngle, kWalking, "The Firm", 0, false},
       {kAngle, kStableAttack, "The Firm", 70, false}, {kInterview, kSingleTalk, "None", 0, false}};
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     Segment segment = EmptySegment();
     segment.Kind = row.Kind;
     segment.Style = row.Style;
@@ -124,7 +116,7 @@ TEST(frmStables, RenameAndDissolveWhatIsBookedForThem) {
   EXPECT_EQ(desk.FirstColumn("lststables"), (Names{"Ash and Co", "The Rest"}));
   EXPECT_EQ(Named(world.Workers(), "Bea").Stable, "Ash and Co");
   int record = 0;
-  for (const Row& row : kRows)
+  for (const auto& row : kRows)
     EXPECT_EQ(world.Segments()[++record].Text, row.Goes ? "Ash and Co" : row.Text) << record;
   for (const bool answer : {false, true}) {
     desk.ExpectAsk("Dissolve?",
@@ -133,7 +125,7 @@ TEST(frmStables, RenameAndDissolveWhatIsBookedForThem) {
                    answer, ui::Default::No);
     desk.Click("cmddissolve");
     record = 0;
-    for (const Row& row : kRows)
+    for (const auto& row : kRows)
       EXPECT_EQ(world.Segments()[++record].Kind,
                 row.Goes && answer ? int(kEmptySegment) : row.Kind);
   }
