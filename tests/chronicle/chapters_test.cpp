@@ -30,11 +30,7 @@ class Chronicles : public testing::Test {
                    .Promotion("CWA", kCult)
                    .Owner("Ruth Vane")
                    .Worker("Bram Okafor", [](Worker& w) { w.ShortName = "Okafor"; })
-                   .Worker("Ilya Marsh",
-                           [](Worker& w) {
-                             w.Gender = false;
-                             w.ShortName = "Marsh";
-                           })
+                   .Worker("Ilya Marsh", [](Worker& w) { w.Gender = false, w.ShortName = "Marsh"; })
                    .Worker("Cal Drift")
                    .Title("CWA Crown", "Ilya Marsh")
                    .Promotion("NEW", kSmall)

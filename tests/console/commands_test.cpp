@@ -126,16 +126,14 @@ TEST(Commands, ThatCannotBeDoneSayWhyAndChangeNothing) {
 }
 
 TEST(Commands, AtAnOpenBoxWaitForItsAnswer) {
-  struct Row {
+  const struct {
     std::string Opens;
     std::vector<std::string> Refused;
     std::string Answers;
-  };
-  const Row kRows[] = {
-      {"cmdsay", {"yes", "cancel", "click cmddoit", "follow Bram Okafor"}, "\"ok\""},
-      {"cmdask", {"ok", "cancel", "enter yes"}, "\"yes\" or \"no\""},
-      {"cmdprompt", {"ok", "type txtname x"}, "\"enter TEXT\" or \"cancel\""}};
-  for (const Row& row : kRows) {
+  } kRows[] = {{"cmdsay", {"yes", "cancel", "click cmddoit", "follow Bram Okafor"}, "\"ok\""},
+               {"cmdask", {"ok", "cancel", "enter yes"}, "\"yes\" or \"no\""},
+               {"cmdprompt", {"ok", "type txtname x"}, "\"enter TEXT\" or \"cancel\""}};
+  for (const auto& row : kRows) {
     std::string lines = "click " + row.Opens + "\nshow\nhelp\n";
     for (const std::string& line : row.Refused) lines += line + "\n";
     const Served served(lines, kJson);

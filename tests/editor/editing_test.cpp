@@ -189,11 +189,10 @@ TEST(AMember, WhoChangesEmployerLosesTheStableInTheForm) {
   EXPECT_FALSE(home.Desk.Enabled("cmdsave"));
 }
 
-struct RefusalCase {
+const struct {
   std::string Button, Record;  // "" for a new one
   std::string Typed, Says;
-};
-const RefusalCase kRefusals[] = {
+} kRefusals[] = {
     {"cmdwres", "", "", "It needs a name."},
     {"cmdwres", "Cal Drift", "txtname=CWA Hand 1", "This name already exists!"},
     {"cmdwres", "Cal Drift", "txtname=None", "Nobody can be called \"None\"."},
@@ -232,7 +231,7 @@ TEST(ThePages, ShowEveryFieldThatAnAuthorCanMean) {
 }
 
 TEST(AnAuthor, IsToldWhyARecordCannotBe) {
-  for (const RefusalCase& refusal : kRefusals) {
+  for (const auto& refusal : kRefusals) {
     SCOPED_TRACE(refusal.Button + " " + refusal.Says);
     EditorHome home;
     const auto before = home.Files();
@@ -307,11 +306,10 @@ TEST(UnsavedChanges, AreAskedAboutBeforeTheyGo) {
   EXPECT_EQ(nullptr, home.Play.Joined());
 }
 
-struct DeletionCase {
+const struct {
   std::string Button, Record;
   std::function<void(const World&)> Then;
-};
-const DeletionCase kDeletions[] = {
+} kDeletions[] = {
     {"cmdwres", "CWA Hand 1",
      [](const World& world) {
        EXPECT_EQ(0, world.Teams().Count());
@@ -338,7 +336,7 @@ const DeletionCase kDeletions[] = {
 };
 
 TEST(ADeletion, IsForgottenByAllThatKnewTheRecord) {
-  for (const DeletionCase& deletion : kDeletions) {
+  for (const auto& deletion : kDeletions) {
     SCOPED_TRACE(deletion.Record);
     EditorHome home;
     const auto before = home.Files();

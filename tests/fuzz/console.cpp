@@ -1,4 +1,3 @@
-#include <algorithm>
 
 #include "console/served.h"
 #include "fuzz/target.h"

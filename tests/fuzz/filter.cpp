@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 
 #include "fuzz/quietdesk.h"
 #include "fuzz/target.h"

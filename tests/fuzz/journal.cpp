@@ -1,6 +1,4 @@
 #include <algorithm>
-#include <array>
-#include <cstring>
 
 #include "fuzz/livingworld.h"
 #include "fuzz/target.h"

@@ -1,7 +1,5 @@
 #include "fuzz/recordchange.h"
 
-#include <array>
-#include <cmath>
 #include <cstring>
 #include <limits>
 

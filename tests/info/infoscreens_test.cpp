@@ -11,8 +11,6 @@
 namespace grapplemont::test {
 namespace {
 
-using Names = std::vector<std::string>;
-
 SmallWorld Plain() {
   SmallWorld small;
   small.Promotion("CWA").Game("CWA");
@@ -68,15 +66,12 @@ TEST(frmOptions, SetsAllAtOnce) {
 }
 
 TEST(frmOptions, ShowsStrayWordsWithoutChangingThem) {
-  GameOnWorld play(SmallWorld()
-                       .Promotion("CWA")
-                       .Game("CWA", kGameStart,
-                             [](GameInfo& game) {
-                               game.MailDev = 1;
-                               game.MailTv = 7;
-                               game.Reporter = -3;
-                             })
-                       .BuildUnchecked());
+  GameOnWorld play(
+      SmallWorld()
+          .Promotion("CWA")
+          .Game("CWA", kGameStart,
+                [](GameInfo& game) { game.MailDev = 1, game.MailTv = 7, game.Reporter = -3; })
+          .BuildUnchecked());
   play.Desk.Open("frmOptions");
   EXPECT_EQ(play.Desk.Text("cmbdev"), "Always");
   EXPECT_EQ(play.Desk.Text("cmbtv"), "");
@@ -196,11 +191,10 @@ TEST(frmNews, LeadsFromANewsToWhomItIsAbout) {
 }
 
 TEST(Mails, AreThePlayersOwnOrNewsOfOthers) {
-  struct Case {
+  constexpr struct {
     const char *From, *Body;
     bool IsOwn;
-  };
-  constexpr Case kCases[] = {
+  } kCases[] = {
       {"TV News", "CWA's Fire has been renewed for a further 25 weeks!", true},
       {"TV News", "Fire has been dropped by Nine!", true},
       {"TV News", "Late Fire has been dropped by Nine!", true},
@@ -227,7 +221,7 @@ TEST(Mails, AreThePlayersOwnOrNewsOfOthers) {
   HistoryEntry gone = EntryOf(world, world.Player(), kPastTv);
   gone.Name = "Late Fire";
   Remember(world, gone);
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     world.News().Rewrite({});
     AddNews(world, c.From, c.Body);
     const Unread unread = UnreadOf(world);

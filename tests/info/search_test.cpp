@@ -8,7 +8,6 @@ namespace grapplemont::test {
 namespace {
 
 using Kind = Found::Kind;
-using Names = std::vector<std::string>;
 
 World SomeWorld() {
   return SmallWorld()

@@ -58,21 +58,14 @@ SmallWorld CalmWorld() {
   People(small, "CWA", 18);
   small.Title("CWA Crown", "CWA 1", {}, [](Title& t) { t.Image = 60; })
       .Show("Friday Fire", "Friday", "Nine",
-            [](Show& s) {
-              s.Announcer = 2;
-              s.Colour = 3;
-              s.Rating1 = s.Rating2 = s.Rating3 = 400;
-            })
+            [](Show& s) { s.Announcer = 2, s.Colour = 3, s.Rating1 = s.Rating2 = s.Rating3 = 400; })
       .Event(3);
   for (int i = 1; i <= 4; ++i) small.Sponsor("Sponsor " + std::to_string(i));
   small.Promotion("NEW", kSmall).Owner("Tom Rival");
   People(small, "NEW", 6);
   small.Game("CWA", kMeeting, [](GameInfo& g) { g.Economy = 50; });
   for (const auto& [one, two] : {std::pair{"CWA 1", "CWA 2"}, {"CWA 3", "CWA 4"}})
-    small.Feud(one, two, [](Feud& f) {
-      f.Heat = 50;
-      f.Started = kMeeting;
-    });
+    small.Feud(one, two, [](Feud& f) { f.Heat = 50, f.Started = kMeeting; });
   return small;
 }
 

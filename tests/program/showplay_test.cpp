@@ -172,11 +172,7 @@ struct OnSunday : ShowPlay {
         .Crew(24)
         .Title("CWA Crown", "CWA Hand 1")
         .Show("Sunday Slam", "Sunday", "Harbor 9",
-              [](Show& show) {
-                show.Slot = "G";
-                show.Announcer = 1;
-                show.Colour = 2;
-              })
+              [](Show& show) { show.Slot = "G", show.Announcer = 1, show.Colour = 2; })
         .Game("CWA");
   }
 

@@ -16,8 +16,7 @@ namespace {
 /// The bytes of one field and what it is to read as.
 struct Piece {
   const char* Bytes;  // "ff 7f", or a text and the width it is padded to: "'Bram':25"
-  const char* Field;
-  const char* Reads;
+  const char *Field, *Reads;
 };
 
 std::string BytesOf(const char* piece) {

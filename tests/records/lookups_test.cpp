@@ -10,6 +10,7 @@ namespace grapplemont {
 namespace {
 
 using test::Named;
+using test::Names;
 using test::SmallWorld;
 
 World Peopled() {
@@ -161,8 +162,6 @@ TEST(News, IsDatedTodayAndDropsTheOldestOfAFullMailbox) {
 
 // Which names are seen in a text, and where.
 
-using Names = std::vector<std::string>;
-
 World NamedWorld() {
   return SmallWorld()
       .Promotion("CWA", kCult)
@@ -186,11 +185,10 @@ Names Found(NameIndex& index, const World& world, std::string_view text) {
 }
 
 TEST(NameIndex, FindsWholeNamesTheLongestFirst) {
-  struct Row {
+  const struct {
     const char* Text;
     Names Expected;
-  };
-  const Row kRows[] = {
+  } kRows[] = {
       {"", {}},
       {"Nobody of note.", {}},
       {"Bram Okafor!", {"Bram Okafor"}},
@@ -216,7 +214,7 @@ TEST(NameIndex, FindsWholeNamesTheLongestFirst) {
   };
   World world = NamedWorld();
   NameIndex index;
-  for (const Row& row : kRows) EXPECT_EQ(Found(index, world, row.Text), row.Expected) << row.Text;
+  for (const auto& row : kRows) EXPECT_EQ(Found(index, world, row.Text), row.Expected) << row.Text;
 }
 
 TEST(NameIndex, FollowsRenamesNewcomersAndTheEndOfPromotions) {

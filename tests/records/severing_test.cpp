@@ -30,18 +30,12 @@ World Busy() {
       .Title("CWA Pairs", "Ilya Marsh", "Bram Okafor", [](Title& t) { t.Image = 15; })
       .Title("CWA Cup", "Cal Drift")
       .Show("Friday Fire", "Friday", "Channel Nine",
-            [](Show& s) {
-              s.Colour = 1;
-              s.ColourIsWorker = true;
-            })
+            [](Show& s) { s.Colour = 1, s.ColourIsWorker = true; })
       .Show("Monday Mire", "Monday", "Channel Nine", [](Show& s) { s.Colour = 2; })
       .Promotion("NEW", kSmall)
       .Worker("Eli Fenn")
       .Show("New Night", "Friday", "Channel Nine",
-            [](Show& s) {
-              s.Colour = 1;
-              s.ColourIsWorker = true;
-            })
+            [](Show& s) { s.Colour = 1, s.ColourIsWorker = true; })
       .Game("CWA")
       .Feud("Ilya Marsh", "Cal Drift")
       .TagFeud("Cal Drift", "Dov Pell", "Ilya Marsh", "Bram Okafor")

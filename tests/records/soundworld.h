@@ -31,10 +31,7 @@ inline SmallWorld Sound() {
       .Title("CWA Cup")
       .Show("Friday Fire", "Friday", "Channel Nine", [](Show& s) { s.Announcer = 2; })
       .Show("Monday Mire", "Monday", "Everywhere",
-            [](Show& s) {
-              s.Colour = 3;
-              s.ColourIsWorker = true;
-            })
+            [](Show& s) { s.Colour = 3, s.ColourIsWorker = true; })
       .Sponsor("Colossal Cola")
       .Event(3)
       .Promotion("NEW", kSmall)

@@ -139,20 +139,12 @@ TEST(NewGameScreen, ShowsThePromotionPicked) {
 TEST(NewGameScreen, SaysHowHardAChairIsAndWhatTheDifficultyChanges) {
   World data = SmallWorld()
                    .Network("Nine")
-                   .Promotion("CWA", kSmall,
-                              [](Promotion& p) {
-                                p.Money = 400;
-                                p.Image = 50;
-                              })
+                   .Promotion("CWA", kSmall, [](Promotion& p) { p.Money = 400, p.Image = 50; })
                    .Owner("Ruth Vane")
                    .Worker("Star", kOpener, 60)
                    .Title("CWA Crown", "Star")
                    .Show("Fire", "Friday", "Nine")
-                   .Promotion("NEW", kSmall,
-                              [](Promotion& p) {
-                                p.Money = 100;
-                                p.Image = 19;
-                              })
+                   .Promotion("NEW", kSmall, [](Promotion& p) { p.Money = 100, p.Image = 19; })
                    .Worker("Hand", kOpener, 52)
                    .Worker("Boss", kManager, 99);
   HomeFolder home(std::move(data));

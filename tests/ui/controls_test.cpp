@@ -113,12 +113,11 @@ TEST_F(Controls, AreFoundByNameUntilTheyAreGone) {
 
 using Log = std::vector<std::string>;
 
-struct Act {
+const struct {
   const char* Name;
   const char* Done;  // as a refusal words it
   std::string (*Try)(ui::Desk&, ui::Screen&, std::string_view);
-};
-const Act kActs[] = {
+} kActs[] = {
     {"click", "clicked", [](auto& d, auto& s, auto n) { return ui::Click(d, s, n); }},
     {"type", "typed into", [](auto& d, auto& s, auto n) { return ui::Type(d, s, n, "x"); }},
     {"pick", "picked from", [](auto& d, auto& s, auto n) { return ui::Pick(d, s, n, "2"); }},
@@ -144,11 +143,10 @@ TEST(Acts, OpenARowOnlyWithAButtonThatCanBePressed) {
 }
 
 TEST(Acts, FitTheKindOfTheControl) {
-  struct Row {
+  const struct {
     const char *Control, *Kind, *Takes;
     Log Said;  // by each act it takes, in order
-  };
-  const Row kRows[] = {
+  } kRows[] = {
       {"lblfacts", "Label", "", {}},
       {"txtname", "TextBox", "type", {"txtname typed"}},
       {"txtnotes", "TextBox", "type", {}},
@@ -168,13 +166,13 @@ TEST(Acts, FitTheKindOfTheControl) {
       {"chtmoney", "Chart", "", {}},
       {"rptshow", "Report", "", {}},
   };
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     SCOPED_TRACE(row.Control);
     ScriptDesk desk;
     Log log;
     SampleScreen& screen = SampleScreen::On(desk, log);
     log.clear();
-    for (const Act& act : kActs) {
+    for (const auto& act : kActs) {
       const bool takes = std::string_view(row.Takes).find(act.Name) != std::string_view::npos;
       const std::string refusal = "\"" + std::string(row.Control) + "\" is a " + row.Kind +
                                   " and cannot be " + act.Done + ".";
@@ -191,7 +189,7 @@ TEST(Acts, DoNotReachWhatAPlayerCannotReach) {
   log.clear();
   for (ui::Control* control : screen.Controls())
     if (control != &screen.cmdhidden) control->Enabled = false;
-  for (const Act& act : kActs) {
+  for (const auto& act : kActs) {
     SCOPED_TRACE(act.Name);
     EXPECT_EQ(act.Try(desk, screen, "cmdnowhere"), "frmSample has no control \"cmdnowhere\".");
     EXPECT_EQ(act.Try(desk, screen, "cmdhidden"), "\"cmdhidden\" is not visible.");

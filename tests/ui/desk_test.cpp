@@ -57,13 +57,12 @@ TEST(DeskEvents, CommitOnceWhenTheOutermostReturns) {
 }
 
 TEST(DeskEvents, AreTakenBackWhenSomethingThrows) {
-  struct Row {
+  const struct {
     const char* Fails;
     std::function<void(Table&)> Act;
     const char* Told;
     Log Said;
-  };
-  const Row kRows[] = {
+  } kRows[] = {
       {"the handler, which has closed its screen and opened another",
        [](Table& table) { table.Desk.Click("cmdthrow"); },
        "Explained: The disk is full.",
@@ -92,7 +91,7 @@ TEST(DeskEvents, AreTakenBackWhenSomethingThrows) {
        "Explained: The disk is full.\nExplained: damaged",
        {"Load", "Rollback", "Return"}},
   };
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     SCOPED_TRACE(row.Fails);
     Table table;
     const SampleScreen& screen = table.Sample();
