@@ -45,9 +45,7 @@ struct Backstage {
     ScriptDraws(Play.World(), draws);
     Play.Desk.Open("frmMainScreen");
   }
-  ~Backstage() {
-    ExpectSound(Play.World());
-  }
+  ~Backstage() { ExpectSound(Play.World()); }
   Worker& Who(const char* name) { return Named(Play.World().Workers(), name); }
   std::string Told() { return Play.Desk.Text("txtincident"); }
   bool Waits() { return Play.Desk.TopName() == "frmIncident"; }

@@ -226,26 +226,6 @@ TEST(SeededDraws, AreThoseOfTheMersenneTwisterAlsoInACopy) {
   }
 }
 
-TEST(SeededDraws, HitEveryNumberAboutAsOften) {
-  SeededDraws draws(11);
-  for (const int n : {2, 180, 2147483647})
-    for (int i = 0; i < 2000; ++i) {
-      const int drawn = draws.Draw(n);
-      ASSERT_TRUE(drawn >= 1 && drawn <= n) << n;
-    }
-  constexpr int kFaces = 20, kDraws = 200000;
-  std::array<std::array<int, kFaces>, kFaces> pairs{};
-  std::size_t last = 0;
-  for (int i = 0; i < kDraws; ++i) {
-    const auto drawn = static_cast<std::size_t>(draws.Draw(kFaces) - 1);
-    ++pairs.at(last).at(drawn);
-    last = drawn;
-  }
-  // Far outside what chance allows, five times its spread and more.
-  for (const auto& behind : pairs)
-    for (const int count : behind) EXPECT_NEAR(kDraws / kFaces / kFaces, count, 130);
-}
-
 TEST(Arithmetic, TakesTheNearestSizeAndCutsSharesTowardsZero) {
   constexpr std::array<int, 6> kRows = {10, 20, 30, 40, 50, 60};
   EXPECT_EQ(BySize(kRows, kCult), 30);

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "records/modWresCheck.h"
 #include "support/scripteddraws.h"
 #include "support/smallworld.h"
@@ -11,33 +9,6 @@
 
 namespace grapplemont::test {
 namespace {
-
-TEST(NameTables, AreWholeAndFitTheirFields) {
-  std::set<std::string_view> surnames(Surnames.begin(), Surnames.end());
-  std::set<std::string_view> first(WorkerFirstNames.begin(), WorkerFirstNames.end());
-  std::set<std::string_view> staff(StaffFirstNames.begin(), StaffFirstNames.end());
-  EXPECT_EQ(surnames.size(), 300u);
-  EXPECT_EQ(first.size(), 303u);
-  EXPECT_EQ(staff.size(), 192u);
-  EXPECT_EQ(kWorkerFirstNames - kLastMaleWorkerFirstName, 52);
-  EXPECT_EQ(kStaffFirstNames - kLastMaleStaffFirstName, 31);
-  std::size_t longestSurname = 0, longestFirst = 0;
-  for (const auto& name : surnames) longestSurname = std::max(longestSurname, name.size());
-  for (const auto& name : first) longestFirst = std::max(longestFirst, name.size());
-  for (const auto& name : staff) longestFirst = std::max(longestFirst, name.size());
-  EXPECT_LE(longestSurname, 10u);
-  EXPECT_LE(longestFirst + 1 + longestSurname, 25u);
-}
-
-TEST(NameTables, GroupMovesByKind) {
-  std::string kinds;
-  for (const FinisherMove& move : FinisherMoves) {
-    EXPECT_LE(move.Name.size(), 25u) << move.Name;
-    if (kinds.empty() || kinds.back() != move.Kind) kinds += move.Kind;
-  }
-  EXPECT_EQ(kinds, "BTS");
-  EXPECT_EQ(FinisherMoves.size(), 64u);
-}
 
 /// What makes them up is seen in the golden months, where hundreds of them fill a new world.
 TEST(NewFillerWorker, DrawsAgainWhileANameIsTaken) {
