@@ -65,8 +65,9 @@ if(TARGET grapplemont)
           COMPONENT window)
   install(FILES ${packaging}/grapplemont.desktop DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/applications
           COMPONENT window)
+  # Under the program's full name a Flatpak hands it on to the desktop.
   install(FILES ${packaging}/grapplemont-slot.xml DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/mime/packages
-          COMPONENT window)
+          COMPONENT window RENAME ${id}.xml)
   set(icons ${CMAKE_INSTALL_DATAROOTDIR}/icons/hicolor)
   foreach(size 16 22 24 32 48 64 128 256 512)
     install(FILES ${packaging}/icons/${size}.png DESTINATION ${icons}/${size}x${size}/apps
