@@ -1,7 +1,5 @@
 #include "tools/replay.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <charconv>
 #include <deque>
@@ -267,8 +265,7 @@ class PassingFolder {
   PassingFolder() {
     const auto where = std::filesystem::temp_directory_path();
     for (int turn = 1;; ++turn) {
-      const std::string name = std::to_string(getpid()) + "-" + std::to_string(turn);
-      path_ = (where / ("grapplemont-replay-" + name)).string();
+      path_ = (where / ("grapplemont-replay-" + std::to_string(turn))).string();
       if (std::filesystem::create_directory(path_)) return;  // one that was there is another's
     }
   }
