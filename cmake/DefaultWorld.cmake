@@ -1,6 +1,6 @@
 # What comes with the programs lies beside them as it will be installed: the default world, made from
-# the tables of world/, the pictures, and what the window tells about itself. The tool writes the world beside its place and only then
-# puts it there, so that a mistake in a table leaves the last good world alone.
+# the tables of world/, the pictures, and what the window tells about itself. The tool writes the world
+# beside its place and only then puts it there, so that a mistake in a table leaves the last good world alone.
 
 set(share ${CMAKE_BINARY_DIR}/share/grapplemont)
 set(default_world ${share}/data)
