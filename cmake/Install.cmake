@@ -110,6 +110,6 @@ foreach(part window tools data)
   if(part STREQUAL window)
     set(package grapplemont)
   endif()
-  install(FILES .reuse/dep5 DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${package} COMPONENT ${part}
+  install(FILES debian/copyright DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${package} COMPONENT ${part}
           RENAME copyright)
 endforeach()
