@@ -237,6 +237,20 @@ enum PastOutcome {
   kEveryCrown,
   kBackWithAWin,
   kBackBeaten,
+  kFirstOfThem,       // {F} has won the first match with {S}
+  kAfterAllThatTime,  // {F} has won the first in a long time
+  kOnceTooOften,      // {F} has won one more of too many
+  kLeadGrows,         // {F}, who was ahead
+  kLeadShrinks,       // {F}, who was and is behind, has won one
+  kNewcomerStays,
+  kNewcomerFalls,
+  kNewReignHolds,    // {F}, champion since {when}
+  kNewReignEnds,     // the same
+  kContractKept,     // {F} has won what both signed for
+  kCrownStaysAway,   // from {F}, who has had it
+  kFirstShotMissed,  // by {F}
+  kYearsBestAgain,   // {F} and {S} after the one {when}, by the rating
+  kNothingSettled,   // between {F} and {S}, since nobody has won
   kLastBow,
   kFiftyDone,
   kWentTooFar,    // {F} is badly hurt

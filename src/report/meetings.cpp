@@ -29,6 +29,12 @@ int FirstSide(const HeldMatch& bout, const std::vector<int>& one, const std::vec
   return holds(0, two) && holds(one.size(), one) ? 2 : 0;
 }
 
+/// Of the player's, between two or four, and of the present year.
+bool IsOfTheYear(const World& world, const HeldMatch& bout) {
+  return (bout.Style == kSingles || bout.Style == kTag) && bout.Promotion == world.PlayerUid() &&
+         YearOf(bout.On) == YearOf(world.Today());
+}
+
 }  // namespace
 
 std::vector<int> Shared(const std::vector<int>& side, const std::vector<int>& others) {
@@ -41,11 +47,18 @@ std::vector<int> Shared(const std::vector<int>& side, const std::vector<int>& ot
 const HeldMatch* BestOfTheYear(const World& world) {
   const HeldMatch* best = nullptr;
   for (const HeldMatch& bout : world.Bouts())
-    if ((bout.Style == kSingles || bout.Style == kTag) && bout.Promotion == world.PlayerUid() &&
-        bout.Winners > 0 && YearOf(bout.On) == YearOf(world.Today()) &&
-        (!best || bout.Rating > best->Rating))
+    if (IsOfTheYear(world, bout) && bout.Winners > 0 && (!best || bout.Rating > best->Rating))
       best = &bout;
   return best;
+}
+
+bool IsOnTheYearsList(const World& world, int rating) {
+  constexpr int kGreat = 80;
+  constexpr std::ptrdiff_t kLong = 10;
+  const auto& bouts = world.Bouts();
+  return rating >= kGreat && std::count_if(bouts.begin(), bouts.end(), [&](const HeldMatch& bout) {
+                               return IsOfTheYear(world, bout) && bout.Rating > rating;
+                             }) < kLong;
 }
 
 bool AnyOf(const std::vector<int>& some, const std::vector<int>& others) {

@@ -19,7 +19,7 @@ using Uids = std::vector<int>;
 constexpr int kLately = 60, kLongApart = 365, kAMonth = 28, kSlotIsYoung = 180;
 constexpr int kALead = 3, kTooMany = 8, kFifty = 50, kARun = 5, kSeasoned = 8, kGreen = 8;
 constexpr int kALongReign = 100, kANewReign = 15, kAReturn = 180;  // days
-constexpr int kAway = 60, kGreat = 80, kYoung = 25;
+constexpr int kAway = 60, kYoung = 25;
 constexpr int kPerfect = 100;
 constexpr std::size_t kFewNames = 3;
 
@@ -169,7 +169,7 @@ class Look {
     else if (isLate && !tellsLast)
       Add({kMetLately, 50, had.LastWinner == 1 ? one : two, had.LastWinner == 1 ? two : one, 0,
            had.LastDaysAgo});
-    if (IsYearsEnd(world_.Today()) && had.BestRating >= kGreat)
+    if (IsYearsEnd(world_.Today()) && IsOnTheYearsList(world, had.BestRating))
       Add({kYearsBest, 68, one, two, had.BestRating, had.BestDaysAgo});
   }
 

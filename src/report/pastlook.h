@@ -47,6 +47,8 @@ std::vector<PastFact> CallbacksOf(Teller& teller, const std::vector<int>& one,
 std::vector<int> Shared(const std::vector<int>& side, const std::vector<int>& others);
 /// The player's best match of the present year between two or four; nullptr for none.
 const HeldMatch* BestOfTheYear(const World& world);
+/// Whether a match rated so is one of the ten best of those, and great enough to be called one.
+bool IsOnTheYearsList(const World& world, int rating);
 /// Whether any of these is among the others.
 bool AnyOf(const std::vector<int>& some, const std::vector<int>& others);
 

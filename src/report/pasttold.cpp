@@ -58,7 +58,7 @@ void SayOf(Teller& teller, const PastFact& fact, Family family, int band) {
   cast.Of('m') = manager;
 }
 
-enum class Who { One, Two, Either };
+enum class Who { One, Two, Either, Nobody };
 /// What comes of a fact: by which side the match was won, and whether it takes a Title for that.
 struct OutcomeRow {
   PastKind After;
@@ -92,6 +92,27 @@ constexpr OutcomeRow kOutcomes[] = {
     {kAwayLong, Who::Two, false, kBackBeaten},
     {kChallenged, Who::One, false, kChallengeWon},
     {kChallenged, Who::Two, false, kChallengeLost},
+    {kMetFirst, Who::Either, false, kFirstOfThem},
+    {kMetLongAgo, Who::Either, false, kAfterAllThatTime},
+    {kMetTooOften, Who::Either, false, kOnceTooOften},
+    {kSeriesLed, Who::One, false, kLeadGrows},
+    {kSeriesLed, Who::Two, false, kLeadShrinks},
+    {kNewAtTheTop, Who::One, false, kNewcomerStays},
+    {kNewAtTheTop, Who::Two, false, kNewcomerFalls},
+    {kReignNew, Who::One, false, kNewReignHolds},
+    {kReignNew, Who::Two, true, kNewReignEnds},
+    {kSignedFor, Who::Either, false, kContractKept},
+    {kOnceChampion, Who::Two, false, kCrownStaysAway},
+    {kTitleNever, Who::Two, false, kFirstShotMissed},
+    {kYearsBest, Who::Either, false, kYearsBestAgain},
+    {kMetLately, Who::Nobody, false, kNothingSettled},
+    {kSeriesLevel, Who::Nobody, false, kNothingSettled},
+    {kWasAttacked, Who::Nobody, false, kNothingSettled},
+    {kPartnerBeaten, Who::Nobody, false, kNothingSettled},
+    {kThreatened, Who::Nobody, false, kNothingSettled},
+    {kChallenged, Who::Nobody, false, kNothingSettled},
+    {kManagerSpoke, Who::Nobody, false, kNothingSettled},
+    {kSignedFor, Who::Nobody, false, kNothingSettled},
 };
 
 /// Two ends that would say the same of a match, or the opposite of it.
@@ -119,20 +140,23 @@ PastKind EndsAs(const PastFact& fact) {
 }
 
 const OutcomeRow* OutcomeOf(const PastFact& fact, const std::vector<int>& winners, bool changed) {
-  const bool one = Share(winners, fact.One), two = Share(winners, fact.Two);
-  for (const OutcomeRow& row : kOutcomes) {
-    if (row.After != EndsAs(fact) || (row.WithTitle && !changed)) continue;
-    if (row.Wins == Who::Either || (row.Wins == Who::One ? one : two)) return &row;
-  }
+  const auto isWonBy = [&](Who who) {
+    if (who == Who::One) return Share(winners, fact.One);
+    if (who == Who::Two) return Share(winners, fact.Two);
+    return winners.empty() == (who == Who::Nobody);
+  };
+  for (const OutcomeRow& row : kOutcomes)
+    if (row.After == EndsAs(fact) && (changed || !row.WithTitle) && isWonBy(row.Wins)) return &row;
   return nullptr;
 }
 
 /// The fact seen from the end: who has won comes first, unless it is about who has lost.
 PastFact AsEnded(const PastFact& fact, const OutcomeRow& row, const std::vector<int>& winners) {
   PastFact ended = fact;
-  constexpr PastOutcome kOfLosers[] = {kRunEnds,     kWordEaten,  kSaidTooMuch,
-                                       kReignOver,   kFiftyDone,  kNotPaidBack,
-                                       kSlumpGoesOn, kBackBeaten, kChallengeLost};
+  constexpr PastOutcome kOfLosers[] = {
+      kRunEnds,      kWordEaten,      kSaidTooMuch,    kReignOver,     kFiftyDone,
+      kNotPaidBack,  kSlumpGoesOn,    kBackBeaten,     kChallengeLost, kNewcomerFalls,
+      kNewReignEnds, kCrownStaysAway, kFirstShotMissed};
   const bool aboutLoser =
       std::find(std::begin(kOfLosers), std::end(kOfLosers), row.Tells) != std::end(kOfLosers);
   if (!aboutLoser && Share(winners, fact.Two)) std::swap(ended.One, ended.Two);
@@ -228,7 +252,7 @@ void TellPastEnding(Teller& teller) {
     said.push_back(mark.Tells);
   }
   for (const PastFact& fact : teller.Told) {
-    const OutcomeRow* row = winners.empty() ? nullptr : OutcomeOf(fact, winners, changed);
+    const OutcomeRow* row = OutcomeOf(fact, winners, changed);
     if (!row || said.size() == kMostFacts) continue;
     if (std::any_of(said.begin(), said.end(),
                     [&](PastOutcome other) { return SayTheSame(row->Tells, other); }))

@@ -42,6 +42,64 @@ TEST(Past, RecallsNothingThatWasNotThere) {
   EXPECT_FALSE(Past(world, AdaBeatsBo(), scene).Has(kWasAttacked)) << "nobody meant to hit them";
 }
 
+TEST(Past, RecallsWhatWasSaidAndDoneBefore) {
+  World world = Two();
+  Segment talk = EmptySegment();
+  talk.Kind = kInterview;
+  talk.Style = kSingleTalk;
+  talk.Purpose = kVerbalAttack;
+  talk.Worker[0] = 2;
+  talk.Worker[1] = 1;
+  world.Segments().Append(talk);
+  Scene scene;
+  scene.Row = 2;
+  const Past tonight(world, AdaBeatsBo(), scene);
+  ASSERT_TRUE(tonight.Has(kThreatened));
+  EXPECT_EQ(tonight.Has(kThreatened)->One, std::vector<int>{2});
+  KeptRow kept{};
+  kept.Booked = EmptySegment();
+  kept.Booked.Kind = kAngle;
+  kept.Booked.Style = kAmbush;
+  kept.Booked.Worker[0] = 1;  // the ambushee
+  kept.Booked.Worker[1] = 2;
+  kept.On = Ago(world, 7);
+  world.KeptRows().Append(kept);
+  EXPECT_EQ(Past(world, AdaBeatsBo()).Has(kWasAttacked)->One, std::vector<int>{1});
+  // Of two it is the later one, and who has asked for a match is not who was asked.
+  world.KeptRows()[1].On = Ago(world, 30);
+  kept.On = Ago(world, 20);
+  world.KeptRows().Append(kept);
+  EXPECT_EQ(Past(world, AdaBeatsBo()).Has(kWasAttacked)->DaysAgo, 20);
+  world.KeptRows()[1].Booked.Style = kChallenge;
+  const Past asked(world, AdaBeatsBo());
+  ASSERT_TRUE(asked.Has(kChallenged));
+  EXPECT_EQ(asked.Has(kChallenged)->One, std::vector<int>{1});
+  EXPECT_EQ(asked.Has(kChallenged)->Two, std::vector<int>{2});
+  world.KeptRows()[2].On = Ago(world, 40);
+  EXPECT_FALSE(Past(world, AdaBeatsBo()).Has(kWasAttacked));
+}
+
+/// One of the year's best is one that few were better than.
+TEST(Past, KeepsTheYearsListShort) {
+  World world = test::SmallWorld()
+                    .Promotion("CWA")
+                    .Worker("Ada Crane")
+                    .Worker("Bo Pike")
+                    .Game("CWA", *ParseIsoDate("2026-12-20"));
+  Held(world, 1, 100, 82);
+  ASSERT_TRUE(Past(world, AdaBeatsBo()).Has(kYearsBest));
+  EXPECT_EQ(Past(world, AdaBeatsBo()).Has(kYearsBest)->DaysAgo, 100);
+  for (int better = 0; better < 10; ++better) {
+    EXPECT_TRUE(Past(world, AdaBeatsBo()).Has(kYearsBest)) << better;
+    Held(world, 1, 90, 83);
+    world.Bouts().Change(world.Bouts().Count()).Worker[1] = 7;
+  }
+  EXPECT_FALSE(Past(world, AdaBeatsBo()).Has(kYearsBest));
+  // Those of another year are on no list of this one.
+  world.Bouts().Change(2).On = Ago(world, 400);
+  EXPECT_TRUE(Past(world, AdaBeatsBo()).Has(kYearsBest));
+}
+
 World Four() {
   test::SmallWorld small;
   small.Promotion("CWA");

@@ -85,43 +85,6 @@ TEST(Past, SaysOnceWhoHasWonThemAll) {
   EXPECT_EQ(most.Has(kSeriesLed)->DaysAgo, -1);
 }
 
-TEST(Past, RecallsWhatWasSaidAndDoneBefore) {
-  World world = Two();
-  Segment talk = EmptySegment();
-  talk.Kind = kInterview;
-  talk.Style = kSingleTalk;
-  talk.Purpose = kVerbalAttack;
-  talk.Worker[0] = 2;
-  talk.Worker[1] = 1;
-  world.Segments().Append(talk);
-  Scene scene;
-  scene.Row = 2;
-  const Past tonight(world, AdaBeatsBo(), scene);
-  ASSERT_TRUE(tonight.Has(kThreatened));
-  EXPECT_EQ(tonight.Has(kThreatened)->One, std::vector<int>{2});
-  KeptRow kept{};
-  kept.Booked = EmptySegment();
-  kept.Booked.Kind = kAngle;
-  kept.Booked.Style = kAmbush;
-  kept.Booked.Worker[0] = 1;  // the ambushee
-  kept.Booked.Worker[1] = 2;
-  kept.On = Ago(world, 7);
-  world.KeptRows().Append(kept);
-  EXPECT_EQ(Past(world, AdaBeatsBo()).Has(kWasAttacked)->One, std::vector<int>{1});
-  // Of two it is the later one, and who has asked for a match is not who was asked.
-  world.KeptRows()[1].On = Ago(world, 30);
-  kept.On = Ago(world, 20);
-  world.KeptRows().Append(kept);
-  EXPECT_EQ(Past(world, AdaBeatsBo()).Has(kWasAttacked)->DaysAgo, 20);
-  world.KeptRows()[1].Booked.Style = kChallenge;
-  const Past asked(world, AdaBeatsBo());
-  ASSERT_TRUE(asked.Has(kChallenged));
-  EXPECT_EQ(asked.Has(kChallenged)->One, std::vector<int>{1});
-  EXPECT_EQ(asked.Has(kChallenged)->Two, std::vector<int>{2});
-  world.KeptRows()[2].On = Ago(world, 40);
-  EXPECT_FALSE(Past(world, AdaBeatsBo()).Has(kWasAttacked));
-}
-
 TEST(Past, SaysHowLongAgoAndHowOften) {
   const Day today = *ParseIsoDate("2026-12-10");
   EXPECT_EQ(AgoText(0, today), "earlier tonight");
@@ -182,13 +145,17 @@ TEST_P(Voices, SettleAMatchOneWay) {
   TellPastEnding(teller);
   EXPECT_TRUE(WasSaid(memory, Family::PastEnding, kPaidBack, GetParam()));
   EXPECT_FALSE(WasSaid(memory, Family::PastEnding, kSameAgain, GetParam())) << teller.Text();
-  // What whoever had cause to win comes to when they lose.
+  // What whoever had cause to win, or something to keep, comes to when they lose.
   for (const auto& [before, tells] : {std::pair(kWasAttacked, kNotPaidBack),
                                       {kLossesInARow, kSlumpGoesOn},
                                       {kChallenged, kChallengeLost},
-                                      {kAwayLong, kBackBeaten}}) {
+                                      {kAwayLong, kBackBeaten},
+                                      {kNewAtTheTop, kNewcomerFalls},
+                                      {kOnceChampion, kCrownStaysAway},
+                                      {kTitleNever, kFirstShotMissed}}) {
     LineMemory lost;
     Teller beaten(world, segment, scene, lost);
+    beaten.cast.Set(Item::Title, "the Crown");
     beaten.Told = {{before, 80, {2}, {1}, 5, 7}};
     TellPastEnding(beaten);
     EXPECT_TRUE(WasSaid(lost, Family::PastEnding, tells, GetParam())) << beaten.Text();
@@ -202,6 +169,51 @@ TEST_P(Voices, SettleAMatchOneWay) {
     TellPastEnding(again);
     EXPECT_EQ(WasSaid(fresh, Family::PastEnding, kSameAgain, GetParam()), days >= 0);
   }
+}
+
+/// What each beginning comes to by who has won, and what none comes to where nobody has.
+TEST_P(Voices, AnswerWhatWasBegun) {
+  World world = Two();
+  world.Game().Reporter = GetParam();
+  Segment segment = AdaBeatsBo("Crown");
+  for (const auto& [before, one, whenWon, whenLost] :
+       {std::tuple(kReignNew, 1, kNewReignHolds, kNewReignEnds),
+        {kNewAtTheTop, 0, kNewcomerStays, kNewcomerFalls},
+        {kSeriesLed, 0, kLeadGrows, kLeadShrinks},
+        {kMetFirst, 0, kFirstOfThem, kFirstOfThem},
+        {kMetLongAgo, 0, kAfterAllThatTime, kAfterAllThatTime},
+        {kMetTooOften, 0, kOnceTooOften, kOnceTooOften},
+        {kYearsBest, 0, kYearsBestAgain, kYearsBestAgain},
+        {kSignedFor, 0, kContractKept, kContractKept}})
+    for (const int winner : {1, 2, 0}) {
+      segment.Winner = winner;
+      segment.Loser = winner == 0 ? 0 : 3 - winner;
+      Scene scene;
+      scene.Champion = one;
+      LineMemory memory;
+      Teller teller(world, segment, scene, memory);
+      teller.cast.Set(Item::Title, "the Crown");
+      teller.Told = {{before, 60, {1}, {2}, 3, before == kSeriesLed ? -1 : 9, "three to one"}};
+      TellPastEnding(teller);
+      for (const PastOutcome told : {whenWon, whenLost})
+        EXPECT_EQ(WasSaid(memory, Family::PastEnding, told, GetParam()),
+                  winner != 0 && told == (winner == 1 ? whenWon : whenLost))
+            << HeadingOf(Family::PastOpening, before) << " " << winner << " " << teller.Text();
+      EXPECT_EQ(WasSaid(memory, Family::PastEnding, kNothingSettled, GetParam()),
+                winner == 0 && before == kSignedFor);
+    }
+  // Whoever keeps a Title by a foul of the other one has a new reign still.
+  segment.Winner = 2;
+  segment.Loser = 1;
+  segment.Finish = kCountOut;
+  Scene scene;
+  scene.Champion = 1;
+  LineMemory memory;
+  Teller teller(world, segment, scene, memory);
+  teller.cast.Set(Item::Title, "the Crown");
+  teller.Told = {{kReignNew, 54, {1}, {2}, 3, 9}};
+  TellPastEnding(teller);
+  EXPECT_FALSE(WasSaid(memory, Family::PastEnding, kNewReignEnds, GetParam())) << teller.Text();
 }
 
 /// Whose manager did the talking has kept no word, and eats none.
