@@ -10,6 +10,10 @@ namespace {
 constexpr OptionKind kBookOptions[] = {{"--voice", "0..2"}};
 
 int WriteTheBook(const Arguments& arguments, Shell& shell) {
+  if (arguments.Place(1).ends_with(".pdf"))
+    throw WorldFault(
+        "This book is a page of HTML. The window writes it as PDF, on its page "
+        "Chronicle.");
   const auto disk = RealDisk();
   const World world = ReadWorld(*disk, arguments.Place(0), shell.Errors);
   if (!world.HasGame()) throw WorldFault(arguments.Place(0) + " holds no saved game.");

@@ -62,6 +62,15 @@ TEST_F(GameCommands, NewSaysWhatIsNotThere) {
             Say("new --home H/none --slot 1 --player P --promotion CWA"));
 }
 
+TEST_F(GameCommands, BookIsAPageOfHtmlAndNothingElse) {
+  BuildSmallData();
+  New("1", "1");
+  EXPECT_NE(Say("book H/s1 H/chronicle.html").find("chapters"), std::string::npos);
+  EXPECT_TRUE(Read("chronicle.html").starts_with("<!DOCTYPE html>"));
+  EXPECT_NE(Say("book H/s1 H/chronicle.pdf").find("page of HTML"), std::string::npos);
+  EXPECT_FALSE(std::filesystem::exists(In("chronicle.pdf"))) << "which no reader could open";
+}
+
 TEST_F(GameCommands, RunPlaysTheDaysAndKeepsThem) {
   BuildSmallData();
   New("1", "11");
