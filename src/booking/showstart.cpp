@@ -2,6 +2,7 @@
 
 #include "booking/keptcards.h"
 #include "booking/sheet.h"
+#include "business/beside.h"
 #include "records/modWresCheck.h"
 #include "show/nightbook.h"
 
@@ -74,7 +75,7 @@ void StartEvent(World& world, const EventExtra* extra) {
             {session.EventAnnouncer, session.EventColour, session.EventColourIsWorker});
   if (!extra) return;
   const int dollars = CostOfExtra(extra->Name);
-  world.Player().Money -= dollars;
+  MoveBeside(world, world.Player(), -dollars, "Extras of Events");
   world.ShowRuns()[1].ExtraCost = dollars;
   NoteStep(world, {kNoteMoney, world.Player().Name.Str()}, -dollars, world.Player().Money,
            "The extra of the Event");

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "business/beside.h"
 #include "business/past.h"
 #include "records/fields/fields.h"
 #include "records/modVar.h"
@@ -52,7 +53,7 @@ std::string WhyNotBuild(const World& world, Site site, int level) {
 }
 
 void Build(World& world, Site site, std::string_view name, int level) {
-  world.Player().Money -= SitePrice(site, level);
+  MoveBeside(world, world.Player(), -SitePrice(site, level), std::string("The ") + Row(site).What);
   HistoryEntry entry = EntryOf(world, world.Player(), Row(site).Kind);
   entry.Name = name;
   entry.Costs = SitePrice(site, level);

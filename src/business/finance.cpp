@@ -5,6 +5,7 @@
 #include <limits>
 #include <span>
 
+#include "business/beside.h"
 #include "records/arithmetic.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
@@ -178,10 +179,11 @@ int ProductionRaiseCost(int production, int number) {
   return RowUpTo(kPrices, production).Cost.at(static_cast<std::size_t>(number - 1));
 }
 
-bool RaiseProduction(Promotion& promotion, int number) {
+bool RaiseProduction(World& world, int number) {
+  Promotion& promotion = world.Player();
   const int cost = ProductionRaiseCost(promotion.Production, number);
   if (cost > promotion.Money) return false;
-  promotion.Money -= cost;
+  MoveBeside(world, promotion, -cost, "Better production");
   const int raise = kProductionRaises.at(static_cast<std::size_t>(number - 1));
   promotion.Production = std::min(promotion.Production + raise, kBestProduction);
   return true;
@@ -208,7 +210,7 @@ bool CanDonate(const World& world, int thousands) {
 
 void Donate(World& world, int thousands) {
   world.Game().Reputation += thousands;
-  world.Player().Money -= thousands * 1000;
+  MoveBeside(world, world.Player(), -1000LL * thousands, "Donations");
 }
 
 int LoanTerm(int steps) {
@@ -239,11 +241,12 @@ bool BankAccepts(const Promotion& promotion, int steps, Decision* why) {
                    Dollars(promotion.Money) + ".");
 }
 
-void TakeLoan(Promotion& promotion, int steps) {
+void TakeLoan(World& world, int steps) {
+  Promotion& promotion = world.Player();
   ForgetLoan(promotion);
   promotion.LoanAmount = steps * kLoanStep;
   promotion.LoanMonths = LoanTerm(steps);
-  promotion.Money += steps * kLoanStep;
+  MoveBeside(world, promotion, steps * kLoanStep, "A loan");
 }
 
 Score PayOffCost(const Promotion& promotion, int difficulty) {
@@ -254,10 +257,11 @@ Score PayOffCost(const Promotion& promotion, int difficulty) {
   return cost;
 }
 
-bool PayOffLoan(Promotion& promotion, int difficulty) {
-  const long long cost = PayOffCost(promotion, difficulty).Whole();
+bool PayOffLoan(World& world) {
+  Promotion& promotion = world.Player();
+  const long long cost = PayOffCost(promotion, world.Game().Difficulty).Whole();
   if (cost > promotion.Money) return false;
-  promotion.Money -= cost;
+  MoveBeside(world, promotion, -cost, kRepayment);
   ForgetLoan(promotion);
   return true;
 }

@@ -112,7 +112,7 @@ inline constexpr int kBestProduction = 100;
 int ProductionRaiseCost(int production, int number);
 /// Pays for the raise; what would pass 100 stops there. False, and nothing has changed, when the
 /// money is short.
-bool RaiseProduction(Promotion& promotion, int number);
+bool RaiseProduction(World& world, int number);
 
 // What several screens of the office say alike.
 
@@ -147,12 +147,12 @@ int MonthlyRepayment(const Promotion& promotion, int difficulty);
 /// The bank wants a quarter of the sum in hand. `why` gets what it weighed.
 bool BankAccepts(const Promotion& promotion, int steps, Decision* why = nullptr);
 /// Pays out a loan of this many steps. Requires that there is none.
-void TakeLoan(Promotion& promotion, int steps);
+void TakeLoan(World& world, int steps);
 
 /// What it costs to be rid of the loan at once: the rest and, by the difficulty, a share of it.
 Score PayOffCost(const Promotion& promotion, int difficulty);
 /// False, and nothing has changed, when the money is short.
-bool PayOffLoan(Promotion& promotion, int difficulty);
+bool PayOffLoan(World& world);
 
 /// Clears the four fields of the loan.
 void ForgetLoan(Promotion& promotion);

@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "business/beside.h"
 #include "business/networks.h"
 #include "records/arithmetic.h"
 #include "records/modVar.h"
@@ -107,7 +108,7 @@ long long EndingCost(const Sponsor& sponsor) {
 }
 
 void EndSponsorship(World& world, Promotion& promotion, Sponsor& sponsor) {
-  promotion.Money -= EndingCost(sponsor);
+  MoveBeside(world, promotion, -EndingCost(sponsor), "Ending the deal with " + sponsor.Name);
   LoseSponsor(world, sponsor);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "business/beside.h"
 #include "business/networks.h"
 #include "business/tvshows.h"
 #include "records/arithmetic.h"
@@ -120,7 +121,7 @@ EndingTalk TalkOfEnding(const Promotion& promotion, const Show& show, const Netw
 }
 
 void EndDeal(World& world, Show& show, int penalty) {
-  world.Player().Money -= penalty;
+  MoveBeside(world, world.Player(), -penalty, "Ending the deal of " + show.Name);
   EndShow(world, show);
 }
 

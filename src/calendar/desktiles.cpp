@@ -1,5 +1,6 @@
 #include "calendar/desktiles.h"
 
+#include "business/beside.h"
 #include "business/finance.h"
 #include "business/past.h"
 #include "calendar/advanceday.h"
@@ -24,26 +25,35 @@ int SignOf(long long change) {
 std::string PlusIf(long long change) {
   return change > 0 ? "+" : "";
 }
+std::string WithSign(long long dollars) {
+  return PlusIf(dollars) + Dollars(dollars);
+}
 
-/// "+$160,760 this month", against the last month end; before the first, by the books. On the day
-/// after that what it took away.
-std::string MovedText(const Promotion& player, long long moved) {
-  const long long last = player.MoneyBefore[0], before = player.MoneyBefore[1];
-  const bool tellsLast = moved == 0 && last != kNoEnd && before != kNoEnd;
-  const long long told = tellsLast ? last - before : moved;
-  return PlusIf(told) + Dollars(told) + (tellsLast ? " last month" : " this month");
+/// "Balance of the books +$1,200; Monthly tryout -$300".
+std::string MoneySteps(const World& world, const MonthBooks& books, long long BesideLine::*month) {
+  std::string text = "Balance of the books " + WithSign(Balance(books));
+  for (const BesideLine& line : BesideLines(world))
+    if (line.*month != 0) text += "; " + line.Why + " " + WithSign(line.*month);
+  return text;
 }
 
 /// It wants care where what is left when the first of the month has been paid is below nothing, and
 /// goes well where the month has earned that: shows to come may earn it yet.
 DeskTile MoneyTile(const World& world, const Promotion& player) {
-  const long long before = player.MoneyBefore[0], due = DueOnTheFirst(world);
-  const long long moved = before == kNoEnd ? Balance(player.ThisMonth) : player.Money - before;
+  const long long due = DueOnTheFirst(world);
+  const BesideLine beside = BesideTotal(world);
+  const long long moved = Balance(player.ThisMonth) + beside.Present;
+  // On the day after a month end what that took away.
+  const bool tellsLast =
+      moved == 0 && player.MoneyBefore[0] != kNoEnd && player.MoneyBefore[1] != kNoEnd;
+  const long long told = tellsLast ? Balance(player.LastMonth) + beside.Last : moved;
   return {"Money " + Dollars(player.Money),
-          MovedText(player, moved) + ", " + Dollars(due < 0 ? -due : due) +
-              (due < 0 ? " comes in" : " due") +
+          WithSign(told) + (tellsLast ? " last month, " : " this month, ") +
+              Dollars(due < 0 ? -due : due) + (due < 0 ? " comes in" : " due") +
               (IsFirstOfMonth(world.Today()) ? " on the next 1st" : " on the 1st"),
-          player.Money < due ? -1 : std::max(SignOf(moved - due), 0)};
+          player.Money < due ? -1 : std::max(SignOf(moved - due), 0),
+          tellsLast ? MoneySteps(world, player.LastMonth, &BesideLine::Last)
+                    : MoneySteps(world, player.ThisMonth, &BesideLine::Present)};
 }
 
 DeskTile ImageTile(const Promotion& player) {

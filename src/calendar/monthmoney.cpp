@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "business/beside.h"
 #include "business/finance.h"
 #include "business/past.h"
 #include "calendar/advanceday.h"
@@ -52,7 +53,7 @@ void MissRepayment(World& world, Promotion& promotion) {
 }
 
 void Repay(World& world, Promotion& promotion, int repayment) {
-  promotion.Money -= repayment;
+  MoveBeside(world, promotion, -repayment, kRepayment, world.Today() - std::chrono::days{1});
   promotion.LoanRepaid += repayment;
   if (IsPlayers(world, promotion))
     AddNews(world, kFinance,
@@ -121,15 +122,38 @@ long long DueOnTheFirst(const World& world) {
   return player.Merchandising > 0 ? due - sales : due;
 }
 
+namespace {
+
+/// " Outside the books it was -$300: Monthly tryout -$300." The largest come first, as many as the
+/// mail has room for; empty for nothing.
+std::string ToldBeside(const World& world, std::size_t room) {
+  std::vector<BesideLine> lines = BesideLines(world);
+  std::erase_if(lines, [](const BesideLine& line) { return line.Last == 0; });
+  if (lines.empty()) return {};
+  std::ranges::stable_sort(lines, std::greater{},
+                           [](const BesideLine& line) { return std::abs(line.Last); });
+  std::string text = " Outside the books it was " + Dollars(BesideTotal(world).Last);
+  const char* before = ": ";
+  for (const BesideLine& line : lines) {
+    const std::string next = before + line.Why + " " + Dollars(line.Last);
+    if (text.size() + next.size() + 1 > room) break;
+    text += next;
+    before = ", ";
+  }
+  return text + ".";
+}
+
+}  // namespace
+
 void TellOfTheMonth(World& world) {
   if (!IsFirstOfMonth(world.Today())) return;
   const MonthBooks& books = world.Player().LastMonth;
   const long long in = TotalIn(books), out = TotalOut(books), left = in - out;
-  if (in == 0 && out == 0) return;
-  AddNews(world, kFinance,
-          "The month is closed: " + Dollars(in) + " came in, " + Dollars(out) +
-              " went out. It has " + (left < 0 ? "cost" : "earned") + " us " +
-              Dollars(left < 0 ? -left : left) + ".");
+  std::string text = "The month is closed: " + Dollars(in) + " came in, " + Dollars(out) +
+                     " went out. It has " + (left < 0 ? "cost" : "earned") + " us " +
+                     Dollars(left < 0 ? -left : left) + ".";
+  const std::string beside = ToldBeside(world, decltype(Mail::Body)::kWidth - text.size());
+  if (in != 0 || out != 0 || !beside.empty()) AddNews(world, kFinance, text + beside);
 }
 
 void CloseMonthBooks(World& world) {

@@ -2,6 +2,7 @@
 #include <array>
 #include <optional>
 
+#include "business/beside.h"
 #include "business/networks.h"
 #include "business/past.h"
 #include "business/sponsors.h"
@@ -37,7 +38,7 @@ void LoseImage(World& world, Promotion& promotion, int loss, const char* why) {
 int CallOffEvent(World& world, Promotion& promotion, int type) {
   const int dollars =
       type >= 1 && type <= 4 ? kCancelCharges[static_cast<std::size_t>(type - 1)] : 0;
-  promotion.Money -= dollars;
+  MoveBeside(world, promotion, -dollars, "Calling off an Event");
   LoseImage(world, promotion, kCancelledImage, "an Event called off");
   return dollars;
 }

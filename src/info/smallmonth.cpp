@@ -2,11 +2,13 @@
 
 #include <algorithm>
 
+#include "business/beside.h"
 #include "calendar/image.h"
 #include "info/meeting.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "records/notes.h"
 #include "roster/market.h"
 #include "roster/moods.h"
 #include "roster/postings.h"
@@ -41,6 +43,7 @@ constexpr int kMoraleSure = 10, kMoraleDrawn = 10;
 constexpr int kLeastLoyalty = 40;  // below it nobody talks with anybody
 constexpr std::size_t kEntrants = 8, kFewestEntrants = 4;
 constexpr int kWinnersMorale = 10, kTournamentWear = 5;
+constexpr const char* kTheGate = "Gate of the tournament";
 constexpr int kGateDraw = 60, kSmallGate = 60, kBackyardGate = 12;
 constexpr int kKnownImage = 60, kPosterDraw = 3;
 constexpr int kOutingMorale = 3, kOutingCondition = 5;
@@ -168,15 +171,17 @@ std::string HoldTournament(World& world, Worker& winner) {
   MoveMorale(world, winner, kWinnersMorale, kMoodTown);
   const int gate = (world.Player().Image + world.Life().Draw(kGateDraw)) *
                    ByClass(world, kSmallGate, kBackyardGate);
-  world.Player().Money += gate;
+  MoveBeside(world, world.Player(), gate, kTheGate);
   return winner.Name + " won the town's tournament. The gate was " + Dollars(gate) + ".";
 }
 
 std::string HangPosters(World& world, Worker&) {
   if (world.Life().Draw(kPosterDraw) == kPosterDraw)
     return "It rained for a week, and the posters are pulp.";
-  MoveImage(world, world.Player(), 1);
-  return "The whole town talks of us. Our image is " + std::to_string(world.Player().Image) + "%.";
+  Promotion& player = world.Player();
+  MoveImage(world, player, 1);
+  NoteFact(world, {kNoteStanding, player.Name.Str()}, 1, player.Image, "posters all over town");
+  return "The whole town talks of us. Our image is " + std::to_string(player.Image) + "%.";
 }
 
 std::string GoOut(World& world, Worker&) {
@@ -255,7 +260,7 @@ std::string WhyNotVenture(const World& world, Venture venture, int workerUid) {
 
 std::string Undertake(World& world, Venture venture, int workerUid) {
   const VentureRow& row = kVentures[static_cast<std::size_t>(venture)];
-  world.Player().Money -= PriceOf(world, row);
+  MoveBeside(world, world.Player(), -PriceOf(world, row), row.Name);
   MarkDone(world, venture);
   Worker nobody{};
   Worker* whom = world.FindWorker(workerUid);

@@ -23,7 +23,7 @@ void ForNotes(const World& world, NoteKind kind, Take take) {
 
 void NoteFact(World& world, const NoteOf& of, int change, int now, std::string_view why) {
   ShowNote note;
-  note.On = world.Today();
+  note.On = of.On.value_or(world.Today());
   note.Promotion = world.PlayerUid();
   note.Kind = of.Kind;
   note.Worker = of.Worker;

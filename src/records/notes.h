@@ -15,9 +15,10 @@ namespace grapplemont {
 /// Which number a note is of.
 struct NoteOf {
   NoteKind Kind;
-  std::string What;  // whose, as it is called
-  int Worker = 0;    // uid
-  int Row = 0;       // of the sheet
+  std::string What;            // whose, as it is called
+  int Worker = 0;              // uid
+  int Row = 0;                 // of the sheet
+  std::optional<Day> On = {};  // today where none is given
 };
 
 /// Notes a step to `now`; nothing for a change of 0.

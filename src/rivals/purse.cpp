@@ -1,5 +1,6 @@
 #include "rivals/purse.h"
 
+#include "business/beside.h"
 #include "records/arithmetic.h"
 #include "records/modVar.h"
 #include "records/severing.h"
@@ -145,7 +146,7 @@ long long TakeoverCost(const Promotion& rival, Takeover kind) {
 }
 
 void TakeOverRival(World& world, Promotion& rival, Takeover kind) {
-  world.Player().Money -= TakeoverCost(rival, kind);
+  MoveBeside(world, world.Player(), -TakeoverCost(rival, kind), "Taking over " + rival.Initials);
   if (kind == Takeover::Destruction) {
     std::vector<Worker*> roster;
     for (Worker& worker : world.Workers())

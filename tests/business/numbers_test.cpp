@@ -103,10 +103,11 @@ TEST(Numbers, OfProductionRaisesGoByTheLevel) {
     EXPECT_EQ(Sum(0, 100, [&](int level) { return ProductionRaiseCost(level, number); }), sum);
   for (const auto& [money, level, number, raised] :
        {std::tuple(12500, 25, 3, 35), {12499, 25, 3, 25}, {-1, 25, 3, 25}, {520000, 97, 2, 100}}) {
-    Promotion promotion;
+    World world = SmallWorld().Promotion("CWA").Game("CWA");
+    Promotion& promotion = world.Player();
     promotion.Money = money;
     promotion.Production = level;
-    EXPECT_EQ(RaiseProduction(promotion, number), raised != level);
+    EXPECT_EQ(RaiseProduction(world, number), raised != level);
     EXPECT_EQ(promotion.Production, raised);
     EXPECT_EQ(promotion.Money, raised == level ? money : 0);
   }

@@ -131,9 +131,10 @@ const struct {
     {"loan paid off",
      [] {
        World w = House();
+       w.Game().Difficulty = kHard;
        const int before = w.Player().Money;
        Score cost = PayOffCost(w.Player(), kHard);
-       PayOffLoan(w.Player(), kHard);
+       PayOffLoan(w);
        return Told{before - w.Player().Money, std::move(cost)};
      }},
     {"wage of somebody with a job",

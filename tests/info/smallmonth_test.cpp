@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "business/beside.h"
+#include "business/finance.h"
+#include "calendar/advanceday.h"
+#include "calendar/desktiles.h"
 #include "roster/market.h"
 #include "roster/talks.h"
 #include "support/gameonworld.h"
@@ -10,6 +14,8 @@
 
 namespace grapplemont::test {
 namespace {
+
+using Row = std::vector<std::string>;
 
 /// A Backyard promotion with $1,000, a rival of the class above, somebody young on the market.
 SmallWorld Backyard() {
@@ -66,6 +72,40 @@ TEST(SmallMonth, ATournamentPaysByTheImageAndIsHeldOnceAMonth) {
   EXPECT_EQ(VenturesLeft(world), 6);
 }
 
+TEST(SmallMonth, IsInTheMoneyOfItsMonthWhereverThatIsRead) {
+  using std::chrono::days;
+  World world = Backyard();
+  DrawLife(world, {{60, 20}});
+  Undertake(world, Venture::Tournament, UidOf(world, "Ada Lane"));
+  EXPECT_EQ(DeskTiles(world)[0].Why,
+            "Balance of the books $0; The town's tournament -$600; Gate of the tournament +$480");
+  TakeLoan(world, 1);
+  const int paid = MonthlyRepayment(world.Player(), world.Game().Difficulty);
+  world.Game().Today = kGameStart + days{31};
+  LoanRepayments(world);
+  MonthlyReview(world);
+  CloseMonthBooks(world);
+  TellOfTheMonth(world);
+  EXPECT_EQ(world.News()[world.News().Count()].Body.Str(),
+            "The month is closed: $0 came in, $0 went out. It has earned us $0. Outside the books "
+            "it was " +
+                Dollars(100000 - paid - 120) + ": A loan $100,000, Loan repayments " +
+                Dollars(-paid) + ", The town's tournament -$600, Gate of the tournament $480.");
+  Undertake(world, Venture::Benefit, 0);
+  GameOnWorld play(std::move(world));
+  play.Desk.Open("frmFinance");
+  const auto rows = play.Desk.Rows("lstbooks");
+  const std::string moved = Dollars(100000 - paid - 120);
+  EXPECT_EQ(rows[rows.size() - 3], (Row{"A benefit for the town", "$0", "-$200"}));
+  EXPECT_EQ(rows[rows.size() - 2], (Row{"Outside the books", moved, "-$200"}));
+  EXPECT_EQ(rows.back(), (Row{"The money moved by", moved, "-$200"}));
+  play.Desk.Open("frmMainScreen");
+  EXPECT_TRUE(play.Desk.Text("lbltile(1)").starts_with("-$200 this month"));
+  play.World().Game().Today = kGameStart + days{70};
+  MoveBeside(play.World(), play.World().Player(), 1, "Found");
+  EXPECT_EQ(BesideLines(play.World()).front().Why, "A benefit for the town") << "March has gone";
+}
+
 TEST(SmallMonth, TryoutsSignForATenthLessAndScoutingUnsettles) {
   World world = Backyard();
   DrawLife(world, {{10, 4}});
@@ -106,8 +146,7 @@ TEST(MonthScreen, OffersVenturesWithTheirPricesAndRumoursThatLeadSomewhere) {
   play.Desk.Open("frmMainScreen");
   play.Desk.Click("cmdmonth");
   ASSERT_EQ(play.Desk.TopName(), "frmMonth");
-  EXPECT_EQ(play.Desk.Rows("lstventures")[0],
-            (std::vector<std::string>{"Monthly tryout", "$300", "Open"}));
+  EXPECT_EQ(play.Desk.Rows("lstventures")[0], (Row{"Monthly tryout", "$300", "Open"}));
   play.Desk.Pick("lstventures", "A benefit for the town");
   EXPECT_FALSE(play.Desk.Visible("lstwhom"));
   const int before = play.World().Game().Reputation;

@@ -2,6 +2,7 @@
 #include <optional>
 #include <utility>
 
+#include "business/beside.h"
 #include "business/finance.h"
 #include "business/past.h"
 #include "business/screens/frmSpending.h"
@@ -19,7 +20,7 @@ using ui::Tone;
 
 /// A book, or a sum of books, whose amounts have a colour.
 struct BookRow {
-  const char* Title;
+  std::string Title;
   long long Last, Present;
   Tone Colour = Tone::Plain;  // of the title
   Tone (*ToneOf)(long long) = [](long long) { return Tone::Plain; };
@@ -45,7 +46,8 @@ const CellColumns<MonthOfMoney> kMonthTable = {
     {{"In", K::Number, 2}, [](const MonthOfMoney& month) { return MoneyCell(month.In); }},
     {{"Out", K::Number, 2}, [](const MonthOfMoney& month) { return MoneyCell(month.Out); }},
     {{"Other", K::Number, 2,
-      "What moved the money outside the books: loans, donations, building, and the like."},
+      "What moved the money outside the books: loans, donations, building, ventures, and the "
+      "like."},
      [](const MonthOfMoney& month) {
        return month.Beside ? MoneyCell(*month.Beside, BalanceTone(*month.Beside)) : ui::Cell("");
      }}};
@@ -77,7 +79,9 @@ class frmFinance : public GameScreen {
     lblmoney.Text = FinanceText(player);
     lblmoney.Colour = player.Money < 0 ? Tone::Red : Tone::Plain;
     lstbooks.Clear();
-    FillPlaces(lstbooks, kBookTable, BooksOf(player.LastMonth, player.ThisMonth));
+    std::vector<BookRow> rows = BooksOf(player.LastMonth, player.ThisMonth);
+    AddBeside(rows);
+    FillPlaces(lstbooks, kBookTable, rows);
     ShowMoney(player);
   }
 
@@ -99,6 +103,18 @@ class frmFinance : public GameScreen {
     return rows;
   }
 
+  /// What no book holds, and what all of it has done to the money.
+  void AddBeside(std::vector<BookRow>& rows) {
+    const BookRow balance = rows.back();
+    const BesideLine total = BesideTotal(world());
+    for (const BesideLine& line : BesideLines(world()))
+      rows.push_back({line.Why, line.Last, line.Present});
+    if (rows.back().Title == balance.Title) return;
+    rows.push_back({total.Why, total.Last, total.Present, Tone::Gold, SumTone});
+    rows.push_back({"The money moved by", balance.Last + total.Last,
+                    balance.Present + total.Present, Tone::Gold, BalanceTone});
+  }
+
   void ShowMoney(const Promotion& player) {
     std::vector<std::string> months;
     std::vector<double> places;
@@ -117,10 +133,11 @@ class frmFinance : public GameScreen {
 
   ui::Label lblmoney{*this, "lblmoney"};
   ui::ListBox lstbooks{*this, "lstbooks", HeadingsOf(kBookTable)};
-  ui::Label lblbeside{*this, "lblbeside",
-                      "Loans, donations, better production, camps and territories, legal payments, "
-                      "an Event's extras and the price of calling one off are paid outside the "
-                      "books."};
+  ui::Label lblbeside{
+      *this, "lblbeside",
+      "Loans, donations, better production, camps and territories, legal payments, "
+      "an Event's extras, the price of calling one off and a small month's ventures "
+      "are outside the books: they stand below the balance."};
   ui::Chart chtmoney{*this, "chtmoney"};
   ui::ListBox lstmonths{*this, "lstmonths", HeadingsOf(kMonthTable)};
   ui::Button cmdnotepad{*this, "cmdnotepad", "Notepad", [this] { desk().Open("frmNotepad"); }};
@@ -302,15 +319,14 @@ class frmLoan : public GameScreen {
       return desk().Say("Rejected!", kRejected);
     }
     refused_.reset();
-    TakeLoan(player(), hsamount.Value);
+    TakeLoan(world(), hsamount.Value);
     desk().Say("Accepted!", "The bank have accepted your loan application!");
     Return();
   }
 
   void Repay() {
     if (!desk().Ask("Repay loan?", "Are you sure?")) return;
-    if (!PayOffLoan(player(), difficulty()))
-      return desk().Say("Error!", "You cannot afford to repay it!");
+    if (!PayOffLoan(world())) return desk().Say("Error!", "You cannot afford to repay it!");
     desk().Say("Done!", "The loan has been repayed");
     Return();
   }

@@ -133,7 +133,7 @@ class frmFedProd : public GameScreen {
     if (!desk().Ask(kReport, "Pay $" + std::to_string(CostOf(number)) + " for a " +
                                  PercentText(number) + " increase?"))
       return;
-    if (!RaiseProduction(player(), number)) desk().Say(kReport, "You cannot afford this!");
+    if (!RaiseProduction(world(), number)) desk().Say(kReport, "You cannot afford this!");
     Return();
   }
 

@@ -139,13 +139,14 @@ constexpr Term kNotes[] = {{kNoteRating, "", "Rating of the show"},
                            {kNoteTitleImage, "", "Image of a Title"},
                            {kNoteMerch, "", "Merchandise of the last month"},
                            {kNoteTape, "", "A network's answer to the last tape"},
-                           {kNoteStanding, "", "Image beside a show"}};
+                           {kNoteStanding, "", "Image beside a show"},
+                           {kNoteBeside, "", "Money outside the books"}};
 
 #define NOTE(member) GM_FIELD(ShowNote, member)
 constexpr Field kNoteFields[] = {
-    NOTE(On).Means("The day of the show, or the first of a month."),
+    NOTE(On).Means("The day of the show or payment, or the first of a month."),
     NOTE(Promotion).In(0, 32767).Means("Uid of the promotion, which may be gone."),
-    NOTE(Kind).In(kNoteRating, kNoteStanding).From(kNotes).Means("What the number is."),
+    NOTE(Kind).In(kNoteRating, kNoteBeside).From(kNotes).Means("What the number is."),
     NOTE(Worker).LeadsTo(Refers::Worker).Means("Whose number; 0 for nobody's and who has gone."),
     NOTE(Row).In(0, 11).Means("Row of the sheet; 0 for what happened beside it."),
     NOTE(What).Means("Whose number it is, as it was called."),

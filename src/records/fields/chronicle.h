@@ -218,9 +218,10 @@ enum NoteKind {
   kNoteTitle,       // a Title's new holder
   kNoteTitleImage,  // percent
   // Of no show:
-  kNoteMerch,    // dollars of the last month's merchandise
-  kNoteTape,     // what a network weighed when it saw the last tape; Change: 1 for, -1 against
-  kNoteStanding  // percent of the image, moved beside any show
+  kNoteMerch,     // dollars of the last month's merchandise
+  kNoteTape,      // what a network weighed when it saw the last tape; Change: 1 for, -1 against
+  kNoteStanding,  // percent of the image, moved beside any show
+  kNoteBeside     // dollars that no book of the month holds
 };
 
 /// A step of a number that a show of the player's made or moved, as the rule computed it: a record
