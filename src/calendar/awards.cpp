@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bitset>
 #include <map>
 #include <optional>
 #include <tuple>
@@ -25,11 +26,18 @@ constexpr const char* kJury = "Year's Awards";
 constexpr int kMostGain = 20, kMostRenown = 20;
 constexpr int kFewestFeudMatches = 3, kLeastImprovement = 5;
 
-/// The year so far, the present day included.
+/// The days of a year on which somebody held a Title, or two of them.
+using DaysOfYear = std::bitset<366>;
+
+/// The year so far, the present day included. Reigns count from the day on from which the past is
+/// counted, so that no page of it knows other days.
 class Year {
  public:
   explicit Year(const World& world) : world_(world), until_(world.Today() + std::chrono::days{1}) {
     from_ = std::chrono::year{YearOf(world.Today())} / 1 / 1;
+    const auto& totals = world.Of<TotalsState>();
+    const Day since = totals.Count() > 0 ? totals[1].Since : world.Game().StartDate;
+    counted_ = std::max(from_, since);
     for (const YearEnd& row : world.YearEnds()) before_[row.Worker] = row.Over;
     for (const TitleReign& reign : world.Reigns()) CountReign(reign);
   }
@@ -45,19 +53,19 @@ class Year {
     const auto before = before_.find(worker.Uid);
     return before == before_.end() ? 0 : worker.Over - before->second;
   }
-  /// How many of its days a reign lasted.
-  int DaysOf(const TitleReign& reign) const {
+  /// Marks the days on which a reign lasted.
+  void Mark(DaysOfYear& days, const TitleReign& reign) const {
     const Day end = reign.End == kReignLasts ? until_ : std::min(Day(reign.Until), until_);
-    const Day begin = std::max(Day(reign.From), from_);
-    return end <= begin ? 0 : static_cast<int>((end - begin).count());
+    for (Day day = std::max(Day(reign.From), counted_); day < end; day += std::chrono::days{1})
+      days.set(static_cast<std::size_t>((day - from_).count()));
   }
-  int DaysAsChampion(int uid) const { return ChampionOf(uid).Days; }
+  int DaysAsChampion(int uid) const { return static_cast<int>(ChampionOf(uid).Days.count()); }
   /// What the days with Titles are worth by their images.
   int RenownOf(int uid) const { return std::min(kMostRenown, ChampionOf(uid).Renown / 1825); }
 
  private:
   struct Champion {
-    int Days = 0;
+    DaysOfYear Days;
     int Renown = 0;
   };
   Champion ChampionOf(int uid) const {
@@ -72,17 +80,18 @@ class Year {
   }
 
   void CountReign(const TitleReign& reign) {
-    const int days = DaysOf(reign);
-    if (days == 0 || IsVacancy(reign)) return;
+    DaysOfYear days;
+    Mark(days, reign);
+    if (days.none() || IsVacancy(reign)) return;
     for (const int uid : {int(reign.Worker), int(reign.Partner)}) {
       if (uid == 0) continue;
-      champions_[uid].Days += days;
-      champions_[uid].Renown += days * ImageOf(reign);
+      champions_[uid].Days |= days;
+      champions_[uid].Renown += static_cast<int>(days.count()) * ImageOf(reign);
     }
   }
 
   const World& world_;
-  Day from_, until_;
+  Day from_, until_, counted_;
   std::map<int, int> before_;  // Over by uid
   std::map<int, Champion> champions_;
 };
@@ -161,12 +170,12 @@ std::optional<YearAward> BestOfSex(const Year& year) {
 
 /// Days of the year in which the two held a Title together.
 int DaysTogether(const Year& year, const Team& team) {
-  int days = 0;
+  DaysOfYear days;
   for (const TitleReign& reign : year.Of().Reigns())
     if (reign.Partner != 0 && std::minmax({int(reign.Worker), int(reign.Partner)}) ==
                                   std::minmax({int(team.Worker1), int(team.Worker2)}))
-      days += year.DaysOf(reign);
-  return days;
+      year.Mark(days, reign);
+  return static_cast<int>(days.count());
 }
 
 Merit YearOfTeam(const Year& year, const Team& team) {

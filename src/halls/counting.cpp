@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 #include "halls/ledger.h"
@@ -172,6 +173,7 @@ void Ledger::CountReigns(Day until) {
   const Day from = State.Counted;
   std::map<std::pair<int, std::string_view>, int> images;
   for (const Title& title : world_.Titles()) images[{title.Owner, title.Name.View()}] = title.Image;
+  std::vector<Held> held;
   for (const TitleReign& reign : world_.Reigns()) {
     const Day end = reign.End == kReignLasts ? until : std::min(Day(reign.Until), until);
     const int days = std::max(0, static_cast<int>((end - std::max(Day(reign.From), from)).count()));
@@ -183,11 +185,29 @@ void Ledger::CountReigns(Day until) {
       const int place = uid == 0 ? -1 : Meet(uid, since);
       if (place < 0) continue;
       if (begins) BeginReignOf(reign, uid, place, until);
-      With(place, HouseIn(reign), since).Days += days;
+      With(place, HouseIn(reign), since);
+      if (days > 0) held.push_back({place, HouseIn(reign), since, end});
       Careers[static_cast<std::size_t>(place)].Renown +=
           days * (image == images.end() ? 0 : image->second);
     }
     if (reign.Worker != 0 && reign.Partner != 0) CountPairReign(reign, begins, days, from, end);
+  }
+  CountDays(std::move(held));
+}
+
+/// A day with two Titles is one day.
+void Ledger::CountDays(std::vector<Held> held) {
+  std::ranges::sort(held, {},
+                    [](const Held& one) { return std::tuple(one.Place, one.House, one.From); });
+  const Held* before = nullptr;
+  Day counted{};
+  for (const Held& one : held) {
+    const bool goesOn = before && before->Place == one.Place && before->House == one.House;
+    const Day from = goesOn ? std::max(one.From, counted) : one.From;
+    counted = std::max(from, one.To);
+    if (from < one.To)
+      With(one.Place, one.House, one.From).Days += static_cast<int>((one.To - from).count());
+    before = &one;
   }
 }
 

@@ -106,7 +106,14 @@ class Ledger {
   int ChampionOn(const HeldMatch& match) const;
   void OfferMatch(const Bout& bout);
 
+  /// Somebody's days with a Title, the last one not included.
+  struct Held {
+    int Place = 0;
+    HouseKey House = {};
+    Day From{}, To{};
+  };
   void CountReigns(Day until);
+  void CountDays(std::vector<Held> held);
   void BeginReignOf(const TitleReign& reign, int uid, int place, Day until);
   void CountPairReign(const TitleReign& reign, bool begins, int days, Day from, Day end);
   void CountShows(Day until);

@@ -284,7 +284,7 @@ constexpr RecordTable kRecordTables[] = {
      "How often it was kept in the ring.", ByDefences},
     {"Titles", "Most reigns", "Reigns", kLives, "Alone or with a partner.",
      OfLives<Sum<&Life::Reigns>>},
-    {"Titles", "Most days as champion", "Days", "Reigns", "Of two Titles at once each counts.",
+    {"Titles", "Most days as champion", "Days", "Reigns", "A day with two Titles is one day.",
      OfLives<Sum<&Life::Days>, Plain, InReigns>},
     {"Titles", "Most defences", "Defences", "Reigns", "Of all reigns.",
      OfLives<Sum<&Life::Defences>, Plain, InReigns>},

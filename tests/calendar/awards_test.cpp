@@ -142,8 +142,15 @@ TEST(TheTagTeamOfTheYear, IsTwoOfOneHouseAndTheirTimeAsChampionsCounts) {
   reign.Holder = "The Roses";
   reign.End = kReignLost;
   world.Reigns().Append(reign);
+  world.Reigns().Append(reign);
+  world.Game().StartDate = reign.From;
   EXPECT_EQ(GivenFor(world, kTeamOfTheYear),
-            "The Roses | Over 50 between them, experience 50, 49 days as champions");
+            "The Roses | Over 50 between them, experience 50, 49 days as champions")
+      << "however many Titles they held at once";
+  world.Game().StartDate = kNewYearsEve - days{335};
+  EXPECT_EQ(GivenFor(world, kTeamOfTheYear),
+            "The Roses | Over 50 between them, experience 50, 20 days as champions")
+      << "as the hall counts them, from the day the game began";
   Who(world, "Joy Park").Employer = Named(world.Promotions(), "NEW").Uid;
   EXPECT_EQ(GivenFor(world, kTeamOfTheYear), "The Drifters | Over 60 between them, experience 0");
 }

@@ -88,6 +88,11 @@ TEST(Ledger, CountsReignsOfBothAndTheAgesTheyBeganAt) {
   EXPECT_EQ(LifeIn(lives, "Nat Other").Days, 9);
   ASSERT_EQ(past.Feats.size(), 2u) << "youngest and oldest";
   EXPECT_EQ(past.Feats[0].Number, 19 * 12 + 2);
+  TitleReign second = world.Reigns()[world.Reigns().Count()];
+  second.Title = "NEW Belt";
+  second.From = Day(second.From) + days{5};
+  world.Reigns().Append(second);
+  EXPECT_EQ(LifeIn(LivesOf(PastOf(world)), "Ned Third").Days, 20) << "a day with two is one day";
 }
 
 TEST(Ledger, KeepsPairsAndTheirTrees) {
