@@ -93,14 +93,10 @@ struct Ended {
   int CleanY;  // clean wins
 };
 
-struct Payout {
-  int X, Y;
-};
-
 /// The first that fits is paid and written about.
 struct EndRule {
   bool (*Fits)(const Ended&);
-  Payout Pays;
+  FeudPayout Pays;
   FeudStory Story;
 };
 constexpr int kFarAhead = 5;
@@ -129,15 +125,6 @@ const EndRule* RuleOf(const Ended& ended) {
   return nullptr;
 }
 
-Payout PayoutOf(const Feud& feud, const EndRule* rule) {
-  Payout payout{-kBlowOff, kBlowOff};
-  if (feud.Dirty1 == 0 && feud.Dirty2 == 0) {
-    payout.X += kNoCheapWins;
-    payout.Y += kNoCheapWins;
-  }
-  return rule ? Payout{payout.X + rule->Pays.X, payout.Y + rule->Pays.Y} : payout;
-}
-
 void Pay(SegmentRun& run, const FeudSide& side, int change) {
   for (const int uid : {side.First, side.Second})
     if (Worker* worker = run.World.FindWorker(uid))
@@ -147,16 +134,24 @@ void Pay(SegmentRun& run, const FeudSide& side, int change) {
 /// Both sides by the record as it stands, the match that ends it included.
 void PayOff(SegmentRun& run, const Feud& feud, bool firstWon) {
   const FeudSides sides = SidesOf(feud);
-  const EndRule* rule = RuleOf(Look(feud, firstWon));
-  const Payout payout = PayoutOf(feud, rule);
-  Pay(run, sides.One, firstWon ? payout.Y : payout.X);
-  Pay(run, sides.Two, firstWon ? payout.X : payout.Y);
-  if (rule)
+  const FeudPayout payout = PayoutOf(feud, firstWon);
+  Pay(run, sides.One, firstWon ? payout.Winners : payout.Losers);
+  Pay(run, sides.Two, firstWon ? payout.Losers : payout.Winners);
+  if (const EndRule* rule = RuleOf(Look(feud, firstWon)))
     WriteAboutFeud(run.World, rule->Story, firstWon ? sides.One : sides.Two,
                    firstWon ? sides.Two : sides.One);
 }
 
 }  // namespace
+
+FeudPayout PayoutOf(const Feud& feud, bool firstWon) {
+  const EndRule* rule = RuleOf(Look(feud, firstWon));
+  FeudPayout payout = rule ? rule->Pays : FeudPayout{};
+  payout.Losers -= kBlowOff;
+  payout.Winners += kBlowOff;
+  if (feud.Dirty1 != 0 || feud.Dirty2 != 0) return payout;
+  return {payout.Losers + kNoCheapWins, payout.Winners + kNoCheapWins};
+}
 
 int FeudEndedBy(const World& world, const Segment& segment) {
   if (segment.Kind != kMatch || PurposeOf(segment).Does != Aim::EndsFeud) return 0;

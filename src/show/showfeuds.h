@@ -52,6 +52,13 @@ void TallyVerbal(SegmentRun& run, int speakerUid, int targetUid);
 /// Every attack that a match's run-ins and aftermath stand for.
 void TallyAttacks(SegmentRun& run);
 
+/// What the end of a feud brings each of its sides, in points of Over.
+struct FeudPayout {
+  int Losers, Winners;
+};
+/// By the record as it stands, the last match included, which side one has won or lost.
+FeudPayout PayoutOf(const Feud& feud, bool firstWon);
+
 /// The slot of the feud that a match is booked to end; 0 for none.
 int FeudEndedBy(const World& world, const Segment& segment);
 /// A match that is booked to end its workers' feud does: both sides gain or lose by how it went,

@@ -167,18 +167,25 @@ TEST(AutoFeuds, EndAtAnEventOnceTheyHaveHadEnough) {
   struct {
     const char* Says;
     bool IsEvent;
-    int CleanOne, DirtyTwo, DaysOld;
+    int CleanOne, DirtyTwo, DaysOld, Heat;
     bool Ends;
   } const kFeudsSoFar[] = {
-      {"long", true, 7, 8, 100, true},          {"long, on a show", false, 7, 8, 100, false},
-      {"even for weeks", true, 4, 4, 60, true}, {"even, but young", true, 4, 4, 20, false},
-      {"barely begun", true, 1, 0, 10, false},  {"dragging on", true, 2, 3, 200, true},
+      {"long", true, 7, 8, 100, 90, true},
+      {"long, on a show", false, 7, 8, 100, 90, false},
+      {"evens out after weeks", true, 4, 5, 60, 50, true},
+      {"evens out, but young", true, 4, 5, 20, 50, false},
+      {"evens out, but hot", true, 4, 5, 60, 70, false},
+      {"nobody gains by it", true, 3, 5, 60, 50, false},
+      {"barely begun", true, 1, 0, 10, 50, false},
+      {"dragging on", true, 2, 3, 200, 50, true},
+      {"dragging on, and filling the house", true, 2, 3, 200, 80, false},
   };
   for (const auto& feud : kFeudsSoFar) {
     World world =
         House(30).Title("Belt", "Hand 2").Game("CWA").Feud("Hand 1", "Hand 2", [&](Feud& record) {
           record.Clean1 = feud.CleanOne;
           record.Dirty2 = feud.DirtyTwo;
+          record.Heat = feud.Heat;
           record.Started = kGameStart - std::chrono::days{feud.DaysOld};
         });
     const int rows = feud.IsEvent ? kEventRows : kTv;
@@ -190,6 +197,61 @@ TEST(AutoFeuds, EndAtAnEventOnceTheyHaveHadEnough) {
     });
     EXPECT_EQ(feud.Ends ? int(kSeeds) : 0, ended) << feud.Says;
   }
+}
+
+/// The first row with a match of two people of the talk; -1 for none.
+int RowOfTheirMatch(const AutoCard& card, const Segment& talk) {
+  const std::vector<int> people = EverybodyOf(talk);
+  const auto match = std::ranges::find_if(card.Rows, [&](const Segment& row) {
+    return row.Kind == kMatch &&
+           std::ranges::count_if(people, [&](int uid) { return TakesPart(row, uid); }) > 1;
+  });
+  return match == card.Rows.end() ? -1 : static_cast<int>(match - card.Rows.begin());
+}
+
+TEST(AutoTalk, LiesBetweenTheMatchesAndHypesWhatIsToCome) {
+  World world = House(40).Game("CWA");
+  DismissWriters(world);
+  int hyped = 0;
+  for (const auto& [isEvent, rows] :
+       {std::pair(false, 11), {false, 8}, {false, 6}, {false, 5}, {true, kEventRows}})
+    CardsWith(world, isEvent, rows, [&](const AutoCard& card) {
+      int row = 0;
+      for (const Segment& talk : card.Rows) {
+        ++row;
+        if (talk.Kind != kInterview) continue;
+        const bool isLast = row == std::ssize(card.Rows);
+        EXPECT_TRUE(!isLast && card.Rows[static_cast<std::size_t>(row)].Kind == kMatch);
+        if (talk.Purpose != kHypeMatch) continue;
+        ++hyped;
+        EXPECT_GE(RowOfTheirMatch(card, talk), row) << DescribeSegment(world, talk);
+      }
+      return true;
+    });
+  EXPECT_GT(hyped, 0);
+}
+
+TEST(AutoTalk, HypesAMatchThatIsDrafted) {
+  World world = House(12).Game("CWA");
+  DismissWriters(world);
+  for (Worker& worker : world.Workers()) worker.Speaks = worker.Name == "Hand 1";
+  const int star = Uid(world, "Hand 1"), other = Uid(world, "Hand 4");
+  world.FindWorker(star)->Condition = world.FindWorker(other)->Condition = 0;  // not tonight
+  const auto hypes = [&](const AutoCard& card) {
+    return Count(card, [&](const Segment& row) {
+             return row.Kind == kInterview && row.Purpose == kHypeMatch && row.Worker[0] == star &&
+                    TakesPart(row, other);
+           }) > 0;
+  };
+  EXPECT_EQ(0, CardsWith(world, false, 5, hypes));
+  KeptRow row{};
+  row.Booked = NewSegment(kMatch, kSingles, {other, star});
+  row.Show = "Spring";
+  row.IsEvent = row.IsDraft = true;
+  row.Row = 9;
+  row.On = world.Today() + std::chrono::days{20};
+  world.KeptRows().Append(row);
+  EXPECT_EQ(int(kSeeds), CardsWith(world, false, 5, hypes));
 }
 
 TEST(AutoTalk, NeedsWritersForAnglesAndBringsManagersAlong) {

@@ -156,6 +156,10 @@ void BookCrowds(AutoPlan& plan);  // more than two sides, and trios
 void FillMatches(AutoPlan& plan);
 void FillTalks(AutoPlan& plan);
 
+/// Rows that count for what the show needs, of one kind or of all; what waits for its row with
+/// them.
+int RowsOf(const AutoPlan& plan, int kind = kEmptySegment);
+int Booked(const AutoPlan& plan, int kind = kEmptySegment);
 /// Gives every planned Segment its row.
 void PlaceOnRows(AutoPlan& plan);
 /// What the card lacks before it could start, in plain words.

@@ -5,6 +5,7 @@
 #include "booking/auto/autotalk.h"
 #include "records/angles.h"
 #include "records/fields/fields.h"
+#include "show/showfeuds.h"
 #include "storylines/feuds.h"
 
 // Every running feud gets something: a match, an interview or an attack; the blow-off at an Event
@@ -16,8 +17,9 @@ namespace {
 
 /// From here on both sides gain by the end, whoever wins.
 constexpr int kLongFeud = 14;
-/// An even feud may end sooner, when it has run for some weeks and somebody has cheated in it.
-constexpr int kEvenFeud = 8, kEvenGap = 1, kEvenDays = 42;
+/// A feud that is not yet so long may end when it has run for some weeks and the end pays. As long
+/// as it is hot it fills the house, which no end pays for.
+constexpr int kToldFeud = 8, kToldDays = 42, kHot = 70;
 /// Nobody cares any more, or has for too long.
 constexpr int kNoticed = 4, kCold = 20, kDragsOn = 150;
 constexpr int kMatchOnShow = 35;
@@ -49,14 +51,24 @@ bool IsHeel(const AutoPlan& plan, const FeudSide& side) {
   return worker && worker->Disposition == "H";
 }
 
+/// What both sides get of an end in which the one wins cleanly.
+FeudPayout EndPays(Feud feud, bool oneWins) {
+  (oneWins ? feud.Clean1 : feud.Clean2) += 1;
+  return PayoutOf(feud, oneWins);
+}
+int SumOf(const FeudPayout& payout) {
+  return payout.Winners + payout.Losers;
+}
+
 bool IsRipe(const World& world, const Feud& feud) {
   const FeudScore score = FeudWins(feud);
-  const int total = score.One + score.Two, gap = std::abs(score.One - score.Two);
+  const int total = score.One + score.Two;
+  const int pays = std::max(SumOf(EndPays(feud, true)), SumOf(EndPays(feud, false)));
   const auto days = (world.Today() - Day(feud.Started)).count();
   if (total >= kLongFeud) return true;
-  const bool dirty = feud.Dirty1 + feud.Dirty2 > 0;
-  if (total >= kEvenFeud && gap <= kEvenGap && dirty && days >= kEvenDays) return true;
-  return total >= kNoticed && (feud.Heat < kCold || days >= kDragsOn);
+  if (total < kNoticed || feud.Heat >= kHot) return false;
+  if (feud.Heat < kCold || days >= kDragsOn) return pays >= 0;
+  return total >= kToldFeud && days >= kToldDays && pays > 0;
 }
 
 /// What has been won in the ring.
@@ -99,16 +111,24 @@ std::string TitleBetween(const AutoPlan& plan, const Segment& match) {
   return "None";
 }
 
+std::string EndText(const FeudPayout& pays) {
+  const auto points = [](int change) { return (change > 0 ? "+" : "") + std::to_string(change); };
+  return "The feud has had its time: this ends it, for " + points(pays.Winners) +
+         " Over to who wins and " + points(pays.Losers) + " to who loses.";
+}
+
 bool BookBlowOff(AutoPlan& plan, const Feud& feud) {
   const FeudSides sides = SidesOf(feud);
   if (!plan.Pool.MayWrestle(Members(sides))) return false;
   Segment match = FeudBout(plan, feud, true);
   match.TitleName = TitleBetween(plan, match);
-  const bool one = SideOneIsNext(plan, feud, true);
+  const int gain = SumOf(EndPays(feud, true)) - SumOf(EndPays(feud, false));
+  const bool next = SideOneIsNext(plan, feud, true), one = gain == 0 ? next : gain > 0;
   for (const bool oneWins : {one, !one}) {
     const auto& [winner, loser] =
         oneWins ? std::tie(sides.One, sides.Two) : std::tie(sides.Two, sides.One);
     if (!MayEnd(plan, winner, loser)) continue;
+    plan.Because = EndText(EndPays(feud, oneWins));
     if (BookMatch(plan, match,
                   {.Favoured = winner.First, .Firm = true, .Feud = true, .EndsFeud = true}))
       return true;

@@ -156,16 +156,30 @@ bool IsStillToCome(const AutoPlan& plan, const Planned& match) {
   return 2 * below >= static_cast<int>(plan.Matches.size());
 }
 
-/// Whom the speaker meets later tonight.
-const Worker* OpponentTonight(const AutoPlan& plan, const Worker& speaker) {
-  for (const Planned& planned : plan.Matches) {
-    const Segment& match = planned.Segment;
-    if (match.Style != kSingles || !TakesPart(match, speaker.Uid) || !IsStillToCome(plan, planned))
-      continue;
-    const Worker* other =
-        plan.World.FindWorker(match.Worker[0] == speaker.Uid ? match.Worker[1] : match.Worker[0]);
-    if (other && plan.Pool.MayAppear(other->Uid) && !HasTalk(plan, other->Uid)) return other;
-  }
+/// Whom the speaker meets in the match, one against one, where they may be spoken of tonight.
+const Worker* OpponentIn(const AutoPlan& plan, const Segment& match, const Worker& speaker) {
+  const int one = match.Worker[0], two = match.Worker[1];
+  if (match.Kind != kMatch || match.Style != kSingles || (one != speaker.Uid && two != speaker.Uid))
+    return nullptr;
+  const Worker* other = plan.World.FindWorker(one == speaker.Uid ? two : one);
+  return other && plan.Pool.MayAppear(other->Uid) && !HasTalk(plan, other->Uid) ? other : nullptr;
+}
+
+/// Drafted for a show to come.
+bool IsAhead(const World& world, const KeptRow& row) {
+  return row.IsDraft && Day(row.On) > world.Today();
+}
+
+/// Whom the speaker meets later tonight, or on a card that is drafted.
+const Worker* OpponentAhead(const AutoPlan& plan, const Worker& speaker) {
+  for (const Planned& planned : plan.Matches)
+    if (IsStillToCome(plan, planned))
+      if (const Worker* other = OpponentIn(plan, planned.Segment, speaker)) return other;
+  for (std::size_t row = plan.Rows.size() / 2; row < plan.Rows.size(); ++row)
+    if (const Worker* other = OpponentIn(plan, plan.Rows[row], speaker)) return other;
+  for (const KeptRow& row : plan.World.KeptRows())
+    if (IsAhead(plan.World, row))
+      if (const Worker* other = OpponentIn(plan, row.Booked, speaker)) return other;
   return nullptr;
 }
 
@@ -188,11 +202,10 @@ bool TalkAbout(AutoPlan& plan, const Worker& speaker, const Worker& target, int 
 
 bool Interview(AutoPlan& plan, const Worker& speaker) {
   if (!speaker.Speaks) return false;
-  const Worker* opponent = OpponentTonight(plan, speaker);
+  const Worker* opponent = OpponentAhead(plan, speaker);
   if (opponent && TalkAbout(plan, speaker, *opponent, kHypeMatch)) return true;
   const Worker* rival = RivalOf(plan, speaker);
-  const int purpose = speaker.Disposition == "F" ? kHypeMatch : kVerbalAttack;
-  if (rival && TalkAbout(plan, speaker, *rival, purpose)) return true;
+  if (rival && TalkAbout(plan, speaker, *rival, kVerbalAttack)) return true;
   return BookTalkBetween(plan, {speaker.Uid}, {}, kSelfPromotion);
 }
 
@@ -289,6 +302,14 @@ bool BookScene(AutoPlan& plan, AngleScene scene, const std::vector<int>& actors,
     return true;
   }
   return false;
+}
+
+bool IsDrafted(const World& world, const Segment& talk) {
+  const std::vector<int> people = EverybodyOf(talk);
+  return std::ranges::any_of(world.KeptRows(), [&](const KeptRow& row) {
+    return IsAhead(world, row) && row.Booked.Kind == kMatch &&
+           std::ranges::count_if(people, [&](int uid) { return TakesPart(row.Booked, uid); }) > 1;
+  });
 }
 
 bool HasTalk(const AutoPlan& plan, int uid) {

@@ -37,6 +37,9 @@ bool BookStableAttack(AutoPlan& plan, const Worker& leader, int victim);
 bool BookTalkBetween(AutoPlan& plan, const std::vector<int>& speakers,
                      const std::vector<int>& targets, int purpose);
 
+/// A match between people of the talk is drafted for a show to come.
+bool IsDrafted(const World& world, const Segment& talk);
+
 /// Where they stand among the talk of a show.
 enum TalkWeight { kOpens = 0, kEarly = 10, kMiddle = 20, kLate = 30 };
 
