@@ -37,12 +37,19 @@ bool HasCome(const World& world, GuideDone what) {
   return false;
 }
 
-/// Calls `visit` with each step of the guide and its place, from 0.
-template <class Visit>
-void ForEachStep(const GuideState& guide, Visit visit) {
-  std::size_t place = 0;
+std::vector<const GuideStep*> StepsOf(const GuideState& guide) {
+  std::vector<const GuideStep*> steps;
   for (const GuideStep& step : kGuideSteps)
-    if (static_cast<int>(step.Of) == guide.Tour && place < guide.Done.size()) visit(step, place++);
+    if (static_cast<int>(step.Of) == guide.Tour && steps.size() < guide.Done.size())
+      steps.push_back(&step);
+  return steps;
+}
+
+/// The place of the first step that is the show's own, from 0: what comes before may be left out.
+std::size_t ShowFrom(const std::vector<const GuideStep*>& steps) {
+  const auto show = std::ranges::find(steps, GuideDone::Show, &GuideStep::Done);
+  const std::string_view page = show == steps.end() ? std::string_view() : (*show)->Page;
+  return static_cast<std::size_t>(std::ranges::find(steps, page, &GuideStep::Page) - steps.begin());
 }
 
 }  // namespace
@@ -55,37 +62,59 @@ void BeginGuide(World& world) {
 }
 
 std::vector<GuideLine> GuideLines(const World& world) {
+  const GuideState* const guide = OpenGuide(world);
+  if (!guide) return {};
   std::vector<GuideLine> lines;
-  if (const GuideState* guide = OpenGuide(world))
-    ForEachStep(*guide, [&](const GuideStep& step, std::size_t place) {
-      lines.push_back({step.Page, step.Title, step.Says, guide->Done[place]});
-    });
+  const std::vector<const GuideStep*> steps = StepsOf(*guide);
+  const std::size_t showFrom = ShowFrom(steps);
+  for (std::size_t place = 0; place < steps.size(); ++place)
+    lines.push_back({steps[place]->Page, steps[place]->Title, steps[place]->Says,
+                     guide->Done[place], place >= showFrom});
   return lines;
 }
 
-std::string GuideOnPage(const World& world, std::string_view screen) {
-  const std::vector<GuideLine> lines = GuideLines(world);
-  std::size_t step = 0;
-  while (step < lines.size() && lines[step].IsDone) ++step;
-  if (step == lines.size() || lines[step].Page != screen) {
-    if (step == 0 || lines[step - 1].Page != screen) return {};
-    --step;
-  }
-  return "Your first show, step " + std::to_string(step + 1) + ": " + std::string(lines[step].Says);
+std::size_t NextStep(const std::vector<GuideLine>& lines) {
+  const auto left = [&](auto from) {
+    return std::ranges::find(from, lines.end(), false, &GuideLine::IsDone);
+  };
+  const auto show = std::ranges::find(lines, true, &GuideLine::IsOfShow);
+  const bool hasBegun = std::any_of(show, lines.end(), [](auto& line) { return line.IsDone; });
+  const auto next = hasBegun ? left(show) : lines.end();
+  return static_cast<std::size_t>((next != lines.end() ? next : left(lines.begin())) -
+                                  lines.begin());
 }
 
-void WatchGuide(World& world, const std::vector<std::string_view>& screens) {
+std::string GuideOnPage(const World& world, std::string_view screen, int justDone) {
+  const std::vector<GuideLine> lines = GuideLines(world);
+  const auto isOfPage = [&](const GuideLine& line) { return line.Page == screen && !line.IsDone; };
+  auto step = std::ranges::find_if(lines, isOfPage);
+  if (step == lines.end() && justDone > 0 && justDone <= std::ssize(lines))
+    step = lines.begin() + justDone - 1;
+  if (step == lines.end() || step->Page != screen) return {};
+  return "Your first show, step " + std::to_string(step - lines.begin() + 1) + ": " +
+         std::string(step->Says);
+}
+
+int WatchGuide(World& world, const std::vector<std::string_view>& screens) {
   GuideState* guide = OpenGuide(world);
-  if (!guide) return;
-  std::size_t upTo = 0;  // the steps that the first show makes idle
-  ForEachStep(*guide, [&](const GuideStep& step, std::size_t place) {
+  if (!guide) return 0;
+  const std::vector<const GuideStep*> steps = StepsOf(*guide);
+  const std::size_t showFrom = ShowFrom(steps);
+  int justDone = 0;
+  for (std::size_t place = 0; place < steps.size(); ++place) {
+    const GuideStep& step = *steps[place];
     const bool isSeen = std::ranges::any_of(screens, [&](std::string_view screen) {
       return step.Screen.find(screen) != step.Screen.npos;
     });
-    if (!guide->Done[place] && (isSeen || HasCome(world, step.Done))) guide->Done[place] = true;
-    if (step.Done == GuideDone::Show && guide->Done[place]) upTo = place;
-  });
-  for (std::size_t place = 0; place < upTo; ++place) guide->Done[place] = true;
+    // What a show has done is there to be read once one has been held.
+    if (place > showFrom && step.Done == GuideDone::Seen && !HasCome(world, GuideDone::Show)) break;
+    if (guide->Done[place] || !(isSeen || HasCome(world, step.Done))) continue;
+    guide->Done[place] = true;
+    justDone = static_cast<int>(place) + 1;
+    if (step.Done == GuideDone::Show)
+      for (std::size_t before = showFrom; before < place; ++before) guide->Done[before] = true;
+  }
+  return justDone;
 }
 
 void CloseGuide(World& world) {

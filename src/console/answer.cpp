@@ -172,7 +172,8 @@ std::string TextAnswer(const Answer& answer, int width) {
   if (answer.Found) return ToUtf8(FoundText(*answer.Found));
   if (!answer.Top) return "The game has ended.\n";
   if (!answer.Only.empty()) return ToUtf8(OneControl(*answer.Top, answer.Only, width));
-  return ToUtf8(ScreenText(*answer.Top, width));
+  const std::string note = answer.Note.empty() ? "" : answer.Note + "\n";
+  return note + ToUtf8(ScreenText(*answer.Top, width));
 }
 
 std::string JsonAnswer(const Answer& answer) {
@@ -192,6 +193,7 @@ std::string JsonAnswer(const Answer& answer) {
           Json::array({ToUtf8(one.Heading), ToUtf8(one.Words), ToUtf8(one.About)}));
   }
   if (!answer.Error.empty()) json["error"] = answer.Error;
+  if (!answer.Note.empty()) json["note"] = answer.Note;
   if (!answer.Help.empty()) json["help"] = answer.Help;
   if (!answer.Shared.empty()) json["shared"] = answer.Shared;
   return json.dump();

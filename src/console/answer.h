@@ -20,7 +20,8 @@ struct Answer {
   const Box* Open = nullptr;
   std::string Error = {};  // UTF-8, as are all answers
   std::string Help = {}, Shared = {};
-  std::string Only = {};                            // the one control that was asked for
+  std::string Note = {};  // what the player should know of what was done, beside the screen
+  std::string Only = {};  // the one control that was asked for
   const std::vector<ui::Finding>* Found = nullptr;  // what a search has brought
 };
 

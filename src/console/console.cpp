@@ -30,9 +30,18 @@ std::string Unescaped(std::string_view typed) {
   return text;
 }
 
-std::string Typed(const ui::Screen& screen, const Command& command) {
+/// What a `type` puts into its box, and what there is to say of it.
+struct ForBox {
+  std::string Text, Note;
+};
+
+ForBox Typed(const ui::Screen& screen, const Command& command) {
   const auto* box = dynamic_cast<const ui::TextBox*>(screen.Find(command.Name));
-  return box && box->MultiLine ? Unescaped(command.Text) : command.Text;
+  ForBox typed{box && box->MultiLine ? Unescaped(command.Text) : command.Text, {}};
+  if (box && box->MaxLength > 0 && std::ssize(typed.Text) > box->MaxLength)
+    typed.Note = "There is room for " + std::to_string(box->MaxLength) +
+                 " characters; the rest is left out.";
+  return typed;
 }
 
 std::string Check(ui::Desk& desk, ui::Screen& screen, const Command& command) {
@@ -231,13 +240,19 @@ std::string Console::TakeBack(const ui::Desk::TakingBack& back, const char* told
   return {};
 }
 
+void Console::Type(ui::Screen& top, const Command& command) {
+  const ForBox typed = Typed(top, command);
+  Refuse(ui::Type(*this, top, command.Name, typed.Text));
+  if (answer_.Error.empty()) answer_.Note = typed.Note;
+}
+
 void Console::Perform(const Command& command) {
   ui::Screen& top = *Top();
   switch (command.Is) {
     case Verb::Click:
       return Refuse(ui::Click(*this, top, Clicked(top, command.Name)));
     case Verb::Type:
-      return Refuse(ui::Type(*this, top, command.Name, Typed(top, command)));
+      return Type(top, command);
     case Verb::Pick:
       return Refuse(ui::Pick(*this, top, command.Name, command.Text));
     case Verb::Also:

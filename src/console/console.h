@@ -62,6 +62,7 @@ class Console : public ui::Desk {
   void Find(const std::string& typed);
   std::string Visit(const std::string& number);
   std::string Explain(const std::string& term);
+  void Type(ui::Screen& top, const Command& command);
   std::string TakeBack(const ui::Desk::TakingBack& back, const char* told, const char* none);
 
   std::istream& in_;

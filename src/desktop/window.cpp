@@ -256,13 +256,23 @@ void Window::Act(const std::function<std::string()>& act) {
   if (acting_ > 0 || syncing_) return;
   ++acting_;
   heard_.clear();
+  const ui::Screen* const before = top_;
+  acted_.start();
   const std::string why = act();
   --acting_;
   Sync();
+  if (top_ != before && acted_.elapsed() > kPatience) DropInput();
   if (!why.empty()) Hint(*this, Shown(why));
   // The program ends when nothing lies on the desk any more, or when the window was to be closed
   // during an event.
   if (desk_.Empty() || closing_) QTimer::singleShot(0, this, [this] { close(); });
+}
+
+/// What was typed or clicked while a page was long in coming was meant for the one before.
+void Window::DropInput() {
+  busy_ = true;
+  QApplication::processEvents();
+  busy_ = false;
 }
 
 int Window::AnswerOf(const std::string& title, const std::string& text, const QStringList& captions,
@@ -283,6 +293,7 @@ int Window::AnswerOf(const std::string& title, const std::string& text, const QS
   if (focus && focus->isVisible()) focus->setFocus(Qt::ActiveWindowFocusReason);
   ShowEnter();
   if (line) *line = Keep(box.Line()).Text;
+  acted_.start();
   return answer;
 }
 

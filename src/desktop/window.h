@@ -114,6 +114,7 @@ class Window : public QMainWindow, public Stage {
     std::vector<Held> Dialogs;
   };
   Scene Survey();
+  void DropInput();
   /// Whether a waiting screen has come too lately to be shown.
   bool IsPatient(const ui::Screen& screen);
   void DropGone();
@@ -215,6 +216,7 @@ class Window : public QMainWindow, public Stage {
   bool syncing_ = false, busy_ = false, closing_ = false;
   QElapsedTimer lastPaint_;
   QElapsedTimer waiting_;
+  QElapsedTimer acted_;  // since the event under way began, or was last answered
   const ui::Screen* waitsFor_ = nullptr;
 };
 

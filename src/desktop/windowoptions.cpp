@@ -162,9 +162,10 @@ class frmWindow : public ui::Screen {
     const std::string typed = key.toStdString();
     for (const KeyedCommand& other : commands_)
       if (other.Id != command.Id && KeyOf(other) == typed && MayMeet(other, command))
-        return typed + " is the key of " + other.Caption + ".";
+        return typed + " is the key of " + other.Caption +
+               ". Choose one that is free, or give that command another first.";
     if (typed != command.Usual && IsTaken(typed))
-      return typed + " is a key of tables and lines of text.";
+      return typed + " is a key of tables and lines of text. Choose another.";
     return {};
   }
 
@@ -183,7 +184,8 @@ class frmWindow : public ui::Screen {
     }();
     if (typed.empty()) return;
     const QString key = KeyIn(typed);
-    if (desk().Objects(WhyNot(key, command))) return;
+    if (const std::string why = WhyNot(key, command); !why.empty())
+      return desk().Say("Change Key", why);
     window_.Kept().SetKey(command, key);
     Changed();
   }
@@ -191,7 +193,9 @@ class frmWindow : public ui::Screen {
   /// Its usual key may be another's by now.
   void cmdreset_Click() {
     const KeyedCommand command = Chosen();
-    if (!command.Usual.empty() && desk().Objects(WhyNot(Shown(command.Usual), command))) return;
+    if (!command.Usual.empty())
+      if (const std::string why = WhyNot(Shown(command.Usual), command); !why.empty())
+        return desk().Say("Reset", why);
     window_.Kept().ResetKey(command.Id);
     Changed();
   }

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 #include <filesystem>
-#include <functional>
 #include <map>
 #include <span>
 
@@ -93,10 +92,8 @@ int LastPlayed(Disk& disk, const std::string& home) try {
   return 0;
 }
 
-int SlotToContinue(Disk& disk, const std::string& home) {
-  const auto canGoOn = [&](int slot) {
-    return ReadSlotSummary(disk, FolderOf(home, slot)).Playable;
-  };
+int SlotToContinue(Disk& disk, const std::string& home,
+                   const std::function<bool(int slot)>& canGoOn) {
   if (const int last = LastPlayed(disk, home); last != 0 && canGoOn(last)) return last;
   for (int slot = 1; slot <= kSlots; ++slot)
     if (canGoOn(slot)) return slot;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -29,8 +30,9 @@ std::optional<int> FreeSlot(Disk& disk, const std::string& home);
 /// The slot that was entered last, 1 to kSlots; 0 when that is not known.
 int LastPlayed(Disk& disk, const std::string& home);
 /// The slot that "Continue" goes on with: the one entered last where it can be played, else the
-/// first that can; 0 for none.
-int SlotToContinue(Disk& disk, const std::string& home);
+/// first that can; 0 for none. `canGoOn` tells that of a slot, and is asked for none behind it.
+int SlotToContinue(Disk& disk, const std::string& home,
+                   const std::function<bool(int slot)>& canGoOn);
 void RememberPlayed(Disk& disk, const std::string& home, int slot);
 
 /// The files of a game that begins in a slot. With `records` what the player does is recorded from

@@ -72,6 +72,9 @@ TEST(Commands, TypeATextAsItStands) {
       {"type txtname a\\nb", "a\\nb"},  // a short box has one line
       {"type txtname on the roof", "on the r"}};
   for (const auto& [line, name] : kNames) EXPECT_EQ(Served(line, kJson).Name, name) << line;
+  EXPECT_EQ(LastAnswer("type txtname on the roof").at("note").get<std::string>(),
+            "There is room for 8 characters; the rest is left out.");
+  EXPECT_FALSE(LastAnswer("type txtname on top").contains("note"));
   constexpr std::pair<const char*, const char*> kNotes[] = {{"one\\ntwo", "one\ntwo"},
                                                             {"one\\\\ntwo", "one\\ntwo"},
                                                             {"C:\\temp", "C:\\temp"},

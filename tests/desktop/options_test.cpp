@@ -178,9 +178,10 @@ TEST_F(TheOptions, GiveAPageAndTheWindowOtherKeys) {
 TEST_F(TheOptions, SayWhoseKeyAKeyIs) {
   Begin();
   OpenOptions();
-  for (const auto& [key, whose] : {std::pair("F4", "F4 is the key of Desk."),
-                                   {"Ctrl+L", "Ctrl+L is the key of Dark or light colours."},
-                                   {"Ctrl+C", "Ctrl+C is a key of tables and lines of text."}}) {
+  for (const auto& [key, whose] :
+       {std::pair("F4", "F4 is the key of Desk. Choose one that is free"),
+        {"Ctrl+L", "Ctrl+L is the key of Dark or light colours."},
+        {"Ctrl+C", "Ctrl+C is a key of tables and lines of text."}}) {
     std::string said;
     Play->AtNextBox([&] {
       Play->Type(key);
@@ -191,7 +192,7 @@ TEST_F(TheOptions, SayWhoseKeyAKeyIs) {
       Play->Click("boxok");
     });
     Play->Click("cmdkey");
-    EXPECT_EQ(said, whose);
+    EXPECT_TRUE(said.starts_with(whose)) << said;
   }
 }
 

@@ -98,6 +98,20 @@ TEST_F(TheWindow, TakesEnterForMainAndEscapeForCancel) {
   EXPECT_EQ(Play.Top(), "frmHub") << "nothing leads back from the hub";
 }
 
+TEST_F(TheWindow, TakesNothingThatWasTypedWhileAPageWasLongInComing) {
+  constexpr int kLong = 300;  // milliseconds, more than anybody calls at once
+  Play.Window.Act([&] {
+    Play.Desk.Open(std::make_unique<DeskPage>(Play.Desk, Notes));
+    QApplication::postEvent(&Play.Window,
+                            new QKeyEvent(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier));
+    QTest::qSleep(kLong);
+    return std::string();
+  });
+  QApplication::processEvents();
+  EXPECT_EQ(Play.Top(), "frmDesk");
+  EXPECT_EQ(Notes, Log()) << "it was meant for the page before";
+}
+
 TEST_F(TheWindow, SaysWhyEnterDoesNothing) {
   DeskPage& page = OpenDesk();
   page.cmddone.Enabled = false;

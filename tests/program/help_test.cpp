@@ -6,6 +6,7 @@
 #include <fstream>
 #include <set>
 
+#include "calendar/guide.h"
 #include "info/screens/glossary.h"
 #include "info/screens/glossaryfigures.h"
 #include "info/screens/helpscreens.h"
@@ -159,6 +160,14 @@ TEST(Guide, WatchesTheFirstWeekAndIsClosedForGood) {
   desk.Click("cmdstaff");
   desk.Click("cmdback");
   EXPECT_TRUE(desk.Text("txtguide").starts_with("Step 8 of 8: ")) << "the first show has been held";
+  EXPECT_NE(desk.Text("txtguide").find("Left out so far: 2 "), std::string::npos)
+      << desk.Text("txtguide");
+  EXPECT_TRUE(GuideOnPage(world, "frmMorning", 0).starts_with("Your first show, step 8: "));
+  desk.Click("cmdresults");
+  desk.Click("cmdback");
+  EXPECT_EQ(GuideOnPage(world, "frmMorning", 0), "") << "the first morning has been read";
+  EXPECT_TRUE(desk.Text("txtguide").starts_with("Step 2 of 8, left out so far: "))
+      << desk.Text("txtguide");
   desk.Click("cmdguide");
   EXPECT_FALSE(desk.Visible("txtguide"));
   home.Play.CloseSlot();

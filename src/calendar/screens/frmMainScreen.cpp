@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <memory>
 
 #include "calendar/advanceday.h"
 #include "calendar/deskwork.h"
@@ -307,7 +308,7 @@ class frmMainScreen : public ui::Screen {
         return std::make_unique<ui::Button>(*this, command.Control, command.Caption,
                                             [this, &command] { desk().Open(ScreenOf(command)); });
       }};
-  GuideCard guide_{*this, game_};
+  GuideCard guide_{*this, game_, [this] { cmdnext_Click(); }};
   DeskFigures figures_{*this, game_};
   ui::ListBox lstahead{*this,
                        "lstahead",
@@ -344,13 +345,14 @@ frmMainScreen* FindMainScreen(Game& game) {
 SCREEN(frmMainScreen)
 
 void ConnectCalendar(Game& game) {
-  game.Watch = [&game] {
+  const auto justDone = std::make_shared<int>();  // as long as its page is looked at
+  game.Watch = [&game, justDone] {
     std::vector<std::string_view> screens;
     for (const auto& screen : game.Desk().Screens()) screens.push_back(screen->Name());
-    WatchGuide(game.World(), screens);
+    *justDone = WatchGuide(game.World(), screens);
   };
-  game.NoteOn = [&game](std::string_view screen) {
-    return WithKeys(game.Desk(), GuideOnPage(game.World(), screen));
+  game.NoteOn = [&game, justDone](std::string_view screen) {
+    return WithKeys(game.Desk(), GuideOnPage(game.World(), screen, *justDone));
   };
   game.Kept = [&game](const std::vector<FileChange>& changes) {
     // What was kept may be a world that cannot be played.

@@ -1,17 +1,20 @@
 #include "calendar/screens/screenguide.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "calendar/deskwork.h"
 #include "calendar/guide.h"
 #include "records/fields/wording.h"
 #include "storylines/screens/screenpeople.h"
 
 namespace grapplemont {
 
-GuideCard::GuideCard(ui::Screen& screen, Game& game)
+GuideCard::GuideCard(ui::Screen& screen, Game& game, ui::Handler openSheet)
     : game_(game),
+      openSheet_(std::move(openSheet)),
       txtguide(screen, "txtguide"),
-      cmdstep(screen, "cmdstep", "Show Me", [this] { game_.Desk().Open(page_); }),
+      cmdstep(screen, "cmdstep", "Show Me", [this] { Lead(); }),
       cmdguide(screen, "cmdguide", "Close The Guide", [this] { Close(); }) {
   txtguide.Brief = true;
   cmdguide.Tip = "The guide does not come back.";
@@ -21,29 +24,57 @@ ui::Box GuideCard::Layout() {
   return ui::Group("Your first show", {ui::Columns({ui::Grow(txtguide), cmdstep, cmdguide})});
 }
 
+namespace {
+
+/// "Left out so far: 1 See who draws, 4 Count your staff."
+std::string LeftOutText(const std::vector<GuideLine>& lines, std::size_t before) {
+  std::vector<std::string> titles;
+  for (std::size_t place = 0; place < before; ++place)
+    if (!lines[place].IsDone)
+      titles.push_back(std::to_string(place + 1) + " " + std::string(lines[place].Title));
+  return titles.empty() ? "" : "Left out so far: " + Joined(titles) + ".";
+}
+
+}  // namespace
+
 /// The step that comes next alone: the desk has room for no more.
 void GuideCard::Show() {
   using Style = ui::Report::Style;
   const std::vector<GuideLine> lines = GuideLines(game_.World());
-  const auto next = std::ranges::find_if(lines, [](const GuideLine& line) { return !line.IsDone; });
-  const bool hasNext = next != lines.end();
-  page_ = hasNext ? next->Page : std::string_view();
-  if (hasNext)
-    txtguide.Write(
-        {{Style::Strong, "Step " + std::to_string(next - lines.begin() + 1) + " of " +
-                             std::to_string(lines.size()) + ": " + std::string(next->Title)},
-         {Style::Body, WithKeys(game_.Desk(), next->Says)}});
-  else
+  const std::size_t next = NextStep(lines);
+  const bool hasNext = next < lines.size();
+  page_ = hasNext ? lines[next].Page : std::string_view();
+  if (hasNext) {
+    const bool isLate = !lines[next].IsOfShow && lines.back().IsDone;
+    std::vector<ui::Report::Paragraph> told = {
+        {Style::Strong, "Step " + std::to_string(next + 1) + " of " + std::to_string(lines.size()) +
+                            (isLate ? ", left out so far: " : ": ") +
+                            std::string(lines[next].Title)},
+        {Style::Body, WithKeys(game_.Desk(), lines[next].Says)}};
+    if (const std::string leftOut = LeftOutText(lines, next); !leftOut.empty())
+      told.push_back({Style::Muted, leftOut});
+    txtguide.Write(std::move(told));
+  } else {
     txtguide.Write("All of it is done. The house is yours.");
+  }
   txtguide.Visible = cmdguide.Visible = !lines.empty();
   ShowWay();
+}
+
+bool GuideCard::LeadsToSheet() const {
+  return page_.ends_with("Booking");
 }
 
 /// A sheet comes with its day.
 void GuideCard::ShowWay() {
   cmdstep.Visible = cmdguide.Visible && !page_.empty();
-  EnableUnless(cmdstep,
-               page_.ends_with("Booking") ? "Its sheet opens on the day of the show." : "");
+  const bool waits = LeadsToSheet() && TonightText(game_.World()).empty();
+  EnableUnless(cmdstep, waits ? "Its sheet opens on the day of the show." : "");
+}
+
+void GuideCard::Lead() {
+  if (LeadsToSheet()) return openSheet_();
+  game_.Desk().Open(page_);
 }
 
 void GuideCard::Close() {

@@ -11,7 +11,8 @@ std::string WithKeys(const ui::Desk& desk, std::string_view text);
 /// The card on the desk that leads to the first show; it is there while the guide is open.
 class GuideCard {
  public:
-  GuideCard(ui::Screen& screen, Game& game);
+  /// `openSheet` opens that of tonight's show.
+  GuideCard(ui::Screen& screen, Game& game, ui::Handler openSheet);
   ui::Box Layout();
   /// Brings it up to date.
   void Show();
@@ -19,8 +20,11 @@ class GuideCard {
  private:
   void Close();
   void ShowWay();
+  bool LeadsToSheet() const;
+  void Lead();
 
   Game& game_;
+  ui::Handler openSheet_;
   ui::Report txtguide;
   ui::Button cmdstep, cmdguide;
   std::string page_;  // of the step that comes next

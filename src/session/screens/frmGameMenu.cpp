@@ -153,9 +153,11 @@ class frmGameMenu : public ui::Screen {
 
   void Load() override { Return(); }
   void Return() override {
-    played_ = SlotToContinue(game_.Disk(), game_.Home());
-    const SlotSummary last =
-        played_ == 0 ? SlotSummary() : ReadSlotSummary(game_.Disk(), game_.SlotFolder(played_));
+    SlotSummary last;
+    played_ = SlotToContinue(game_.Disk(), game_.Home(), [&](int slot) {
+      last = ReadSlotSummary(game_.Disk(), game_.SlotFolder(slot));
+      return last.Playable;
+    });
     cmdcontinue.Visible = last.Playable;
     cmdcontinue.Tip = "Goes on with " + last.Caption + ", on " + last.Today + ".";
   }

@@ -146,7 +146,8 @@ class frmLoadGame : public SlotScreen {
   }
 
   void ShowPlayed() {
-    played_ = SlotToContinue(game_.Disk(), game_.Home());
+    played_ =
+        SlotToContinue(game_.Disk(), game_.Home(), [this](int slot) { return In(slot).Playable; });
     const bool any = played_ > 0;
     for (ui::Control* control : std::initializer_list<ui::Control*>{
              &imgplayed, &imgpage, &lblplayed, &lblpromotion, &lbltoday, &lblimage, &lblmoney,
