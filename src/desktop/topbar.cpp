@@ -54,6 +54,14 @@ int WidestDate(const QFont& font, bool shortened, bool weekday) {
   return widest(samples.Months) + widest(samples.Days) - widest({samples.Days.front()});
 }
 
+/// A share or a sum as wide as it is likely to come to be, so that the day's figures do not decide
+/// on the form of the bar; anything else as it is.
+QString AtItsWidest(QString words) {
+  static const QRegularExpression kNumber("-?\\$?[\\d,]+");
+  const bool isShare = words.endsWith('%'), isSum = words.contains('$');
+  return isShare || isSum ? words.replace(kNumber, isShare ? "100" : "-$88,888,888") : words;
+}
+
 }  // namespace
 
 /// A label of the bar. Its weight tells what matters: "Image **62%**", "**The promotion** · Cult".
@@ -82,7 +90,9 @@ class TopBar::Fact : public ViewOf<QWidget, ui::Label> {
       return form == Form::Long ? needed : std::min(needed, cut);
     }
     const int sign = control_.Trend == 0 ? WidthOf({{TrendSign(1), false}}) : 0;
-    return (needed + sign + Px(kStep) - 1) / Px(kStep) * Px(kStep);
+    Pieces widest = InForm(form);
+    for (Piece& piece : widest) piece.Words = AtItsWidest(piece.Words);
+    return (std::max(needed, WidthOf(widest) + 2) + sign + Px(kStep) - 1) / Px(kStep) * Px(kStep);
   }
   void SetForm(Form form) {
     if (form_ == form) return;

@@ -146,10 +146,9 @@ std::vector<const Worker*> ForScouting(const World& world) {
 }
 
 std::string Try(World& world, Worker& worker) {
-  const SigningOffer offer = TryoutOffer(world, worker);
-  Sign(world, worker, offer);
-  return worker.Name + " signed for " + MonthsText(offer.Months) + ", at " + WageText(offer.Wage) +
-         " a month, and waits for a debut.";
+  const std::string terms = TryoutTerms(world, worker);
+  Sign(world, worker, TryoutOffer(world, worker));
+  return worker.Name + " signed for " + terms + ", and waits for a debut.";
 }
 
 std::string Scout(World& world, Worker& worker) {
@@ -247,6 +246,12 @@ bool IsDoneThisMonth(const World& world, Venture venture) {
 std::vector<const Worker*> WhomFor(const World& world, Venture venture) {
   const auto whom = ActOf(venture).Whom;
   return whom && HasSmallMonth(world.Player()) ? whom(world) : std::vector<const Worker*>();
+}
+
+std::string TryoutTerms(const World& world, const Worker& worker) {
+  const SigningOffer offer = TryoutOffer(world, worker);
+  return MonthsText(offer.Months) + ", at " + WageText(offer.Wage) + " a month" +
+         (offer.CreativeControl ? " and with creative control" : "");
 }
 
 std::string WhyNotVenture(const World& world, Venture venture, int workerUid) {

@@ -29,6 +29,8 @@ bool IsDoneThisMonth(const World& world, Venture venture);
 /// Whom it could be about, the most popular first; the same people all month as far as nothing
 /// changes for them. Empty for a venture about nobody.
 std::vector<const Worker*> WhomFor(const World& world, Venture venture);
+/// What somebody who has come to the tryout signs for: "12 months, at $300 a month".
+std::string TryoutTerms(const World& world, const Worker& worker);
 /// Why it cannot be done about this worker (0 for one about nobody); empty when it can.
 std::string WhyNotVenture(const World& world, Venture venture, int workerUid);
 /// Pays and does it; what came of it, in a sentence or two.

@@ -237,14 +237,27 @@ void Share(const Control& control, const std::string& label, const TableFinder& 
   }
 }
 
-void Share(const Box& box, Form form, const TableFinder& arranged, Writer& out) {
+/// A text that is read for its own sake: the lists beside it choose what it tells.
+bool IsStory(const Control& control) {
+  constexpr std::size_t kShort = 400;  // letters
+  const auto* report = dynamic_cast<const Report*>(&control);
+  if (!report) return false;
+  std::size_t letters = 0;
+  for (const Report::Paragraph& paragraph : report->Paragraphs())
+    if (paragraph.As == Report::Style::Body) letters += paragraph.Words.size();
+  return letters > kShort;
+}
+
+/// The stories of a page, or all else.
+void Share(const Box& box, Form form, const TableFinder& arranged, bool stories, Writer& out) {
   if (box.Shown) {
-    Share(*box.Shown, box.Is == Box::Kind::Field ? box.Title : "", arranged, out);
-    for (const Box& part : box.Parts) Share(part, form, arranged, out);
+    if (IsStory(*box.Shown) == stories)
+      Share(*box.Shown, box.Is == Box::Kind::Field ? box.Title : "", arranged, out);
+    for (const Box& part : box.Parts) Share(part, form, arranged, stories, out);
     return;
   }
   Writer inside(form);
-  for (const Box& part : box.Parts) Share(part, form, arranged, inside);
+  for (const Box& part : box.Parts) Share(part, form, arranged, stories, inside);
   if (inside.Text().empty()) return;  // no heading over nothing
   if (!box.Title.empty()) out.Heading(box.Title);
   out.Append(inside.Text());
@@ -267,7 +280,7 @@ std::string Shared(Screen& screen, Form form, const TableFinder& arranged) {
   if (page.Facts) facts.insert(facts.begin(), page.Facts);
   for (const Label* fact : facts)
     if (fact->Visible) out.Paragraph(fact->Text.Get());
-  Share(page.Body, form, arranged, out);
+  for (const bool stories : {true, false}) Share(page.Body, form, arranged, stories, out);
   return out.Text();
 }
 

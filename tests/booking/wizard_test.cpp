@@ -261,7 +261,7 @@ TEST(frmBook1vs1, MarksWhatTheChoiceIsMadeOn) {
   play.Book();
   play.ChooseMatch("1 vs 1", "Singles");
   std::map<std::string, std::string> marks;
-  for (const Lines& row : play.Desk.Rows("lstwres1")) marks[row.front()] = row[7];
+  for (const Lines& row : play.Desk.Rows("lstwres1")) marks[row.front()] = row[1];
   EXPECT_EQ(marks["Man 1"], "Champion, Feud 64");
   EXPECT_EQ(marks["Man 2"], "Feud 64, Team");
   EXPECT_EQ(marks["Man 3"], "Team, Tired");
@@ -340,7 +340,7 @@ TEST(frmBookSheet, LimitsCompetitorsToASplit) {
   play.Desk.Pick("cmbsplit", "Red");
   play.Desk.Click("cmdbook(3)");
   EXPECT_EQ(play.Desk.FirstColumn("lstwres1"), (Lines{"Man 4", "Man 7"}));
-  EXPECT_EQ(play.Desk.Rows("lstwres1")[0][2], "60") << "Over beside the name";
+  EXPECT_EQ(play.Desk.Rows("lstwres1")[0][3], "60") << "Over";
   play.Desk.Click("cmdback");
   play.Desk.Click("cmdexit");
   OpenWizardAtOnce(play.Play, 1, true);

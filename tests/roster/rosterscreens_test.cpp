@@ -315,7 +315,8 @@ TEST(frmWorker, ShowsAtAGlanceAndLeadsOn) {
   play.Play.OpenWorker(bram.Uid);
   EXPECT_EQ(play.Desk.FirstColumn("lstskills")[0], "Brawl");
   EXPECT_EQ(play.Desk.Rows("lstskills")[0][1], std::to_string(bram.Brawl));
-  EXPECT_EQ(play.Desk.Text("lblform"), "0 won, 1 lost, 0 drawn. Rated 71% on average.");
+  EXPECT_EQ(play.Desk.Text("lblform"),
+            "0 won, 1 lost, 0 drawn: L, the latest first. Rated 71% on average.");
   const Names lost = {"Ilya Marsh", "Lost", "71", "Sunday Slam (Title)", "01 Mar 2026"};
   EXPECT_EQ(play.Desk.Rows("lstform")[0], lost);
   EXPECT_FALSE(play.Desk.Visible("cmdread(2)")) << "no match, no report";

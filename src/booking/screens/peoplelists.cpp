@@ -62,11 +62,13 @@ ui::Sign DispositionSign(std::string_view word) {
   return ui::Sign::None;
 }
 
-/// What the choice is made on comes first: lists abreast have no room for all.
+/// What the choice is made on comes first, marks beside the name: lists abreast have no room for
+/// all.
 CellColumns<Worker> TableOf(int kind, Abreast room, const RosterMarks* marks) {
   const bool narrow = room != kAlone;
   CellColumns<Worker> table = {
       {{"Name", K::Text, room}, [](const Worker& worker) { return worker.Name.View(); }},
+      MarksColumn(room, marks),
       {{.Title = "Disposition",
         .Kind = K::Tag,
         .Width = narrow ? 1 : 3,
@@ -80,7 +82,6 @@ CellColumns<Worker> TableOf(int kind, Abreast room, const RosterMarks* marks) {
   if (kind == kMatch && room != kAmongMany)
     for (const Skill& skill : kRingSkills) table.push_back(ColumnOf(skill, room));
   table.push_back(ColumnOf(kCondition, room));
-  table.push_back(MarksColumn(room, marks));
   table.push_back(ColumnOf(kMorale, room));
   return table;
 }

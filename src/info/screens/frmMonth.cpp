@@ -30,7 +30,7 @@ class frmMonth : public GameScreen {
         ui::Columns({ui::Rows({ui::Group("What could be done", {ui::Grow(lstventures)}).Grow(3),
                                ui::Group("What is said in town", {ui::Grow(lstrumours)}).Grow(2)})
                          .Grow(3),
-                     ui::Group("", {lblcame, txtbrings, ui::Grow(lstwhom)}).Grow(2)}),
+                     ui::Group("", {lblcame, txtbrings, ui::Grow(lstwhom), lblterms}).Grow(2)}),
         &lblfacts, {}, &cmdventure);
   }
 
@@ -93,6 +93,14 @@ class frmMonth : public GameScreen {
   void lstwhom_Click() {
     const VentureRow* venture = Chosen();
     if (venture) EnableUnless(cmdventure, WhyNotVenture(world(), venture->Is, lstwhom.Key()));
+    ShowTerms(venture && venture->Is == Venture::Tryout && lstwhom.Count() > 0);
+  }
+
+  void ShowTerms(bool isTryout) {
+    const Worker* worker = isTryout ? world().FindWorker(lstwhom.Key()) : nullptr;
+    lblterms.Visible = isTryout;
+    lblterms.Text = worker ? worker->Name + " signs for " + TryoutTerms(world(), *worker) + "."
+                           : std::string("Choose somebody to read what they ask.");
   }
 
   void cmdventure_Click() {
@@ -120,6 +128,7 @@ class frmMonth : public GameScreen {
   ui::Label lblcame{*this, "lblcame"};
   ui::Report txtbrings{*this, "txtbrings"};
   ui::ListBox lstwhom{*this, "lstwhom", HeadingsOf(PeopleTable()), &frmMonth::lstwhom_Click};
+  ui::Label lblterms{*this, "lblterms"};
   ui::Button cmdventure{*this, "cmdventure", "Do It", &frmMonth::cmdventure_Click};
 };
 

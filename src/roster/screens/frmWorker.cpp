@@ -35,6 +35,14 @@ ui::Cell StakeCell(const HeldMatch& match) {
   return match.Title == "None" ? ui::Cell("") : ui::Cell("Title", ui::Tone::Gold);
 }
 
+/// " W W L D", a letter a match.
+std::string LettersOf(const std::vector<FormLine>& form) {
+  std::string letters;
+  for (const FormLine& line : form)
+    letters += line.Outcome == 0 ? " D" : line.Outcome > 0 ? " W" : " L";
+  return letters;
+}
+
 /// A row of the last matches: the opponent's uid, and the show that its report is of.
 struct FormRow {
   int Opponent;
@@ -169,7 +177,8 @@ class frmWorker : public GameScreen {
     const FormSum sum = SumOf(form);
     lblform.Text = form.empty() ? std::string()
                                 : std::to_string(sum.Won) + " won, " + std::to_string(sum.Lost) +
-                                      " lost, " + std::to_string(sum.Drawn) + " drawn. Rated " +
+                                      " lost, " + std::to_string(sum.Drawn) +
+                                      " drawn:" + LettersOf(form) + ", the latest first. Rated " +
                                       std::to_string(sum.Mean) + "% on average.";
     form_.clear();
     std::vector<ui::ListBox::Row> rows;
