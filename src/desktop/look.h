@@ -34,7 +34,7 @@ struct Colours {
 const Colours& DarkColours();
 const Colours& LightColours();
 const Colours& ContrastColours();  // dark, every text at least 7 : 1
-/// What stands on the pictures behind covers, which are dark in every set.
+/// What stands on a picture that fills the window, which is dark in every set.
 const Colours& CoverColours();
 
 /// The set that a widget or a palette belongs to.

@@ -29,7 +29,7 @@ ScreenView::ScreenView(std::shared_ptr<ui::Screen> screen, Stage& stage, QWidget
     : QWidget(parent), screen_(std::move(screen)), stage_(stage), page_(screen_->Layout()) {
   setObjectName(Shown(screen_->Name()));
   setFocusPolicy(Qt::ClickFocus);
-  if (HasBackdrop()) setPalette(PaletteOf(CoverColours()));
+  if (IsPoster()) setPalette(PaletteOf(CoverColours()));
   FindBackdrop();
   const ui::Role role = screen_->Is();
   if (role == ui::Role::Wait) {
@@ -74,11 +74,15 @@ void ScreenView::FindBackdrop() {
     }
 }
 
-bool ScreenView::HasTitlePicture() const {
-  return std::ranges::any_of(views_, [](const ControlView* view) {
-    const auto* picture = dynamic_cast<const ui::Picture*>(&view->Shows());
-    return picture && picture->File.Get() == "vxm_title.jpg";
-  });
+/// A picture with a few words on it. A page that lies before one has its words on cards.
+bool ScreenView::IsPoster() const {
+  if (screen_->Is() != ui::Role::Cover) return screen_->Is() == ui::Role::Wait;
+  std::vector<ui::Control*> placed;
+  CollectControls(page_.Body, placed);
+  return page_.Actions.empty() && std::ranges::any_of(placed, [](const ui::Control* control) {
+           const auto* picture = dynamic_cast<const ui::Picture*>(control);
+           return picture && picture->File.Get() == "vxm_title.jpg";
+         });
 }
 
 int ScreenView::Floor() const {
@@ -106,8 +110,7 @@ void ScreenView::BuildPage() {
   rows_->addLayout(BuildHead());
   BuildBody(rows_);
   AddActions(*head_);  // last in the order of Tab, too: what a page is about comes first
-  const bool bare = cover && HasTitlePicture() && page_.Actions.empty();
-  title_->setVisible(!bare);
+  title_->setVisible(!IsPoster());
 }
 
 /// Its actions are always in sight.
@@ -282,6 +285,7 @@ void ScreenView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const Colours& c = ColoursOf(this);
   painter.fillRect(rect(), c.Ground);
+  if (!c.Dark) return;  // night behind a light page is but dirt
   backdrop_.Paint(painter, *this, Floor());
   const bool waits = screen_->Is() == ui::Role::Wait;
   if (!waits && title_->isHidden()) return;

@@ -83,7 +83,7 @@ class ScreenView : public QWidget {
   bool HasRoomFor(const LayoutBuilder::CardContents& card) const;
   void FindBackdrop();
   void DressPictures();
-  bool HasTitlePicture() const;
+  bool IsPoster() const;
   /// Above which the words of the picture behind stand.
   int Floor() const;
   /// Makes a view of the control here and gives its widget.

@@ -274,6 +274,7 @@ TEST(TheTopBar, KeepsItsFormFromDayToDay) {
          {std::pair("Friday, 01 May 2026", 0), std::pair("Wednesday, 30 September 2026", 4)}) {
       date.Text = day;
       image.Trend = trend;
+      image.Text = trend == 0 ? "Image 8%" : "Image 100%";
       play.Window.Sync();
       QApplication::processEvents();
       for (const char* name : {"txtdate", "lblimage"}) places.push_back(play.See(name)->geometry());

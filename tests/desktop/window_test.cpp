@@ -342,6 +342,26 @@ TEST_F(TheWindow, DrawsACoverWithoutAPictureInSilence) {
   EXPECT_EQ(warnings, 0);
 }
 
+/// A picture that fills the window.
+class Poster : public ui::Screen {
+ public:
+  explicit Poster(ui::Desk& desk) : Screen(desk, "frmPoster", "Poster", ui::Role::Cover) {}
+  ui::Page Layout() override { return {.Body = ui::Rows({ui::Grow(imgtitle)})}; }
+
+ private:
+  ui::Picture imgtitle{*this, "imgtitle", "vxm_title.jpg"};
+};
+
+TEST_F(TheWindow, LeavesAPosterDarkAndGivesThePagesBeforeItTheChosenColours) {
+  for (const auto scheme : {desktop::Scheme::Light, desktop::Scheme::Dark}) {
+    Play.Window.SetLook(scheme, 0);
+    Play.Open(std::make_unique<BareCover>(Play.Desk));
+    EXPECT_EQ(desktop::ColoursOf(Play.See("frmBare")).Dark, scheme == desktop::Scheme::Dark);
+    Play.Open(std::make_unique<Poster>(Play.Desk));
+    EXPECT_TRUE(desktop::ColoursOf(Play.See("frmPoster")).Dark);
+  }
+}
+
 TEST_F(TheWindow, FindsNamesUnderHeadingsAndRemembersWhatWasChosen) {
   Play.Desk.BeginSearch = [this]() -> ui::NameSearch {
     return [this](std::string_view typed, std::size_t) {

@@ -76,6 +76,17 @@ TEST(AScreen, IsSharedInEveryForm) {
   EXPECT_FALSE(ui::FormNamed("word"));
 }
 
+TEST(AScreen, TellsItsStoryBeforeTheListsThatChooseIt) {
+  ScriptDesk desk;
+  Yearbook year(desk);
+  const std::string story(500, 'a');
+  year.rptyear.Write({{ui::Report::Style::Body, story}});
+  const std::string page = ui::Shared(year, ui::Form::Markdown);
+  EXPECT_TRUE(page.starts_with("# The \\[best\\] of \\*2026\\*\n\nOne line  \nand another\n\n" +
+                               story + "\n\n## People\n"))
+      << page;
+}
+
 TEST(ATable, IsSharedAsThePlayerHasArrangedIt) {
   ScriptDesk desk;
   Yearbook year(desk);
