@@ -43,7 +43,7 @@ void ScreenView::AddFacts(QBoxLayout& words) {
   if (page_.Facts) facts.insert(facts.begin(), page_.Facts);
   for (ui::Label* fact : facts) {
     auto* line = dynamic_cast<LabelView*>(Add(*fact));
-    line->SetUsual(fact == page_.Facts ? ui::Tone::Muted : ui::Tone::Plain);
+    if (fact == page_.Facts) line->SetFacts();
     words.addWidget(line);
   }
 }

@@ -151,13 +151,21 @@ void LabelView::SetUsual(ui::Tone tone) {
   Colour();
 }
 
+void LabelView::SetFacts() {
+  facts_ = true;
+  SetUsual(ui::Tone::Muted);
+}
+
 void LabelView::Colour() {
   const ui::Tone tone = control_.Colour.Get();
   SetInk(*this, TextColour(ColoursOf(this), tone == ui::Tone::Plain ? usual_ : tone));
 }
 
 void LabelView::Show() {
-  setText(Dated(control_.Text.Get()) + TrendSign(control_.Trend));
+  QString words = Dated(control_.Text.Get());
+  const bool isOpen = !words.isEmpty() && (words.back().isLetterOrNumber() || words.back() == '%');
+  if (facts_ && isOpen) words += '.';
+  setText(words + TrendSign(control_.Trend));
   Colour();
   if (OnStage().Desk().LinksIn(control_.Text.Get()).empty()) {
     unsetCursor();

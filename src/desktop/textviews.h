@@ -16,6 +16,8 @@ class LabelView : public ViewOf<WrappedLabel, ui::Label> {
   }
   /// The colour of a label whose tone is plain.
   void SetUsual(ui::Tone tone);
+  /// The line below a title: its words end in a full stop, whatever they are.
+  void SetFacts();
 
  protected:
   void Show() override;
@@ -25,6 +27,7 @@ class LabelView : public ViewOf<WrappedLabel, ui::Label> {
   static constexpr int kLarge = 20;
   void Colour();
   ui::Tone usual_ = ui::Tone::Plain;
+  bool facts_ = false;
 };
 
 /// The arrow of a trend behind a blank; empty for none.

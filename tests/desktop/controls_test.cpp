@@ -61,7 +61,7 @@ TEST_F(TheControls, ShowWhatTheScreenPutsInAndDoNothingWhileDisabled) {
   Page.chkday.Visible = false;
   Play.Window.Sync();
   EXPECT_EQ(Play.TextOf("txtname"), "Put in");
-  EXPECT_EQ(Play.TextOf("lblfacts"), "Other facts");
+  EXPECT_EQ(Play.TextOf("lblfacts"), "Other facts.");
   EXPECT_EQ(Play.TextOf("cmdask"), "Really ask");
   EXPECT_FALSE(Play.Sees("chkday"));
   Play.Click("cmdoff");

@@ -131,6 +131,9 @@ class frmMorning : public GameScreen {
     const NotedNumber* rating = morning_.Of(kNoteRating);
     lblfacts.Text = rating ? rating->What + " on " + LongDate(on_) + "."
                            : "No show of yours has been held yet.";
+    for (const NotedNumber* won : morning_.AllOf(kNoteTitle))
+      lblfacts.Text =
+          lblfacts.Text.Get() + " " + won->What + ": " + won->Steps.back()->Why.Str() + ".";
     lblflat.Text = FlatNightText(morning_);
     lblflat.Visible = !lblflat.Text->empty();
     EnableUnless(cmdreport, HasReport(world(), on_, promotion_)
