@@ -55,7 +55,10 @@ void ScreenView::TakeKeyboard() {
   if (screen_->Is() != ui::Role::Hub && page_.Cancel)
     for (ControlView* view : views_) {
       const ui::Kind kind = view->Shows().Is();
-      const bool begins = kind == ui::Kind::TextBox || kind == ui::Kind::ListBox;
+      // What a page begins with: an offer of a wage is not typed into a name below it.
+      const auto* bar = dynamic_cast<const ui::ScrollBar*>(&view->Shows());
+      const bool begins =
+          kind == ui::Kind::TextBox || kind == ui::Kind::ListBox || (bar && !bar->Tells);
       if (begins && view->Shows().Enabled && view->FocusTarget()->isVisibleTo(this))
         return view->FocusTarget()->setFocus(Qt::OtherFocusReason);
     }

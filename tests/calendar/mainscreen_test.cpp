@@ -33,7 +33,7 @@ TEST(MainScreen, SaysWhoAndWhenAndWhatIsAhead) {
   EXPECT_EQ(play.Desk.Text("lblmoney"), "-$1,250");
   EXPECT_TRUE(play.Desk.Text("lblfacts").starts_with("Nothing is due today. "));
   EXPECT_TRUE(play.Desk.Enabled("imgmail"));
-  EXPECT_EQ(play.Desk.Rows("lstmail")[0][2], "Hello.");
+  EXPECT_EQ(play.Desk.Rows("lstmail")[0][1], "Hello.");
   const auto ahead = play.Desk.Rows("lstahead");
   ASSERT_EQ(ahead.size(), 13u);
   EXPECT_EQ(ahead[0][2], "Friday Fire");

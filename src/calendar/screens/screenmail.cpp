@@ -16,7 +16,7 @@ constexpr std::size_t kMailsShown = 40;
 DeskMail::DeskMail(ui::Screen& screen, Game& game)
     : game_(game),
       imgmail(screen, "imgmail"),
-      lstmail(screen, "lstmail", {{"From"}, {"Date"}, {"Mail", ui::ColumnKind::Text, 1}},
+      lstmail(screen, "lstmail", {{"From"}, {"Mail", ui::ColumnKind::Text, 1}, {"Date"}},
               ui::Handler{}, [this] { Open(lstmail.Key()); }),
       lblworld(screen, "lblworld"),
       cmdworld(screen, "cmdworld", "Open", [this] {
@@ -45,7 +45,7 @@ int DeskMail::Show() {
     if (rows.size() == kMailsShown) break;
     const Mail& mail = world().News()[number];
     rows.push_back(
-        {{mail.From.View(), ui::Cell(mail.Date.View(), ui::Tone::Muted), mail.Body.View()},
+        {{mail.From.View(), mail.Body.View(), ui::Cell(mail.Date.View(), ui::Tone::Muted)},
          number});
   }
   lstmail.Fill(std::move(rows));

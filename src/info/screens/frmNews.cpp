@@ -201,7 +201,7 @@ class frmNews : public GameScreen {
   }
   static ui::ListBox::Row RowOf(const Digest& digest) {
     const int number = digest.Mails.front();
-    return {{"Around the rings", ui::Cell(number, digest.Date, ui::Tone::Muted), digest.Words,
+    return {{"Around the rings", digest.Words, ui::Cell(number, digest.Date, ui::Tone::Muted),
              digest.IsUnread ? "unread" : ""},
             number};
   }
@@ -349,11 +349,11 @@ class frmNews : public GameScreen {
   const CellColumns<Mail> mails_ = {
       {{"From", K::Text, 2},
        [this](const Mail& mail) { return ui::Cell(mail.From.View(), ToneOf(mail)); }},
+      {{"Mail", K::Text, 5}, [](const Mail& mail) { return mail.Body.View(); }},
       {{"Date", K::Date, 1},
        [this](const Mail& mail) {
          return ui::Cell(world().News().NumberOf(mail), mail.Date.Str(), ui::Tone::Muted);
        }},
-      {{"Mail", K::Text, 5}, [](const Mail& mail) { return mail.Body.View(); }},
       {{"", K::Tag, 0, "Whether it has been read."}, [this](const Mail& mail) {
          return unread_.Has(world().News().NumberOf(mail)) ? ui::Cell("unread", ToneOf(mail))
                                                            : ui::Cell("");
