@@ -169,7 +169,7 @@ class Look {
     else if (isLate && !tellsLast)
       Add({kMetLately, 50, had.LastWinner == 1 ? one : two, had.LastWinner == 1 ? two : one, 0,
            had.LastDaysAgo});
-    if (IsYearsEnd(world_.Today()) && IsOnTheYearsList(world, had.BestRating))
+    if (IsYearsEnd(world_.Today()) && IsOnTheYearsList(world_, had.BestRating))
       Add({kYearsBest, 68, one, two, had.BestRating, had.BestDaysAgo});
   }
 
