@@ -10,6 +10,8 @@
 
 namespace grapplemont {
 
+class World;
+
 /// In no order.
 std::vector<PastFact> LookBack(Teller& teller);
 
