@@ -6,8 +6,6 @@
 #include "newrecords.h"
 #include "session/slots.h"
 #include "support/cutdisk.h"
-#include "support/defaultworld.h"
-#include "support/randomworld.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {
@@ -45,21 +43,6 @@ TEST(RecordFile, ABrokenDiskIsARemark) {
   const auto file = ReadRecordFile<Show>(disk, "data", "newtv.dat");
   EXPECT_TRUE(file.Records.empty());
   EXPECT_NE(file.Remark.find("data/newtv.dat"), std::string::npos) << file.Remark;
-}
-
-TEST(TablesFolder, OutAndInGiveTheSameBytes) {
-  for (int which = 0; which < 4; ++which) {
-    SCOPED_TRACE(which);
-    const World world =
-        which == 0 ? CopyOf(DefaultWorld()) : RandomData(static_cast<std::uint64_t>(which));
-    CutDisk disk;
-    ExportTables(disk, "tables", world);
-    World other = SmallWorld().Promotion("CWA").Crew(2);
-    const TablesPreview preview = LookAtTables(disk, "tables", other);
-    ASSERT_EQ(preview.WhyNot, "");
-    TakeOver(other, *preview.Made);
-    ExpectSame(other, world);
-  }
 }
 
 TEST(TablesFolder, TakesOverTheTenFilesAndNothingElse) {

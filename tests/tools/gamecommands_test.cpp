@@ -1,6 +1,5 @@
 #include <nlohmann/json.hpp>
 
-#include "records/tables/tablekinds.h"
 #include "support/checkout.h"
 #include "toolhome.h"
 
@@ -156,15 +155,6 @@ TEST_F(GameCommands, RunSaysWhyASlotCannotBePlayed) {
   EXPECT_TRUE(busy.ends_with("\n]=1")) << busy;
 }
 
-TEST_F(GameCommands, SoakFromEveryChairWithEverySeedAndBothWays) {
-  BuildSmallData();
-  EXPECT_EQ("8 careers, 160 days, 0 ended early, 0 faults.\n",
-            Say("soak H/data --seeds 2 --days 20"));
-  New("1", "1");
-  EXPECT_EQ("[grapplemont-world soak: H/s1 holds a saved game, no default data.\n]=1",
-            Say("soak H/s1"));
-}
-
 // Pages of docs/ that a command prints are committed, and stay what it prints.
 
 using ToolPages = ToolHome;
@@ -183,12 +173,6 @@ TEST_F(ToolPages, AreWhatTheCommandsPrint) {
   Say("build " + Checkout("/world") + " H/data");
   EXPECT_TRUE(Document("balance.md") == Say("balance H/data"))
       << "Run: grapplemont-world balance data >docs/balance.md";
-}
-
-TEST(Pages, HaveAMeaningForEveryField) {
-  for (const TableKind& kind : TableKinds())
-    for (const Field& field : kind.Layout->Fields)
-      EXPECT_FALSE(field.Help.empty()) << kind.Name << " " << field.Name;
 }
 
 }  // namespace

@@ -73,6 +73,7 @@ TEST_F(ManyWorlds, LiveAsNewAndRunWouldHaveIt) {
   }
 }
 
+/// From every chair, with every seed, and both ways.
 TEST_F(ManyWorlds, SoakInTheSameOrder) {
   const std::string alone = Say("soak H/data --seeds 3 --days 20 --jobs 1");
   EXPECT_EQ(alone, "12 careers, 240 days, 0 ended early, 0 faults.\n");
@@ -100,8 +101,9 @@ TEST_F(ManyWorlds, SayWhatMakesNoSense) {
   EXPECT_TRUE(said.ends_with("=2"));
   EXPECT_NE(Say("soak H/data --jobs 0").find("--jobs needs a whole number from 1"),
             std::string::npos);
-  EXPECT_EQ("[grapplemont-world living-world: H/s1 holds a saved game, no default data.\n]=1",
-            Say("living-world H/s1"));
+  for (const std::string command : {"living-world", "soak"})
+    EXPECT_EQ("[grapplemont-world " + command + ": H/s1 holds a saved game, no default data.\n]=1",
+              Say(command + " H/s1"));
 }
 
 }  // namespace
