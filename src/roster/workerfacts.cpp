@@ -4,15 +4,16 @@
 #include <array>
 
 #include "records/fields/fields.h"
+#include "records/fields/outside.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
-#include "roster/hometown.h"
 #include "roster/market.h"
 #include "roster/postings.h"
 #include "roster/staff.h"
 #include "roster/workerrecord.h"
 #include "storylines/feuds.h"
 #include "storylines/partners.h"
+#include "words/names.h"
 
 namespace grapplemont {
 
@@ -261,6 +262,17 @@ FactGroup Offices(const World& world, const Staff& staff) {
 }
 
 }  // namespace
+
+std::string HomeLine(const Worker& worker) {
+  // By the number alone, so that who was there from the start comes from one place in every game.
+  constexpr std::uint64_t kApart = 0x9E3779B97F4A7C15;
+  const int drawn =
+      SeededDraws(static_cast<std::uint64_t>(int(worker.Uid)) * kApart).Draw(kHomeTowns);
+  const HomeTown& home = HomeTowns[static_cast<std::size_t>(drawn - 1)];
+  std::string line = "From " + std::string(home.Name);
+  if (!home.Where.empty()) line += " " + std::string(home.Where);
+  return line + ".";
+}
 
 std::vector<FactGroup> WorkerFacts(const World& world, const Worker& worker) {
   std::vector<FactGroup> facts = {Person(world, worker),

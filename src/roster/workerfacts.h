@@ -18,6 +18,9 @@ struct FactGroup {
 /// teaches them there.
 std::vector<FactGroup> WorkerFacts(const World& world, const Worker& worker);
 
+/// "From Halifax in Canada.": the same in every game, and kept in no file.
+std::string HomeLine(const Worker& worker);
+
 /// The feuds that they are in, whatever side, a sentence each.
 std::vector<std::string> FeudsOf(const World& world, const Worker& worker);
 

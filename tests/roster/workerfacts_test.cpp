@@ -6,7 +6,6 @@
 
 #include "records/fields/fields.h"
 #include "records/modWresCheck.h"
-#include "roster/hometown.h"
 #include "support/smallworld.h"
 
 // What a worker's page says.
