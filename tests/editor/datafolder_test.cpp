@@ -22,12 +22,16 @@ World SmallData() {
   return SmallWorld().Promotion("CWA").Owner("Ruth Vane").Crew(6).Title("CWA Crown");
 }
 
-/// A disk with a folder of data.
-CutDisk DiskWith(const World& world) {
+/// The files of a world, in a folder.
+void Put(Disk& disk, const std::string& folder, const World& world) {
+  for (const auto& [name, bytes] : FilesOf(world)) WriteFile(disk, folder + "/" + name, bytes);
+}
+
+/// A disk with a folder of data: the player's, or what came with the program and no other.
+CutDisk DiskWith(const World& world, const char* folder = kData) {
   CutDisk disk;
-  disk.MakeFolder(kData);
-  for (const auto& [name, bytes] : FilesOf(world))
-    WriteFile(disk, std::string(kData) + "/" + name, bytes);
+  disk.MakeFolder(folder);
+  Put(disk, folder, world);
   disk.SyncFolder(".");
   return disk;
 }
@@ -93,19 +97,9 @@ TEST(TheDataFolder, ExchangesDataAndBackup) {
   EXPECT_EQ(BytesOf(before), Found(disk, kBackup)) << "from before this session's first change";
 }
 
-/// A disk where a world came with the program and nothing is the player's yet.
-CutDisk DiskBelow(const World& world) {
-  CutDisk disk;
-  disk.MakeFolder(kBelow);
-  for (const auto& [name, bytes] : FilesOf(world))
-    WriteFile(disk, std::string(kBelow) + "/" + name, bytes);
-  disk.SyncFolder(".");
-  return disk;
-}
-
 TEST(TheDataFolder, LeavesWhatCameWithTheProgramAloneAndOwnsAllOnceOneFileIsChanged) {
   const World before = SmallData();
-  CutDisk disk = DiskBelow(before);
+  CutDisk disk = DiskWith(before, kBelow);
   DataFolder data(disk, kData, kBelow);
   EXPECT_EQ(BytesOf(before), BytesOf(data.World()));
   EXPECT_FALSE(data.Covers());
@@ -119,8 +113,7 @@ TEST(TheDataFolder, LeavesWhatCameWithTheProgramAloneAndOwnsAllOnceOneFileIsChan
 
   World update = CopyOf(before);
   update.Promotions()[1].Risk = 12;
-  for (const auto& [name, bytes] : FilesOf(update))
-    WriteFile(disk, std::string(kBelow) + "/" + name, bytes);
+  Put(disk, kBelow, update);
   EXPECT_EQ(mine, ReadDefaultData(disk, {kData, kBelow})) << "an update leaves it alone";
   data.Uncover();
   EXPECT_FALSE(data.Covers());
@@ -133,7 +126,7 @@ TEST(TheDataFolder, LeavesWhatCameWithTheProgramAloneAndOwnsAllOnceOneFileIsChan
 
 TEST(TheDataFolder, RestoresFromBelowWhatTheBackupLacks) {
   const World before = SmallData();
-  CutDisk disk = DiskBelow(before);
+  CutDisk disk = DiskWith(before, kBelow);
   DataFolder data(disk, kData, kBelow);
   Edit(data.World());
   data.Commit();
@@ -146,7 +139,7 @@ TEST(TheDataFolder, RestoresFromBelowWhatTheBackupLacks) {
 TEST(PowerCutsInTheEditor, LeaveTheWorldThatCameWithTheProgramOrTheOwnOne) {
   const World before = SmallData();
   const Files old = BytesOf(before), fresh = Edited(before);
-  CutDisk disk = DiskBelow(before);
+  CutDisk disk = DiskWith(before, kBelow);
   {
     DataFolder data(disk, kData, kBelow);
     disk.Record();
@@ -378,7 +371,7 @@ TEST(AFailedSave, IsToldTakenBackAndCanBeTriedAgain) {
     CutDisk disk;
     disk.MakeFolder("home");
     disk.MakeFolder("home/data");
-    for (const auto& [name, bytes] : FilesOf(before)) WriteFile(disk, "home/data/" + name, bytes);
+    Put(disk, "home/data", before);
     ScriptDesk desk;
     Game game(desk, disk, {"home", [] { return kGameStart; }, 1});
     RegisterScreens(game);
