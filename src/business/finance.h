@@ -36,6 +36,9 @@ long long TotalOut(const MonthBooks& books);
 /// In less out; below 0 for a loss.
 long long Balance(const MonthBooks& books);
 
+/// More than so many dollars, or a greater debt, no month end leaves to anybody.
+inline constexpr int kMostMoney = 90000000;
+
 // The economy can run past its ends: the outermost bands have none.
 inline constexpr int kAnyLow = -32768;
 inline constexpr int kAnyHigh = 32767;

@@ -35,8 +35,10 @@ class Year {
  public:
   explicit Year(const World& world) : world_(world), until_(world.Today() + std::chrono::days{1}) {
     from_ = std::chrono::year{YearOf(world.Today())} / 1 / 1;
+    // A later career in the same world has a beginning of its own.
     const auto& totals = world.Of<TotalsState>();
-    const Day since = totals.Count() > 0 ? totals[1].Since : world.Game().StartDate;
+    const Day start = world.Game().StartDate;
+    const Day since = totals.Count() > 0 ? std::min(start, Day(totals[1].Since)) : start;
     counted_ = std::max(from_, since);
     for (const YearEnd& row : world.YearEnds()) before_[row.Worker] = row.Over;
     for (const TitleReign& reign : world.Reigns()) CountReign(reign);

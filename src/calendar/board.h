@@ -17,7 +17,8 @@ int ClassInSight(const Promotion& promotion);
 /// Who writes for the board of the player's promotion: its owner, or "The Board".
 std::string VoiceOfBoard(const World& world);
 
-/// A warning by mail while a fall of class is in sight; none within thirty days of the last.
+/// A mail on the morning after a rise of class has come into sight, and a warning while a fall is;
+/// none within thirty days of the last warning.
 void BoardWarning(World& world);
 
 }  // namespace grapplemont

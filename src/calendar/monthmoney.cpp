@@ -22,7 +22,6 @@ namespace grapplemont {
 namespace {
 
 constexpr const char* kFinance = "Finance Dept.";
-constexpr int kMostMoney = 90000000;
 
 void PlayerMisses(World& world, int missed) {
   if (missed == 3) world.Game().EndCode = kEndLoan;

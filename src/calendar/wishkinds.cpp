@@ -5,6 +5,7 @@
 #include <map>
 #include <set>
 
+#include "business/finance.h"
 #include "business/past.h"
 #include "business/tvshows.h"
 #include "calendar/board.h"
@@ -234,10 +235,18 @@ long long ProfitCame(const World& world, const OwnerWish& wish) {
   return profit;
 }
 
+/// Up to the next number with three digits and noughts behind them.
+long long InRoundNumbers(long long dollars) {
+  long long step = 1;
+  while (dollars >= 1000 * step) step *= 10;
+  return (dollars + step - 1) / step * step;
+}
+
 bool PlanSavings(World& world, OwnerWish& wish, int months) {
   const Promotion& player = world.Player();
-  return player.Money >= 0 &&
-         AskFor(wish, player.Money + BySize(kProfits, player.Size) / kYear * months);
+  const long long wanted =
+      InRoundNumbers(player.Money + BySize(kProfits, player.Size) / kYear * months);
+  return player.Money >= 0 && wanted <= kMostMoney && AskFor(wish, wanted);
 }
 long long MoneyCame(const World& world, const OwnerWish& wish) {
   const Promotion* promotion = world.FindPromotion(wish.Promotion);

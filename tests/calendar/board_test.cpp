@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "records/notes.h"
 #include "support/smallworld.h"
 
 namespace grapplemont::test {
@@ -34,6 +35,27 @@ TEST(BoardWarning, ComesBelowFifteenOnceInThirtyDaysAndNeverAtTheBottom) {
   world.Player().Size = kBackyard;
   BoardWarning(world);
   EXPECT_EQ(warnings(), 2) << "nothing lies below";
+}
+
+TEST(BoardWarning, SpeaksOfARiseOnTheMorningAfterItCameIntoSight) {
+  World world = SmallWorld()
+                    .Promotion("CWA", kCult, [](Promotion& p) { p.Image = 91; })
+                    .Owner("Ruth Vane")
+                    .Game("CWA");
+  NoteStep(world, {kNoteImage, "CWA"}, 1, 89, "a show");
+  NoteStep(world, {kNoteImage, "CWA"}, 2, 91, "another show");
+  BoardWarning(world);
+  EXPECT_EQ(world.News().Count(), 0) << "not before the next morning";
+  world.Game().Today = kGameStart + std::chrono::days{1};
+  BoardWarning(world);
+  ASSERT_EQ(world.News().Count(), 1);
+  EXPECT_TRUE(world.News()[1].Body.View().starts_with(
+      "Our image is up to 91%. At 100% we rise to National level"));
+  world.Game().Today = kGameStart + std::chrono::days{2};
+  NoteStep(world, {kNoteImage, "CWA"}, 2, 93, "a third show");
+  world.Game().Today = kGameStart + std::chrono::days{3};
+  BoardWarning(world);
+  EXPECT_EQ(world.News().Count(), 1) << "once is enough";
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "calendar/incidents.h"
+#include "calendar/wishkinds.h"
 #include "records/segmentwords.h"
 #include "support/gameonworld.h"
 #include "support/scripteddraws.h"
@@ -124,6 +125,16 @@ TEST(OwnersWishes, CountEventsWithTheTitleAndShowsWithTooMuchTalk) {
   world.Segments().Append(talk);
   OwnersWishes(world);
   EXPECT_EQ(world.Wishes()[2].Slips, 1);
+}
+
+TEST(OwnersWishes, AskForMoneyInRoundNumbersAndNeverForMoreThanCanBeKept) {
+  World world = Owned();
+  OwnerWish wish = WishOf(world, kWishSavings, 0);
+  world.Player().Money = 1234567;
+  EXPECT_TRUE(WishRuleOf(kWishSavings).Plan(world, wish, 12));
+  EXPECT_EQ(wish.Target, 2040000);
+  world.Player().Money = 89500000;
+  EXPECT_FALSE(WishRuleOf(kWishSavings).Plan(world, wish, 12));
 }
 
 TEST(CareerScreen, ShowsHowFarEachWishIs) {

@@ -144,6 +144,7 @@ TEST(SmallMonth, PostersMayBeRainedOffAndMoneyAndSizeSetLimits) {
 TEST(MonthScreen, OffersVenturesWithTheirPricesAndRumoursThatLeadSomewhere) {
   GameOnWorld play(Backyard());
   play.Desk.Open("frmMainScreen");
+  EXPECT_EQ(play.Desk.Tip("cmdmonth"), "6 ventures of this month still open.");
   play.Desk.Click("cmdmonth");
   ASSERT_EQ(play.Desk.TopName(), "frmMonth");
   EXPECT_EQ(play.Desk.Rows("lstventures")[0], (Row{"Monthly tryout", "$300", "Open"}));

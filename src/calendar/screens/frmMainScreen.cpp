@@ -203,6 +203,9 @@ class frmMainScreen : public ui::Screen {
     cmdmorning.Visible = !isOver && HasAnyNight(world());
     cmdfutures.Visible = !isOver;
     cmdmonth.Visible = !isOver && HasSmallMonth(world().Player());
+    const int ventures = VenturesLeft(world());
+    cmdmonth.Badge = ventures == 0 ? std::string() : std::to_string(ventures);
+    cmdmonth.Tip = Counted(ventures, "venture") + " of this month still open.";
     if (WhyNoMeeting(world()).empty())
       today += (today.empty() ? "" : ", ") + std::string("the staff meeting");
     lblfacts.Text = isOver
