@@ -127,6 +127,82 @@ TEST(OwnersWishes, CountEventsWithTheTitleAndShowsWithTooMuchTalk) {
   EXPECT_EQ(world.Wishes()[2].Slips, 1);
 }
 
+/// Matches, shows and month ends around New Year, in the order of their days.
+void Happen(World& world) {
+  const int woman = Named(world.Workers(), "CWA Hand 7").Uid;
+  const int other = Named(world.Workers(), "CWA Hand 8").Uid;
+  for (const int uid : {woman, other}) world.FindWorker(uid)->Gender = false;
+  const int man = Named(world.Workers(), "CWA Hand 1").Uid;
+  struct {
+    int Day, One;
+    bool IsEvent, IsFeud;
+  } const kMatches[] = {{-3, woman, true, true},
+                        {3, woman, true, false},
+                        {3, man, true, true},
+                        {9, man, false, true}};
+  for (const auto& row : kMatches) {
+    HeldMatch match{};
+    match.On = kNewYear + std::chrono::days{row.Day};
+    match.Promotion = world.PlayerUid();
+    match.IsEvent = row.IsEvent;
+    match.Worker[0] = row.One;
+    match.Worker[1] = other;
+    if (row.IsFeud) match.Feud[0] = row.One;
+    world.Bouts().Append(match);
+  }
+  struct {
+    int Day, Kind, Rating;
+    bool CalledOff;
+    int Income, Costs;
+  } const kPasts[] = {{-2, kPastTv, 99, false, 0, 0},   {0, kPastMonth, 0, false, 900, 0},
+                      {3, kPastEvent, 71, false, 0, 0}, {9, kPastTv, 60, false, 0, 0},
+                      {16, kPastTv, 90, true, 0, 0},    {31, kPastMonth, 0, false, 500, 800}};
+  for (const auto& row : kPasts) {
+    HistoryEntry entry{};
+    entry.On = kNewYear + std::chrono::days{row.Day};
+    entry.Promotion = world.PlayerUid();
+    entry.Kind = row.Kind;
+    entry.Rating = row.Rating;
+    entry.CalledOff = row.CalledOff;
+    entry.Income = row.Income;
+    entry.Costs = row.Costs;
+    world.History().Append(entry);
+  }
+}
+
+TEST(OwnersWishes, CountWhatHasComeAboutSinceTheyWereMade) {
+  World world = Owned();
+  world.Game().Today = kNewYear + std::chrono::days{40};
+  Happen(world);
+  const int before = StandingScore(world.Player());
+  world.Player().Image += 7;
+  for (Worker& worker : world.Workers()) worker.Over = 30;
+  for (const int hand : {1, 2, 3}) {
+    Worker& star = Named(world.Workers(), "CWA Hand " + std::to_string(hand));
+    star.Over = 95;
+    YearEnd& row = world.YearEnds().Append(YearEnd{});
+    row.Worker = star.Uid;
+    row.Over = hand == 2 ? 95 : 30;
+  }
+  for (const auto& [kind, came] : {std::pair(kWishNewStars, 2),
+                                   {kWishProfit, -300},
+                                   {kWishBestShow, 71},
+                                   {kWishGoodShows, 65},
+                                   {kWishStanding, 7},
+                                   {kWishEvents, 1},
+                                   {kWishWomensMatches, 1},
+                                   {kWishFeudMatches, 1},
+                                   {kWishOnAir, 0}}) {
+    OwnerWish wish = WishOf(world, kind, 1);
+    if (kind == kWishStanding) wish.Base = before;
+    EXPECT_EQ(CameOf(world, wish), came) << WishText(wish);
+  }
+  Show show{};
+  show.Owner = world.PlayerUid();
+  world.Shows().Append(show);
+  EXPECT_EQ(CameOf(world, WishOf(world, kWishOnAir, 1)), 1);
+}
+
 TEST(OwnersWishes, AskForMoneyInRoundNumbersAndNeverForMoreThanCanBeKept) {
   World world = Owned();
   OwnerWish wish = WishOf(world, kWishSavings, 0);
