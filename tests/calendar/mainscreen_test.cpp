@@ -125,6 +125,9 @@ TEST(MainScreen, HasALineOfFiguresThatOpenTheirPages) {
     play.Desk.Click(play.Desk.Top()->Layout().Cancel->Name());
   }
   EXPECT_EQ(play.Desk.Text("cmdtile(4)"), "Mail 1 unread") << "what was shown has been read";
+  play.World().Player().Image = 91;
+  play.Desk.Click("cmdtile(2)");
+  EXPECT_EQ(play.Desk.TopName(), "frmProspect") << "the next class is in sight";
 }
 
 TEST(MainScreen, ItsBarFollowsWhatIsSpentAndReadOnAnyPage) {

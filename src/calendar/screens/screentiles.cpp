@@ -1,5 +1,6 @@
 #include "calendar/screens/screentiles.h"
 
+#include "calendar/board.h"
 #include "calendar/desktiles.h"
 
 namespace grapplemont {
@@ -26,7 +27,12 @@ constexpr int kTileCount = static_cast<int>(std::size(kTiles));
 /// The letters that a figure needs beside others.
 constexpr int kTileLetters = 20;
 
-const TileRow& TileAt(int place) {
+constexpr int kImage = 2;  // the figure
+constexpr TileRow kClassInSight = {
+    "frmProspect", "Another size class is in sight. Opens the page on what it would ask of us."};
+
+const TileRow& TileAt(const World& world, int place) {
+  if (place == kImage && ClassInSight(world.Player()) != 0) return kClassInSight;
   return kTiles[static_cast<std::size_t>(place - 1)];
 }
 
@@ -36,10 +42,10 @@ DeskFigures::DeskFigures(ui::Screen& screen, Game& game)
     : game_(game),
       cmdtile("cmdtile", kTileCount,
               [&](const std::string& name, int place) {
-                auto tile = std::make_unique<ui::Button>(
-                    screen, name, "", [this, place] { game_.Desk().Open(TileAt(place).Screen); });
+                auto tile = std::make_unique<ui::Button>(screen, name, "", [this, place] {
+                  game_.Desk().Open(TileAt(game_.World(), place).Screen);
+                });
                 tile->Plain = true;
-                tile->Tip = TileAt(place).Tip;
                 return tile;
               }),
       lbltile("lbltile", kTileCount, [&](const std::string& name, int) {
@@ -57,7 +63,8 @@ void DeskFigures::Show() {
   int place = 0;
   for (const DeskTile& tile : DeskTiles(game_.World())) {
     cmdtile(++place).Text = tile.Says;
-    cmdtile(place).Tip = tile.Why.empty() ? TileAt(place).Tip : tile.Why + ". " + TileAt(place).Tip;
+    const char* opens = TileAt(game_.World(), place).Tip;
+    cmdtile(place).Tip = tile.Why.empty() ? opens : tile.Why + ". " + opens;
     lbltile(place).Text = tile.About;
     lbltile(place).Colour = tile.Trend > 0   ? ui::Tone::Green
                             : tile.Trend < 0 ? ui::Tone::Red
