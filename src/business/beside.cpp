@@ -12,7 +12,7 @@ namespace {
 
 using OfMonth = long long BesideLine::*;
 
-long long SumOf(const std::vector<BesideLine>& lines, OfMonth month) {
+long long MonthSum(const std::vector<BesideLine>& lines, OfMonth month) {
   long long sum = 0;
   for (const BesideLine& line : lines) sum += line.*month;
   return sum;
@@ -50,8 +50,8 @@ std::vector<BesideLine> BesideLines(const World& world) {
     (Day(note.On) < month ? line->Last : line->Present) += note.Change;
   }
   const auto& before = player.MoneyBefore;
-  const long long last = SumOf(lines, &BesideLine::Last),
-                  present = SumOf(lines, &BesideLine::Present);
+  const long long last = MonthSum(lines, &BesideLine::Last),
+                  present = MonthSum(lines, &BesideLine::Present);
   const long long openLast =
       before[0] == kNoEnd ? last : LeftOpen(before[1], before[0], player.LastMonth, last);
   const long long open = LeftOpen(before[0], player.Money, player.ThisMonth, present);
@@ -62,7 +62,8 @@ std::vector<BesideLine> BesideLines(const World& world) {
 
 BesideLine BesideTotal(const World& world) {
   const std::vector<BesideLine> lines = BesideLines(world);
-  return {"Outside the books", SumOf(lines, &BesideLine::Last), SumOf(lines, &BesideLine::Present)};
+  return {"Outside the books", MonthSum(lines, &BesideLine::Last),
+          MonthSum(lines, &BesideLine::Present)};
 }
 
 }  // namespace grapplemont
