@@ -3,6 +3,7 @@
 #include <array>
 
 #include "calendar/advanceday.h"
+#include "calendar/wishes.h"
 #include "records/fields/wording.h"
 #include "records/modWresCheck.h"
 #include "rivals/ownership.h"
@@ -229,6 +230,7 @@ void ChangeJob(World& world, const Promotion& promotion) {
   game.TvOfferWait = 0;
   for (Feud& feud : world.Feuds()) feud = {};
   world.Session.StartSize = promotion.Size;
+  DropFormerWishes(world);
 }
 
 }  // namespace grapplemont

@@ -54,14 +54,6 @@ auto OpenOnes(W& world) {
   return open;
 }
 
-void DropThoseOfOthers(World& world) {
-  const int last = world.Wishes().Count();
-  for (int number = last; number >= 1 && number > last - int(kWishesAYear); --number) {
-    OwnerWish& wish = world.Wishes()[number];
-    if (wish.State == kWishOpen && wish.Promotion != world.PlayerUid()) wish.State = kWishDropped;
-  }
-}
-
 // What is counted while match.dat still holds the card of the night before.
 
 bool WasShowLastNight(const World& world) {
@@ -232,8 +224,16 @@ std::vector<const OwnerWish*> OpenWishes(const World& world) {
   return OpenOnes(world);
 }
 
+void DropFormerWishes(World& world) {
+  const int last = world.Wishes().Count();
+  for (int number = last; number >= 1 && number > last - int(kWishesAYear); --number) {
+    OwnerWish& wish = world.Wishes()[number];
+    if (wish.State == kWishOpen && wish.Promotion != world.PlayerUid()) wish.State = kWishDropped;
+  }
+}
+
 void OwnersWishes(World& world) {
-  DropThoseOfOthers(world);
+  DropFormerWishes(world);
   CountSlips(world);
   const auto open = OpenOnes(world);
   if (!open.empty() && world.Today() >= Day(open.front()->Until)) return JudgeTheYear(world);

@@ -27,6 +27,8 @@ std::string TrustLine(const World& world);
 std::vector<OwnerWish*> OpenWishes(World& world);
 std::vector<const OwnerWish*> OpenWishes(const World& world);
 
+/// What the owner of a job that has been left wished for is dropped.
+void DropFormerWishes(World& world);
 /// The last step of the day. Wishes of a job that was left are dropped; slips of the show that has
 /// just been held are counted; on 31 December the year is judged by mail: each wish fulfilled lifts
 /// reputation and the owner's loyalty, each missed costs some, and a year of three brings a job

@@ -26,7 +26,12 @@ SmallWorld Ended() {
 }
 
 TEST(PlayOn, AnotherChairKeepsThePastAndTheFormerJob) {
-  GameOnWorld play(Ended());
+  World world = Ended().Mail("Ruth Vane", "You are fired.");
+  OwnerWish& wish = world.Wishes().Append(OwnerWish{});
+  wish.Promotion = world.PlayerUid();
+  wish.Kind = kWishEvents;
+  wish.From = wish.Until = kGameStart + std::chrono::days{300};
+  GameOnWorld play(std::move(world));
   play.Desk.Open("frmMainScreen");
   ASSERT_EQ(play.Desk.TopName(), "frmTheEnd");
   play.Desk.Click("cmdplayon");
@@ -36,6 +41,8 @@ TEST(PlayOn, AnotherChairKeepsThePastAndTheFormerJob) {
   play.Desk.Click("cmdtake");
   EXPECT_EQ(play.Desk.TopName(), "frmMainScreen");
   EXPECT_TRUE(play.Desk.Enabled("cmdnext"));
+  EXPECT_EQ(play.Desk.Text("cmdtile(4)"), "Mail") << "what is left was written to another chair";
+  EXPECT_EQ(play.World().Wishes()[1].State, kWishDropped);
   play.Reopen();
   const GameInfo& game = play.World().Game();
   EXPECT_EQ(game.EndCode, kGoesOn);

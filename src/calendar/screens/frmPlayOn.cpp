@@ -5,6 +5,7 @@
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
+#include "records/readmail.h"
 #include "rivals/founding.h"
 #include "rivals/ownership.h"
 #include "rivals/promotionfacts.h"
@@ -123,6 +124,7 @@ class frmPlayOn : public GameScreen {
   }
   void GoOn() {
     GoOnAs(world(), detail::Trimmed(txtname.Text.Get()));
+    MarkAllRead(world());  // what was written to the former chair
     desk().CloseAll();
     desk().Open("frmMainScreen");
   }
