@@ -89,9 +89,11 @@ class frmMorning : public GameScreen {
       figures.push_back(ui::Group(CaptionOf(FigureAt(i)), {lblfigures(i), lblnotes(i),
                                                            ui::Columns({cmdwhy(i), ui::Spacer()})})
                             .Grow());
-    ui::Box moved = ui::Columns({ui::Group("Titles", {ui::Grow(lsttitles)}).Grow(),
-                                 ui::Group("Feuds", {ui::Grow(lstfeuds)}).Grow(),
-                                 ui::Group("Hurt", {ui::Grow(lsthurt)}).Grow()});
+    // A Title comes with who holds it, which needs more room than the others.
+    ui::Box moved =
+        ui::Columns({ui::Rows({ui::Group("Titles", {ui::Grow(lsttitles)}).Grow()}).Grow(3),
+                     ui::Group("Feuds", {ui::Grow(lstfeuds)}).Grow(2),
+                     ui::Group("Hurt", {ui::Grow(lsthurt)}).Grow(2)});
     ui::Page page = PageOf(
         ui::Rows({ui::Columns(std::move(figures)),
                   ui::Columns(
@@ -210,8 +212,7 @@ class frmMorning : public GameScreen {
       const ShowNote& last = *number.Steps.back();
       const int key = static_cast<int>(i) + 1;
       if (number.Kind == kNoteTitle)
-        titles.push_back(
-            {{number.What, ui::Cell("New champion", ui::Tone::Gold), Alone(last.Why.View())}, key});
+        titles.push_back({{number.What, WonCell(last), Alone(last.Why.View())}, key});
       if (number.Kind == kNoteTitleImage)
         titles.push_back({{number.What, ImageCell(number), Alone(WhyImage(number))}, key});
       if (number.Kind == kNoteHeat) feuds.push_back({{number.What, Moved(number)}, key});
@@ -226,6 +227,13 @@ class frmMorning : public GameScreen {
     lsttitles.Fill(std::move(titles));
     lstfeuds.Fill(std::move(feuds));
     lsthurt.Fill(std::move(hurt));
+  }
+
+  /// Who has won it; of a team all that was noted.
+  ui::Cell WonCell(const ShowNote& won) {
+    const auto* title = FindTitle(world(), won.What);
+    const bool isAlone = title && title->Singles && won.Worker != 0;
+    return {isAlone ? WorkerName(world(), won.Worker) : won.Why.Str(), ui::Tone::Gold};
   }
 
   static ui::Cell ImageCell(const NotedNumber& number) {
@@ -370,11 +378,15 @@ class frmMorning : public GameScreen {
                          {"Why", K::Text, 4}},
                         &frmMorning::lstpeople_Click,
                         &frmMorning::lstpeople_Open};
-  ui::ListBox lsttitles{
-      *this,
-      "lsttitles",
-      {{"Title"}, {.Title = "Image", .Kind = K::Tag, .Term = "Title image"}, {"Why", K::Text, 4}},
-      &frmMorning::lsttitles_Click};
+  ui::ListBox lsttitles{*this,
+                        "lsttitles",
+                        {{"Title"},
+                         {.Title = "Now",
+                          .Kind = K::Tag,
+                          .Tip = "Who has won it, or its image.",
+                          .Term = "Title image"},
+                         {"Why", K::Text, 4}},
+                        &frmMorning::lsttitles_Click};
   ui::ListBox lstfeuds{
       *this, "lstfeuds", {{"Feud", K::Text, 1}, {"Heat", K::Tag}}, &frmMorning::lstfeuds_Click};
   ui::ListBox lsthurt{
