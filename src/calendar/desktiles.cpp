@@ -98,10 +98,12 @@ DeskTile PeopleTile(const World& world) {
     away += IsAway(worker);
     unhappy += IsUnhappy(worker);
   }
+  const auto worn = HurtAndWorn(world).size();
   return {"Roster " + std::to_string(people),
-          away + unhappy == 0
-              ? "All fit and content"
-              : std::to_string(away) + " away, " + std::to_string(unhappy) + " unhappy",
+          away + unhappy > 0
+              ? std::to_string(away) + " away, " + std::to_string(unhappy) + " unhappy"
+          : worn > 0 ? std::to_string(worn) + " worn, nobody away or unhappy"
+                     : std::string("All fit and content"),
           away > 0 ? -1 : 0};
 }
 

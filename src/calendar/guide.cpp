@@ -45,11 +45,14 @@ std::vector<const GuideStep*> StepsOf(const GuideState& guide) {
   return steps;
 }
 
-/// The place of the first step that is the show's own, from 0: what comes before may be left out.
+/// The place of the step that its sheet makes done, from 0: from there on steps come with the show,
+/// what comes before may be left out.
 std::size_t ShowFrom(const std::vector<const GuideStep*>& steps) {
   const auto show = std::ranges::find(steps, GuideDone::Show, &GuideStep::Done);
   const std::string_view page = show == steps.end() ? std::string_view() : (*show)->Page;
-  return static_cast<std::size_t>(std::ranges::find(steps, page, &GuideStep::Page) - steps.begin());
+  const auto first = std::ranges::find_if(
+      steps, [&](const GuideStep* step) { return step->Screen.find(page) != step->Screen.npos; });
+  return static_cast<std::size_t>(first - steps.begin());
 }
 
 }  // namespace

@@ -125,7 +125,8 @@ void Window::TurnColours() {
   SetColours(IsDark(settings_.Colours()) ? Scheme::Light : Scheme::Dark);
   if (followed)
     Hint(*this,
-         "Window Options (" + Shown(KeyOfOptions()) + ") have the desktop's own colours again.",
+         "To follow the desktop's colours again, open Window Options (" + Shown(KeyOfOptions()) +
+             ").",
          ui::Tone::Muted);
 }
 

@@ -68,8 +68,8 @@ class frmWindow : public ui::Screen {
     for (const int scale : kScales) cmbscale.Add(std::to_string(scale) + "%", scale);
     for (const DateFormName& form : kDateForms) cmbdates.Add(form.Words);
     cmbscale.Tip = "Counts from the next start of the game on.";
-    lblkeys.Text = "The actions of a page stand at the end when you come here from it: " +
-                   window_.KeyOfOptions();
+    lblkeys.Text = "Open these options from a page (" + window_.KeyOfOptions() +
+                   ") and its own actions stand at the end of the list.";
     lblkeys.Colour = ui::Tone::Muted;
   }
 

@@ -5,6 +5,7 @@
 
 #include "calendar/deskwork.h"
 #include "calendar/guide.h"
+#include "calendar/passing.h"
 #include "records/fields/wording.h"
 #include "storylines/screens/screenpeople.h"
 
@@ -44,6 +45,8 @@ void GuideCard::Show() {
   const std::size_t next = NextStep(lines);
   const bool hasNext = next < lines.size();
   page_ = hasNext ? lines[next].Page : std::string_view();
+  // The last step of the show is to read what it did.
+  comesToSheet_ = hasNext && lines[next].IsOfShow && next + 1 < lines.size();
   if (hasNext) {
     const bool isLate = !lines[next].IsOfShow && lines.back().IsDone;
     std::vector<ui::Report::Paragraph> told = {
@@ -61,19 +64,17 @@ void GuideCard::Show() {
   ShowWay();
 }
 
-bool GuideCard::LeadsToSheet() const {
-  return page_.ends_with("Booking");
-}
-
-/// A sheet comes with its day.
+/// A sheet comes with its day; a small promotion has a month to use until then.
 void GuideCard::ShowWay() {
   cmdstep.Visible = cmdguide.Visible && !page_.empty();
-  const bool waits = LeadsToSheet() && TonightText(game_.World()).empty();
+  const World& world = game_.World();
+  const bool isUsed = page_ == "frmMonth" && HasSmallMonth(world.Player());
+  const bool waits = comesToSheet_ && !isUsed && TonightText(world).empty();
   EnableUnless(cmdstep, waits ? "Its sheet opens on the day of the show." : "");
 }
 
 void GuideCard::Lead() {
-  if (LeadsToSheet()) return openSheet_();
+  if (comesToSheet_ && !TonightText(game_.World()).empty()) return openSheet_();
   game_.Desk().Open(page_);
 }
 

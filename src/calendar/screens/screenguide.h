@@ -20,7 +20,6 @@ class GuideCard {
  private:
   void Close();
   void ShowWay();
-  bool LeadsToSheet() const;
   void Lead();
 
   Game& game_;
@@ -28,6 +27,7 @@ class GuideCard {
   ui::Report txtguide;
   ui::Button cmdstep, cmdguide;
   std::string page_;  // of the step that comes next
+  bool comesToSheet_ = false;
 };
 
 }  // namespace grapplemont
