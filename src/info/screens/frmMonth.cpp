@@ -21,7 +21,7 @@ class frmMonth : public GameScreen {
     BackBefore(cmdventure);
     lstrumours.EmptyText = "The town has nothing to say this month.";
     lblcame.Colour = ui::Tone::Gold;
-    lblcame.Visible = false;
+    lblcame.Visible = lblterms.Visible = false;
     txtbrings.Brief = true;
   }
 
