@@ -8,7 +8,8 @@ namespace grapplemont::test {
 
 namespace {
 
-constexpr int kAside = 4;  // percent
+constexpr int kAside = 4, kRooms = 8;     // percent
+constexpr std::uint64_t kHomeOneIn = 25;  // steps on a screen
 constexpr int kWayHome = 400;
 constexpr std::string_view kHome[] = {"frmMainScreen", "frmGameMenu", "frmTitleScreen"};
 
@@ -46,15 +47,21 @@ Hand::Hand(std::uint64_t seed)
 std::vector<Hand::Way> Hand::WaysOn(const ui::Screen& screen) {
   std::vector<Way> ways;
   for (const ui::Control* control : screen.Controls()) {
-    if (!control->Visible) continue;
+    if (!IsWorked(*control)) continue;
     const std::string name = screen.Name() + " " + control->Name();
-    if (!control->Enabled) covered_.SeeDisabled(name);
+    if (!control->Visible || !control->Enabled) {
+      covered_.Miss(name, control->Visible ? Coverage::Missed::Disabled : Coverage::Missed::Hidden);
+      continue;
+    }
+    const std::size_t before = ways.size();
     for (const Act& act : Acts()) {
-      if (!control->Enabled || !act.Can(*control)) continue;
+      if (!act.Can(*control)) continue;
       Tally& count = covered_.Of(name + " " + act.Verb);
       ++count.Seen;
       ways.push_back({control, &act, &count});
     }
+    if (ways.size() == before || ways[before].Does->Verb == std::string_view(kArranging))
+      covered_.Miss(name, Coverage::Missed::Empty);
   }
   return ways;
 }
@@ -129,12 +136,31 @@ std::string Hand::Aside(ui::Desk& desk) {
   }
 }
 
+/// A room of the hub that opens above a page that stays; empty for none.
+std::string Hand::Room(const ui::Desk& desk) {
+  const ui::Page stays = desk.Top()->Layout();
+  for (const auto& hub : desk.Screens()) {
+    if (hub->Is() != ui::Role::Hub) continue;
+    std::vector<const ui::Button*> rooms;
+    const ui::Page page = hub->Layout();
+    for (const ui::SideGroup& group : page.Side)
+      for (const auto& command : group.Commands)
+        if (command.Into <= stays.Lets && CanBePressed(command.Press))
+          rooms.push_back(command.Press);
+    if (rooms.empty()) break;
+    return "on " + hub->Name() + " " + Press(*hub, rooms[Pick(chance_, rooms.size())]);
+  }
+  return {};
+}
+
 std::string Hand::Next(Sitting& sitting) {
   ui::Desk& desk = sitting.Desk();
   ui::Screen& top = *desk.Top();
   if (Percent(kAside)) return Aside(desk);
   const auto ways = WaysOn(top);
   const ui::Page page = top.Layout();
+  if (!page.Stays.empty() && Percent(kRooms))
+    if (std::string room = Room(desk); !room.empty()) return room;
   if (const ui::Button* on = Onwards(page); on && Percent(onwards_)) return Press(top, on);
   if (CanBePressed(page.Cancel) && Percent(back_)) return Press(top, page.Cancel);
   return ways.empty() ? Aside(desk) : OneOf(page, ways);
@@ -158,9 +184,14 @@ std::string Hand::AnswerTo(const Question& box) {
   return typed.empty() || typed.find('\n') != typed.npos ? "cancel" : "enter " + typed;
 }
 
+bool Hand::WantsHome(const ui::Desk& desk) {
+  return !covered_.WentHomeFrom(desk.Top()->Name()) && Pick(chance_, kHomeOneIn) == 0;
+}
+
 void Hand::GoHome(Sitting& sitting) {
   ui::Desk& desk = sitting.Desk();
   const std::string from = desk.Top()->Name();
+  covered_.GoHomeFrom(from);
   std::string path;
   for (int step = 0; step < kWayHome; ++step) {
     if (IsHome(desk)) return;

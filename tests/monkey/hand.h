@@ -22,6 +22,8 @@ class Hand {
   /// Goes back by what every player has, to the main screen or to the menu. Throws FoundFault where
   /// that cannot be done.
   void GoHome(Sitting& sitting);
+  /// Now and then, where it has not gone home from this screen yet.
+  bool WantsHome(const ui::Desk& desk);
   const Coverage& Covered() const { return covered_; }
 
  private:
@@ -35,6 +37,7 @@ class Hand {
   std::string OneOf(const ui::Page& page, const std::vector<Way>& ways);
   std::string Press(const ui::Screen& screen, const ui::Button* button);
   std::string Aside(ui::Desk& desk);
+  std::string Room(const ui::Desk& desk);
   std::string Visit(ui::Desk& desk);
   std::string Follow(ui::Desk& desk);
 

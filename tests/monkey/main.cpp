@@ -7,6 +7,8 @@
 #include "monkey/worlds.h"
 #include "records/fields/charset.h"
 #include "session/arguments.h"
+#include "session/home.h"
+#include "support/checkout.h"
 #include "ui/asnumber.h"
 
 // grapplemont-monkey: clicks through the whole game by chance and looks whether it holds.
@@ -19,7 +21,9 @@ constexpr OptionKind kOptions[] = {
     {"--seeds", "A..B", false, "plays these; 1..4 if nothing is said"},
     {"--clicks", "N", false, "so many of each; 3000 if nothing is said"},
     {"--jobs", "J", false, "so many seeds at a time, each in a process of its own"},
-    {"--world", "small|default|random", false, "the data of all; else each seed has its own"},
+    {"--world", "small|default|random|hostile", false,
+     "the data of all; else each seed has its own"},
+    {"--write", "FOLDER", false, "clicks nothing, but writes the first seed's data there"},
     {"--memory", "MB", false, "a fault where a seed's process has more"},
     {"--tries", "N", false, "runs for cutting a fault down; 1500 if nothing is said, 0 for none"},
     {"--coverage", "", false, "names what was never clicked"}};
@@ -35,8 +39,15 @@ struct Wanted {
   int Clicks = 3000, Jobs = 1, Tries = 1500;
   std::optional<Data> World = {};
   Limits Held = {};
+  std::string Write = {};
   bool Names = false;
 
+  /// One in seven has a clock.
+  Limits HeldFor(std::uint64_t seed) const {
+    Limits held = Held;
+    held.Clock = seed % 7 == 0;
+    return held;
+  }
   Data DataFor(std::uint64_t seed) const { return World.value_or(DataOf(seed)); }
 };
 
@@ -68,10 +79,11 @@ Wanted Read(const Arguments& arguments) {
   wanted.Jobs = std::min(number("--jobs", 1, wanted.Jobs), 64);
   wanted.Tries = number("--tries", 0, wanted.Tries);
   wanted.Held.Megabytes = number("--memory", 1, 0);
+  wanted.Write = arguments.Text("--write").value_or("");
   wanted.Names = arguments.Has("--coverage");
   if (const auto world = arguments.Text("--world")) {
     wanted.World = DataNamed(*world);
-    if (!wanted.World) throw UsageError("--world takes small, default or random.");
+    if (!wanted.World) throw UsageError("--world takes small, default, random or hostile.");
   }
   return wanted;
 }
@@ -91,7 +103,7 @@ class Sum {
       for (const auto& [kind, first] : kinds_) CutDownAndTell(first.first, first.second);
     for (const auto& [told, times] : told_)
       std::cout << "Taken back and said so, " << times << " times: " << ToUtf8(told) << "\n";
-    if (wanted_.Names) std::cout << ToUtf8(covered_.Told());
+    if (wanted_.Names) std::cout << ToUtf8(covered_.Told(ScreenNames()));
     std::cout << wanted_.Last - wanted_.First + 1 << " seeds, " << steps_ << " clicks ("
               << static_cast<long>(static_cast<double>(steps_) / seconds) << " a second), " << days_
               << " days, " << worlds_ << " worlds looked through, at most " << memory_ << " MB, "
@@ -122,7 +134,7 @@ class Sum {
   }
   void CutDownAndTell(std::uint64_t seed, const Record& record) const {
     const Data data = wanted_.DataFor(seed);
-    const auto fewest = CutDown(record, HomeOf(data, seed), wanted_.Held, wanted_.Tries);
+    const auto fewest = CutDown(record, HomeOf(data, seed), wanted_.HeldFor(seed), wanted_.Tries);
     if (fewest.empty())
       std::cout << "Seed " << seed << ": the same steps did not lead to it again.\n" << std::endl;
     else
@@ -145,7 +157,7 @@ class Sum {
 std::map<Data, CutDisk> HomesOf(const Wanted& wanted) {
   std::map<Data, CutDisk> homes;
   for (std::uint64_t seed = wanted.First; seed <= wanted.Last && homes.size() < 2; ++seed)
-    if (const Data data = wanted.DataFor(seed); data != Data::Random && !homes.contains(data))
+    if (const Data data = wanted.DataFor(seed); data <= Data::Default && !homes.contains(data))
       homes.emplace(data, HomeOf(data, seed));
   return homes;
 }
@@ -154,10 +166,11 @@ int PlayAll(const Wanted& wanted) {
   const auto begin = std::chrono::steady_clock::now();
   const auto homes = HomesOf(wanted);
   const auto play = [&](int number, Paper& paper) {
-    const Run run{wanted.First + static_cast<std::uint64_t>(number), wanted.Clicks, wanted.Held};
-    const Data data = wanted.DataFor(run.Seed);
-    if (data == Data::Random) return Play(run, HomeOf(data, run.Seed), paper);
-    Play(run, homes.at(data), paper);
+    const std::uint64_t seed = wanted.First + static_cast<std::uint64_t>(number);
+    const Run run{seed, wanted.Clicks, wanted.HeldFor(seed)};
+    const Data data = wanted.DataFor(seed);
+    const auto home = homes.find(data);
+    Play(run, home == homes.end() ? HomeOf(data, seed) : home->second, paper);
   };
   std::map<int, Record> ended;
   int next = 0;
@@ -176,6 +189,14 @@ int PlayAll(const Wanted& wanted) {
   return sum.Close(took.count());
 }
 
+int WriteData(const Wanted& wanted) {
+  const auto disk = RealDisk(Syncs::None);
+  MakeFolders(*disk, wanted.Write);
+  for (const NewFile& file : FilesOf(DataWorld(wanted.DataFor(wanted.First), wanted.First)))
+    WriteNewFile(*disk, wanted.Write + "/" + file.Name, file.Contents);
+  return 0;
+}
+
 int Main(const std::vector<std::string>& words) {
   constexpr std::string_view kProgram = "grapplemont-monkey";
   const std::string usage = "usage: " + UsageOf(kProgram, "", kOptions) + "\n";
@@ -185,7 +206,8 @@ int Main(const std::vector<std::string>& words) {
     return 0;
   }
   try {
-    return PlayAll(Read(Arguments(words, kOptions, 0)));
+    const Wanted wanted = Read(Arguments(words, kOptions, 0));
+    return wanted.Write.empty() ? PlayAll(wanted) : WriteData(wanted);
   } catch (const UsageError& fault) {
     std::cerr << kProgram << ": " << fault.what() << "\n" << usage;
     return 2;

@@ -47,7 +47,7 @@ void Play(const Run& run, const CutDisk& home, Paper& paper) {
     begins = false;
     for (int click = 1; click <= run.Clicks; ++click) {
       sitting.Do(hand.Next(sitting));
-      if (click % kHomeEvery == 0) hand.GoHome(sitting);
+      if (click % kHomeEvery == 0 || hand.WantsHome(sitting.Desk())) hand.GoHome(sitting);
     }
     paper.Write("days " + std::to_string(sitting.Days()));
     paper.Write("worlds " + std::to_string(sitting.Checked()));

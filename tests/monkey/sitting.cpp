@@ -9,6 +9,7 @@
 
 #include "monkey/arranging.h"
 #include "monkey/steps.h"
+#include "monkey/worlds.h"
 #include "program/screens.h"
 #include "records/checks/checkworld.h"
 #include "support/homefolder.h"
@@ -117,7 +118,7 @@ Sitting::Sitting(const CutDisk& home, std::uint64_t seed, Limits limits, Paper& 
       seed_(seed),
       limits_(limits),
       paper_(paper),
-      desk_(paper, std::move(answers)),
+      desk_(paper, std::move(answers), limits_.Clock),
       watch_(std::make_unique<Watch>(*this)) {
   Start();
 }
@@ -127,8 +128,9 @@ Sitting::~Sitting() {
 }
 
 void Sitting::Start() {
-  Game::Options options = PlayedIn("home", seed_);
+  Game::Options options = PlayedIn(kHomeFolder, seed_);
   options.Worlds = kWorlds;
+  if (disk_.Look(kShareFolder) == Disk::Kind::Folder) options.Share = kShareFolder;
   game_ = std::make_unique<Game>(desk_, disk_, options);
   desk_.SetWork(watch_.get());
   desk_.NoteFault = [this](const std::string& fault) {
@@ -136,6 +138,9 @@ void Sitting::Start() {
       found_ = std::make_unique<FoundFault>("out of memory", fault);
   };
   RegisterScreens(*game_);
+  // What the window has beyond other shells.
+  desk_.OpenShellOptions = [] {};
+  game_->WritePdf = [](const std::string&, int) { return std::string(); };
   game_->Kept = [this](const std::vector<FileChange>&) { moved_ = true; };
   desk_.Open("frmTitleScreen");
   if (desk_.Empty()) throw FoundFault("no start", "The program does not start any more.");

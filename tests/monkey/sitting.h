@@ -27,7 +27,9 @@ using Answering = std::function<std::string(const Question& box)>;
 /// A desk whose boxes are answered by a function. Each answer goes on the paper.
 class AnsweredDesk : public ui::Desk {
  public:
-  AnsweredDesk(Paper& paper, Answering answers) : paper_(paper), answers_(std::move(answers)) {}
+  AnsweredDesk(Paper& paper, Answering answers, bool clock)
+      : paper_(paper), answers_(std::move(answers)), clock_(clock) {}
+  bool HasClock() const override { return clock_; }
   void Say(const std::string& title, const std::string& text) override;
   bool Ask(const std::string& title, const std::string& text, ui::Default answer) override;
   std::string Prompt(const std::string& title, const std::string& text,
@@ -43,6 +45,7 @@ class AnsweredDesk : public ui::Desk {
 
   Paper& paper_;
   Answering answers_;
+  bool clock_;
   int boxes_ = 0;
 };
 
@@ -59,6 +62,9 @@ class Sitting;
 /// What a sitting is held to.
 struct Limits {
   long Megabytes = 0;  // the most memory of the process; 0 for any
+  /// What looks ahead is played by threads while clicks go on, as in the window. Such a run is not
+  /// the same twice.
+  bool Clock = false;
   /// For tests of the monkey itself: runs after each step and breaks what must be noticed.
   std::function<void(Sitting& sitting)> Breaks = {};
 };

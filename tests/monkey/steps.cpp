@@ -94,8 +94,11 @@ std::string CallOf(const Step& step) {
     if (call.Takes == Argument::OnOff) line += rest == "on" ? ", true" : ", false";
     return line + ");\n";
   }
-  if (FirstWordOf(step.Line) == "table" || FirstWordOf(step.Line) == "share")
-    return "  // " + step.Line + "\n";
+  const std::string behind = Literal(Behind(step.Line));
+  if (FirstWordOf(step.Line) == "table")
+    return "  EXPECT_EQ(\"\", Arrange(*desk.Top(), " + behind + "));\n";
+  if (FirstWordOf(step.Line) == "share")
+    return "  ui::Shared(*desk.Top(), *ui::FormNamed(" + behind + "));\n";
   return "  EXPECT_EQ(\"\", ui::DoAct(desk, " + Literal(step.Line) + "));\n";
 }
 

@@ -93,11 +93,12 @@ std::string SomeNumber(Chance& chance, const ui::Control&) {
   return std::to_string(From(chance, 0, 99999));
 }
 
-constexpr Act kActs[] = {{"click", CanClick, NoWords, 6},   {"check", CanCheck, OnOrOff, 4},
-                         {"type", CanType, SomeText, 4},    {"slide", CanSlide, SomePlace, 4},
-                         {"pick", CanPick, SomeRow, 8},     {"open", CanOpen, SomeRow, 4},
-                         {"also", CanHaveMany, SomeRow, 4}, {"rows", CanHaveMany, SomeRows, 2},
-                         {"move", CanMove, TwoRows, 2},     {"table", CanArrange, SomeNumber, 1}};
+constexpr Act kActs[] = {
+    {"click", CanClick, NoWords, 6},   {"check", CanCheck, OnOrOff, 4},
+    {"type", CanType, SomeText, 4},    {"slide", CanSlide, SomePlace, 4},
+    {"pick", CanPick, SomeRow, 8},     {"open", CanOpen, SomeRow, 4},
+    {"also", CanHaveMany, SomeRow, 4}, {"rows", CanHaveMany, SomeRows, 2},
+    {"move", CanMove, TwoRows, 2},     {kArranging, CanArrange, SomeNumber, 1}};
 
 constexpr const char* kTexts[] = {"",
                                   "Pat Lee",
@@ -164,6 +165,13 @@ std::string EveryLetter() {
 
 std::span<const Act> Acts() {
   return kActs;
+}
+
+bool IsWorked(const ui::Control& control) {
+  const auto* bar = As<ui::ScrollBar>(control);
+  const bool isList = As<ui::ListBox>(control) || As<ui::ComboBox>(control);
+  return isList || (bar && !bar->Tells) || As<ui::OptionButton>(control) || CanClick(control) ||
+         CanCheck(control) || CanType(control);
 }
 
 std::string TypedText(Chance& chance, const std::string& current) {

@@ -17,6 +17,10 @@ struct Act {
   int Weight;  // how much it is liked, beside others of its screen
 };
 std::span<const Act> Acts();
+/// What is done to a table whether or not it has rows.
+inline constexpr const char* kArranging = "table";
+/// Whether the control is one that players work, whatever state it is in.
+bool IsWorked(const ui::Control& control);
 
 /// A text that somebody may type where `current` stands: what is expected there, and what is not.
 /// One line.

@@ -1,10 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cctype>
-#include <filesystem>
 #include <fstream>
-#include <set>
 
 #include "calendar/guide.h"
 #include "info/screens/glossary.h"
@@ -18,28 +14,8 @@
 namespace grapplemont::test {
 namespace {
 
-namespace fs = std::filesystem;
-
-/// All names of screens that the program's sources write.
-std::set<std::string> NamesOfScreens() {
-  constexpr std::string_view kBefore = "\"frm";
-  std::set<std::string> names;
-  for (const auto& entry : fs::recursive_directory_iterator(Checkout("/src"))) {
-    if (entry.path().extension() != ".cpp") continue;
-    std::ifstream in(entry.path());
-    const std::string text{std::istreambuf_iterator<char>(in), {}};
-    for (auto at = text.find(kBefore); at != text.npos; at = text.find(kBefore, at + 1)) {
-      std::string name = text.substr(at + 1, text.find('"', at + 1) - at - 1);
-      if (name.size() > 3 &&
-          std::all_of(name.begin(), name.end(), [](char c) { return std::isalnum(c); }))
-        names.insert(std::move(name));
-    }
-  }
-  return names;
-}
-
 TEST(Help, HasAnEntryForEveryScreen) {
-  const auto names = NamesOfScreens();
+  const auto names = ScreenNames();
   EXPECT_GT(names.size(), 100U);
   for (const std::string& name : names)
     EXPECT_TRUE(name == "frmHelp" || HasHelp(name)) << name << ": words/help.txt lacks it";

@@ -47,17 +47,29 @@ std::string TextFor(Dice& dice, const Field& field) {
   return RandomText(dice, field.Width);
 }
 
-long long NumberFor(Dice& dice, const Field& field) {
+/// Ordinary: numbers and references mostly lead somewhere. Hostile: files are full, numbers stand
+/// at their ends, and half of the references lead anywhere.
+enum class Manner { Ordinary, Hostile };
+
+int ReferenceFor(Dice& dice, const Field& field, Manner manner) {
+  constexpr int kWildest = 32768;
+  if (manner == Manner::Ordinary) return dice.From(0, field.To == Refers::Worker ? 70 : 12);
+  if (dice.OneIn(2)) return dice.From(-kWildest, kWildest - 1);
+  return dice.From(0, field.To == Refers::Worker ? LayoutOf<Worker>().Limit : 12);
+}
+
+long long NumberFor(Dice& dice, const Field& field, Manner manner) {
   if (field.Kind == FieldKind::Flag) return dice.OneIn(2) ? -1 : 0;
   if (!field.Words.empty()) return RandomTerm(dice, field.Words).Code;
   if (field.MayBeNone && dice.OneIn(4)) return kNoEnd;
-  if (field.To != Refers::Nothing) return dice.From(0, field.To == Refers::Worker ? 70 : 12);
+  if (field.To != Refers::Nothing) return ReferenceFor(dice, field, manner);
   const auto least = static_cast<int>(std::max(field.Min, -2000000000LL));
   const auto most = static_cast<int>(std::min(field.Max, 2000000000LL));
-  return dice.OneIn(5) ? (dice.OneIn(2) ? least : most) : dice.From(least, most);
+  const bool atEnd = dice.OneIn(manner == Manner::Hostile ? 1 : 5);
+  return atEnd ? (dice.OneIn(2) ? least : most) : dice.From(least, most);
 }
 
-void Fill(Dice& dice, const Field& field, int index, std::byte* record) {
+void Fill(Dice& dice, const Field& field, int index, std::byte* record, Manner manner) {
   switch (field.Kind) {
     case FieldKind::Text:
       return SetFieldText(field, record, index, TextFor(dice, field));
@@ -65,20 +77,21 @@ void Fill(Dice& dice, const Field& field, int index, std::byte* record) {
       return SetFieldDate(field, record, index,
                           dice.OneIn(4) ? 0 : dice.From(-600000, 2900000) + 0.25 * dice.From(0, 3));
     default:
-      return SetFieldNumber(field, record, index, NumberFor(dice, field));
+      return SetFieldNumber(field, record, index, NumberFor(dice, field, manner));
   }
 }
 
 template <class T>
-void FillFile(Dice& dice, Records<T>& records) {
+void FillFile(Dice& dice, Records<T>& records, Manner manner) {
   const RecordLayout& layout = LayoutOf<T>();
   const Share& share = *std::find_if(std::begin(kShares), std::end(kShares),
                                      [&](const Share& s) { return s.File == layout.File; });
-  records.Rewrite(std::vector<T>(static_cast<std::size_t>(dice.From(share.Least, share.Most))));
+  const int count = manner == Manner::Hostile ? layout.Limit : dice.From(share.Least, share.Most);
+  records.Rewrite(std::vector<T>(static_cast<std::size_t>(count)));
   for (T& record : records.Any()) {
     auto* bytes = reinterpret_cast<std::byte*>(&record);
     for (const Field& field : layout.Fields)
-      for (int index = 0; index < field.Count; ++index) Fill(dice, field, index, bytes);
+      for (int index = 0; index < field.Count; ++index) Fill(dice, field, index, bytes, manner);
     if constexpr (requires { record.Uid; })
       record.Uid = dice.OneIn(10) ? dice.From(1, 32767) : records.NumberOf(record);
     if constexpr (std::is_same_v<T, Stable>)
@@ -111,6 +124,18 @@ void BringTogether(Dice& dice, World& world) {
   }
 }
 
+World Made(std::uint64_t seed, Manner manner) {
+  Dice dice(seed);
+  World world;
+  const auto fill = [&](auto&... records) { (FillFile(dice, records, manner), ...); };
+  fill(world.Promotions(), world.Workers(), world.AllStaff(), world.Teams(), world.Stables(),
+       world.Titles(), world.Shows(), world.Networks(), world.Sponsors(), world.Events());
+  BringTogether(dice, world);
+  MendWorld(world);
+  world.MarkCommitted();
+  return world;
+}
+
 }  // namespace
 
 int Dice::From(int least, int most) {
@@ -119,15 +144,11 @@ int Dice::From(int least, int most) {
 }
 
 World RandomData(std::uint64_t seed) {
-  Dice dice(seed);
-  World world;
-  const auto fill = [&](auto&... records) { (FillFile(dice, records), ...); };
-  fill(world.Promotions(), world.Workers(), world.AllStaff(), world.Teams(), world.Stables(),
-       world.Titles(), world.Shows(), world.Networks(), world.Sponsors(), world.Events());
-  BringTogether(dice, world);
-  MendWorld(world);
-  world.MarkCommitted();
-  return world;
+  return Made(seed, Manner::Ordinary);
+}
+
+World HostileData(std::uint64_t seed) {
+  return Made(seed, Manner::Hostile);
 }
 
 void Scramble(Dice& dice, const Field& field, int index, std::byte* record) {

@@ -24,6 +24,9 @@ class Dice {
 /// any letter, references to anybody; then mended, so that CheckWorld passes it. The same for the
 /// same seed.
 World RandomData(std::uint64_t seed);
+/// The same with every file as full as may be (25,000 workers), every number at one of its ends and
+/// half of the references leading anywhere before it was mended.
+World HostileData(std::uint64_t seed);
 
 /// Sets one field of the record to a value drawn from all that its bytes can hold.
 void Scramble(Dice& dice, const Field& field, int index, std::byte* record);
