@@ -6,6 +6,7 @@
 #include "business/finance.h"
 #include "calendar/advanceday.h"
 #include "calendar/desktiles.h"
+#include "records/modWresCheck.h"
 #include "roster/market.h"
 #include "roster/talks.h"
 #include "support/gameonworld.h"
@@ -139,6 +140,25 @@ TEST(SmallMonth, PostersMayBeRainedOffAndMoneyAndSizeSetLimits) {
   EXPECT_NE(WhyNotVenture(world, Venture::Benefit, 0), "");
   EXPECT_EQ(VenturesLeft(world), 0);
   EXPECT_TRUE(LocalRumours(world).empty());
+}
+
+TEST(LocalRumours, AreToldWhileTheyAreTrue) {
+  World world = Backyard();
+  Worker& ed = Named(world.Workers(), "Ed Stone");
+  Promotion& neighbour = Named(world.Promotions(), "NEW");
+  const auto leadTo = [&] {
+    Row pages;
+    for (const LocalRumour& rumour : LocalRumours(world))
+      pages.push_back(rumour.Worker == 0 ? rumour.Screen : WorkerName(world, rumour.Worker));
+    return pages;
+  };
+  ed.Morale = 39;
+  neighbour.Money = -250000;
+  EXPECT_EQ(leadTo(), (Row{"frmFedSponsor", "Flo Reed", "Ed Stone", "frmOtherFed"}));
+  ed.Morale = 40;
+  neighbour.Money = -249999;
+  Named(world.Workers(), "Flo Reed").Status = "Inj";
+  EXPECT_EQ(leadTo(), Row{"frmFedSponsor"});
 }
 
 TEST(MonthScreen, OffersVenturesWithTheirPricesAndRumoursThatLeadSomewhere) {
