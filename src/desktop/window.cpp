@@ -268,13 +268,6 @@ void Window::Act(const std::function<std::string()>& act) {
   if (desk_.Empty() || closing_) QTimer::singleShot(0, this, [this] { close(); });
 }
 
-/// What was typed or clicked while a page was long in coming was meant for the one before.
-void Window::DropInput() {
-  busy_ = true;
-  QApplication::processEvents();
-  busy_ = false;
-}
-
 int Window::AnswerOf(const std::string& title, const std::string& text, const QStringList& captions,
                      int usual, std::string* line) {
   if (closing_) return 0;
@@ -324,11 +317,6 @@ void Window::RepaintNow() {
   QApplication::processEvents();
   busy_ = false;
   lastPaint_.start();
-}
-
-void Window::Hear(ui::Sound sound) {
-  if (settings_.Sounds() && options_.Play && heard_.insert(sound).second)
-    options_.Play(sound, settings_.Volume());
 }
 
 /// It was said of another page, or drawn for another look.

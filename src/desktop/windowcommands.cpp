@@ -161,6 +161,11 @@ void Window::SetStill(bool still) {
 }
 
 /// What has been turned on or made louder is heard at once.
+void Window::Hear(ui::Sound sound) {
+  if (settings_.Sounds() && options_.Play && heard_.insert(sound).second)
+    options_.Play(sound, settings_.Volume());
+}
+
 void Window::SetSounds(bool on) {
   settings_.SetSounds(on);
   heard_.clear();

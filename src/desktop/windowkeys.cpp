@@ -184,6 +184,13 @@ bool Window::SwallowWhileBusy(QObject* watched, QEvent* event) {
   return std::ranges::find(kInput, event->type()) != std::end(kInput);
 }
 
+/// What was typed or clicked while a page was long in coming was meant for the one before.
+void Window::DropInput() {
+  busy_ = true;
+  QApplication::processEvents();
+  busy_ = false;
+}
+
 bool Window::eventFilter(QObject* watched, QEvent* event) {
   if (busy_ && SwallowWhileBusy(watched, event)) return true;
   if (event->type() != QEvent::KeyPress || !watched->isWidgetType())

@@ -7,6 +7,7 @@
 #include "business/past.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
+#include "records/modWresCheck.h"
 #include "records/score.h"
 
 namespace grapplemont {
@@ -143,6 +144,21 @@ std::string FlatNightText(const Morning& morning) {
          "have come to " +
          NumberText(kNoteRating, without) + ", " + Counted(without - rating->After(), "point") +
          " more.";
+}
+
+std::string WhoWon(const World& world, const ShowNote& won) {
+  const Title* title = FindTitle(world, won.What);
+  return title && title->Singles && won.Worker != 0 ? WorkerName(world, won.Worker) : won.Why.Str();
+}
+
+std::string WhyTitleMoved(const World& world, const Morning& morning, const NotedNumber& image) {
+  const ShowNote& last = *image.Steps.back();
+  const auto taken = morning.AllOf(kNoteTitle);
+  const Title* title = FindTitle(world, image.What);
+  const bool isKept =
+      last.Row != 0 && title && title->Holder != 0 &&
+      std::ranges::none_of(taken, [&](const NotedNumber* won) { return won->What == image.What; });
+  return (isKept ? "kept; " : "") + last.Why.Str();
 }
 
 std::string Signed(long long change) {

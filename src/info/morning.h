@@ -39,6 +39,11 @@ std::vector<PersonMoved> PeopleMoved(const Morning& morning);
 /// The numbers of one worker.
 std::vector<const NotedNumber*> NumbersOf(const Morning& morning, std::string_view who);
 
+/// Who has won a Title, by what was noted of it; of a team all that was noted.
+std::string WhoWon(const World& world, const ShowNote& won);
+/// Why its image moved. A champion who was in a row for it and has not lost it has kept it.
+std::string WhyTitleMoved(const World& world, const Morning& morning, const NotedNumber& image);
+
 /// "6 points short of a better step" or "The image can take no better step."
 std::string BandText(const Morning& morning);
 /// What the better step would have taken in the sum of the ratings; empty where there is none.

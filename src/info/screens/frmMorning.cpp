@@ -5,7 +5,6 @@
 #include "info/morning.h"
 #include "info/screens/infotables.h"
 #include "info/screens/pastscreens.h"
-#include "records/modWresCheck.h"
 #include "show/recap.h"
 #include "storylines/screens/screenpeople.h"
 #include "ui/game.h"
@@ -212,9 +211,13 @@ class frmMorning : public GameScreen {
       const ShowNote& last = *number.Steps.back();
       const int key = static_cast<int>(i) + 1;
       if (number.Kind == kNoteTitle)
-        titles.push_back({{number.What, WonCell(last), Alone(last.Why.View())}, key});
+        titles.push_back(
+            {{number.What, ui::Cell(WhoWon(world(), last), ui::Tone::Gold), Alone(last.Why.View())},
+             key});
       if (number.Kind == kNoteTitleImage)
-        titles.push_back({{number.What, ImageCell(number), Alone(WhyImage(number))}, key});
+        titles.push_back(
+            {{number.What, ImageCell(number), Alone(WhyTitleMoved(world(), morning_, number))},
+             key});
       if (number.Kind == kNoteHeat) feuds.push_back({{number.What, Moved(number)}, key});
       if (number.Kind == kNoteFeudEnd)
         feuds.push_back({{number.What, ui::Cell("Ended", ui::Tone::Gold)}, key});
@@ -229,28 +232,9 @@ class frmMorning : public GameScreen {
     lsthurt.Fill(std::move(hurt));
   }
 
-  /// Who has won it; of a team all that was noted.
-  ui::Cell WonCell(const ShowNote& won) {
-    const auto* title = FindTitle(world(), won.What);
-    const bool isAlone = title && title->Singles && won.Worker != 0;
-    return {isAlone ? WorkerName(world(), won.Worker) : won.Why.Str(), ui::Tone::Gold};
-  }
-
   static ui::Cell ImageCell(const NotedNumber& number) {
     return number.Change() == 0 ? ui::Cell(number.After(), "Unchanged", ui::Tone::Muted)
                                 : Moved(number);
-  }
-
-  /// A champion who was in a row for the Title and has not lost it has kept it.
-  std::string WhyImage(const NotedNumber& number) {
-    const ShowNote& last = *number.Steps.back();
-    const auto taken = morning_.AllOf(kNoteTitle);
-    const auto* title = FindTitle(world(), number.What);
-    const bool isKept = last.Row != 0 && title && title->Holder != 0 &&
-                        std::ranges::none_of(taken, [&](const NotedNumber* won) {
-                          return won->What == number.What;
-                        });
-    return (isKept ? "kept; " : "") + last.Why.Str();
   }
 
   static ui::Cell Moved(const NotedNumber& number) {
