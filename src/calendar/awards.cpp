@@ -1,7 +1,6 @@
 #include "calendar/awards.h"
 
 #include <algorithm>
-#include <array>
 #include <bitset>
 #include <map>
 #include <optional>
@@ -9,6 +8,7 @@
 
 #include "business/finance.h"
 #include "business/past.h"
+#include "calendar/feudyears.h"
 #include "halls/yearbook.h"
 #include "records/fields/fields.h"
 #include "records/fields/wording.h"
@@ -24,7 +24,7 @@ constexpr const char* kJury = "Year's Awards";
 /// What a year's rise in Over and a year with a Title of full renown may add to a worker's own
 /// Over.
 constexpr int kMostGain = 20, kMostRenown = 20;
-constexpr int kFewestFeudMatches = 3, kLeastImprovement = 5;
+constexpr int kLeastImprovement = 5;
 
 /// The days of a year on which somebody held a Title, or two of them.
 using DaysOfYear = std::bitset<366>;
@@ -45,6 +45,9 @@ class Year {
   }
 
   const World& Of() const { return world_; }
+  Day From() const { return from_; }
+  /// Behind its last day.
+  Day Until() const { return until_; }
   bool Has(Day day) const { return from_ <= day && day < until_; }
   bool Has(const HistoryEntry& entry) const { return Has(Day(entry.On)); }
 
@@ -241,56 +244,9 @@ std::optional<YearAward> BestShow(const Year& year) {
                       ", seen by " + Counted(best->Attendance, "person", "people"));
 }
 
-/// A feud's matches of the year.
-struct FeudYear {
-  std::array<int, 4> Parties{};
-  std::vector<int> Ratings;  // the best first once they are added up
-  int Best = 0;              // the sum of the best three
-};
-
-/// Pairs stand in a feud one after the other; a place is empty where its man has left the world.
-bool IsBetweenPairs(const std::array<int, 4>& parties) {
-  return parties[2] != 0 || parties[3] != 0;
-}
-
-bool HasTwoSides(const std::array<int, 4>& parties) {
-  const bool first = parties[0] != 0, second = parties[1] != 0;
-  return IsBetweenPairs(parties) ? first || second : first && second;
-}
-
-std::vector<FeudYear> FeudsOf(const Year& year) {
-  std::vector<FeudYear> feuds;
-  for (const HeldMatch& bout : year.Of().Bouts()) {
-    const std::array<int, 4> parties = {bout.Feud[0], bout.Feud[1], bout.Feud[2], bout.Feud[3]};
-    if (!year.Has(Day(bout.On)) || !HasTwoSides(parties)) continue;
-    auto feud = std::ranges::find_if(
-        feuds, [&](const FeudYear& known) { return known.Parties == parties; });
-    if (feud == feuds.end()) feud = feuds.insert(feuds.end(), {parties, {}, 0});
-    feud->Ratings.push_back(bout.Rating);
-  }
-  for (FeudYear& feud : feuds) {
-    std::sort(feud.Ratings.rbegin(), feud.Ratings.rend());
-    for (std::size_t i = 0; i < feud.Ratings.size() && i < kFewestFeudMatches; ++i)
-      feud.Best += feud.Ratings[i];
-  }
-  return feuds;
-}
-
-std::string FeudName(const World& world, const std::array<int, 4>& parties) {
-  if (!IsBetweenPairs(parties))
-    return WorkerName(world, parties[0]) + " vs " + WorkerName(world, parties[1]);
-  const auto pair = [&](int one, int two) {
-    if (one == 0 || two == 0) return WorkerName(world, one == 0 ? two : one);
-    const std::string team = TeamNameOf(world, one, two);
-    return team != "None" ? team
-                          : WorkerShortName(world, one) + " \\ " + WorkerShortName(world, two);
-  };
-  return pair(parties[0], parties[1]) + " vs " + pair(parties[2], parties[3]);
-}
-
 /// By the three best matches, then by how many there were; of those alike the first.
 std::optional<YearAward> BestFeud(const Year& year) {
-  const std::vector<FeudYear> feuds = FeudsOf(year);
+  const std::vector<FeudYear> feuds = FeudYears(year.Of(), year.From(), year.Until());
   Merit most{};
   const FeudYear* best = Best(feuds, most, [](const FeudYear& feud) {
     const int matches = static_cast<int>(feud.Ratings.size());
@@ -298,7 +254,7 @@ std::optional<YearAward> BestFeud(const Year& year) {
   });
   if (!best) return std::nullopt;
   YearAward award =
-      NewAward(year, kFeudOfTheYear, year.Of().PlayerUid(), FeudName(year.Of(), best->Parties),
+      NewAward(year, kFeudOfTheYear, year.Of().PlayerUid(), FeudName(year.Of(), *best),
                Counted(std::ssize(best->Ratings), "match", "matches") + ", the best rated " +
                    std::to_string(best->Ratings[0]) + "%");
   award.Worker = best->Parties[0];
