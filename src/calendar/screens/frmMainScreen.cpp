@@ -71,7 +71,7 @@ class frmMainScreen : public ui::Screen {
     page.Cancel = &cmdquit;
     // What is due stands first: in a small window the rest lies below its edge.
     page.Body = ui::Rows({guide_.Layout(), Due().Grow(5), figures_.Layout(),
-                          cards_.Stories().Grow(2), cards_.PeopleAndLines().Grow(2)});
+                          cards_.People().Grow(2), cards_.Standing().Grow(2)});
     return page;
   }
 

@@ -16,8 +16,8 @@ using K = ui::ColumnKind;
 /// How many month ends the lines go back.
 constexpr std::size_t kMonthsShown = 12;
 
-/// What a card needs beside others, in letters.
-constexpr int kLettersOfStories = 45, kLettersOfCard = 30;
+/// What a feud or a chart needs beside others.
+constexpr int kLettersOfCard = 30;
 
 /// What keeps somebody away, in a word or two.
 ui::Cell AwayCell(const Worker& worker) {
@@ -53,8 +53,7 @@ DeskCards::DeskCards(ui::Screen& screen, Game& game)
                    {{.Title = "Title",
                      .Width = 5,
                      .Draws = [this](int number) { return PlateAt(world(), number); }},
-                    {"Champion", K::Text, 5},
-                    {.Title = "Image", .Kind = K::Number, .Width = 1, .Term = "Title image"}},
+                    {"Champion", K::Text, 5}},
                    ui::Handler{}, [this] { game_.Desk().Open("frmBelts"); }),
       lstfeuds(screen, "lstfeuds", {{"Feud", K::Text, 6}, {"Heat", K::Percent, 4}}, ui::Handler{},
                [this] { game_.Desk().Open("frmFeuds"); }),
@@ -77,26 +76,26 @@ DeskCards::DeskCards(ui::Screen& screen, Game& game)
   for (ui::ListBox* list : {&lsthurt, &lstunhappy, &lstcontracts}) list->Least = 1;
 }
 
-ui::Box DeskCards::Stories() {
-  return ui::Columns({ui::Group("Champions", {ui::Grow(lstchampions)}).Grow(),
-                      ui::Group("Hottest feuds", {ui::Grow(lstfeuds)}).Grow()})
-      .Wide(kLettersOfStories);
-}
-
-ui::Box DeskCards::PeopleAndLines() {
+ui::Box DeskCards::People() {
   return ui::Columns({ui::Group("Hurt and worn", {ui::Grow(lsthurt)}).Grow(),
                       ui::Group("Unhappy", {ui::Grow(lstunhappy)}).Grow(),
-                      ui::Group("Contracts that end", {ui::Grow(lstcontracts)}).Grow(),
-                      ui::Group("Image", {ui::Grow(chtimage)}).Grow(),
-                      ui::Group("Money", {ui::Grow(chtmoney)}).Grow()})
+                      ui::Group("Contracts that end", {ui::Grow(lstcontracts)}).Grow()});
+}
+
+ui::Box DeskCards::Standing() {
+  // Names need more room than lines.
+  return ui::Columns({ui::Group("Champions", {ui::Grow(lstchampions)}).Grow(5),
+                      ui::Group("Hottest feuds", {ui::Grow(lstfeuds)}).Grow(3),
+                      ui::Group("Image", {ui::Grow(chtimage)}).Grow(2),
+                      ui::Group("Money", {ui::Grow(chtmoney)}).Grow(2)})
       .Wide(kLettersOfCard);
 }
 
 void DeskCards::ShowStories() {
   std::vector<ui::ListBox::Row> champions, feuds;
   for (const Title* title : HeldTitles(world())) {
-    champions.push_back({{title->Name.View(), ChampionText(world(), *title), int(title->Image)},
-                         world().Titles().NumberOf(*title)});
+    champions.push_back(
+        {{title->Name.View(), ChampionText(world(), *title)}, world().Titles().NumberOf(*title)});
   }
   for (const Feud* feud : HottestFeuds(world())) {
     const FeudSides sides = SidesOf(*feud);

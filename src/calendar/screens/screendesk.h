@@ -12,10 +12,10 @@ namespace grapplemont {
 class DeskCards {
  public:
   DeskCards(ui::Screen& screen, Game& game);
-  /// Champions and feuds.
-  ui::Box Stories();
-  /// Who wants looking at, and the lines of image and money.
-  ui::Box PeopleAndLines();
+  /// Who wants looking at.
+  ui::Box People();
+  /// Champions, feuds and the lines of image and money.
+  ui::Box Standing();
   void Show();
 
  private:
