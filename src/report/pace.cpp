@@ -15,9 +15,9 @@ namespace grapplemont {
 namespace {
 
 constexpr int kMiddle = 50;
-constexpr int kForLast = 6, kForTitle = 5, kForEvent = 3, kForCareer = 10;
+constexpr int kForLast = 6, kForTitle = 4, kForEvent = 3, kForCareer = 10;
 constexpr int kPerHeat = 14, kPerOver = 8;
-constexpr double kPerSpread = 26, kMostSpreads = 2, kLeastSpread = 4;
+constexpr double kPerSpread = 27, kMostSpreads = 2, kLeastSpread = 4;
 /// Where fewer have been rated, so many are made up, around what the roster's mean lets expect of
 /// those who are booked.
 constexpr int kBoutsToJudgeBy = 60, kFewBouts = 12, kMadeUp = 6, kMadeUpSpread = 8;

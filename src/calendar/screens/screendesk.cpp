@@ -49,11 +49,7 @@ const CellColumns<Worker> kEnding = {
 
 DeskCards::DeskCards(ui::Screen& screen, Game& game)
     : game_(game),
-      lstchampions(screen, "lstchampions",
-                   {{.Title = "Title",
-                     .Width = 5,
-                     .Draws = [this](int number) { return PlateAt(world(), number); }},
-                    {"Champion", K::Text, 5}},
+      lstchampions(screen, "lstchampions", {{"Title", K::Text, 5}, {"Champion", K::Text, 5}},
                    ui::Handler{}, [this] { game_.Desk().Open("frmBelts"); }),
       lstfeuds(screen, "lstfeuds", {{"Feud", K::Text, 6}, {"Heat", K::Percent, 4}}, ui::Handler{},
                [this] { game_.Desk().Open("frmFeuds"); }),
