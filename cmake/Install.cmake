@@ -5,9 +5,12 @@
 set(packaging ${PROJECT_SOURCE_DIR}/packaging)
 set(id org.grapplemont.Grapplemont)
 
-# Where the project is at home on the web: what leads there is left out while nothing is named.
-set(GRAPPLEMONT_HOMEPAGE "" CACHE STRING "The project's page, without a slash at its end")
-set(GRAPPLEMONT_PICTURES "" CACHE STRING "Where the pictures of docs/pictures are on the web")
+# Where the project is at home on the web: what leads there is left out while nothing is named. The
+# environment can name it, too, which scripts that build pass on.
+set(GRAPPLEMONT_HOMEPAGE "$ENV{GRAPPLEMONT_HOMEPAGE}" CACHE STRING
+    "The project's page, without a slash at its end")
+set(GRAPPLEMONT_PICTURES "$ENV{GRAPPLEMONT_PICTURES}" CACHE STRING
+    "Where the pictures of docs/pictures are on the web")
 set(homepage "")
 set(screenshots "")
 if(GRAPPLEMONT_HOMEPAGE)
