@@ -13,9 +13,15 @@ namespace grapplemont {
 
 namespace {
 
+/// With room for what a month brings, so that the first new one does not move thousands.
 template <class T>
 std::vector<T> AllOf(const World& world) {
-  return {world.Of<T>().begin(), world.Of<T>().end()};
+  const Records<T>& held = world.Of<T>();
+  const auto count = static_cast<std::size_t>(held.Count());
+  std::vector<T> all;
+  all.reserve(count + count / 16 + 64);
+  all.assign(held.begin(), held.end());
+  return all;
 }
 
 long long KeyOfPair(int one, int two) {
@@ -84,6 +90,7 @@ void Ledger::Index() {
     tenureBefore_.push_back(place < 0 ? -1 : lastTenure_[static_cast<std::size_t>(place)]);
     if (place >= 0) lastTenure_[static_cast<std::size_t>(place)] = number;
   }
+  pairs_.reserve(Pairs.capacity());
   for (std::size_t i = 0; i < Pairs.size(); ++i)
     pairs_.emplace(KeyOfPair(Pairs[i].One, Pairs[i].Two), static_cast<int>(i));
   for (std::size_t i = 0; i < Feats.size(); ++i)
