@@ -127,6 +127,7 @@ constexpr FamilyRow kRows[] = {
     {Speech, "talk", "TmV", "", kSpeeches, 2},
     {SpeechAgain, "talk", "T", "T", kOne, 3},
     {TalkClosing, "talk", "TV", "", Named<kVerbalAttack, kTalkNone>(), 2},
+    {TalkPast, "memory", "FSm", "", Named<kHurtAndBack, kHitAgain>(), 8},
     {AngleText, "angles", "1234FSOG", "", {1, kAngles, AngleName}, 2},
     {Chapter, "chronicle", "FSXG", "", kTellings, 6},
     {Verdict, "verdicts", "", "", kVerdicts, 2, false, kTolland},

@@ -96,6 +96,7 @@ enum class Family {
   Speech,
   SpeechAgain,  // {T} has nothing to add to what the show has heard
   TalkClosing,
+  TalkPast,  // what lies behind an interview or an angle
   AngleText,
   Chapter,  // of a chronicle, by what it tells
   // The second reporter's ratings.
@@ -256,6 +257,28 @@ enum PastOutcome {
   kWentTooFar,    // {F} is badly hurt
   kPerfectMatch,  // behind the rating
   kYearStands     // as December's Event closes, and none was better than that of {F} and {S}
+};
+/// Bands of TalkPast. {F} is whom it is about, {S} the others.
+enum TalkRecalls {
+  kHurtAndBack,      // {F}, hurt {when}
+  kCrownLost,        // {F} lost {title} {when}, to {S} if anybody
+  kCrownWon,         // {F} won {title} {when}, from {S} if anybody
+  kWasHit,           // {F} by {S}, {when}
+  kHasHit,           // {F} struck {S}, {when}
+  kChangedWays,      // {F} turned {when}, or meant to
+  kSaidAndDid,       // {F} told {S} {when}, and has won since
+  kSaidAndDidNot,    // the same, and has lost
+  kManagerWasRight,  // {m} told {S} {when} what {F} would do, who has won since
+  kManagerWasWrong,  // the same, and {F} has lost
+  kTheyAteIt,        // {S} told {F} {when}, and {F} has won since
+  kRunBroken,        // {F} won {count} in a row, and lost {when}, to {S} if it was one
+  kSlumpBroken,      // the same of losses
+  kSignedTogether,   // {F} and {S}, {when}, for a match that is still to come
+  kCalledOut,        // {F} challenged {S} {when}; they have not met since
+  kSpoke,            // {F} spoke about {S} {when}; the same
+  kLastMet,          // {F} beat {S} {when}
+  kHitBack,          // {F} has just struck {S}, who struck them {when}
+  kHitAgain          // {F} has just struck {S}, as {when}
 };
 /// Bands of Interlude. {a} and {d} as in the step before.
 enum InterludeKind {

@@ -17,16 +17,22 @@ bool IsOneOf(const std::vector<int>& uids, int uid) {
   return std::find(uids.begin(), uids.end(), uid) != uids.end();
 }
 
-/// Whether a match was between these two sides; 1 or 2 for the side whose people come first.
-int FirstSide(const HeldMatch& bout, const std::vector<int>& one, const std::vector<int>& two) {
-  const auto holds = [&](std::size_t from, const std::vector<int>& side) {
-    for (std::size_t i = 0; i < side.size(); ++i)
-      if (!IsOneOf(side, bout.Worker[from + i])) return false;
+/// The side of a match between as many whose people these are, from 1; 0 for neither.
+int SideIn(const HeldMatch& bout, const std::vector<int>& uids) {
+  const auto isAt = [&](std::size_t from) {
+    for (std::size_t i = 0; i < uids.size(); ++i)
+      if (!IsOneOf(uids, bout.Worker[from + i])) return false;
     return true;
   };
-  if (one.size() != two.size() || one.empty()) return 0;
-  if (holds(0, one)) return holds(one.size(), two) ? 1 : 0;
-  return holds(0, two) && holds(one.size(), one) ? 2 : 0;
+  if (uids.empty() || 2 * uids.size() > bout.Worker.size()) return 0;
+  return isAt(0) ? 1 : isAt(uids.size()) ? 2 : 0;
+}
+
+/// Whether a match was between these two sides; 1 or 2 for the side whose people come first.
+int FirstSide(const HeldMatch& bout, const std::vector<int>& one, const std::vector<int>& two) {
+  if (one.size() != two.size()) return 0;
+  const int side = SideIn(bout, one);
+  return side != 0 && SideIn(bout, two) == 3 - side ? side : 0;
 }
 
 /// Of the player's, between two or four, and of the present year.
@@ -112,19 +118,63 @@ bool HaveFoughtFor(const World& world, std::string_view title, const std::vector
   return false;
 }
 
-int RunOf(const World& world, int uid) {
+namespace {
+
+/// Whether a match counts for a run: of the player's, and no crowd's.
+bool CountsInARun(const World& world, const HeldMatch& bout, int uid) {
+  const auto* end = bout.Worker.begin() + 8;
+  return bout.Style != kSpecial && bout.Promotion == world.PlayerUid() &&
+         std::find(bout.Worker.begin(), end, uid) != end;
+}
+
+}  // namespace
+
+int RunOf(const World& world, int uid, int without) {
   int run = 0;
   for (const int number : std::views::reverse(MatchesWith(world, uid))) {
     const HeldMatch& bout = world.Bouts()[number];
-    if (bout.Style == kSpecial || bout.Promotion != world.PlayerUid()) continue;
-    const auto* end = bout.Worker.begin() + 8;
-    const auto* at = std::find(bout.Worker.begin(), end, uid);
-    if (at == end) continue;
-    const bool won = at - bout.Worker.begin() < bout.Winners;
+    if (!CountsInARun(world, bout, uid) || without-- > 0) continue;
+    const bool won = HasWon(bout, {uid});
     if (bout.Winners == 0 || (run != 0 && (run > 0) != won)) return run;
     run += won ? 1 : -1;
   }
   return run;
+}
+
+const HeldMatch* LastInTheRun(const World& world, int uid) {
+  for (const int number : std::views::reverse(MatchesWith(world, uid)))
+    if (const HeldMatch& bout = world.Bouts()[number]; CountsInARun(world, bout, uid)) return &bout;
+  return nullptr;
+}
+
+std::vector<const HeldMatch*> MatchesBetween(const World& world, const std::vector<int>& one,
+                                             const std::vector<int>& two, Day since, int row) {
+  std::vector<const HeldMatch*> met;
+  if (one.empty() || one.size() > 2) return met;
+  const int style = one.size() == 1 ? kSingles : kTag;
+  for (const int number : std::views::reverse(MatchesWith(world, one[0]))) {
+    const HeldMatch& bout = world.Bouts()[number];
+    if (std::pair(Day(bout.On), int(bout.Row)) <= std::pair(since, row)) break;
+    if (bout.Style == style && bout.Promotion == world.PlayerUid() &&
+        (two.empty() ? SideIn(bout, one) : FirstSide(bout, one, two)) != 0)
+      met.push_back(&bout);
+  }
+  return met;
+}
+
+bool HasWon(const HeldMatch& bout, const std::vector<int>& side) {
+  const auto* end = bout.Worker.begin() + int(bout.Winners);
+  return !side.empty() && std::find(bout.Worker.begin(), end, side[0]) != end;
+}
+
+std::vector<int> OpponentsIn(const HeldMatch& bout, const std::vector<int>& side) {
+  std::vector<int> others;
+  const int own = SideIn(bout, side);
+  if (own == 0) return others;
+  const std::size_t from = own == 1 ? side.size() : 0;
+  for (std::size_t i = 0; i < side.size(); ++i)
+    if (const int uid = bout.Worker[from + i]; uid != 0) others.push_back(uid);
+  return others;
 }
 
 }  // namespace grapplemont

@@ -17,7 +17,7 @@ namespace {
 using Uids = std::vector<int>;
 
 constexpr int kLately = 60, kLongApart = 365, kAMonth = 28, kSlotIsYoung = 180;
-constexpr int kALead = 3, kTooMany = 8, kFifty = 50, kARun = 5, kSeasoned = 8, kGreen = 8;
+constexpr int kALead = 3, kTooMany = 8, kFifty = 50, kSeasoned = 8, kGreen = 8;
 constexpr int kALongReign = 100, kANewReign = 15, kAReturn = 180;  // days
 constexpr int kAway = 60, kYoung = 25;
 constexpr int kPerfect = 100;
@@ -38,14 +38,6 @@ bool HasBegun(const Teller& teller, const TitleReign& reign) {
 
 int MatchesOf(const MatchTally* tally) {
   return tally ? tally->Won + tally->Lost + tally->Drawn : 0;
-}
-
-/// On a card of the last five weeks, whatever they did there.
-bool WasOnACard(const World& world, int uid) {
-  return std::any_of(world.KeptRows().begin(), world.KeptRows().end(), [&](const KeptRow& kept) {
-    const int days = DaysAgo(world, kept.On);
-    return !kept.IsDraft && days > 0 && days < kAway && IsAmong(EverybodyOf(kept.Booked), uid);
-  });
 }
 
 /// Whether they hold another Title, or have ever held one.
@@ -299,6 +291,13 @@ bool IsDeadly(const Segment& segment) {
 }
 
 }  // namespace
+
+bool WasOnACard(const World& world, int uid) {
+  return std::any_of(world.KeptRows().begin(), world.KeptRows().end(), [&](const KeptRow& kept) {
+    const int days = DaysAgo(world, kept.On);
+    return !kept.IsDraft && days > 0 && days < kAway && IsAmong(EverybodyOf(kept.Booked), uid);
+  });
+}
 
 std::vector<PastFact> LookBack(Teller& teller) {
   return Look(teller).Facts();

@@ -10,6 +10,7 @@
 
 namespace grapplemont {
 
+struct Segment;
 class World;
 
 /// In no order.
@@ -38,11 +39,33 @@ bool HaveSharedARing(const World& world, const std::vector<int>& one, const std:
 /// Whether any of these has had a match for the Title on the player's shows since that day.
 bool HaveFoughtFor(const World& world, std::string_view title, const std::vector<int>& any,
                    Day since);
-/// The worker's matches won in a row up to now; below 0 those lost; a draw ends either.
-int RunOf(const World& world, int uid);
+/// From here on wins or losses in a row are worth a word.
+inline constexpr int kARun = 5;
+/// The worker's matches won in a row up to now, the last `without` of them left out; below 0 those
+/// lost; a draw ends either.
+int RunOf(const World& world, int uid, int without = 0);
+/// The last match that counts for it; nullptr for none.
+const HeldMatch* LastInTheRun(const World& world, int uid);
+/// The matches that these two sides had alone on the player's shows, one against one or two
+/// against two, behind that row of that day's card, the latest first; against anybody where the
+/// second is nobody.
+std::vector<const HeldMatch*> MatchesBetween(const World& world, const std::vector<int>& one,
+                                             const std::vector<int>& two, Day since, int row);
+/// Whether that side has won it.
+bool HasWon(const HeldMatch& bout, const std::vector<int>& side);
+/// Those on the other side of it, without who has gone.
+std::vector<int> OpponentsIn(const HeldMatch& bout, const std::vector<int>& side);
+/// Whether they were on a card of the last five weeks, whatever they did there.
+bool WasOnACard(const World& world, int uid);
 
+/// Who lays hands on whom.
+struct Blow {
+  std::vector<int> By, On;
+};
+/// In what the show sees of an angle, or of a match's finish and aftermath.
+std::vector<Blow> BlowsOf(const Segment& segment);
 /// The attacks, threats, challenges and signed contracts of the last five weeks' cards and of the
-/// rows before this one, the latest first.
+/// rows before this one, the latest first; those with anybody where `two` is nobody.
 std::vector<PastFact> CallbacksOf(Teller& teller, const std::vector<int>& one,
                                   const std::vector<int>& two);
 /// Those of a side who are among the others.

@@ -37,27 +37,6 @@ std::string YearsText(int days) {
   return CountText((days + kYear / 2) / kYear) + " years";
 }
 
-/// Sets {F} and {S} for a line and takes them back behind it.
-void SayOf(Teller& teller, const PastFact& fact, Family family, int band) {
-  Cast& cast = teller.cast;
-  const Party first = cast.Of('F'), second = cast.Of('S'), manager = cast.Of('m');
-  cast.Set('F', teller.world, fact.One);
-  cast.Set('S', teller.world, fact.Two);
-  cast.Set('m', cast.Find(teller.world, fact.Manager));
-  cast.Set(Item::Count, fact.Count == 0 ? "" : CountText(fact.Count));
-  cast.Set(Item::Nth, fact.Count == 0 ? "" : NthText(fact.Count));
-  const bool dated = fact.DaysAgo >= 0;
-  cast.Set(Item::When, dated ? AgoText(fact.DaysAgo, teller.Today()) : "");
-  cast.Set(Item::Since, dated ? SinceText(fact.DaysAgo, teller.Today()) : "");
-  cast.Set(Item::Tally, fact.Tally);
-  if (!cast.Of('F').Empty()) teller.Say(family, band);
-  for (const Item item : {Item::Count, Item::Nth, Item::When, Item::Since, Item::Tally})
-    cast.Set(item, {});
-  cast.Of('F') = first;
-  cast.Of('S') = second;
-  cast.Of('m') = manager;
-}
-
 enum class Who { One, Two, Either, Nobody };
 /// What comes of a fact: by which side the match was won, and whether it takes a Title for that.
 struct OutcomeRow {
@@ -164,6 +143,26 @@ PastFact AsEnded(const PastFact& fact, const OutcomeRow& row, const std::vector<
 }
 
 }  // namespace
+
+void SayOf(Teller& teller, const PastFact& fact, Family family, int band) {
+  Cast& cast = teller.cast;
+  const Party first = cast.Of('F'), second = cast.Of('S'), manager = cast.Of('m');
+  cast.Set('F', teller.world, fact.One);
+  cast.Set('S', teller.world, fact.Two);
+  cast.Set('m', cast.Find(teller.world, fact.Manager));
+  cast.Set(Item::Count, fact.Count == 0 ? "" : CountText(fact.Count));
+  cast.Set(Item::Nth, fact.Count == 0 ? "" : NthText(fact.Count));
+  const bool dated = fact.DaysAgo >= 0;
+  cast.Set(Item::When, dated ? AgoText(fact.DaysAgo, teller.Today()) : "");
+  cast.Set(Item::Since, dated ? SinceText(fact.DaysAgo, teller.Today()) : "");
+  cast.Set(Item::Tally, fact.Tally);
+  if (!cast.Of('F').Empty()) teller.Say(family, band);
+  for (const Item item : {Item::Count, Item::Nth, Item::When, Item::Since, Item::Tally})
+    cast.Set(item, {});
+  cast.Of('F') = first;
+  cast.Of('S') = second;
+  cast.Of('m') = manager;
+}
 
 std::string CountText(int count) {
   if (count == 0) return "no";

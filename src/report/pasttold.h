@@ -24,10 +24,15 @@ struct PastFact {
   int DaysAgo = -1;      // -1 where no day is meant
   std::string Tally = {};
   int Manager = 0;
+  int Row = 0;  // of the sheet that day, of what was said or done on a card
 };
 
 /// From here on a fact is something that a career has once.
 inline constexpr int kOnceInACareer = 90;
+
+/// Says a line with {F}, {S}, {m} and the rest as the fact has them, and takes them back behind it;
+/// nothing where {F} would be nobody.
+void SayOf(Teller& teller, const PastFact& fact, Family family, int band);
 
 /// Everything that the records know, the most telling first; empty for a battle royal.
 std::vector<PastFact> PastOf(Teller& teller);

@@ -7,6 +7,7 @@
 #include "records/segments.h"
 #include "report/pasttold.h"
 #include "report/stages.h"
+#include "report/talkpast.h"
 
 namespace grapplemont {
 
@@ -166,6 +167,7 @@ void TellInterview(Teller& teller) {
                           ? int(segment.Purpose)
                           : int(kTalkNone);
   teller.SayAs('T', Family::TalkOpening, segment.Style);
+  if (const auto past = PastOfTalk(teller)) TellTalkPast(teller, *past);
   // Nobody makes a speech that has been heard tonight.
   if (!teller.SayNew(Family::Speech, TalkBand(segment.Style, purpose)))
     teller.Say(Family::SpeechAgain);
@@ -180,7 +182,10 @@ void TellInterview(Teller& teller) {
 
 void TellAngle(Teller& teller) {
   SetTurn(teller);
+  const auto past = PastOfTalk(teller);
+  if (past && !past->IsAnswer()) TellTalkPast(teller, *past);
   teller.Say(Family::AngleText, teller.segment.Style);
+  if (past && past->IsAnswer()) TellTalkPast(teller, *past);
   for (const Turning& turn : teller.scene.Turns) {
     if (turn.Becomes.empty()) continue;
     teller.cast.Set('t', teller.world, {turn.Uid});
