@@ -155,6 +155,15 @@ int LineMemory::PickAsWished(Draws& draws, const void* band, std::vector<bool> f
   return Take(band, choice[static_cast<std::size_t>(draws.Draw(static_cast<int>(best)) - 1)]);
 }
 
+bool LineMemory::SaidAll(const void* band, const std::vector<bool>& fits) const {
+  const auto found = uses_.find(band);
+  for (std::size_t line = 0; line < fits.size(); ++line)
+    if (fits[line] && (found == uses_.end() || found->second[line].Times == 0 ||
+                       found->second[line].Segment != segment_))
+      return false;
+  return true;
+}
+
 bool LineMemory::Used(const void* band, int line) const {
   const auto found = uses_.find(band);
   return found != uses_.end() && found->second[static_cast<std::size_t>(line)].Times > 0;

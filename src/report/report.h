@@ -80,6 +80,8 @@ class LineMemory {
   /// longest, by `lengths`, one for each line. Requires `days`.
   int PickAsWished(Draws& draws, const void* band, std::vector<bool> fits,
                    std::span<const int> days, std::span<const int> lengths, LineWish wish);
+  /// Whether this Segment has said all of those that `fits` holds true.
+  bool SaidAll(const void* band, const std::vector<bool>& fits) const;
   /// Whether the show has said it. What a text says cannot tell: two bands may use the same words.
   bool Used(const void* band, int line) const;
   /// What the shows before have said.

@@ -45,7 +45,9 @@ bool Teller::Say(Family family, int band, unsigned wants) {
   const Block* block = BlockOf(voice_, family, band);
   if (!block) return false;
   std::vector<bool> fits = Fitting(family, band, wants);
-  if (wants != 0 && std::count(fits.begin(), fits.end(), true) == 0)
+  const bool hasNone = wants != 0 && std::count(fits.begin(), fits.end(), true) == 0;
+  // Before a cover whoever still stands is put down, so that no words need come twice for it.
+  if (hasNone || (wants == kDownTag && memory_.SaidAll(block, fits)))
     fits = Fitting(family, band, 0);
   const std::vector<int> days = DaysUnsaid(family, band, fits);
   return SayLine(family, band,

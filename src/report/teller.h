@@ -28,7 +28,8 @@ class Teller {
   /// Appends a line of the family; false when nothing could be said, since the band does not exist
   /// or nobody is there to say it of.
   /// Of the band's lines those are drawn from whose tags fit how the match stands and have all of
-  /// `wants`; where there are none, those that fit; where there are none of these, all.
+  /// `wants`; where there are none, and before a cover where the Segment has said them, those that
+  /// fit; where there are none of these, all.
   bool Say(Family family, int band = 0, unsigned wants = 0);
   /// The same, but only a line that the show has not had; false when it has had them all.
   bool SayNew(Family family, int band);

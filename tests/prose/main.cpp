@@ -97,13 +97,13 @@ void BookAtRandom(World& world, Dice& dice, bool isEvent) {
         world.Segments()[row] = *drawn;
 }
 
-void Tell(World& world, bool isEvent, int show) {
+void Tell(World& world, bool isEvent, int career, int show) {
   LineMemory memory;
   StartShow(world, isEvent, isEvent ? BestTeam(world) : TvTeam(world));
   while (const int number = NextSegment(world)) {
     const SegmentLine line(world, number);
     const ToldSegment told = RunNextSegment(world, &memory);
-    std::cout << "{\"show\":" << show << ",\"row\":" << number << ","
+    std::cout << "{\"show\":" << show << ",\"row\":" << number << ",\"career\":" << career << ","
               << line.Told(world, told).substr(1) << "\n";
   }
   CloseShow(world);
@@ -118,7 +118,7 @@ void Play(const World& data, int shows, std::uint64_t seed) {
     for (int told = 0; told < kSeason && show < shows && GoToShow(world, isEvent); ++told) {
       world.Game().Reporter = show % 3;
       if (show % 2 == 1) BookAtRandom(world, dice, isEvent);
-      Tell(world, isEvent, show++);
+      Tell(world, isEvent, career, show++);
       PassDay(world);
     }
   }

@@ -79,6 +79,7 @@ std::string SegmentLine::Told(const World& world, const ToldSegment& told) const
                        {"to", worker->Disposition.Str()},
                        {"pending", was.TurnPending}});
   Json line{
+      {"day", (world.Today() - Day{}).count()},
       {"kind", int(s.Kind)},
       {"style", int(s.Style)},
       {"type", int(s.MatchType)},
@@ -92,6 +93,7 @@ std::string SegmentLine::Told(const World& world, const ToldSegment& told) const
       {"out",
        {int(s.Place3), int(s.Place4), int(s.Place5), int(s.Place6), int(s.Place7), int(s.Place8)}},
       {"people", PeopleOf(s)},
+      {"places", {UidAt(s, 1), UidAt(s, 2), UidAt(s, 3), UidAt(s, 4)}},
       {"sides", s.Kind == kMatch ? SidesOf(s) : std::vector<std::vector<int>>{}},
       {"names", NamesOf(world, s)},
       {"feuds", FeudsAmong(world, feuds_, EverybodyOf(s))},

@@ -109,6 +109,33 @@ TEST_P(Fitting, PutsWhomeverItPinsDownFirst) {
   }
 }
 
+/// A line that puts somebody down comes once: before the next cover another one does, or a trip.
+TEST_P(Fitting, PutsNobodyDownTwiceInTheSameWords) {
+  World world = Ten().Game("CWA");
+  world.Game().Reporter = GetParam();
+  const Segment match = Match(kSingles);
+  const Scene scene;
+  for (const Family family : {Family::OffenceA, Family::OffenceB, Family::OffenceC})
+    for (int band = kBrawlLow; band <= kSpeedHigh; ++band) {
+      const auto lines = ReadLinesOf(GetParam(), family, band);
+      const auto unfloored = std::count_if(lines.begin(), lines.end(), [](const TaggedLine& line) {
+        return (line.Tags & (kFloorTag | kWornTag | kTroubleTag | kTiredTag)) == 0;
+      });
+      LineMemory memory;
+      Teller teller(world, match, scene, memory);
+      Person *one = teller.cast.Find(world, 1), *two = teller.cast.Find(world, 2);
+      for (int said = 0; said < unfloored; ++said) {
+        teller.Act(one, two);
+        teller.Under = Footing::Up;
+        teller.Say(family, band, kDownTag);
+      }
+      int used = 0;
+      for (std::size_t line = 0; line < lines.size(); ++line)
+        used += memory.Used(BlockOf(GetParam(), family, band), static_cast<int>(line));
+      EXPECT_EQ(used, unfloored) << HeadingOf(family, band);
+    }
+}
+
 TEST_P(Fitting, WalksOutOnACornerThatIsEmpty) {
   World world = Ten().Game("CWA");
   world.Game().Reporter = GetParam();

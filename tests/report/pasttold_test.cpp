@@ -113,7 +113,7 @@ TEST_P(Voices, TellThePastInWholeSentences) {
   const Scene scene;
   LineMemory memory;
   for (int round = 0; round < 8; ++round)
-    for (const Family family : {Family::PastOpening, Family::PastEnding}) {
+    for (const Family family : {Family::PastOpening, Family::PastEnding, Family::TalkPast}) {
       for (int band = 0; band <= RowOf(family).Bands.Last; ++band) {
         Teller teller(world, segment, scene, memory);
         teller.cast.Set('m', teller.cast.Find(world, 2));
