@@ -127,8 +127,21 @@ bool Teller::SayLine(Family family, int band, int line) {
 void Teller::SayOffence(Family family, unsigned wants) {
   const Party& attacker = cast.Of('a');
   if (attacker.People.empty()) return;
-  if (const Worker* worker = world.FindWorker(attacker.People[0]->Uid))
-    Say(family, OffenceBandOf(world, *worker), wants);
+  const Worker* worker = world.FindWorker(attacker.People[0]->Uid);
+  if (!worker) return;
+  const int band = OffenceBandOf(world, *worker);
+  Say(FreshOffence(family, band), band, wants);
+}
+
+Family Teller::FreshOffence(Family family, int band) const {
+  // The rows of one against one are given to the letter; a rumble's are as long as it takes.
+  if (segment.Style == kSingles) return family;
+  constexpr int kOffences = static_cast<int>(Family::OffenceE) + 1;
+  for (int step = 0; step < kOffences; ++step) {
+    const auto next = static_cast<Family>((static_cast<int>(family) + step) % kOffences);
+    if (!memory_.SaidAll(BlockOf(voice_, next, band), Fitting(next, band, 0))) return next;
+  }
+  return family;
 }
 
 namespace {

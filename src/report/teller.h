@@ -36,7 +36,8 @@ class Teller {
   /// The same as Say of whoever plays this part: the line that they have not said for the longest
   /// time, on this show or an earlier one.
   bool SayAs(char part, Family family, int band);
-  /// The line of an offence family, by what the attacker is best at.
+  /// The line of an offence family, by what the attacker is best at; of another one where the match
+  /// has said all of these, unless its row is a rule.
   void SayOffence(Family family, unsigned wants = 0);
   /// Text that is the same in all voices.
   void Append(std::string_view text) { text_ += text; }
@@ -80,6 +81,7 @@ class Teller {
   std::vector<PastFact> Told;  // what has been said of the past
 
  private:
+  Family FreshOffence(Family family, int band) const;
   bool Fits(const TaggedLine& line, Family family, unsigned wants) const;
   bool FitsFooting(const TaggedLine& line, Family family) const;
   std::vector<bool> Fitting(Family family, int band, unsigned wants) const;

@@ -136,6 +136,32 @@ TEST_P(Fitting, PutsNobodyDownTwiceInTheSameWords) {
     }
 }
 
+/// A melee says more moves than a family has; a match of one against one keeps to its row.
+TEST_P(Fitting, BorrowsMovesWhereAMatchHasSaidThemAll) {
+  World world = Ten().Game("CWA");
+  world.Game().Reporter = GetParam();
+  const Scene scene;
+  constexpr int kMoves = 25;
+  for (const int style : {int(kSingles), int(kFourOnFour)}) {
+    const Segment match = Match(style);
+    LineMemory memory;
+    Teller teller(world, match, scene, memory);
+    for (int said = 0; said < kMoves; ++said) {
+      teller.Act(teller.cast.Find(world, 1), teller.cast.Find(world, 5));
+      teller.Under = Footing::Up;
+      teller.SayOffence(Family::OffenceA);
+    }
+    int used = 0, borrowed = 0;
+    for (const FamilyRow& row : AllFamilies())
+      for (int band = row.Bands.First; row.Of <= Family::OffenceE && band <= row.Bands.Last; ++band)
+        for (int line = 0; line < row.Lines; ++line)
+          if (memory.Used(BlockOf(GetParam(), row.Of, band), line))
+            ++(row.Of == Family::OffenceA ? used : borrowed);
+    EXPECT_EQ(borrowed > 0, style != kSingles);
+    if (style != kSingles) EXPECT_EQ(used + borrowed, kMoves) << teller.Text();
+  }
+}
+
 TEST_P(Fitting, WalksOutOnACornerThatIsEmpty) {
   World world = Ten().Game("CWA");
   world.Game().Reporter = GetParam();
