@@ -140,6 +140,7 @@ TEST_P(Fitting, PutsNobodyDownTwiceInTheSameWords) {
 TEST_P(Fitting, BorrowsMovesWhereAMatchHasSaidThemAll) {
   World world = Ten().Game("CWA");
   world.Game().Reporter = GetParam();
+  for (Worker& worker : world.Workers()) worker.Brawl = 100;
   const Scene scene;
   constexpr int kMoves = 25;
   for (const int style : {int(kSingles), int(kFourOnFour)}) {
@@ -158,7 +159,7 @@ TEST_P(Fitting, BorrowsMovesWhereAMatchHasSaidThemAll) {
           if (memory.Used(BlockOf(GetParam(), row.Of, band), line))
             ++(row.Of == Family::OffenceA ? used : borrowed);
     EXPECT_EQ(borrowed > 0, style != kSingles);
-    if (style != kSingles) EXPECT_EQ(used + borrowed, kMoves) << teller.Text();
+    EXPECT_TRUE(style == kSingles || used + borrowed == kMoves) << teller.Text();
   }
 }
 
