@@ -22,7 +22,7 @@ bool HasCome(const World& world, GuideDone what) {
   switch (what) {
     case GuideDone::Signed:
       return std::ranges::any_of(world.Deeds(), [&](const Deed& deed) {
-        return deed.Promotion == player && deed.Kind == kDeedSigned;
+        return deed.Promotion == player && (deed.Kind == kDeedSigned || deed.Kind == kDeedStolen);
       });
     case GuideDone::Feud:
       return std::ranges::any_of(world.Feuds(), [](const Feud& feud) { return feud.Worker1 != 0; });

@@ -3,10 +3,12 @@
 #include <fstream>
 
 #include "calendar/guide.h"
+#include "calendar/guidesteps.h"
 #include "info/screens/glossary.h"
 #include "info/screens/glossaryfigures.h"
 #include "info/screens/helpscreens.h"
 #include "program/richworld.h"
+#include "records/modVar.h"
 #include "support/checkout.h"
 #include "support/gameonworld.h"
 #include "support/homefolder.h"
@@ -101,6 +103,16 @@ TEST(Glossary, FillsEveryFigureFromItsRule) {
         << term << ": " << FindTerm(term)->Moves;
 }
 
+TEST(Guide, CountsWhoeverIsTakenFromARivalAsSigned) {
+  World world = RichWorld().Game("CWA");
+  GuideState guide{};
+  guide.Tour = static_cast<int>(Tour::Backyard);
+  world.Guides().Rewrite({guide});
+  NoteDeed(world, kDeedStolen, &world.Player(), world.Workers()[1], "Rivals");
+  WatchGuide(world, {});
+  EXPECT_TRUE(world.Guides()[1].Done[3]);
+}
+
 TEST(Guide, WatchesTheFirstWeekAndIsClosedForGood) {
   HomeFolder home(RichWorld());
   home.StartNewGame();
@@ -121,11 +133,15 @@ TEST(Guide, WatchesTheFirstWeekAndIsClosedForGood) {
   EXPECT_TRUE(isDone(1));
   EXPECT_FALSE(isDone(2));
   EXPECT_TRUE(desk.Text("txtguide").starts_with("Step 2 of 8: "));
+  desk.Click("cmdfeud");
+  desk.Top()->Layout();
+  EXPECT_TRUE(desk.Visible("lblguide"));
   Feud& feud = world.Feuds()[1];
   feud.Singles = true;
   feud.Worker1 = int(world.Workers()[1].Uid);
   feud.Worker2 = int(world.Workers()[2].Uid);
-  desk.Click("cmdstaff");
+  desk.Pick("lstfeuds", 1);
+  EXPECT_FALSE(desk.Visible("lblguide")) << "the open page says no step that is done";
   desk.Click("cmdback");
   EXPECT_TRUE(isDone(5)) << "what has come about counts, whatever came before";
   HistoryEntry held{};

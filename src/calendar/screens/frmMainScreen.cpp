@@ -343,6 +343,16 @@ frmMainScreen* FindMainScreen(Game& game) {
   return nullptr;
 }
 
+/// What pages that are open already say of the guide, once a step has been done.
+void RenewGuideLines(Game& game) {
+  for (const auto& screen : game.Desk().Screens()) {
+    auto* line = dynamic_cast<ui::Label*>(screen->Find("lblguide"));
+    if (!line) continue;
+    line->Text = WithKeys(game.Desk(), GuideOnPage(game.World(), screen->Name(), 0));
+    line->Visible = !line->Text->empty();
+  }
+}
+
 }  // namespace
 
 SCREEN(frmMainScreen)
@@ -353,6 +363,7 @@ void ConnectCalendar(Game& game) {
     std::vector<std::string_view> screens;
     for (const auto& screen : game.Desk().Screens()) screens.push_back(screen->Name());
     *justDone = WatchGuide(game.World(), screens);
+    if (*justDone > 0) RenewGuideLines(game);
   };
   game.NoteOn = [&game, justDone](std::string_view screen) {
     return WithKeys(game.Desk(), GuideOnPage(game.World(), screen, *justDone));
