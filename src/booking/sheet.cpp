@@ -237,10 +237,13 @@ std::vector<std::string> ChangesBy(const World& world, const Segment& segment) {
 
 std::vector<std::string> ChangesBy(const World& world, const AutoCard& card) {
   std::vector<std::string> changes;
+  std::set<std::string> said;
   for (std::size_t row = 0; row < card.Rows.size(); ++row) {
     if (card.Reasons[row].empty()) continue;
     for (const std::string& change : ChangesBy(world, card.Rows[row]))
-      changes.push_back("Row " + std::to_string(row + 1) + ": " + change);
+      // Nobody is seen for the first time twice.
+      if (said.insert(change).second)
+        changes.push_back("Row " + std::to_string(row + 1) + ": " + change);
   }
   return changes;
 }
