@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
@@ -51,7 +52,19 @@ void TableGrid::SetCurrentRow(int row) {
 
 bool TableGrid::SeesCursor(int height) const {
   const int place = rowViewportPosition(CurrentRow());
-  return currentIndex().isValid() && place >= 0 && place < height;
+  return currentIndex().isValid() && place >= 0 && place < WholeRows(height);
+}
+
+int TableGrid::WholeRows(int height) const {
+  const int row = std::max(1, verticalHeader()->defaultSectionSize());
+  return height < row ? height : height / row * row;
+}
+
+/// The toolkit ends a list that is scrolled down with its last row at the very foot, which cuts the
+/// first.
+void TableGrid::BeginWithWholeRow() {
+  if (verticalScrollBar()->maximum() > 0)
+    verticalHeader()->setOffsetToSectionPosition(verticalScrollBar()->value());
 }
 
 QSize TableGrid::sizeHint() const {
@@ -83,6 +96,7 @@ void TableGrid::UpdatePinned() {
 }
 
 QModelIndex TableGrid::indexAt(const QPoint& at) const {
+  if (at.y() >= WholeRows(viewport()->height())) return {};
   int right = 0;
   for (const int column : model_.PinnedColumns())
     if (right += columnWidth(column); at.x() < right && rowAt(at.y()) >= 0)
@@ -217,22 +231,29 @@ void TableGrid::keyPressEvent(QKeyEvent* event) {
   event->ignore();
 }
 
+void TableGrid::EachSeen(const std::function<void(int row, int top)>& draw) {
+  const int foot = WholeRows(viewport()->height());
+  for (int row = std::max(0, rowAt(0)); row < model_.rowCount(); ++row) {
+    const int top = rowViewportPosition(row);
+    if (top >= foot) return;
+    draw(row, top);
+  }
+}
+
 /// Over the others, which leave the place free.
 void TableGrid::DrawPinned(QPainter& painter) {
   if (model_.Pin.Width == 0) return;
   QStyleOptionViewItem option;
   initViewItemOption(&option);
   cells_->SetPaintsPinned(true);
-  for (int row = std::max(0, rowAt(0)); row < model_.rowCount(); ++row) {
-    const int top = rowViewportPosition(row);
-    if (top >= viewport()->height()) break;
+  EachSeen([&](int row, int top) {
     int left = 0;
     for (const int column : model_.PinnedColumns()) {
       option.rect = QRect(left, top, columnWidth(column), rowHeight(row));
       cells_->paint(&painter, option, model_.index(row, column));
       left += columnWidth(column);
     }
-  }
+  });
   cells_->SetPaintsPinned(false);
   painter.fillRect(model_.Pin.Width - 1, 0, 1, viewport()->height(), ColoursOf(this).Line);
 }
@@ -256,12 +277,10 @@ void TableGrid::DrawBeyond(QPainter& painter) {
   if (wide <= 0) return;
   QStyleOptionViewItem option;
   initViewItemOption(&option);
-  for (int row = std::max(0, rowAt(0)); row < model_.rowCount(); ++row) {
-    const int top = rowViewportPosition(row);
-    if (top >= viewport()->height()) break;
+  EachSeen([&](int row, int top) {
     option.rect = QRect(from, top, wide, rowHeight(row));
     cells_->PaintRow(painter, option, row);
-  }
+  });
 }
 
 /// Where the row that is dragged comes to stand.
@@ -296,7 +315,9 @@ void TableGrid::paintEvent(QPaintEvent* event) {
     if (currentIndex().isValid()) scrollTo(currentIndex(), PositionAtCenter);
     BeginAtName();
   }
-  QTableView::paintEvent(event);
+  const QRect rows(0, 0, viewport()->width(), WholeRows(viewport()->height()));
+  QPaintEvent whole(event->region() & rows);
+  QTableView::paintEvent(&whole);
   QPainter painter(viewport());
   DrawBeyond(painter);
   DrawPinned(painter);
@@ -319,12 +340,14 @@ void TableGrid::resizeEvent(QResizeEvent* event) {
 /// The cursor's line reaches over all cells, so scrolled pieces do not fit together.
 void TableGrid::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
+  BeginWithWholeRow();
   UpdatePinned();
   if (Moved) Moved();
 }
 
 void TableGrid::updateGeometries() {
   QTableView::updateGeometries();
+  BeginWithWholeRow();
   UpdatePinned();
   if (Moved) Moved();
 }

@@ -49,8 +49,10 @@ class TableGrid : public QTableView {
   /// -1 when there is none.
   int CurrentRow() const { return currentIndex().row(); }
   void SetCurrentRow(int row);
-  /// Whether the cursor's row begins in a viewport of this height.
+  /// Whether the cursor's row stands whole in a viewport of this height.
   bool SeesCursor(int height) const;
+  /// As much of a viewport of this height as whole rows fill: no row stands cut at the foot.
+  int WholeRows(int height) const;
 
   /// So many of the first columns shown stay in place while the others scroll.
   void SetPinned(int count);
@@ -93,6 +95,9 @@ class TableGrid : public QTableView {
   /// Picks a row as the keys that are held with it say.
   void PickAs(int row, Qt::KeyboardModifiers held);
   void UpdatePinned();
+  void BeginWithWholeRow();
+  /// Draws the rows that are seen by handing each one's number and upper edge.
+  void EachSeen(const std::function<void(int row, int top)>& draw);
   void BeginAtName();
   void DrawPinned(QPainter& painter);
   void DrawBeyond(QPainter& painter);

@@ -39,6 +39,19 @@ void TableView::PickAll() {
   PickShown(rows);
 }
 
+bool TableView::WaitsForChoice() const {
+  return control_.OnPick && control_.Enabled && control_.Selected() == 0 && model_.rowCount() > 0;
+}
+
+bool TableView::ChooseCurrent() {
+  const int row = std::max(0, grid_->CurrentRow());
+  const bool isOneMore =
+      control_.Multi && control_.Enabled && row < model_.rowCount() && !table_.IsSelected(row);
+  if (!isOneMore && !WaitsForChoice()) return false;
+  Act(row, false);
+  return true;
+}
+
 void TableView::DropUnseen() {
   const std::size_t chosen = control_.Multi ? 0 : control_.Keys().size();
   std::vector<int> seen;

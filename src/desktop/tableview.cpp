@@ -224,10 +224,11 @@ void TableView::ShowSelection() {
   const int selected = control_.Selected() - 1;
   if (selected < 0 || control_.Multi) return;
   const int row = table_.ShownRow(selected), current = grid_->CurrentRow();
-  if (row < 0 || row == current) return;
+  if (row < 0) return;
   // Of several it may stand on any.
   if (control_.Extends && current >= 0 && control_.Keys().size() > 1) return;
   currentKey_ = control_.KeyOf(selected + 1);
+  if (row == current) return;
   grid_->SetCurrentRow(row);
   grid_->scrollTo(grid_->currentIndex());
 }
@@ -263,9 +264,18 @@ void TableView::RestorePlace() {
       [this, top] {
         grid_->verticalScrollBar()->setValue(top);
         grid_->scrollTo(grid_->currentIndex());
-        if (isVisible() && table_.Follows()) DropUnseen();
+        if (!isVisible() || !table_.Follows()) return;
+        DropUnseen();
+        if (BeginsUnsorted()) Act(0, false);
       },
       Qt::QueuedConnection);
+}
+
+/// Whether a page of people has chosen the first of its own order, which the kept one puts
+/// elsewhere.
+bool TableView::BeginsUnsorted() const {
+  return !control_.Views.empty() && !table_.State().Sort.empty() && control_.Selected() == 1 &&
+         table_.ShownRow(0) > 0;
 }
 
 void TableView::Leave() {
@@ -324,6 +334,7 @@ void TableView::PlaceRowButtons() {
     const int key = table_.KeyAt(row);
     if (key < 1 || key > static_cast<int>(rowButtons_.size())) continue;
     const int side = Px(kCellSide), above = Px(4);
+    if (grid_->rowViewportPosition(row) >= grid_->WholeRows(grid_->viewport()->height())) break;
     places[Index(key - 1)] =
         grid_->visualRect(model_.index(row, column)).adjusted(side, above, -side, -above - 1);
   }

@@ -35,6 +35,11 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   QWidget* RowHolder() { return grid_->viewport(); }
   /// Puts the keyboard into the search line if it is there.
   bool FocusSearch();
+  /// Whether a row is to be chosen here and none has been.
+  bool WaitsForChoice() const;
+  /// Chooses the cursor's row, without a cursor the first; false where nothing more is to be
+  /// chosen.
+  bool ChooseCurrent();
   /// Shows all rows again; false when nothing filtered.
   bool ClearFilters();
   /// As the player has arranged it; nullptr for a moment while the list has changed.
@@ -82,6 +87,7 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   void ApplyColumns();
   void TakeOrder();
   void RestorePlace();
+  bool BeginsUnsorted() const;
   std::string Csv() const;
   bool SeveralChosen() const;
   void CopyCsv() const;

@@ -130,7 +130,10 @@ class Player {
     return nullptr;
   }
   QWidget* Focus() { return Window.focusWidget() ? Window.focusWidget() : &Window; }
+  /// Who does not see the whole row scrolls.
   QPoint RowAt(const QString& list, int row) {
+    desktop::TableGrid& grid = Grid(list);
+    grid.scrollTo(grid.model()->index(row, std::max(0, grid.columnAt(30))));
     return {30, Grid(list).rowViewportPosition(row) + Grid(list).rowHeight(row) / 2};
   }
 
