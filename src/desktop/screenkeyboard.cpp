@@ -1,4 +1,5 @@
 #include "desktop/screenview.h"
+#include "desktop/tableview.h"
 #include "desktop/topbar.h"
 
 // Which control of a screen has the keyboard, and which has it again when the screen comes back.
@@ -63,6 +64,18 @@ void ScreenView::TakeKeyboard() {
         return view->FocusTarget()->setFocus(Qt::OtherFocusReason);
     }
   setFocus(Qt::OtherFocusReason);
+}
+
+bool ScreenView::GoToMissing() {
+  TableView* next = nullptr;
+  for (ControlView* view : views_) {
+    auto* table = dynamic_cast<TableView*>(view);
+    if (!table || !table->isVisible()) continue;
+    if (table->FocusTarget() == window()->focusWidget() && table->ChooseCurrent()) return true;
+    if (!next && table->WaitsForChoice()) next = table;
+  }
+  if (next) next->FocusTarget()->setFocus(Qt::TabFocusReason);
+  return next;
 }
 
 }  // namespace grapplemont::desktop

@@ -27,8 +27,9 @@ class ScreenView : public QWidget {
   void Refresh();
   /// Remembers what is to be remembered; the view is taken away next.
   void Leave();
-  /// What Enter does here, if it can be pressed: Main, or Then in its place; nullptr when neither
-  /// is to be seen. On the hub's own page First goes before them; `here` tells whether it is meant.
+  /// What Enter does here, at once or when it can be pressed: Main, or Then in its place; nullptr
+  /// when neither is to be seen. On the hub's own page First goes before them; `here` tells whether
+  /// it is meant.
   ui::Button* MainNow(bool here = true) const;
   /// Shows the Enter sign on this button, if it is one that Enter may press here.
   void SetEnter(const ui::Button* pressed);
@@ -40,6 +41,9 @@ class ScreenView : public QWidget {
   /// to where one begins.
   void TakeKeyboard();
   void RememberKeyboard();
+  /// Chooses the row that the keyboard is on, where its list waits for a choice, else leads to the
+  /// first list that does; false when none waits.
+  bool GoToMissing();
   /// The control here that has the keyboard; nullptr for none.
   const ui::Control* KeyboardOn() const;
   /// The one that will be given it by TakeKeyboard; nullptr for none.

@@ -30,19 +30,19 @@ bool CanBePressed(const ui::Button* button) {
 
 }  // namespace
 
-/// A page has its own main action. One above the hub without any goes on to the hub's, all else
-/// leads back: a second Enter must not end the day behind what the first has done. What is being
-/// typed keeps Enter from either.
+/// A page has its own main action, which keeps Enter while it waits: nobody who is choosing means
+/// to leave. A page above the hub without any goes on to the hub's, all else leads back: a second
+/// Enter must not end the day behind what the first has done. What is being typed keeps Enter from
+/// either.
 ui::Button* Window::EnterButton() const {
   const ScreenView *top = TopView(), *hub = HubView();
   if (!top || box_ || finder_) return nullptr;
-  ui::Button* const main = top->MainNow();
-  if (CanBePressed(main)) return main;
+  if (ui::Button* const main = top->MainNow()) return main;
   const ui::Role role = top->Shows().Is();
   if (role == ui::Role::Hub) return nullptr;
   if (hub && role == ui::Role::Page) {
     if (qobject_cast<QLineEdit*>(focusWidget())) return nullptr;
-    ui::Button* const next = main ? nullptr : hub->MainNow(false);
+    ui::Button* const next = hub->MainNow(false);
     if (CanBePressed(next) && WhyWaits(*next).empty()) return next;
   }
   ui::Button* const back = top->Page().Cancel;
@@ -52,14 +52,13 @@ ui::Button* Window::EnterButton() const {
 void Window::PressEnter() {
   ScreenView& top = *TopView();
   ui::Button* const button = EnterButton();
-  if (button && button == top.Page().Cancel) {
+  if (!button) return;
+  if (button == top.Page().Cancel && button->Enabled) {
     top.PressCancel();
-  } else if (button && &button->Parent() == &top.Shows()) {
-    top.Press(button);
-  } else if (button) {
+  } else if (&button->Parent() != &top.Shows()) {
     PressHub(*button);
-  } else if (const ui::Button* const main = top.MainNow(); main && !main->Enabled) {
-    HintAt(*main, Shown(WhyNotPress(*main)));
+  } else if (!top.Press(button) && !top.GoToMissing()) {
+    HintAt(*button, Shown(WhyNotPress(*button)));
   }
 }
 

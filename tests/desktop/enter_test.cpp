@@ -71,8 +71,8 @@ class TheKeys : public testing::Test {
         marked.push_back(push->objectName().toStdString());
     return marked;
   }
-  /// Wherever the keyboard is, Enter presses what bears its sign; nothing bears it where Enter is
-  /// kept for what is typed.
+  /// Wherever the keyboard is, Enter presses what bears its sign, or nothing while that waits;
+  /// nothing bears it where Enter is kept for what is typed.
   void HoldMarkAgainstEnter(const std::string& name) {
     SCOPED_TRACE(name);
     Open(name);
@@ -86,11 +86,14 @@ class TheKeys : public testing::Test {
       const std::vector<std::string> marked = Marked();
       const bool typed = desktop::KeepsEnter(holders[i]) || qobject_cast<QLineEdit*>(holders[i]);
       EXPECT_EQ(marked.size(), typed && marked.empty() ? 0U : 1U);
+      const bool waits =
+          !marked.empty() && !Play.See(QString::fromStdString(marked.front()))->isEnabled();
       Pressed.clear();
       Play.Key(Qt::Key_Return);
       // What ends the day leaves the page before that.
       if (Pressed.size() > 1) Pressed = {Pressed.back()};
-      EXPECT_EQ(Pressed, marked);
+      EXPECT_EQ(Pressed, waits ? std::vector<std::string>() : marked);
+      EXPECT_TRUE(!waits || Play.Top() == name);
     }
   }
 
@@ -138,6 +141,33 @@ TEST_F(TheKeys, EnterEndsTheDayFromARoomAndGoesBackFromAPageAboveIt) {
       EXPECT_EQ(page.Main, page.Cancel);
     }
   }
+}
+
+TEST_F(TheKeys, EnterChoosesWhomTheStepLacksBeforeItGoesOn) {
+  OpenSlot();
+  Play.Desk.Open("frmMainScreen");
+  Play.Window.Sync();
+  Play.Key(Qt::Key_Return);
+  Play.Click("cmdbook(1)");
+  const std::string step = "frmBook1vs1";
+  for (int steps = 0; steps < 5 && Play.Top() != step; ++steps) Play.Key(Qt::Key_Return);
+  ASSERT_EQ(Play.Top(), step);
+  const auto chosen = [&](const char* list) {
+    return dynamic_cast<ui::ListBox*>(Play.Desk.Top()->Find(list))->Selected();
+  };
+  EXPECT_EQ(Marked(), std::vector<std::string>{"cmdnext"}) << "it waits, and does not lead away";
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(chosen("lstwres1"), 1);
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(chosen("lstwres2"), 0) << "the keyboard has only come here";
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(chosen("lstwres2"), 1);
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Play.Top(), step) << "nobody meets themselves";
+  Play.Key(Qt::Key_Down);
+  EXPECT_EQ(chosen("lstwres2"), 2);
+  Play.Key(Qt::Key_Return);
+  EXPECT_NE(Play.Top(), step);
 }
 
 TEST_F(TheKeys, VisitRoomsFromTheBookingSheetAndComeBackToIt) {
