@@ -98,8 +98,13 @@ Home FindHome(Disk& disk, const Surroundings& around) {
 }
 
 Home HomeAt(Disk& disk, const std::string& folder, const Surroundings& around) {
-  if (folder.empty() || !IsFolder(disk, folder))
-    throw std::runtime_error("\"" + folder + "\" is not a folder.");
+  if (folder.empty() || !IsFolder(disk, folder)) {
+    const bool isNew = !folder.empty() && disk.Look(folder) == Disk::Kind::Nothing;
+    throw std::runtime_error("\"" + folder +
+                             (isNew ? "\" is not there. Make that folder first"
+                                    : "\" is not a folder. Name one with --home") +
+                             ", or leave --home out and play where your games are usually kept.");
+  }
   return {folder, ShareOf(disk, around)};
 }
 

@@ -149,7 +149,12 @@ TEST(RunConsole, TellsInOneLineWhyItCannotStart) {
     const Outcome outcome = Played({"--json", "--home", home}, "show\n");
     EXPECT_EQ(outcome.Code, 1);
     EXPECT_EQ(outcome.Out, "");
-    EXPECT_EQ(outcome.Errors, "grapplemont-console: \"" + home + "\" is not a folder.\n");
+    const bool isNew = home == scratch / "none";
+    EXPECT_EQ(outcome.Errors, "grapplemont-console: \"" + home +
+                                  (isNew ? "\" is not there. Make that folder first"
+                                         : "\" is not a folder. Name one with --home") +
+                                  ", or leave --home out and play where your games are usually "
+                                  "kept.\n");
   }
   const Outcome outcome = Played({"--json", "--home", scratch / "."}, "show\nok\n");
   EXPECT_EQ(outcome.Code, 1) << "there are no pictures";

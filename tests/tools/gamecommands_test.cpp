@@ -57,8 +57,11 @@ TEST_F(GameCommands, NewSaysWhatIsNotThere) {
       "]=1",
       New("1", "1", "CWAA"));
   EXPECT_FALSE(std::filesystem::exists(In("s1")));
-  EXPECT_EQ("[grapplemont-world new: \"H/none\" is not a folder.\n]=1",
-            Say("new --home H/none --slot 1 --player P --promotion CWA"));
+  EXPECT_EQ(
+      "[grapplemont-world new: \"H/none\" is not there. Make that folder first, or leave --home "
+      "out "
+      "and play where your games are usually kept.\n]=1",
+      Say("new --home H/none --slot 1 --player P --promotion CWA"));
 }
 
 TEST_F(GameCommands, BookIsAPageOfHtmlAndNothingElse) {
