@@ -74,22 +74,23 @@ void CountBurdens(const World& world, const Peers& peers, Chair& chair) {
       std::ranges::any_of(world.Shows(), [&](const Show& show) { return show.Owner == own.Uid; });
   const struct {
     bool Holds;
-    const char *Word, *AtStake;
-  } burdens[] = {{own.Money * peers.Count * 2 < peers.Money, "little money",
-                  "A few empty halls, and the money is gone."},
-                 {(chair.Strength + kWeakerBy) * peers.Count <= peers.Strength, "a weak roster",
-                  "The others have the names: it has to make its own."},
-                 {own.Image < kLowImage, "a low image",
-                  "Hardly anybody has heard of it: every show has to win them."},
-                 {!onAir, "no television", "No network carries it: the road is all it has."}};
-  std::vector<std::string> words;
-  for (const auto& [holds, word, atStake] : burdens) {
-    if (!holds) continue;
-    if (words.empty()) chair.Story = atStake;
-    words.emplace_back(word);
+    const char *Word, *Else, *AtStake;
+  } burdens[] = {
+      {own.Money * peers.Count * 2 < peers.Money, "little money", "money",
+       "A few empty halls, and the money is gone."},
+      {(chair.Strength + kWeakerBy) * peers.Count <= peers.Strength, "a weak roster", "people",
+       "The others have the names: it has to make its own."},
+      {own.Image < kLowImage, "a low image", "a name",
+       "Hardly anybody has heard of it: every show has to win them."},
+      {!onAir, "no television", "television", "No network carries it: the road is all it has."}};
+  std::vector<std::string> words, has;
+  for (const auto& [holds, word, otherwise, atStake] : burdens) {
+    if (holds && words.empty()) chair.Story = atStake;
+    (holds ? words : has).emplace_back(holds ? word : otherwise);
   }
   chair.Burdens = static_cast<int>(words.size());
-  chair.Burdened = Joined(words);
+  chair.Why = words.empty() ? "good for a first game" : Joined(words);
+  if (!has.empty()) chair.Why += "; it has " + Joined(has);
   if (!words.empty()) return;
   chair.Story = peers.Count > 1 && chair.Strength * peers.Count > peers.Strength
                     ? "It has the better people of its size, and everybody after them."

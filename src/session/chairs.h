@@ -12,10 +12,10 @@ namespace grapplemont {
 /// A promotion that can be chosen. Requires that the world stands.
 struct Chair {
   const Promotion* Of = nullptr;
-  int Strength = 0;      // the mean Over of its ten best who wrestle, 0 for nobody
-  int Burdens = 0;       // 0 to 4: how many of the things in WhatBurdensAChair hold
-  std::string Burdened;  // those, in words; empty for none
-  std::string Story;     // who draws the crowd, and what is at stake
+  int Strength = 0;   // the mean Over of its ten best who wrestle, 0 for nobody
+  int Burdens = 0;    // 0 to 4: how many of the things in WhatBurdensAChair hold
+  std::string Why;    // those, in words, and what it has instead of the others
+  std::string Story;  // who draws the crowd, and what is at stake
 };
 /// Every promotion that has not ceased to exist, in the order of the file.
 std::vector<Chair> ChairsOf(const World& world);

@@ -159,6 +159,8 @@ TEST(NewGameScreen, SaysHowHardAChairIsAndWhatTheDifficultyChanges) {
   EXPECT_EQ(home.Desk.Text("lblchanges"),
             "Image before each Event: no change.\nImage before each television show: no change.\n"
             "Interest on a loan: 2%.\nTo buy out a contract of a year: 6 monthly wages.");
+  EXPECT_EQ(home.Desk.Text("lblchair"),
+            "Easy: good for a first game; it has money, people, a name, television");
   home.Desk.Pick("lstpromos", 2);
   EXPECT_EQ(home.Desk.Text("cmbPromo"), home.Desk.Rows("cmbPromo")[1][0]);
   EXPECT_EQ(home.Desk.Text("lblstory"),

@@ -45,6 +45,8 @@ class frmNewGame : public GameScreen {
     lstbelts.EmptyText = "No Titles.";
     lststaff.EmptyText = "No staff.";
     lstroster.EmptyText = "Nobody is under contract.";
+    // The usual window holds the page without scrolling.
+    for (ui::ListBox* list : {&lstroster, &lstshows, &lstbelts, &lststaff}) list->Least = 2;
     for (const Term& level : kDifficulties) cmbdifficulty.Add(std::string(level.Says), level.Code);
     cmbdifficulty.SelectKey(kMedium);
   }
@@ -135,8 +137,7 @@ class frmNewGame : public GameScreen {
     lblowner.Text = owner ? owner->Name.Str() : "None";
     const auto chair = std::ranges::find(chairs_, promotion, &Chair::Of);
     lblstory.Text = chair->Story;
-    lblchair.Text =
-        std::string(ChairText(chair->Burdens)) + (chair->Burdens > 0 ? ": " + chair->Burdened : "");
+    lblchair.Text = std::string(ChairText(chair->Burdens)) + ": " + chair->Why;
     ShowShows(*promotion);
     ShowTitles(*promotion);
     ShowStaff(*promotion);
