@@ -195,11 +195,11 @@ void Window::OpenFinder() {
 
 /// Commands are kept by their words alone: what they do is looked up when they are shown again.
 void Window::Remember(const Finder::Entry& chosen) {
-  constexpr std::size_t kMost = 8;
+  constexpr std::size_t kRemembered = 8;
   std::erase_if(recent_, [&](const Finder::Entry& one) { return Same(one, chosen); });
   recent_.insert(recent_.begin(), chosen);
   recent_.front().Run = {};
-  if (recent_.size() > kMost) recent_.pop_back();
+  if (recent_.size() > kRemembered) recent_.pop_back();
 }
 
 }  // namespace grapplemont::desktop

@@ -38,8 +38,8 @@ constexpr double kMostPixels = 30000;
 /// Prose keeps to a width that can be read; a table has what its columns ask for, so far as there
 /// is a limit to it.
 void SetWidth(QTextDocument& words) {
-  constexpr int kWidest = 4;  // times as wide as prose
-  words.setTextWidth(kWidest * ReadableWidth());
+  constexpr int kProseWidths = 4;
+  words.setTextWidth(kProseWidths * ReadableWidth());
   double width = ReadableWidth() + 2 * words.documentMargin();
   for (QTextFrame* table : words.rootFrame()->childFrames())
     width = std::max(

@@ -7,7 +7,7 @@
 namespace grapplemont::test {
 namespace {
 
-constexpr BookingView kTv, kEvent{true};
+const BookingView kTv, kEvent{true};
 
 TEST(OfferedAngles, GoByRiskSizeCommissionerAndDate) {
   const auto day = [](int month, int of) { return Day{std::chrono::year{2026} / month / of}; };

@@ -9,7 +9,7 @@
 namespace grapplemont::test {
 namespace {
 
-constexpr BookingView kTv;
+const BookingView kTv;
 
 constexpr const char* kOnTop[] = {"Ann Ace", "Bob Bold", "Cat Cold", "Dan Dark", "Eve East"};
 

@@ -6,6 +6,7 @@
 #include "business/finance.h"
 #include "calendar/advanceday.h"
 #include "calendar/desktiles.h"
+#include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "roster/market.h"
 #include "roster/talks.h"

@@ -10,7 +10,7 @@ namespace grapplemont::test {
 
 namespace {
 
-using Names = std::set<std::string>;
+using Sorted = std::set<std::string>;
 using Missed = Coverage::Missed;
 
 constexpr std::string_view kWayMark = "w ", kMissedMark = "m ", kHomeMark = "h ";
@@ -28,13 +28,13 @@ std::string ScreenOf(const std::string& way) {
   return way.substr(0, way.find(' '));
 }
 
-Names NotIn(const Names& all, const Names& some) {
-  Names left;
+Sorted NotIn(const Sorted& all, const Sorted& some) {
+  Sorted left;
   std::ranges::set_difference(all, some, std::inserter(left, left.end()));
   return left;
 }
 
-std::string Named(const char* heading, const Names& names) {
+std::string Named(const char* heading, const Sorted& names) {
   if (names.empty()) return {};
   std::string text = std::string(heading) + ":\n";
   for (const std::string& name : names) text += "  " + name + "\n";
@@ -74,8 +74,8 @@ bool Coverage::Read(std::string_view line) {
   return true;
 }
 
-std::string Coverage::Told(const Names& screens) const {
-  Names seen, all, worked, acts, full;
+std::string Coverage::Told(const Sorted& screens) const {
+  Sorted seen, all, worked, acts, full;
   for (const auto& [way, tally] : ways_) {
     seen.insert(ScreenOf(way));
     all.insert(ControlOf(way));
@@ -91,9 +91,9 @@ std::string Coverage::Told(const Names& screens) const {
       << ways_.size() << " ways.\n"
       << Named("Screens never seen", NotIn(screens, seen))
       << Named("Never worked", NotIn(all, worked)) << Named("Never done", acts);
-  Names known = std::move(full);
+  Sorted known = std::move(full);
   for (const auto& [reason, heading] : kReasons) {
-    Names some;
+    Sorted some;
     for (const auto& [control, why] : missed_)
       if (why == reason) some.insert(control);
     out << Named(heading, NotIn(some, known));

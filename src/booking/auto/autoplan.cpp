@@ -11,6 +11,7 @@
 #include "booking/wizard/segmentcheck.h"
 #include "records/fields/wording.h"
 #include "records/houserules.h"
+#include "records/modWresCheck.h"
 #include "show/matchscore.h"
 #include "storylines/feuds.h"
 #include "storylines/storynames.h"
