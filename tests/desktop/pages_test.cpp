@@ -11,6 +11,7 @@
 #include "program/richworld.h"
 #include "program/screens.h"
 #include "records/modVar.h"
+#include "records/modWresCheck.h"
 #include "support/homefolder.h"
 #include "ui/game.h"
 
