@@ -225,9 +225,13 @@ void ReportView::FitWords() {
   setFixedHeight(static_cast<int>(std::ceil(document()->size().height())));
 }
 
+/// The end of what grows stays in sight also where its room shrinks.
 void ReportView::resizeEvent(QResizeEvent* event) {
+  QScrollBar& bar = *verticalScrollBar();
+  const bool wasAtEnd = control_.Grows && bar.value() == bar.maximum();
   QTextEdit::resizeEvent(event);
   FitWords();
+  if (wasAtEnd) bar.setValue(bar.maximum());
 }
 
 void ReportView::focusInEvent(QFocusEvent* event) {
