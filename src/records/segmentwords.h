@@ -36,6 +36,7 @@ struct MatchTypeRow {
   std::string_view Says;
   int RiskOver = kAnyRisk;   // Promotion.Risk must be above it
   int SizeUnder = kAnySize;  // Promotion.Size must be below it
+  std::string_view Means = {};
 };
 
 /// A code with what a list says of it and what the wizard's summary says. Both may name people of

@@ -16,6 +16,7 @@ namespace {
 struct Choice {
   std::string_view Says;
   int Code;
+  std::string_view Means = {};
 };
 
 std::vector<Choice> Kinds(const World&, const Segment&) {
@@ -35,7 +36,7 @@ std::vector<Choice> AllOf(const World&, const Segment&) {
 std::vector<Choice> Types(const World& world, const Segment& segment) {
   std::vector<Choice> types;
   for (const MatchTypeRow* type : OfferedMatchTypes(world, segment.Style))
-    types.push_back({type->Says, type->Code});
+    types.push_back({type->Says, type->Code, type->Means});
   return types;
 }
 
@@ -57,6 +58,13 @@ const ChoiceRow& RowOf(const Wizard& wizard) {
   return wizard.Buffer.Kind == kInterview ? kTalkStyleChoice : kStyleChoice;
 }
 
+/// Not everybody knows every match type.
+std::vector<ui::Column> ColumnsOf(const ChoiceRow& row) {
+  std::vector<ui::Column> columns = {{std::string(row.Heading), ui::ColumnKind::Text, 2}};
+  if (&row == &kTypeChoice) columns.push_back({"What it is", ui::ColumnKind::Text, 5});
+  return columns;
+}
+
 class frmBookChoice : public StepScreen {
  public:
   frmBookChoice(Game& game, WizardHost& host) : StepScreen(game, host), row_(RowOf(wizard())) {
@@ -65,8 +73,11 @@ class frmBookChoice : public StepScreen {
 
  private:
   void Prepare() override {
-    for (const Choice& choice : row_.Offers(world(), buffer()))
-      list_.Add({choice.Says}, choice.Code);
+    for (const Choice& choice : row_.Offers(world(), buffer())) {
+      std::vector<ui::Cell> cells = {choice.Says};
+      if (list_.Columns().size() > 1) cells.emplace_back(choice.Means, ui::Tone::Muted);
+      list_.Add(std::move(cells), choice.Code);
+    }
     list_.Select(list_.Count() > 0 ? 1 : 0);
     AllowDone(list_.Count() > 0, list_.EmptyText);
   }
@@ -87,10 +98,7 @@ class frmBookChoice : public StepScreen {
   }
 
   const ChoiceRow& row_;
-  ui::ListBox list_{*this,
-                    std::string(row_.List),
-                    {{std::string(row_.Heading)}},
-                    [this] { ShowOutlook(); },
+  ui::ListBox list_{*this, std::string(row_.List), ColumnsOf(row_), [this] { ShowOutlook(); },
                     [this] { GoOn(); }};
 };
 

@@ -55,12 +55,13 @@ WordTable Coded(std::string_view heading, std::vector<WordColumn> more, std::str
 
 WordTable MatchTypes() {
   WordTable table =
-      Coded("Match types", {{"Risk over", Number, "kAnyRisk"}, {"Size under", Number, "kAnySize"}},
+      Coded("Match types",
+            {{"Risk over", Number, "kAnyRisk"}, {"Size under", Number, "kAnySize"}, {"Means"}},
             "MatchTypeCode",
             {"segments",
              "MatchTypeRow",
              "kMatchTypes",
-             {"Style", "Code", "Says", "Risk over", "Size under"}});
+             {"Style", "Code", "Says", "Risk over", "Size under", "Means"}});
   table.Columns.insert(table.Columns.begin(), {"Style", Rule, "", "", {}, "Match styles"});
   table.Keys = {"Style", "Code"};
   return table;
