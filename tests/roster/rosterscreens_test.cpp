@@ -63,7 +63,8 @@ TEST(frmRoster, FiltersByOneAndByAll) {
   EXPECT_TRUE(play.Desk.FirstColumn("lstwres").empty());
   EXPECT_FALSE(play.Desk.Enabled("cmdcontract"));
   EXPECT_FALSE(play.Desk.Enabled("cmdposition"));
-  EXPECT_EQ(play.Desk.Text("lblfilters"), "0 of 3: Position Jobber hides 2, Split Red hides 2");
+  EXPECT_EQ(play.Desk.Text("lblfilters"),
+            "0 of 3: Position \"Jobber\" hides 2, Split \"Red\" hides 2");
   play.Desk.Pick("cmbsplit", "All");
   EXPECT_EQ(play.Desk.FirstColumn("lstwres"), Names({"Low Down"}));
   play.Desk.Click("cmdclear");

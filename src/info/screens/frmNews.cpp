@@ -60,6 +60,7 @@ class frmNews : public GameScreen {
   explicit frmNews(Game& game, int number = 0)
       : GameScreen(game, "frmNews", "News"), first_(number) {
     lstnews.Extends = true;
+    lstnews.Least = 1;  // in the smallest window the letter begins in sight below it
     lstnews.Acts = {{&cmdsubject}, {&cmdread}, {&cmddelete}};
     lstdigest.OpenWith(cmdsubject);
     txtbody.Brief = true;

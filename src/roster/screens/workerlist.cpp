@@ -154,8 +154,8 @@ void WorkerListScreen::ShowFilters() {
   std::string words;
   const auto add = [&](std::string_view caption, const ui::ComboBox& combo, int hides) {
     if (combo.Selected() <= 1) return;
-    words += (words.empty() ? "" : ", ") + std::string(caption) + " " + combo.Text.Get() +
-             " hides " + std::to_string(hides);
+    words += (words.empty() ? "" : ", ") + std::string(caption) + " \"" + combo.Text.Get() +
+             "\" hides " + std::to_string(hides);
   };
   for (int i = 1; i <= cmbfilters.Count(); ++i)
     add(filters_[Index(i)].Caption, cmbfilters(i), hidden_[Index(i)]);
