@@ -62,8 +62,12 @@ TEST(frmWresContract, ShowsTheContractAndBeginsWithWhatIsWanted) {
             Names({"6 Months", "1 Year", "2 Years", "3 Years", "4 Years", "5 Years"}));
   play.Desk.Slide("hsnewwage", 0);
   EXPECT_EQ(play.Desk.Text("txtnewwage"), "$0");
+  play.World().Player().Money = 299999;
+  play.Desk.Slide("hsnewwage", 299);
+  EXPECT_FALSE(play.Desk.Visible("lblafford"));
   play.Desk.Slide("hsnewwage", 300);
   EXPECT_EQ(play.Desk.Text("txtnewwage"), "$300,000");
+  EXPECT_TRUE(play.Desk.Visible("lblafford"));
   play.Desk.Click("cmdback");
   EXPECT_EQ(play.Desk.TopName(), "frmRoster");
 }

@@ -98,7 +98,7 @@ class frmWresContract : public TalkWith<Worker> {
 
   TermLabels terms_{*this};
   ui::Label lblcreative{*this, "lblcreative", "A clause gives creative control."};
-  OfferControls offer_{*this, kHighestWage};
+  OfferControls offer_{*this, game_, kHighestWage};
   ui::CheckBox chkcreative{*this, "chkcreative", "Creative control"};
   ui::Button cmdterminate{*this, "cmdterminate", "Terminate", &frmWresContract::cmdterminate_Click};
   ui::Button cmdrelease{*this, "cmdrelease", "Offer Release", &frmWresContract::cmdrelease_Click};
@@ -216,7 +216,7 @@ class frmOtherContract : public TalkWith<Worker> {
   ui::Label txtposition{*this, "txtposition"};
   TermLabels terms_{*this};
   ui::Label txtcreative{*this, "txtcreative"};
-  OfferControls offer_{*this, kHighestWage};
+  OfferControls offer_{*this, game_, kHighestWage};
   ui::CheckBox chkcreative{*this, "chkcreative", "Creative control"};
   ui::ComboBox cmbnewposition{*this, "cmbnewposition"};
   ui::ComboBox cmbnewdispo{*this, "cmbnewdispo"};
@@ -232,7 +232,7 @@ class StaffTalk : public TalkWith<Staff> {
   StaffTalk(Game& game, const Staff& staff, bool own)
       : TalkWith(game, own ? "frmStaffContract" : "frmOtherStaffContract", staff),
         own_(own),
-        offer_(*this, std::max<int>(kHighestStaffWage, own ? staff.Wage : 0)) {
+        offer_(*this, game, std::max<int>(kHighestStaffWage, own ? staff.Wage : 0)) {
     BackBefore(cmdoffer);
   }
 

@@ -13,15 +13,25 @@ namespace grapplemont {
 
 static constexpr int kWrittenRow = 1, kVerbalRow = 2;
 
-OfferControls::OfferControls(ui::Screen& screen, int highestWage)
+OfferControls::OfferControls(ui::Screen& screen, Game& game, int highestWage)
     : hsnewwage(screen, "hsnewwage", 0, highestWage, ui::Handler([this] { ShowWage(); })),
       txtnewwage(screen, "txtnewwage"),
       cmbnewlength(screen, "cmbnewlength"),
-      cmbnewtype(screen, "cmbnewtype") {
+      cmbnewtype(screen, "cmbnewtype"),
+      lblafford(screen, "lblafford", "A month of it is more than all the money you have."),
+      game_(game) {
+  lblafford.Colour = ui::Tone::Red;
   for (const Term& length : kContractLengths)
     cmbnewlength.Add(std::string(length.Says), length.Code);
   cmbnewtype.Add(std::string(ContractWord(true)), kWrittenRow);
   cmbnewtype.Add(std::string(ContractWord(false)), kVerbalRow);
+}
+
+void OfferControls::ShowWage() {
+  constexpr long long kThousand = 1000;
+  const long long wage = hsnewwage.Value * kThousand;
+  txtnewwage.Text = WageText(hsnewwage.Value);
+  lblafford.Visible = wage > 0 && wage > game_.World().Player().Money;
 }
 
 void OfferControls::Begin(int wage, int months, bool written) {
@@ -45,7 +55,7 @@ ContractOffer OfferControls::Offer() const {
 
 std::vector<ui::Box> OfferControls::Fields() {
   return {ui::Field("Wage in $1000", hsnewwage), ui::Field("A month", txtnewwage),
-          ui::Field("Length", cmbnewlength), ui::Field("Type", cmbnewtype)};
+          ui::Field("Length", cmbnewlength), ui::Field("Type", cmbnewtype), lblafford};
 }
 
 TermLabels::TermLabels(ui::Screen& screen)

@@ -18,7 +18,7 @@ namespace grapplemont {
 
 /// The part of an offer that everybody gets: wage, length, type.
 struct OfferControls {
-  OfferControls(ui::Screen& screen, int highestWage);
+  OfferControls(ui::Screen& screen, Game& game, int highestWage);
 
   /// Shows what the talks begin with.
   void Begin(int wage, int months, bool written);
@@ -31,9 +31,12 @@ struct OfferControls {
   ui::Label txtnewwage;
   ui::ComboBox cmbnewlength;
   ui::ComboBox cmbnewtype;
+  ui::Label lblafford;
 
  private:
-  void ShowWage() { txtnewwage.Text = WageText(hsnewwage.Value); }
+  void ShowWage();
+
+  Game& game_;
 };
 
 /// What a contract holds or somebody wants of one.
