@@ -109,6 +109,7 @@ void TableView::Connect() {
     table_.TurnSort(column, second);
     Rearrange();
     grid_->scrollTo(grid_->currentIndex());
+    if (!hasChosen_) BeginAtTop();
   };
   connect(&heading, &QHeaderView::sectionMoved, this, &TableView::TakeOrder);
   connect(&heading, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
@@ -123,8 +124,14 @@ void TableView::Connect() {
 void TableView::ConnectGrid() {
   grid_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(grid_, &QWidget::customContextMenuRequested, this, &TableView::OpenRowMenu);
-  grid_->Picked = [this](int row) { Act(row, false); };
-  grid_->Opened = [this](int row) { Act(row, true); };
+  grid_->Picked = [this](int row) {
+    hasChosen_ = true;
+    Act(row, false);
+  };
+  grid_->Opened = [this](int row) {
+    hasChosen_ = true;
+    Act(row, true);
+  };
   grid_->Added = [this](int row) { AddRow(row); };
   grid_->Reached = [this](int row) { ReachRow(row); };
   grid_->AllPicked = [this] { PickAll(); };
@@ -261,21 +268,21 @@ void TableView::RestorePlace() {
   // what the page has chosen.
   QMetaObject::invokeMethod(
       this,
-      [this, top] {
+      [this, top, kept = currentKey_] {
         grid_->verticalScrollBar()->setValue(top);
         grid_->scrollTo(grid_->currentIndex());
         if (!isVisible() || !table_.Follows()) return;
         DropUnseen();
-        if (BeginsUnsorted()) Act(0, false);
+        if (control_.Selected() == 1 && control_.Key() != kept) BeginAtTop();
       },
       Qt::QueuedConnection);
 }
 
-/// Whether a page of people has chosen the first of its own order, which the kept one puts
-/// elsewhere.
-bool TableView::BeginsUnsorted() const {
-  return !control_.Views.empty() && !table_.State().Sort.empty() && control_.Selected() == 1 &&
-         table_.ShownRow(0) > 0;
+/// A page of people that has chosen the first of its own order begins with the first of the
+/// player's.
+void TableView::BeginAtTop() {
+  if (control_.Views.empty() || table_.State().Sort.empty() || control_.Selected() == 0) return;
+  if (table_.ShownRow(control_.Selected() - 1) > 0) Act(0, false);
 }
 
 void TableView::Leave() {

@@ -87,7 +87,7 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   void ApplyColumns();
   void TakeOrder();
   void RestorePlace();
-  bool BeginsUnsorted() const;
+  void BeginAtTop();
   std::string Csv() const;
   bool SeveralChosen() const;
   void CopyCsv() const;
@@ -136,7 +136,8 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   std::vector<int> natural_;
   int naturalScale_ = 0;
   bool arranging_ = false;
-  bool isNew_ = true;  // its grid has just been given the rows
+  bool isNew_ = true;       // its grid has just been given the rows
+  bool hasChosen_ = false;  // the player, in this view: whom they have chosen stays in sight
   int currentKey_ = 0;
   int anchorKey_ = 0;  // of the row that was picked last, from which Shift reaches
 };
