@@ -66,7 +66,7 @@ void ScreenView::TakeKeyboard() {
   setFocus(Qt::OtherFocusReason);
 }
 
-bool ScreenView::GoToMissing() {
+bool ScreenView::ChooseMissing() {
   TableView* next = nullptr;
   for (ControlView* view : views_) {
     auto* table = dynamic_cast<TableView*>(view);
@@ -75,7 +75,7 @@ bool ScreenView::GoToMissing() {
     if (!next && table->WaitsForChoice()) next = table;
   }
   if (next) next->FocusTarget()->setFocus(Qt::TabFocusReason);
-  return next;
+  return false;
 }
 
 }  // namespace grapplemont::desktop

@@ -41,9 +41,9 @@ class ScreenView : public QWidget {
   /// to where one begins.
   void TakeKeyboard();
   void RememberKeyboard();
-  /// Chooses the row that the keyboard is on, where its list waits for a choice, else leads to the
-  /// first list that does; false when none waits.
-  bool GoToMissing();
+  /// Chooses the row that the keyboard is on, where its list waits for a choice; else leads the
+  /// keyboard to the first list that does, and is false.
+  bool ChooseMissing();
   /// The control here that has the keyboard; nullptr for none.
   const ui::Control* KeyboardOn() const;
   /// The one that will be given it by TakeKeyboard; nullptr for none.

@@ -57,7 +57,7 @@ void Window::PressEnter() {
     top.PressCancel();
   } else if (&button->Parent() != &top.Shows()) {
     PressHub(*button);
-  } else if (!top.Press(button) && !top.GoToMissing()) {
+  } else if (!top.Press(button) && !top.ChooseMissing()) {
     HintAt(*button, Shown(WhyNotPress(*button)));
   }
 }
