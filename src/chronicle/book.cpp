@@ -58,7 +58,10 @@ std::vector<ProofField> FieldsOf(const World& world, const Proof& proof) {
         const bool counts = field.Kind != FieldKind::Text && field.Kind != FieldKind::Date;
         if (counts && FieldNumber(field, bytes.data() + from, index) == 0) continue;
         std::string shown = FieldShown(field, bytes.data() + from, index);
-        if (shown.empty()) continue;
+        // The day that stands for none says nothing either.
+        const bool isNoDay =
+            field.Kind == FieldKind::Date && ParseIsoDate(shown) == Day(kNoTitleDate);
+        if (shown.empty() || isNoDay) continue;
         fields.push_back({FieldName(field, index), std::move(shown), std::string(field.Help)});
       }
   }

@@ -28,6 +28,17 @@ nav ul { columns: 2; padding-left: 1em; font-size: 0.85em; }
 </style>
 )";
 
+/// What paper knows of it: no colours, no columns.
+constexpr std::string_view kPrintedHead = R"(<!DOCTYPE html>
+<html lang="en"><head><meta charset="utf-8">
+<style>
+h1, h2, h3 { font-family: sans-serif; }
+td, .records { font-family: sans-serif; font-size: 8pt; }
+td a { color: black; text-decoration: none; }
+</style>
+)";
+constexpr std::size_t kColumns = 3;  // of the printed contents
+
 std::string Safe(std::string_view text) {
   std::string safe;
   for (const char letter : text) {
@@ -51,7 +62,7 @@ class HtmlWriter {
       : world_(world), book_(book), form_(form) {}
 
   std::string Write() {
-    out_ = kHead;
+    out_ = form_.Printed ? kPrintedHead : kHead;
     out_ += "<title>" + Safe(book_.Title) + "</title></head><body>\n<h1>" + Safe(book_.Title) +
             "</h1>\n<p><em>" + Safe(book_.Under) + "</em></p>\n";
     Contents();
@@ -69,18 +80,44 @@ class HtmlWriter {
   void Contents() {
     if (book_.Parts.size() == 1 && book_.Parts[0].Chapters.size() == 1) return;
     out_ += "<nav><h2>Contents</h2>\n";
-    int number = 0;
+    int before = 0;
     for (const BookPart& part : book_.Parts) {
-      out_ += "<h3>" + Safe(part.Heading) + "</h3><ul>\n";
-      for (const Chapter& chapter : part.Chapters) {
-        const auto at = static_cast<std::size_t>(number++);
-        out_ += "<li><a href=\"#c" + std::to_string(number) + "\">" + Safe(chapter.Heading) +
-                "</a>" + (at < form_.Pages.size() ? ", " + std::to_string(form_.Pages[at]) : "") +
-                "</li>\n";
-      }
-      out_ += "</ul>\n";
+      out_ += "<h3>" + Safe(part.Heading) + "</h3>\n";
+      form_.Printed ? PutTable(part, before) : PutList(part, before);
+      before += static_cast<int>(part.Chapters.size());
     }
     out_ += "</nav>\n";
+  }
+
+  /// The chapters of a part, `before` of which come first in the book.
+  void PutList(const BookPart& part, int before) {
+    out_ += "<ul>\n";
+    for (const Chapter& chapter : part.Chapters) {
+      out_ += "<li>";
+      PutEntry(chapter, ++before);
+      out_ += "</li>\n";
+    }
+    out_ += "</ul>\n";
+  }
+
+  void PutTable(const BookPart& part, int before) {
+    out_ += "<table width=\"100%\">\n";
+    for (std::size_t first = 0; first < part.Chapters.size(); first += kColumns) {
+      out_ += "<tr>";
+      for (std::size_t at = first; at < first + kColumns; ++at) {
+        out_ += "<td width=\"33%\">";
+        if (at < part.Chapters.size()) PutEntry(part.Chapters[at], ++before);
+        out_ += "</td>";
+      }
+      out_ += "</tr>\n";
+    }
+    out_ += "</table>\n";
+  }
+
+  void PutEntry(const Chapter& chapter, int number) {
+    const auto at = static_cast<std::size_t>(number - 1);
+    out_ += "<a href=\"#c" + std::to_string(number) + "\">" + Safe(chapter.Heading) + "</a>" +
+            (at < form_.Pages.size() ? ", " + std::to_string(form_.Pages[at]) : "");
   }
 
   void Put(const Chapter& chapter, int number) {
@@ -96,9 +133,14 @@ class HtmlWriter {
       out_ += "</p>\n";
     }
     for (const Figure& figure : chapter.Figures)
-      if (figure.Is == Figure::Kind::Lines || figure.Is == Figure::Kind::Bars)
-        out_ += "<figure>" + form_.Picture(figure) + "<figcaption>" + Safe(figure.Words) +
-                "</figcaption></figure>\n";
+      if (figure.Is == Figure::Kind::Lines || figure.Is == Figure::Kind::Bars) PutChart(figure);
+  }
+
+  void PutChart(const Figure& figure) {
+    const std::string picture = form_.Picture(figure), words = Safe(figure.Words);
+    out_ += form_.Printed
+                ? "<p>" + picture + "<br><small><i>" + words + "</i></small></p>\n"
+                : "<figure>" + picture + "<figcaption>" + words + "</figcaption></figure>\n";
   }
 
   void Put(const ToldSentence& sentence) {

@@ -5,6 +5,7 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPalette>
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QTextBlock>
@@ -95,6 +96,29 @@ std::vector<int> PagesOf(const QTextDocument& document) {
   return pages;
 }
 
+constexpr int kFoot = 32;  // of a page, for its number
+
+/// Every page, and its number at the foot.
+void Print(const QTextDocument& document, QPdfWriter& paper) {
+  const QSizeF page = document.pageSize();
+  QPainter painter(&paper);
+  QAbstractTextDocumentLayout::PaintContext look;
+  look.palette.setColor(QPalette::Text, Qt::black);
+  for (int number = 1; number <= document.pageCount(); ++number) {
+    if (number > 1) paper.newPage();
+    const double top = (number - 1) * page.height();
+    look.clip = QRectF(QPointF(0, top), page);
+    painter.save();
+    painter.translate(0, -top);
+    painter.setClipRect(look.clip);
+    document.documentLayout()->draw(&painter, look);
+    painter.restore();
+    painter.setFont(document.defaultFont());
+    painter.drawText(QRectF(0, page.height(), page.width(), kFoot),
+                     Qt::AlignHCenter | Qt::AlignBottom, QString::number(number));
+  }
+}
+
 }  // namespace
 
 std::string WriteBookPdf(const World& world, const std::string& file, int voice) {
@@ -123,7 +147,8 @@ std::string WriteBookPdf(const World& world, const std::string& file, int voice)
   paper.setPageSize(QPageSize(QPageSize::A4));
   paper.setResolution(96);
   paper.setTitle(Shown(book.Title));
-  document.setPageSize(paper.pageLayout().paintRectPixels(96).size());
+  document.setPageSize(paper.pageLayout().paintRectPixels(96).size() - QSize(0, kFoot));
+  document.documentLayout()->setPaintDevice(&paper);
   const auto lay = [&] {
     pictures = 0;
     document.setHtml(QString::fromStdString(HtmlOf(world, book, form)));
@@ -131,7 +156,7 @@ std::string WriteBookPdf(const World& world, const std::string& file, int voice)
   lay();
   form.Pages = PagesOf(document);
   lay();
-  document.print(&paper);
+  Print(document, paper);
   return out.commit() ? std::string() : failed();
 }
 

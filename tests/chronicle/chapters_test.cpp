@@ -331,5 +331,28 @@ TEST_F(Chronicles, BecomeABookWhoseLinksAllLeadSomewhere) {
   EXPECT_NE(html.find("reigns.dat, record"), html.npos);
 }
 
+/// Paper has neither links nor colours, and no day that stands for none.
+TEST_F(Chronicles, AreListedWithTheirPagesOnPaper) {
+  LiveAYear();
+  const Archive archive(World_);
+  const WorldBook book = WriteBook(archive, kTolland);
+  BookForm form{SvgOf};
+  form.Printed = true;
+  std::vector<const Chapter*> chapters;
+  for (const BookPart& part : book.Parts)
+    for (const Chapter& chapter : part.Chapters) chapters.push_back(&chapter);
+  for (std::size_t i = 0; i < chapters.size(); ++i) form.Pages.push_back(100 + static_cast<int>(i));
+  const std::string html = HtmlOf(World_, book, form);
+  ASSERT_GT(chapters.size(), 3U);
+  std::size_t at = 0;
+  for (std::size_t i = 0; i < chapters.size(); ++i) {
+    at = html.find(">" + chapters[i]->Heading + "</a>, " + std::to_string(100 + i) + "</td>", at);
+    ASSERT_NE(at, html.npos) << chapters[i]->Heading;
+  }
+  EXPECT_NE(html.find("[1]"), html.npos);
+  EXPECT_EQ(html.find("1980-01-01"), html.npos);
+  EXPECT_EQ(html.find("background"), html.npos);
+}
+
 }  // namespace
 }  // namespace grapplemont
