@@ -1,6 +1,8 @@
 #include "report/talkpast.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <ranges>
 #include <utility>
 #include <vector>
 
@@ -17,8 +19,8 @@ namespace {
 
 using Uids = std::vector<int>;
 
-constexpr int kFresh = 35, kLately = 10, kJustBack = 21, kHurtLongAgo = 540;  // days
-constexpr int kBadlyHurt = 2;                                                 // months
+constexpr int kFresh = 35, kLately = 10, kJustBack = 21, kAwayForLong = 30;  // days
+constexpr int kBadlyHurt = 2;                                                // months
 constexpr int kBesideThePoint = 25;
 
 /// How telling each is on its day, in their order; it loses a point a day. The last two are never
@@ -116,12 +118,13 @@ class TalkLook {
 
   void OfCrowns() {
     for (const TitleReign& reign : world_.Reigns()) {
+      const bool lasts = reign.End == kReignLasts;
+      if (reign.Owner != world_.PlayerUid() || (!lasts && reign.End != kReignLost)) continue;
+      const Day day = lasts ? reign.From : reign.Until;
+      if (const int days = DaysSince(day); days < 0 || days > kFresh) continue;
       const Uids theirs = Shared(who_, {reign.Worker, reign.Partner});
-      if (theirs.empty() || reign.Owner != world_.PlayerUid()) continue;
-      if (reign.End == kReignLasts)
-        OfReign(kCrownWon, reign, reign.From, theirs);
-      else if (reign.End == kReignLost && !HasBack(reign))
-        OfReign(kCrownLost, reign, reign.Until, theirs);
+      if (!theirs.empty() && (lasts || !HasBack(reign)))
+        OfReign(lasts ? kCrownWon : kCrownLost, reign, day, theirs);
     }
   }
   static bool IsOfTheSame(const TitleReign& one, const TitleReign& other) {
@@ -134,8 +137,6 @@ class TalkLook {
     });
   }
   void OfReign(TalkRecalls is, const TitleReign& reign, Day day, const Uids& theirs) {
-    const int days = DaysSince(day);
-    if (day == Day(kNoTitleDate) || days < 0 || days > kFresh) return;
     Uids others;
     for (const TitleReign& other : world_.Reigns()) {
       if (!IsOfTheSame(other, reign) || &other == &reign) continue;
@@ -144,7 +145,8 @@ class TalkLook {
       if (isNext || isLast) others = {other.Worker, other.Partner};
     }
     std::erase(others, 0);
-    Add(is, {{}, 0, theirs, others, 0, days}, TitleInProse(reign.Title.View(), reign.Partner == 0));
+    Add(is, {{}, 0, theirs, others, 0, DaysSince(day)},
+        TitleInProse(reign.Title.View(), reign.Partner == 0));
   }
 
   void OfLastMatch() {
@@ -172,29 +174,31 @@ class TalkLook {
          DaysSince(last->On)});
   }
 
-  /// Fit again, and either not seen since or in the ring again for some days only.
+  /// Fit again after a long time, and either not seen since or in the ring again for some days
+  /// only.
   void OfInjury(int uid) {
     const Worker* worker = world_.FindWorker(uid);
     if (!worker || worker->Status == "Inj") return;
-    const Deed* hurt = LastInjuryOf(*worker);
-    if (!hurt || hurt->Number < kBadlyHurt) return;
-    for (const int number : MatchesWith(world_, uid)) {
+    Day left = {}, back = teller_.Today();
+    for (const int number : std::views::reverse(MatchesWith(world_, uid))) {
       const Day day = world_.Bouts()[number].On;
-      if (day <= Day(hurt->On)) continue;
-      if (DaysSince(day) > kJustBack) return;
-      return Add(kHurtAndBack, {{}, 0, {uid}, {}, 0, DaysSince(hurt->On)});
+      const bool isOfLate = DaysSince(day) <= kJustBack;
+      (isOfLate ? back : left) = day;
+      if (!isOfLate) break;
     }
-    if (!WasOnACard(world_, uid)) Add(kHurtAndBack, {{}, 0, {uid}, {}, 0, DaysSince(hurt->On)});
+    const bool wasAway = left != Day{} && (back - left).count() >= kAwayForLong;
+    if (!wasAway || (back == teller_.Today() && WasOnACard(world_, uid))) return;
+    if (WasHurtOn(*worker, left)) Add(kHurtAndBack, {{}, 0, {uid}, {}, 0, DaysSince(left)});
   }
-  const Deed* LastInjuryOf(const Worker& worker) const {
+  bool WasHurtOn(const Worker& worker, Day day) const {
     for (int number = world_.Deeds().Count(); number >= 1; --number) {
       const Deed& deed = world_.Deeds()[number];
-      if (DaysSince(deed.On) > kHurtLongAgo) return nullptr;
+      if (Day(deed.On) < day) return false;
       if (deed.Kind == kDeedInjured && deed.Promotion == world_.PlayerUid() &&
-          deed.Who == worker.Name.View())
-        return &deed;
+          deed.Number >= kBadlyHurt && Day(deed.On) == day && deed.Who == worker.Name.View())
+        return true;
     }
-    return nullptr;
+    return false;
   }
 
   /// On a show of the player's, which the cards that are kept prove.

@@ -39,7 +39,9 @@ void Kept(World& world, const Segment& booked, int days, int row = 1) {
   world.KeptRows().Append(kept);
 }
 
+/// In a match that Ada lost.
 void Hurt(World& world, int days) {
+  Held(world, 2, days);
   Deed deed{};
   deed.On = Ago(world, days);
   deed.Kind = kDeedInjured;
@@ -159,7 +161,7 @@ TEST(TalkPast, RecallsNothingThatIsNotSo) {
   Held(world, 1, 60);  // and back for long
   EXPECT_FALSE(Recalled(world, Talk(1, 2)));
   Kept(world, Between(kAmbush, 1, 2), 7);
-  world.KeptRows().Change(3).IsDraft = true;
+  world.KeptRows().Change(world.KeptRows().Count()).IsDraft = true;
   EXPECT_FALSE(Recalled(world, Talk(1, 2)));
   world = Two();
   Hurt(world, 100);
