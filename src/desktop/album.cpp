@@ -21,6 +21,8 @@ namespace {
 constexpr std::array<std::string_view, 8> kLast = {"cmdloadgame", "cmdcontinue", "cmdauto",
                                                    "cmdfill",     "cmddoshow",   "cmdcancel",
                                                    "cmduntil",    "cmdnext"};
+/// What only explains is looked at before anything leads away.
+constexpr std::string_view kExplains = "cmdwhy";
 /// Lists whose first row leads to a page of somebody, the last to one of its own; or which begin
 /// with nobody at all.
 constexpr std::array<std::string_view, 2> kLeadFromTheirEnd = {"lstproof", "lststaff"};
@@ -41,9 +43,15 @@ constexpr std::string_view kAsksForAName = "txtname", kName = "Pat Lee";
 constexpr const char* kByName[] = {"frmProspect", "frmMonth", "frmPlayOn", "frmGodMode",
                                    "frmTvOffer",  "frmPinky", "frmTheEnd"};
 /// What a game may never come to: it is passed in no time, or wants somebody's consent or riches.
-constexpr std::string_view kByLuck[] = {"frmWait",          "frmIncident", "frmTakeover",
-                                        "frmStaffContract", "frmFeudStat", "frmPPVBooking",
-                                        "frmAngle*",        "frmIV*"};
+constexpr std::string_view kByLuck[] = {"frmWait",
+                                        "frmIncident",
+                                        "frmTakeover",
+                                        "frmStaffContract",
+                                        "frmOtherStaffContract",
+                                        "frmFeudStat",
+                                        "frmPPVBooking",
+                                        "frmAngle*",
+                                        "frmIV*"};
 
 constexpr int kMostClicks = 80;  // to get through a screen that has only one way
 constexpr int kShowDays = 8;     // that are played for what they may bring
@@ -61,7 +69,8 @@ std::vector<std::string> WaysOn(ui::Screen& screen) {
                        (list && list->OnOpen && list->Count() > 0);
     if (!leads || control == back || control->Name() == kLeavesTheGame) continue;
     const bool isLast = std::ranges::find(kLast, control->Name()) != kLast.end();
-    (isLast ? last : ways).push_back(control->Name());
+    auto& where = isLast ? last : ways;
+    where.insert(control->Name() == kExplains ? where.begin() : where.end(), control->Name());
   }
   std::ranges::sort(last, {},
                     [](const std::string& name) { return std::ranges::find(kLast, name); });

@@ -154,7 +154,7 @@ TEST(TalkPast, RecallsNothingThatIsNotSo) {
         << "a match before the word keeps none";
   }
   World world = Two();
-  test::Named(world.Workers(), "Ada Crane").LastTurn = Ago(world, 7);  // on nobody's card
+  test::Named(world.Workers(), "Ada Crane").LastTurn = Ago(world, 9);  // on nobody's card
   Kept(world, Between(kAmbush, 1, 2), 40);
   Kept(world, Talk(2, 1, kTalkNone), 7);
   Hurt(world, 100);
