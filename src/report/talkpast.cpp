@@ -123,12 +123,23 @@ class TalkLook {
       const Day day = lasts ? reign.From : reign.Until;
       if (const int days = DaysSince(day); days < 0 || days > kFresh) continue;
       const Uids theirs = Shared(who_, {reign.Worker, reign.Partner});
-      if (!theirs.empty() && (lasts || !HasBack(reign)))
+      if (!theirs.empty() && (lasts || (LostInTheRing(reign, theirs) && !HasBack(reign))))
         OfReign(lasts ? kCrownWon : kCrownLost, reign, day, theirs);
     }
   }
   static bool IsOfTheSame(const TitleReign& one, const TitleReign& other) {
     return one.Owner == other.Owner && one.Title == other.Title;
+  }
+  /// A Title may also go by a match that its holder is not in.
+  bool LostInTheRing(const TitleReign& lost, const Uids& holders) const {
+    return std::any_of(holders.begin(), holders.end(), [&](int uid) {
+      const auto& numbers = MatchesWith(world_, uid);
+      return std::any_of(numbers.rbegin(), numbers.rend(), [&](int number) {
+        const HeldMatch& bout = world_.Bouts()[number];
+        return bout.Promotion == world_.PlayerUid() && Day(bout.On) == Day(lost.Until) &&
+               bout.Title == lost.Title && !HasWon(bout, {uid});
+      });
+    });
   }
   bool HasBack(const TitleReign& lost) const {
     return std::any_of(world_.Reigns().begin(), world_.Reigns().end(), [&](auto& reign) {
@@ -139,10 +150,14 @@ class TalkLook {
   void OfReign(TalkRecalls is, const TitleReign& reign, Day day, const Uids& theirs) {
     Uids others;
     for (const TitleReign& other : world_.Reigns()) {
-      if (!IsOfTheSame(other, reign) || &other == &reign) continue;
-      const bool isNext = is == kCrownLost && Day(other.From) == day;
-      const bool isLast = is == kCrownWon && other.End == kReignLost && Day(other.Until) == day;
+      if (!IsOfTheSame(other, reign)) continue;
+      // Of several changes on one day the one that is told.
+      const bool isNext =
+          is == kCrownLost && &other > &reign && Day(other.From) == day && others.empty();
+      const bool isLast =
+          is == kCrownWon && &other < &reign && other.End == kReignLost && Day(other.Until) == day;
       if (isNext || isLast) others = {other.Worker, other.Partner};
+      if (isLast && !LostInTheRing(other, others)) others.clear();
     }
     std::erase(others, 0);
     Add(is, {{}, 0, theirs, others, 0, DaysSince(day)},
@@ -228,6 +243,10 @@ std::vector<TalkFact> OfInterview(Teller& teller) {
   const bool hasSubject =
       std::any_of(subjects.begin(), subjects.end(), [](int uid) { return uid != 0; });
   std::vector<TalkFact> facts = TalkLook(teller, speakers).Facts();
+  // Of what a manager said of somebody else neither need be there.
+  std::erase_if(facts, [people = PeopleOf(teller.segment)](const TalkFact& fact) {
+    return !AnyOf(people, Both(fact.Of.One, fact.Of.Two));
+  });
   for (TalkFact& fact : facts)
     if (const Uids others = OthersOf(fact.Of, speakers);
         hasSubject && !others.empty() && !AnyOf(others, subjects))

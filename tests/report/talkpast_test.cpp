@@ -90,7 +90,11 @@ TEST(TalkPast, RecallsWhatLiesBehindASpeaker) {
       {kTheyAteIt, 1, [](World& w) { Kept(w, Talk(2, 1), 14), Held(w, 1, 7); }},
       {kLastMet, 2, [](World& w) { Held(w, 2, 7); }},
       {kCrownWon, 1, [](World& w) { Reign(w, 2, 400, 7), Reign(w, 1, 7, 0); }},
-      {kCrownLost, 1, [](World& w) { Reign(w, 1, 400, 7), Reign(w, 2, 7, 0); }},
+      {kCrownLost, 1,
+       [](World& w) {
+         Reign(w, 1, 400, 7), Reign(w, 2, 7, 0), Held(w, 2, 7);
+         w.Bouts().Change(1).Title = "Crown";
+       }},
       {kHurtAndBack, 1, [](World& w) { Hurt(w, 100); }},
       {kHurtAndBack, 1, [](World& w) { Hurt(w, 100), Held(w, 2, 14); }},
       {kChangedWays, 1,
@@ -128,6 +132,7 @@ TEST(TalkPast, HoldsManagersToTheirWords) {
     ASSERT_TRUE(open);
     EXPECT_EQ(open->Is, kSpoke);
     EXPECT_EQ(open->Of.One, std::vector<int>{3});
+    EXPECT_FALSE(Recalled(world, Talk(1, 0, kSelfPromotion))) << "neither of the two is there";
     Held(world, winner, 7);
     const auto settled = Recalled(world, Talk(1, 2));
     ASSERT_TRUE(settled);
@@ -144,6 +149,8 @@ TEST(TalkPast, RecallsNothingThatIsNotSo) {
       {kLastMet, 2, [](World& w) { Kept(w, Talk(1, 2), 20), Held(w, 1, 14), Held(w, 2, 9); }},
       {kCrownWon, 1,
        [](World& w) { Reign(w, 1, 400, 20), Reign(w, 2, 20, 10), Reign(w, 1, 10, 0); }},
+      // It went by a match of others.
+      {kLastMet, 2, [](World& w) { Reign(w, 1, 400, 7), Reign(w, 2, 7, 0), Held(w, 2, 7); }},
   });
   for (const int row : {1, 3}) {
     World world = Two();
