@@ -180,6 +180,15 @@ class Look {
            !HaveFoughtFor(world_, segment_.TitleName.View(), theirs, lost.Until);
   }
 
+  /// Of two who held it together and are now on different sides only the first can have it back.
+  Uids OfOneSide(const Uids& challengers, const Uids& holders) const {
+    Uids theirs;
+    for (const Uids& side : sides_)
+      if (Uids found = Shared(Shared(side, challengers), holders); found.size() > theirs.size())
+        theirs = std::move(found);
+    return theirs;
+  }
+
   void OfTitle() {
     const int holder = teller_.scene.Champion;
     if (segment_.TitleName == "None" || holder == 0) return;
@@ -198,7 +207,7 @@ class Look {
     const Uids champions = SideOf(holder);
     if (lasts) OfReign(*lasts, champions, challengers);
     if (once) {
-      const Uids theirs = Shared(challengers, {once->Worker, once->Partner});
+      const Uids theirs = OfOneSide(challengers, {once->Worker, once->Partner});
       const bool isRematch = once == before && IsReturn(*once, theirs);
       Add({isRematch ? kTitleAgain : kOnceChampion, isRematch ? 75 : 58, theirs, champions, 0,
            DaysSince(once->Until)});

@@ -133,7 +133,7 @@ TEST(Past, NamesThoseOfASideWhomItIsAbout) {
 
 TEST(Past, KnowsATitleOfTeamsAndOfThree) {
   World world = Four();
-  Reign(world, 3, 300, 200);
+  Reign(world, 4, 300, 200);
   world.Reigns().Change(1).Partner = 1;
   world.Reigns().Change(1).End = kReignVacated;
   Reign(world, 2, 21, 0, 3);
@@ -143,7 +143,7 @@ TEST(Past, KnowsATitleOfTeamsAndOfThree) {
   const Past past(world, three, {2});
   EXPECT_FALSE(past.Has(kReignLong)) << "three weeks are no age, however busy";
   ASSERT_TRUE(past.Has(kOnceChampion)) << "as the partner of somebody";
-  EXPECT_EQ(past.Has(kOnceChampion)->One, std::vector<int>{1});
+  EXPECT_EQ(past.Has(kOnceChampion)->One, std::vector<int>{1}) << "now against the other";
   EXPECT_FALSE(past.Has(kTitleAgain)) << "nobody lost a vacated Title";
   for (int uid = 1; uid <= 4; ++uid) Tally(world, uid, 20, 7);
   Held(world, 1, 400);
