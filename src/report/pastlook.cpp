@@ -174,9 +174,21 @@ class Look {
   }
   int DaysSince(Day day) const { return static_cast<int>((teller_.Today() - day).count()); }
 
+  /// Whether who holds the Title now took it in a match that they were not in.
+  bool WentWithoutThem(const TitleReign& lost, const Uids& theirs) const {
+    const auto& numbers = MatchesWith(world_, teller_.scene.Champion);
+    return std::any_of(numbers.begin(), numbers.end(), [&](int number) {
+      const HeldMatch& bout = world_.Bouts()[number];
+      return bout.Promotion == lost.Owner && Day(bout.On) == Day(lost.Until) &&
+             bout.Title == lost.Title &&
+             !AnyOf(theirs, Uids(bout.Worker.begin(), bout.Worker.end()));
+    });
+  }
+
   /// The first match for the Title that they have since they lost it, and not too late for that.
   bool IsReturn(const TitleReign& lost, const Uids& theirs) const {
     return lost.End == kReignLost && DaysSince(lost.Until) <= kAReturn &&
+           !WentWithoutThem(lost, theirs) &&
            !HaveFoughtFor(world_, segment_.TitleName.View(), theirs, lost.Until);
   }
 

@@ -164,6 +164,11 @@ TEST(Past, CallsOneMatchTheReturnAndOneTheFirst) {
   EXPECT_FALSE(later.Has(kTitleAgain));
   ASSERT_TRUE(later.Has(kOnceChampion));
   EXPECT_EQ(later.Has(kOnceChampion)->One, std::vector<int>{2});
+  world.Bouts().Change(1).On = Ago(world, 100);
+  EXPECT_TRUE(Past(world, AdaBeatsBo("Crown"), {1}).Has(kTitleAgain)) << "that is how it went";
+  world.Bouts().Change(1).Worker[1] = 3;
+  EXPECT_FALSE(Past(world, AdaBeatsBo("Crown"), {1}).Has(kTitleAgain)) << "it went without them";
+  world.Bouts().Change(1).Worker[1] = 2;
 
   world.Bouts().Change(1).On = Ago(world, 200);
   for (int uid = 1; uid <= 4; ++uid) Tally(world, uid, 20, 7);
