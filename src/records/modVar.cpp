@@ -1,6 +1,7 @@
 #include "records/modVar.h"
 
 #include "records/fields/fields.h"
+#include "records/fields/grouping.h"
 #include "records/keepannals.h"
 #include "records/store/table.h"
 
@@ -64,9 +65,7 @@ void TellOf(World& world, int option, const Promotion& rival, const std::string&
 }
 
 std::string Dollars(long long amount) {
-  std::string digits = std::to_string(amount < 0 ? -amount : amount);
-  for (std::size_t place = digits.size(); place > 3;) digits.insert(place -= 3, ",");
-  return (amount < 0 ? "-$" : "$") + digits;
+  return (amount < 0 ? "-$" : "$") + Grouped(amount < 0 ? -amount : amount);
 }
 
 void NoteDeed(World& world, DeedKind kind, const Promotion* house, std::string_view who,

@@ -186,7 +186,7 @@ TEST(TheShowOfTheYear, IsTheBestThatWasHeld) {
   AddPast(world, kPastTv, 53, "Friday Fire", 64, 1200);
   AddPast(world, kPastTv, 46, "Friday Fire", 64, 1200);
   EXPECT_EQ(GivenFor(world, kShowOfTheYear),
-            "Friday Fire | Rated 64% on 08 November 2026, seen by 1200 people");
+            "Friday Fire | Rated 64% on 08 November 2026, seen by 1,200 people");
 }
 
 TEST(TheFeudOfTheYear, IsTheBestByItsThreeBestMatches) {

@@ -5,6 +5,7 @@
 #include "editor/screens/screenfiles.h"
 #include "editorhome.h"
 #include "newrecords.h"
+#include "records/fields/grouping.h"
 #include "support/randomworld.h"
 
 namespace grapplemont::test {
@@ -64,10 +65,11 @@ TEST(FrmEditor, ShowsTheFirstOfVeryManyFaultsAndCountsTheRest) {
   for (const char* screen : {"frmEditMaintain", "frmEditor"}) {
     home.Desk.Open(screen);
     EXPECT_EQ(home.Desk.Rows("lstfaults").size(), 1000u);
-    EXPECT_NE(home.Desk.Text("lblfacts").find(", of which the first 1000 are shown."),
+    EXPECT_NE(home.Desk.Text("lblfacts").find(", of which the first 1,000 are shown."),
               std::string::npos);
   }
-  const std::string told = std::to_string(count) + " faults, of which the first 1000 are shown.";
+  const std::string told =
+      Grouped(static_cast<long long>(count)) + " faults, of which the first 1,000 are shown.";
   EXPECT_TRUE(home.Desk.Text("lblfacts").ends_with(told)) << home.Desk.Text("lblfacts");
   home.Desk.Open("frmEditWres");
   EXPECT_LT(home.Desk.Text("lblfault").size(), 600u);
@@ -190,7 +192,7 @@ TEST(FrmEditMerge, TellsDamagedFilesAndDoesNotMind) {
                                                             {"newtv.dat", "0"}}));
   EXPECT_EQ(home.Desk.Text("lblremarks"),
             "newwrestler.dat ends in 26 bytes that are not a whole record; they are left aside.\n"
-            "newstaff.dat has room for 10001 records and is left aside. Maximum 10,000 staff "
+            "newstaff.dat has room for 10,001 records and is left aside. Maximum 10,000 staff "
             "members per file!\n"
             "newteams.dat is not a plain file and is left aside.\n"
             "newtv.dat is empty.");

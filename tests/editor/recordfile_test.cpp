@@ -24,7 +24,7 @@ TEST(RecordFile, HasRoomForSoManyRecordsAndNoMore) {
       {1, 0, "newtv.dat ends in 1 bytes that are not a whole record; they are left aside."},
       {50000, 1000, ""},
       {50050, 0,
-       "newtv.dat has room for 1001 records and is left aside. Maximum 1,000 shows per file!"}};
+       "newtv.dat has room for 1,001 records and is left aside. Maximum 1,000 shows per file!"}};
   for (const auto& row : rows) {
     CutDisk disk;
     disk.MakeFolder("data");

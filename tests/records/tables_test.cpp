@@ -241,7 +241,7 @@ TEST(Tables, NameTheFirstOfManyMistakesAndCountTheRest) {
     for (int i = 0; i < 5000; ++i) tables[table] += "short\n";
   const Building building = BuildWorld(tables);
   EXPECT_EQ(500u, building.Mistakes.size());
-  EXPECT_EQ("20000 mistakes; nothing was built.", NothingBuilt(building));
+  EXPECT_EQ("20,000 mistakes; nothing was built.", NothingBuilt(building));
 }
 
 TEST(Tables, SpeakUtf8OfWhatIsNone) {

@@ -4,6 +4,7 @@
 #include "editor/screens/screenfiles.h"
 #include "editor/screens/screenpages.h"
 #include "editor/screens/screenrecords.h"
+#include "records/fields/grouping.h"
 #include "records/fields/wording.h"
 #include "records/tables/worldreport.h"
 

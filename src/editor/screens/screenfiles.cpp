@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "records/modVar.h"
+#include "records/fields/grouping.h"
 
 namespace grapplemont {
 
@@ -33,11 +33,7 @@ void FillFaults(ui::ListBox& list, const std::vector<Fault>& faults) {
 std::string ShownOf(std::size_t count) {
   return count <= FaultList::kMost
              ? ""
-             : ", of which the first " + std::to_string(FaultList::kMost) + " are shown";
-}
-
-std::string Grouped(long long count) {
-  return Dollars(count).substr(1);
+             : ", of which the first " + Grouped(FaultList::kMost) + " are shown";
 }
 
 namespace {

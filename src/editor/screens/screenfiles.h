@@ -14,11 +14,8 @@ namespace grapplemont {
 std::vector<ui::Column> FaultColumns(std::string what);
 /// The first of them: a damaged file may have faults without end.
 void FillFaults(ui::ListBox& list, const std::vector<Fault>& faults);
-/// ", of which the first 1000 are shown" where a table shows less than all.
+/// ", of which the first 1,000 are shown" where a table shows less than all.
 std::string ShownOf(std::size_t count);
-
-/// "10,000".
-std::string Grouped(long long count);
 
 /// The default data that this program edits, opened by the first screen that asks for them: from
 /// then on every event of the desk is a commit of them. Throws as DataFolder's constructor.

@@ -5,6 +5,7 @@
 #include "editor/choices.h"
 #include "editor/keeping.h"
 #include "editor/screens/screenfiles.h"
+#include "records/fields/grouping.h"
 #include "records/modVar.h"
 #include "storylines/screens/screenpeople.h"
 
