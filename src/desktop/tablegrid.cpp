@@ -297,16 +297,22 @@ void TableGrid::DropAt(int row) {
   viewport()->update();
 }
 
-/// Where only a stump of what is read first would stand at the edge, the columns before it are
-/// scrolled away.
+/// Where only a stump of what is read first would stand at the edge, columns before it are scrolled
+/// away, each as a whole.
 void TableGrid::BeginAtName() {
   constexpr int kStump = 80;
   if (model_.Pin.Count > 0 || model_.rowCount() == 0) return;
   const auto& columns = model_.Table().Columns();
   const int name = columns[static_cast<std::size_t>(model_.Table().NamePlace())];
   const int left = columnViewportPosition(name);
-  if (left + std::min(columnWidth(name), Px(kStump)) > viewport()->width())
-    horizontalScrollBar()->setValue(left);
+  if (left + std::min(columnWidth(name), Px(kStump)) <= viewport()->width()) return;
+  int edge = 0;
+  for (const int column : columns) {
+    const int at = columnViewportPosition(column);
+    if (!isColumnHidden(column) && at <= std::min(left, horizontalScrollBar()->maximum()))
+      edge = std::max(edge, at);
+  }
+  horizontalScrollBar()->setValue(edge);
 }
 
 void TableGrid::paintEvent(QPaintEvent* event) {

@@ -74,6 +74,7 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   std::vector<int> MeasuredWidths() const;
   void FitHint();
   bool IsText(std::size_t place) const;
+  bool IsTags(std::size_t place) const;   // one or several in a cell
   bool IsWords(std::size_t place) const;  // texts and tags
   int HeadingWidth(std::size_t place) const;
   std::size_t SentencePlace(const std::vector<int>& widths) const;

@@ -98,8 +98,13 @@ bool TableView::IsText(std::size_t place) const {
   return kind == ui::ColumnKind::Text || kind == ui::ColumnKind::Tags;
 }
 
+bool TableView::IsTags(std::size_t place) const {
+  const ui::ColumnKind kind = model_.Column(table_.Columns()[place]).Kind;
+  return kind == ui::ColumnKind::Tag || kind == ui::ColumnKind::Tags;
+}
+
 bool TableView::IsWords(std::size_t place) const {
-  return IsText(place) || model_.Column(table_.Columns()[place]).Kind == ui::ColumnKind::Tag;
+  return IsText(place) || IsTags(place);
 }
 
 int TableView::HeadingWidth(std::size_t place) const {
@@ -117,26 +122,31 @@ std::size_t TableView::SentencePlace(const std::vector<int>& widths) const {
   return widest;
 }
 
-/// Sentences give way first, then bars leave their number alone, then the other texts; what is read
-/// first gives way last, and no further than a usual name needs. No heading is ever cut, and a
-/// number keeps its width.
+/// Sentences give way first, then bars leave their number alone, then tags, then the other texts;
+/// what is read first gives way last, and no further than a usual name needs, unless the end of a
+/// name is all that keeps a column out of sight. No heading is ever cut, and a number keeps its
+/// width.
 void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
   const std::size_t name = Index(table_.NamePlace()), sentence = SentencePlace(widths);
   const int room = grid_->viewport()->width();
   const int least = std::max(Px(kNameCut), std::min(Px(kNameWhole), room * 3 / 4));
   const std::vector<int> asked = widths;
-  const auto shrink = [&](int ofName, int ofSentence, int ofOthers) {
+  const auto shrink = [&](int ofName, int ofSentence, int ofTexts, int ofTags) {
     std::vector<int> floors = widths;
     for (std::size_t place = 0; place < widths.size(); ++place) {
       if (!IsWords(place)) continue;
-      const int text = place == name ? ofName : place == sentence ? ofSentence : ofOthers;
-      floors[place] = std::min(widths[place], std::max(HeadingWidth(place), text));
+      const int words = place == name       ? ofName
+                        : place == sentence ? ofSentence
+                        : IsTags(place)     ? ofTags
+                                            : ofTexts;
+      floors[place] = std::min(widths[place], std::max(HeadingWidth(place), words));
     }
     missing = Squeeze(missing, floors, widths);
   };
-  shrink(asked[name], sentence == name ? asked[name] : Px(kTextRead), room);
+  const int read = Px(kTextRead), glanced = Px(kTextGlanced), cut = Px(kTextCut);
+  shrink(asked[name], sentence == name ? asked[name] : read, room, room);
   missing -= DropBars(missing, widths);
-  if (missing > 0) shrink(asked[name], Px(kTextRead), Px(kTextGlanced));
+  if (missing > 0) shrink(asked[name], read, glanced, glanced);
   if (missing < 0) {
     std::vector<double> shortened(widths.size());
     for (std::size_t place = 0; place < widths.size(); ++place)
@@ -144,8 +154,10 @@ void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
     shortened[name] += 1;
     return Spread(-missing, shortened, widths);
   }
-  shrink(least, Px(kTextRead), Px(kTextCut));
-  shrink(least, Px(kTextCut), Px(kTextCut));
+  shrink(asked[name], read, glanced, cut);
+  shrink(least, read, cut, cut);
+  shrink(least, cut, cut, cut);
+  shrink(std::max(Px(kNameCut), asked[name] * 3 / 4), cut, cut, cut);
   if (missing > 0) ScrollRest(asked, widths);
 }
 
@@ -176,7 +188,8 @@ int TableView::DropBars(int missing, std::vector<int>& widths) {
 }
 
 /// Where it does not all fit, the rest is scrolled beside the name, which is shown whole as long as
-/// it leaves some room. Then nothing need be cut short any more.
+/// it leaves some room, and a number that nearly fits beside it stays in sight. Then nothing need
+/// be cut short any more.
 void TableView::ScrollRest(const std::vector<int>& asked, std::vector<int>& widths) {
   const std::size_t name = Index(table_.NamePlace()), sentence = SentencePlace(asked);
   const int room = grid_->viewport()->width(), whole = std::min(Px(kNameWhole), room * 3 / 4);
@@ -193,6 +206,13 @@ void TableView::ScrollRest(const std::vector<int>& asked, std::vector<int>& widt
   std::size_t cut = 0;
   int rest = room;
   while (cut < widths.size() && widths[cut] <= rest) rest -= widths[cut++];
+  if (cut > name && cut < widths.size() && !IsWords(cut)) {
+    const int shortened = widths[name] - (widths[cut] - rest);
+    if (shortened >= std::max(Px(kNameCut), room * 45 / 100)) {
+      widths[name] = shortened;
+      return;
+    }
+  }
   if (cut <= name || cut == widths.size() || (IsWords(cut) && rest >= Px(kTextCut))) return;
   std::vector<double> shares(widths.size());
   for (std::size_t place = 0; place < cut; ++place)
@@ -216,10 +236,10 @@ bool TableView::IsEmpty(int column) const {
   return model_.rowCount() > 0;
 }
 
-/// Where there is no room for all, columns in which nothing stands leave theirs to the others.
-/// Gives what is missing still, below 0.
+/// Where there is no room for all, columns in which nothing stands leave theirs to the others, the
+/// last first. Gives what is missing still, below 0.
 int TableView::DropEmpty(int room, std::vector<int>& widths) const {
-  for (std::size_t place = 0; room < 0 && place < widths.size(); ++place) {
+  for (std::size_t place = widths.size(); room < 0 && place-- > 0;) {
     const int column = table_.Columns()[place];
     const ui::Column& shown = model_.Column(column);
     const bool holdsMore = shown.Draws || shown.Kind == ui::ColumnKind::Button;
@@ -262,6 +282,8 @@ void TableView::FitColumns() {
     grid_->setColumnHidden(shown[i], widths[i] == 0);
     if (widths[i] > 0) grid_->setColumnWidth(shown[i], widths[i]);
   }
+  grid_->setHorizontalScrollBarPolicy(model_.rowCount() > 0 ? Qt::ScrollBarAsNeeded
+                                                            : Qt::ScrollBarAlwaysOff);
   grid_->SetPinned(rowButtons_.empty() ? PinnedIn(widths) : 0);
   PlaceRowButtons();
 }
