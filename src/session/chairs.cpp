@@ -93,7 +93,7 @@ void CountBurdens(const World& world, const Peers& peers, Chair& chair) {
   if (!has.empty()) chair.Why += "; it has " + Joined(has);
   if (!words.empty()) return;
   chair.Story = peers.Count > 1 && chair.Strength * peers.Count > peers.Strength
-                    ? "It has the better people of its size, and everybody after them."
+                    ? "It has the better people of its size, and everybody is after them."
                     : "It lacks for nothing but a way to the top.";
 }
 

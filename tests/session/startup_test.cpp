@@ -155,7 +155,7 @@ TEST(NewGameScreen, SaysHowHardAChairIsAndWhatTheDifficultyChanges) {
   EXPECT_EQ(
       home.Desk.Text("lblstory"),
       "Star holds the CWA Crown and draws the crowd. It has the better people of its size, and "
-      "everybody after them.");
+      "everybody is after them.");
   EXPECT_EQ(home.Desk.Text("lblchanges"),
             "Image before each Event: no change.\nImage before each television show: no change.\n"
             "Interest on a loan: 2%.\nTo buy out a contract of a year: 6 monthly wages.");

@@ -33,7 +33,7 @@ class frmFed : public GameScreen {
  public:
   explicit frmFed(Game& game) : GameScreen(game, "frmFed", "Promotion", {.Manages = true}) {
     for (const Term& day : kWeekDays) cmbmeeting.Add(std::string(day.Says), day.Code);
-    txtwhy.Brief = true;
+    txtwhy.Brief = txtwhymomentum.Brief = true;
   }
 
   ui::Page Layout() override {
@@ -60,13 +60,13 @@ class frmFed : public GameScreen {
 
   ui::Box Facts() {
     return ui::Rows(
-        {ui::Group(
-             "The company",
-             {ui::Field("Name", lblname), ui::Field("Size", lblsize),
-              ui::Field("Image", lblimage, {&cmdwhy, &txtwhy}),
-              ui::Field("Momentum", lblmomentum, {&cmdwhymomentum}), ui::Field("Owner", lblowner),
-              ui::Field("The economy", lbleconomy), ui::Field("Staff meeting", cmbmeeting),
-              ui::Field("Commissioner", lblcommissioner), cmdcommissioner}),
+        {ui::Group("The company",
+                   {ui::Field("Name", lblname), ui::Field("Size", lblsize),
+                    ui::Field("Image", lblimage, {&cmdwhy, &txtwhy}),
+                    ui::Field("Momentum", lblmomentum, {&cmdwhymomentum, &txtwhymomentum}),
+                    ui::Field("Owner", lblowner), ui::Field("The economy", lbleconomy),
+                    ui::Field("Staff meeting", cmbmeeting),
+                    ui::Field("Commissioner", lblcommissioner), cmdcommissioner}),
          ui::Group("Spending", {ui::WithButtons(lstspending, {&cmdadvertising, &cmdmerch, &cmdprod,
                                                               &cmdtickets})})
              .Grow()});
@@ -90,6 +90,7 @@ class frmFed : public GameScreen {
                              : "");
     ShowMomentum();
     txtwhy.Write("");
+    txtwhymomentum.Write("");
     lblowner.Text = owner ? owner->Name.Str() : "None";
     lbleconomy.Text = std::string(EconomyText(world().Game().Economy)) +
                       (world().Game().EconomyRising ? ", rising" : ", falling");
@@ -147,9 +148,10 @@ class frmFed : public GameScreen {
                     [this] { txtwhy.WriteLines(WhyText("image", ImageSteps(world()))); }};
   ui::Report txtwhy{*this, "txtwhy"};
   ui::Label lblmomentum{*this, "lblmomentum"};
-  ui::Button cmdwhymomentum{*this, "cmdwhymomentum", "Why?", [this] {
-                              txtwhy.WriteLines(WhyText("momentum", MomentumSteps(world())));
-                            }};
+  ui::Button cmdwhymomentum{
+      *this, "cmdwhymomentum", "Why?",
+      [this] { txtwhymomentum.WriteLines(WhyText("momentum", MomentumSteps(world()))); }};
+  ui::Report txtwhymomentum{*this, "txtwhymomentum"};
   ui::Label lblowner{*this, "lblowner"};
   ui::Label lbleconomy{*this, "lbleconomy"};
   ui::ComboBox cmbmeeting{*this, "cmbmeeting", &frmFed::cmbmeeting_Pick};

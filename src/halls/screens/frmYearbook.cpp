@@ -21,10 +21,9 @@ class frmYearbook : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return PageOf(ui::Group("", {ui::Columns({ui::Rows({ui::Field("Year", cmbyear),
-                                                        ui::Field("Section", cmbsection)}),
-                                              ui::Grow(txtyear)}),
-                                 ui::Grow(lstpage)}),
+    return PageOf(ui::Group("", {ui::Columns({ui::Field("Year", cmbyear),
+                                              ui::Field("Section", cmbsection), ui::Spacer()}),
+                                 txtyear, ui::Grow(lstpage)}),
                   &lblfacts, {&cmdolder, &cmdnewer, &cmdpage});
   }
 

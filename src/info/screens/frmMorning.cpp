@@ -70,7 +70,7 @@ class frmMorning : public GameScreen {
     lblflat.Colour = ui::Tone::Amber;
     lstpeople.EmptyText = "The show moved nobody.";
     lsttitles.EmptyText = "No Title was at stake. A match for it moves its image.";
-    lstfeuds.EmptyText = "No feud was moved. Book its people against each other.";
+    lstfeuds.EmptyText = "No feud was moved. Matches between the people of one move it.";
     lsthurt.EmptyText = "Nobody was hurt.";
     lstwhy.EmptyText = "Choose a number or a name to see where it came from.";
     // All of it is seen at once in a window of the usual size.

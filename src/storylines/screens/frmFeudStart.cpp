@@ -99,7 +99,8 @@ class frmFeudStart : public GameScreen {
     EnableUnless(cmdstart, complete ? "" : "Choose both sides first.");
     lblwarning.Text = why;
     lblwarning.Visible = !why.empty();
-    lblheat.Text = complete             ? Forecast(StartingHeatOf(world(), Chosen()))
+    lblheat.Text = !why.empty()         ? ""
+                   : complete           ? Forecast(StartingHeatOf(world(), Chosen()))
                    : chksingles.Checked ? "Choose the two who are to feud."
                                         : "Choose two teams of two.";
   }
