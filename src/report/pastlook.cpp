@@ -216,7 +216,10 @@ class Look {
         if (AnyOf({reign.Worker, reign.Partner}, challengers)) once = &reign;
       }
     }
-    const Uids champions = SideOf(holder);
+    // Who only stands with the holder is no champion.
+    const Uids champions =
+        lasts ? Shared(SideOf(holder), {lasts->Worker, lasts->Partner}) : Uids{holder};
+    if (champions.empty()) return;
     if (lasts) OfReign(*lasts, champions, challengers);
     if (once) {
       const Uids theirs = OfOneSide(challengers, {once->Worker, once->Partner});
@@ -227,7 +230,7 @@ class Look {
     if (teller_.IsOurs() && IsSeasoned()) OfFirstShot(champions);
   }
 
-  /// The first side of whom nobody has ever fought for a Title here.
+  /// The first side beside the champions' of whom nobody has ever fought for a Title here.
   void OfFirstShot(const Uids& champions) {
     const auto isNew = [&](int uid) {
       const MatchTally* tally = TallyOf(world_, uid);
@@ -235,7 +238,7 @@ class Look {
              !WasChampion(teller_, uid);
     };
     for (const Uids& side : sides_) {
-      if (side == champions || !std::all_of(side.begin(), side.end(), isNew)) continue;
+      if (AnyOf(side, champions) || !std::all_of(side.begin(), side.end(), isNew)) continue;
       const int matches = MatchesOf(TallyOf(world_, side[0]));
       return Add({kTitleNever, 52, side, champions, side.size() == 1 ? matches + 1 : 0});
     }

@@ -104,13 +104,7 @@ bool SayTheSame(PastOutcome one, PastOutcome other) {
 
 /// What another fact that is told says as well: who has lost the Title has not won it back since.
 bool IsToldBy(const PastFact& other, const PastFact& fact) {
-  return fact.Is == kMetLately && other.Is == kTitleAgain && other.Two == fact.One;
-}
-
-bool Share(const std::vector<int>& some, const std::vector<int>& others) {
-  return std::any_of(some.begin(), some.end(), [&](int uid) {
-    return std::find(others.begin(), others.end(), uid) != others.end();
-  });
+  return fact.Is == kMetLately && other.Is == kTitleAgain && AnyOf(other.Two, fact.One);
 }
 
 /// A series to nothing whose last match is not told beside it ends as that would.
@@ -120,8 +114,8 @@ PastKind EndsAs(const PastFact& fact) {
 
 const OutcomeRow* OutcomeOf(const PastFact& fact, const std::vector<int>& winners, bool changed) {
   const auto isWonBy = [&](Who who) {
-    if (who == Who::One) return Share(winners, fact.One);
-    if (who == Who::Two) return Share(winners, fact.Two);
+    if (who == Who::One) return AnyOf(winners, fact.One);
+    if (who == Who::Two) return AnyOf(winners, fact.Two);
     return winners.empty() == (who == Who::Nobody);
   };
   for (const OutcomeRow& row : kOutcomes)
@@ -138,7 +132,7 @@ PastFact AsEnded(const PastFact& fact, const OutcomeRow& row, const std::vector<
       kNewReignEnds, kCrownStaysAway, kFirstShotMissed};
   const bool aboutLoser =
       std::find(std::begin(kOfLosers), std::end(kOfLosers), row.Tells) != std::end(kOfLosers);
-  if (!aboutLoser && Share(winners, fact.Two)) std::swap(ended.One, ended.Two);
+  if (!aboutLoser && AnyOf(winners, fact.Two)) std::swap(ended.One, ended.Two);
   return ended;
 }
 

@@ -78,9 +78,15 @@ class TalkLook {
                           teller_.Today() - std::chrono::days(fact.DaysAgo), fact.Row);
   }
 
+  /// Of who has left the world nothing is recalled.
+  bool AreStillHere(const Uids& uids) const {
+    return std::any_of(uids.begin(), uids.end(),
+                       [&](int uid) { return world_.FindWorker(uid) != nullptr; });
+  }
+
   void OfCards() {
     for (const PastFact& fact : CallbacksOf(teller_, who_, {})) {
-      if (fact.One.empty() || fact.Two.empty()) continue;
+      if (!AreStillHere(fact.One) || !AreStillHere(fact.Two)) continue;
       if (fact.Is == kWasAttacked) OfBlow(fact);
       if (fact.Is == kThreatened || fact.Is == kManagerSpoke) OfWords(fact);
       if (fact.Is == kChallenged && Since(fact).empty()) Add(kCalledOut, fact);
@@ -130,14 +136,24 @@ class TalkLook {
   static bool IsOfTheSame(const TitleReign& one, const TitleReign& other) {
     return one.Owner == other.Owner && one.Title == other.Title;
   }
+  /// Who held it next, from the same day on; nobody where it fell vacant.
+  Uids HeldNext(const TitleReign& lost) const {
+    const auto& reigns = world_.Reigns();
+    const auto next = std::find_if(
+        reigns.begin() + (&lost - &*reigns.begin() + 1), reigns.end(), [&](const auto& other) {
+          return IsOfTheSame(other, lost) && Day(other.From) == Day(lost.Until);
+        });
+    return next == reigns.end() ? Uids{} : Uids{next->Worker, next->Partner};
+  }
   /// A Title may also go by a match that its holder is not in.
   bool LostInTheRing(const TitleReign& lost, const Uids& holders) const {
+    const Uids next = HeldNext(lost);
     return std::any_of(holders.begin(), holders.end(), [&](int uid) {
       const auto& numbers = MatchesWith(world_, uid);
       return std::any_of(numbers.rbegin(), numbers.rend(), [&](int number) {
         const HeldMatch& bout = world_.Bouts()[number];
         return bout.Promotion == world_.PlayerUid() && Day(bout.On) == Day(lost.Until) &&
-               bout.Title == lost.Title && !HasWon(bout, {uid});
+               bout.Title == lost.Title && !HasWon(bout, {uid}) && HasWon(bout, next);
       });
     });
   }
@@ -148,16 +164,14 @@ class TalkLook {
     });
   }
   void OfReign(TalkRecalls is, const TitleReign& reign, Day day, const Uids& theirs) {
-    Uids others;
+    Uids others = is == kCrownLost ? HeldNext(reign) : Uids{};
     for (const TitleReign& other : world_.Reigns()) {
-      if (!IsOfTheSame(other, reign)) continue;
+      const bool isLast = is == kCrownWon && IsOfTheSame(other, reign) && &other < &reign &&
+                          other.End == kReignLost && Day(other.Until) == day;
+      if (!isLast) continue;
+      others = {other.Worker, other.Partner};
       // Of several changes on one day the one that is told.
-      const bool isNext =
-          is == kCrownLost && &other > &reign && Day(other.From) == day && others.empty();
-      const bool isLast =
-          is == kCrownWon && &other < &reign && other.End == kReignLost && Day(other.Until) == day;
-      if (isNext || isLast) others = {other.Worker, other.Partner};
-      if (isLast && !LostInTheRing(other, others)) others.clear();
+      if (!LostInTheRing(other, others)) others.clear();
     }
     std::erase(others, 0);
     Add(is, {{}, 0, theirs, others, 0, DaysSince(day)},

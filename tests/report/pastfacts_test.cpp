@@ -151,6 +151,10 @@ TEST(Past, KnowsATitleOfTeamsAndOfThree) {
   EXPECT_FALSE(Past(world, Teams("Crown"), {2}).Has(kTitleNever)) << "one of the two has had it";
   world.Reigns().Change(1).Worker = 0;
   EXPECT_TRUE(Past(world, Teams("Crown"), {2}).Has(kTitleNever));
+  world.Reigns().Change(2).From = Ago(world, 300);
+  const Past ofOld(world, Teams("Crown"), {2});
+  ASSERT_TRUE(ofOld.Has(kReignLong));
+  EXPECT_EQ(ofOld.Has(kReignLong)->One, std::vector<int>{2}) << "a partner is no champion";
 }
 
 TEST(Past, CallsOneMatchTheReturnAndOneTheFirst) {

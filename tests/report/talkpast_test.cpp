@@ -151,6 +151,12 @@ TEST(TalkPast, RecallsNothingThatIsNotSo) {
        [](World& w) { Reign(w, 1, 400, 20), Reign(w, 2, 20, 10), Reign(w, 1, 10, 0); }},
       // It went by a match of others.
       {kLastMet, 2, [](World& w) { Reign(w, 1, 400, 7), Reign(w, 2, 7, 0), Held(w, 2, 7); }},
+      // So it did before the two met for it.
+      {kLastMet, 2,
+       [](World& w) {
+         Reign(w, 1, 400, 7), Reign(w, 3, 7, 7), Reign(w, 2, 7, 0), Held(w, 2, 7);
+         w.Bouts().Change(1).Title = "Crown";
+       }},
   });
   for (const int row : {1, 3}) {
     World world = Two();
@@ -163,6 +169,7 @@ TEST(TalkPast, RecallsNothingThatIsNotSo) {
   World world = Two();
   test::Named(world.Workers(), "Ada Crane").LastTurn = Ago(world, 9);  // on nobody's card
   Kept(world, Between(kAmbush, 1, 2), 40);
+  Kept(world, Between(kAmbush, 1, 9), 7);  // by somebody who has left
   Kept(world, Talk(2, 1, kTalkNone), 7);
   Hurt(world, 100);
   Held(world, 1, 60);  // and back for long
