@@ -7,7 +7,7 @@
 
 #include "chronicle/chapter.h"
 #include "report/cast.h"
-#include "report/family.h"
+#include "report/tells.h"
 
 namespace grapplemont {
 
@@ -18,7 +18,7 @@ struct Somebody {
   AnnalSex Sex = kNobodysSex;
 };
 
-/// What a sentence is to tell; `Tells` of report/family.h says what each needs.
+/// What a sentence is to tell; `Tells` says what each needs.
 struct Telling {
   Tells Of;
   Somebody F = {}, S = {}, X = {};

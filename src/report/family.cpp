@@ -4,6 +4,8 @@
 
 #include "records/angles.h"
 #include "records/fields/enumnames.h"
+#include "report/recalled.h"
+#include "report/tells.h"
 
 namespace grapplemont {
 

@@ -5,6 +5,7 @@
 
 #include "records/fields/chronicle.h"
 #include "report/pasttold.h"
+#include "report/recalled.h"
 
 // How the records are read for what a match brings along.
 

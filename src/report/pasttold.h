@@ -5,14 +5,14 @@
 #include <vector>
 
 #include "records/fields/fields.h"
-#include "report/family.h"
+#include "report/recalled.h"
 
 // What a match brings along from before its bell: earlier matches, runs, reigns, attacks, words.
 
 namespace grapplemont {
 
 class Teller;
-struct FeudOfSides;
+enum class Family;
 
 /// Something of the past, and whom it is about.
 struct PastFact {

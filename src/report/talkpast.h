@@ -4,6 +4,7 @@
 #include <string>
 
 #include "report/pasttold.h"
+#include "report/recalled.h"
 
 // What the records know of those who speak in an interview or meet in an angle.
 
