@@ -1,5 +1,7 @@
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -68,6 +70,7 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
   bool HasWords() const override { return !control_.Brief || !control_.Text->empty(); }
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -78,6 +81,16 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
  private:
   void FitWords();
   void ShowGrowth();
+  /// The last foot of a line at or above this height of the document, 0 for none, and the first at
+  /// or below it.
+  int FootAbove(int y) const { return FootsAround(y).first; }
+  int FootBelow(int y) const { return FootsAround(y).second; }
+  std::pair<int, int> FootsAround(int y) const;
+  /// Where what is seen of whole lines ends in the viewport.
+  int WholeFoot() const;
+  /// Has the scroll bar lead from one line to another.
+  void KeepLinesWhole();
+  void ScrollTo(int value);
   void Write(QTextCursor& cursor, const ui::Report::Paragraph& paragraph,
              const QTextCharFormat& letters);
   void WriteNames(QTextCursor& cursor, std::string_view text, const QTextCharFormat& letters);
@@ -93,6 +106,7 @@ class ReportView : public ViewOf<QTextEdit, ui::Report> {
   QPoint pressed_;
   bool isReached_ = false;  // by Tab, so that it shows where the keyboard is
   QString words_;           // of a report that grows, as they stood before
+  int top_ = 0;             // where the first line that is seen begins in the document
 };
 
 ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
@@ -110,6 +124,55 @@ ReportView::ReportView(ui::Report& report, Stage& stage, QWidget* parent)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   else
     setMinimumSize(WordsWidth(ProseFont(), QString(kLeastLetters, 'n')), Px(96));
+  KeepLinesWhole();
+}
+
+std::pair<int, int> ReportView::FootsAround(int y) const {
+  const int at = document()->documentLayout()->hitTest(QPointF(0, y), Qt::FuzzyHit);
+  const QTextBlock hit = document()->findBlock(std::max(0, at));
+  int above = 0;
+  for (QTextBlock block = hit.previous().isValid() ? hit.previous() : hit; block.isValid();
+       block = block.next()) {
+    const double top = document()->documentLayout()->blockBoundingRect(block).top();
+    for (int line = 0; line < block.layout()->lineCount(); ++line) {
+      const QRectF words = block.layout()->lineAt(line).rect();
+      const int foot = static_cast<int>(std::ceil(top + words.bottom()));
+      if (foot == y) return {y, y};
+      if (foot > y) return {above, foot};
+      above = foot;
+    }
+  }
+  return {above, std::max(above, y)};
+}
+
+int ReportView::WholeFoot() const {
+  const int top = verticalScrollBar()->value(), high = viewport()->height();
+  const int foot = FootAbove(top + high) - top;
+  return foot > 0 ? std::min(foot, high) : high;  // a line may be higher than all of it
+}
+
+/// A page ends with a whole line, and so the next begins with the one after it, up to the last.
+void ReportView::KeepLinesWhole() {
+  QScrollBar* const bar = verticalScrollBar();
+  connect(bar, &QScrollBar::rangeChanged, this, [this, bar](int, int most) {
+    if (most > 0) bar->setMaximum(FootBelow(most));
+  });
+  connect(bar, &QScrollBar::valueChanged, this, &ReportView::ScrollTo);
+}
+
+void ReportView::ScrollTo(int value) {
+  int line = value;
+  if (value > top_) line = FootAbove(value) > top_ ? FootAbove(value) : FootBelow(value);
+  if (value < top_ && value > 0)
+    line = FootBelow(value) < top_ ? FootBelow(value) : FootAbove(value);
+  top_ = std::min(line, verticalScrollBar()->maximum());
+  if (top_ != value) verticalScrollBar()->setValue(top_);
+}
+
+/// Where a line stood cut, its pieces are not to be moved about.
+void ReportView::scrollContentsBy(int dx, int dy) {
+  QTextEdit::scrollContentsBy(dx, dy);
+  viewport()->update();
 }
 
 void ReportView::Show() {
@@ -193,7 +256,8 @@ void ReportView::WriteNames(QTextCursor& cursor, std::string_view text,
 const ui::Link* ReportView::LinkAt(const QMouseEvent& event) const {
   const QString address = anchorAt(event.position().toPoint());
   const auto place = static_cast<std::size_t>(address.toUInt());
-  return address.isEmpty() || place >= links_.size() ? nullptr : &links_[place];
+  const bool isSeen = event.position().y() < WholeFoot();
+  return address.isEmpty() || !isSeen || place >= links_.size() ? nullptr : &links_[place];
 }
 
 void ReportView::mouseMoveEvent(QMouseEvent* event) {
@@ -249,7 +313,8 @@ void ReportView::focusOutEvent(QFocusEvent* event) {
 }
 
 void ReportView::paintEvent(QPaintEvent* event) {
-  QTextEdit::paintEvent(event);
+  QPaintEvent whole(event->region() & QRect(0, 0, viewport()->width(), WholeFoot()));
+  if (!whole.rect().isEmpty()) QTextEdit::paintEvent(&whole);
   if (!isReached_) return;
   QPainter painter(viewport());
   DrawFocus(painter, viewport()->rect(), Px(3), palette());
@@ -265,6 +330,9 @@ void ReportView::StepLink(int by) {
   cursor.setPosition(static_cast<int>(link.From + link.Length), QTextCursor::KeepAnchor);
   setTextCursor(cursor);
   ensureCursorVisible();
+  QScrollBar* const bar = verticalScrollBar();
+  if (cursorRect().bottom() >= WholeFoot())
+    bar->setValue(FootBelow(bar->value() + cursorRect().bottom() + 1 - viewport()->height()));
   setAccessibleDescription(cursor.selectedText());
   Announce(*this);
 }

@@ -2,7 +2,9 @@
 
 #include <QAccessible>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QTextEdit>
+#include <QTextLayout>
 
 #include "desktop/player.h"
 
@@ -64,6 +66,38 @@ TEST_F(TheStory, StaysAtItsEndWhileItGrowsAndIsHeardPieceByPiece) {
   Page.rptstory.Write("Marsh has the microphone.");
   Play.Window.Sync();
   EXPECT_EQ(view->accessibleDescription(), "Marsh has the microphone.");
+}
+
+TEST_F(TheStory, IsReadPageByPageWithoutALineThatIsSeenOnlyInPart) {
+  Page.rptstory.Grows = false;
+  std::string words;
+  for (int told = 0; told < 300; ++told) words += "Okafor slams Marsh again and again. ";
+  Page.rptstory.Write(words);
+  Play.Window.Sync();
+  QApplication::processEvents();
+  auto* view = dynamic_cast<QTextEdit*>(Play.See("rptstory"));
+  view->setFocus();
+  const QTextLayout& lines = *view->document()->firstBlock().layout();
+  const QScrollBar& bar = *view->verticalScrollBar();
+  const auto isSeen = [&](int line) {
+    const QRectF place = lines.lineAt(line).rect();
+    return place.top() + 1 >= bar.value() &&
+           place.bottom() <= bar.value() + view->viewport()->height();
+  };
+  int next = 0;
+  for (const Qt::Key key :
+       {Qt::Key_Home, Qt::Key_PageDown, Qt::Key_PageDown, Qt::Key_Down, Qt::Key_PageDown}) {
+    const int before = bar.value();
+    Play.Key(key);
+    EXPECT_EQ(bar.value() > before, key != Qt::Key_Home);
+    EXPECT_TRUE(isSeen(next)) << "line " << next << " was cut, or not seen, on the page before";
+    while (isSeen(next)) ++next;
+  }
+  Play.Key(Qt::Key_End);
+  EXPECT_TRUE(isSeen(lines.lineCount() - 1));
+  while (next > 0 && lines.lineAt(next - 1).rect().bottom() > bar.value()) --next;
+  while (lines.lineAt(next).rect().bottom() <= bar.value()) ++next;
+  EXPECT_TRUE(isSeen(next)) << "the last page begins with a whole line, too";
 }
 
 TEST_F(TheStory, GoesOnByTheClockUntilItIsToStop) {
