@@ -70,7 +70,7 @@ TEST(MainScreen, IsADeskWithWhatWantsLookingAt) {
   KeepCard(world, drafted, {lastWeek}, world.Today());
   GameOnWorld play(std::move(world));
   play.Desk.Open("frmMainScreen");
-  EXPECT_EQ(play.Desk.Rows("lstchampions").at(0)[0], "CWA Crown");
+  EXPECT_EQ(play.Desk.Rows("lstchampions").at(0)[1], "CWA Crown");
   EXPECT_EQ(play.Desk.FirstColumn("lsthurt"),
             (std::vector<std::string>{"CWA Hand 2", "CWA Hand 3"}));
   EXPECT_EQ(play.Desk.FirstColumn("lstunhappy").at(0), "CWA Hand 4");

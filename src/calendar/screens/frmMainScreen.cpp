@@ -48,7 +48,7 @@ class frmMainScreen : public ui::Screen {
         "No show in sight. Find a network on the Television page, or plan an Event on the Events "
         "page.";
     lstahead.Room = 5;
-    lstahead.Least = 3;
+    lstahead.Least = 2;  // so that all of the page is seen in a window of the usual size
     lbltonight.Colour = ui::Tone::Gold;
   }
 

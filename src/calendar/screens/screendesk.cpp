@@ -16,8 +16,8 @@ using K = ui::ColumnKind;
 /// How many month ends the lines go back.
 constexpr std::size_t kMonthsShown = 12;
 
-/// What a feud or a chart needs beside others.
-constexpr int kLettersOfCard = 30;
+/// What a card of names needs beside others, and a line beside another.
+constexpr int kLettersOfCard = 30, kLettersOfLine = 18;
 
 /// What keeps somebody away, in a word or two.
 ui::Cell AwayCell(const Worker& worker) {
@@ -49,7 +49,7 @@ const CellColumns<Worker> kEnding = {
 
 DeskCards::DeskCards(ui::Screen& screen, Game& game)
     : game_(game),
-      lstchampions(screen, "lstchampions", {{"Title", K::Text, 5}, {"Champion", K::Text, 5}},
+      lstchampions(screen, "lstchampions", {{"Champion", K::Text, 5}, {"Title", K::Text, 5}},
                    ui::Handler{}, [this] { game_.Desk().Open("frmBelts"); }),
       lstfeuds(screen, "lstfeuds", {{"Feud", K::Text, 6}, {"Heat", K::Percent, 4}}, ui::Handler{},
                [this] { game_.Desk().Open("frmFeuds"); }),
@@ -79,11 +79,13 @@ ui::Box DeskCards::People() {
 }
 
 ui::Box DeskCards::Standing() {
-  // Names need more room than lines.
+  // Names need more room than lines; the name that a table begins with is cut last.
   return ui::Columns({ui::Group("Champions", {ui::Grow(lstchampions)}).Grow(5),
                       ui::Group("Hottest feuds", {ui::Grow(lstfeuds)}).Grow(3),
-                      ui::Group("Image", {ui::Grow(chtimage)}).Grow(2),
-                      ui::Group("Money", {ui::Grow(chtmoney)}).Grow(2)})
+                      ui::Columns({ui::Group("Image", {ui::Grow(chtimage)}).Grow(),
+                                   ui::Group("Money", {ui::Grow(chtmoney)}).Grow()})
+                          .Wide(kLettersOfLine)
+                          .Grow(4)})
       .Wide(kLettersOfCard);
 }
 
@@ -91,7 +93,7 @@ void DeskCards::ShowStories() {
   std::vector<ui::ListBox::Row> champions, feuds;
   for (const Title* title : HeldTitles(world())) {
     champions.push_back(
-        {{title->Name.View(), ChampionText(world(), *title)}, world().Titles().NumberOf(*title)});
+        {{ChampionText(world(), *title), title->Name.View()}, world().Titles().NumberOf(*title)});
   }
   for (const Feud* feud : HottestFeuds(world())) {
     const FeudSides sides = SidesOf(*feud);

@@ -25,7 +25,7 @@ DeskMail::DeskMail(ui::Screen& screen, Game& game)
       }) {
   lstmail.EmptyText = "No unread mail. What is meant for you arrives here; News has all of it.";
   lstmail.Room = 6;
-  lstmail.Least = 3;
+  lstmail.Least = 2;
   lblworld.Colour = ui::Tone::Muted;
   cmdworld.Plain = true;
 }
