@@ -10,6 +10,7 @@
 #include "desktop/look.h"
 #include "desktop/spoken.h"
 #include "desktop/views.h"
+#include "desktop/wordswidth.h"
 
 namespace grapplemont::desktop {
 
@@ -181,10 +182,10 @@ void ChartView::DrawBars(QPainter& painter, const Scale& scale) const {
 
 /// Each run of places where both ends are known; bands that lie over each other grow stronger.
 void ChartView::DrawBands(QPainter& painter, const Scale& scale) const {
-  constexpr float kStrength = 0.16F;
+  const float strength = ColoursOf(this).Dark ? 0.16F : 0.34F;  // white takes more to be tinted
   for (const auto& band : control_.Bands.Get()) {
     QColor fill = FillColour(ColoursOf(this), band.Colour);
-    fill.setAlphaF(kStrength);
+    fill.setAlphaF(strength);
     painter.setPen(Qt::NoPen);
     painter.setBrush(fill);
     QPolygonF above, below;
@@ -231,7 +232,7 @@ void ChartView::DrawLines(QPainter& painter, const Scale& scale) const {
     QPolygonF run;
     const auto finish = [&] {
       painter.drawPolyline(run);
-      if (scale.Count <= kFewPlaces || run.size() == 1)
+      if ((scale.Count <= kFewPlaces && control_.Bands->empty()) || run.size() == 1)
         for (const QPointF& at : run)
           DrawBox(painter, QRectF(at.x() - Px(3), at.y() - Px(3), Px(6), Px(6)),
                   TextColour(c, series.Colour), QColor(), Px(3));
