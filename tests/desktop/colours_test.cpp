@@ -42,6 +42,9 @@ TEST(TheColours, LetEveryTextBeRead) {
     for (const auto& [ground, paper] : grounds)
       EXPECT_GE(Contrast(c->Blue, paper), 3) << "the ring of the keyboard on " << ground;
     EXPECT_EQ(&desktop::ColoursOf(desktop::PaletteOf(*c)), c) << "the palette tells the set";
+    for (const QColor& paper : {c->Card, c->Side, c->Button, c->Field})
+      EXPECT_GE(Contrast(c->Faint, paper), 3) << "what is switched off";
+    EXPECT_GE(Contrast(c->OnDimGold, c->DimGold), 3);
     EXPECT_GE(Contrast(c->OnGold, c->GoldFill), 4.5);
     EXPECT_GE(Contrast(c->Soft, c->Side), 4.5);
     EXPECT_GE(Contrast(c->Muted, c->Side), 4.5);
