@@ -1,6 +1,8 @@
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QPainter>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -155,6 +157,7 @@ class SliderView : public ViewOf<QWidget, ui::ScrollBar> {
     slider_->setMinimumWidth(Px(120));
     value_->setButtonSymbols(QAbstractSpinBox::NoButtons);
     value_->setAlignment(Qt::AlignRight);
+    SetMargins(*value_->findChild<QLineEdit*>());
     row->addWidget(slider_, 1);
     row->addWidget(value_);
     setFocusProxy(slider_);
@@ -175,7 +178,7 @@ class SliderView : public ViewOf<QWidget, ui::ScrollBar> {
     const auto width = [&](int number) {
       return fontMetrics().horizontalAdvance(QString::number(number));
     };
-    value_->setFixedWidth(std::max({width(min), width(max), Px(28)}) + Px(28));
+    value_->setFixedWidth(std::max({width(min), width(max), Px(28)}) + Px(30));
   }
 
  private:
