@@ -32,6 +32,7 @@ constexpr int kUnbrokenLabel = 150;
 constexpr int kLeastWords = 70;   // beside the buttons of their row
 constexpr int kLeastCard = 220;   // beside another; a narrower one stands below it
 constexpr int kLeastAlike = 180;  // the same of many that hold as little each
+constexpr int kLeastTab = 104;    // so much of its name tells which it is
 
 /// What a line is typed into, chosen from or slid on needs no more width than what it can hold.
 bool IsNarrow(const ui::Control& control) {
@@ -51,6 +52,18 @@ void Widen(QWidget& widget, const Box& box) {
   if (IsButton(box) && box.Stretch > 0)
     widget.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
+
+/// Names that are too long together end in an ellipsis, up to a point; behind that they scroll.
+class TabNames : public QTabBar {
+ public:
+  using QTabBar::QTabBar;
+
+ protected:
+  QSize minimumTabSizeHint(int tab) const override {
+    const QSize whole = tabSizeHint(tab);
+    return {std::min(whole.width(), Px(kLeastTab)), whole.height()};
+  }
+};
 
 template <class Grid = QGridLayout>
 Grid* NewGrid(int gap) {
@@ -213,10 +226,10 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   auto* holder = new QWidget(holder_);
   auto* rows = new Column(false, holder);
   rows->setSpacing(Px(kWide));
-  auto* bar = new QTabBar(holder);
+  auto* bar = new TabNames(holder);
   bar->setDrawBase(false);
   bar->setExpanding(false);
-  bar->setElideMode(Qt::ElideNone);  // those that have no room are scrolled to
+  bar->setElideMode(Qt::ElideRight);
   bar->setFocusPolicy(Qt::TabFocus);
   rows->addWidget(bar, 0, Qt::AlignLeft);
   const QScopedValueRollback<QWidget*> within(holder_);

@@ -484,7 +484,11 @@ TEST(TheWords, AreNeverCutInTheirMiddle) {
     EXPECT_GE(step.width(), step.fontMetrics().horizontalAdvance("Participants"));
     const auto& bar = *play.See("frmWordy")->findChild<QTabBar*>();
     for (int tab = 0; tab < bar.count(); ++tab)
-      EXPECT_GE(bar.tabRect(tab).width(), bar.fontMetrics().horizontalAdvance(bar.tabText(tab)));
+      if (bar.tabRect(tab).width() < bar.fontMetrics().horizontalAdvance(bar.tabText(tab))) {
+        EXPECT_GE(bar.tabRect(tab).width(), desktop::Px(100)) << "enough to tell which it is";
+        EXPECT_EQ(bar.elideMode(), Qt::ElideRight);
+        EXPECT_EQ(bar.tabToolTip(tab), bar.tabText(tab));
+      }
     const auto& story = *qobject_cast<QTextEdit*>(play.See("rptstory"));
     EXPECT_GE(story.viewport()->width(),
               QFontMetrics(desktop::ProseFont()).horizontalAdvance("Wrestling"));
