@@ -260,7 +260,10 @@ void TableGrid::DrawPinned(QPainter& painter) {
 
 void TableGrid::DrawCursor(QPainter& painter) {
   if (!hasFocus()) return;
-  // Without a row the keyboard is still here.
+  // Without a row the keyboard is still here. A frame round nothing would look like a field.
+  if (model_.rowCount() == 0)
+    return painter.fillRect(QRect(0, Px(10), Px(3), QFontMetrics(TextFont()).height()),
+                            ColoursOf(this).Blue);
   if (CurrentRow() < 0)
     return DrawFocus(painter, QRectF(viewport()->rect()).adjusted(0, 0, -1, -1), Px(3), palette());
   const QRect row(0, rowViewportPosition(CurrentRow()), viewport()->width(),
@@ -318,7 +321,7 @@ void TableGrid::BeginAtName() {
 void TableGrid::paintEvent(QPaintEvent* event) {
   // Only now is it certain what room there is.
   if (!std::exchange(painted_, true)) {
-    if (currentIndex().isValid()) scrollTo(currentIndex(), PositionAtCenter);
+    if (currentIndex().isValid()) scrollTo(currentIndex());  // else it begins at its top
     BeginAtName();
   }
   const QRect rows(0, 0, viewport()->width(), WholeRows(viewport()->height()));

@@ -212,6 +212,7 @@ void TableView::ShowSearchRow() {
   const bool wide = CanSearch() && control_.Count() > overseen && rowButtons_.empty();
   searchRow_->setVisible(wide || filters || !control_.Views.empty());
   search_->setVisible(!control_.Search);
+  columns_->setVisible(control_.Columns().size() > 1 || !control_.Views.empty());
   const bool all = static_cast<int>(table_.Columns().size()) == model_.columnCount();
   const QString view = Shown(table_.State().View);
   const QString words = !view.isEmpty() ? view : all ? "All" : "Yours";
