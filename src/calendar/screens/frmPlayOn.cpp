@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <memory>
+#include <utility>
 
 #include "calendar/playon.h"
 #include "records/fields/fields.h"
@@ -65,7 +67,11 @@ class frmPlayOn : public GameScreen {
   void Return() override {
     lblfacts.Text = LongDate(world().Today()) + ". You left " + world().Player().Name.Str() + ", " +
                     std::string(SizeText(world().Player().Size)) + ". The world remembers it all.";
-    FillTable(lstchairs, Table(), ChairsAfterTheEnd(world()));
+    std::vector<const Promotion*> chairs = ChairsAfterTheEnd(world());
+    std::ranges::stable_sort(chairs, [](const Promotion* one, const Promotion* two) {
+      return std::pair(int(one->Size), -one->Image) < std::pair(int(two->Size), -two->Image);
+    });
+    FillTable(lstchairs, Table(), chairs);
     if (lstchairs.Selected() == 0 && lstchairs.Count() > 0) lstchairs.Select(1);
     ShowWhatMayBe();
   }
@@ -86,7 +92,10 @@ class frmPlayOn : public GameScreen {
                            p.Money < 0 ? ui::Tone::Red : ui::Tone::Plain);
          }},
         {{"Roster", K::Number, 1}, [rosters](const Promotion& p) { return rosters->Of(p.Uid); }},
-        {{"Who decides", K::Text, 3}, [&of](const Promotion& p) { return WhoDecides(of, p); }}};
+        {{"Who decides", K::Text, 3}, [&of](const Promotion& p) {
+           const Staff* owner = OwnerOf(of, p.Uid);
+           return owner ? owner->Name.Str() : std::string("The board");
+         }}};
   }
 
   std::string WhyNot(const std::string& otherwise) {
