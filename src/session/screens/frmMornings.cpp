@@ -36,11 +36,11 @@ class frmMornings : public GameScreen {
   explicit frmMornings(Game& game) : GameScreen(game, "frmMornings", "Back In Time") {
     lstmornings.EmptyText = "Nothing yet: the first morning is kept with the first click.";
     lblkept.Text =
-        "Kept are at least the last seven mornings on which you stopped, the firsts of twelve "
+        "Kept: at least the last 7 mornings on which you stopped, the first of each of 12 "
         "months, " +
-        std::to_string(Mornings::kNamed) + " moments that you name and " +
+        std::to_string(Mornings::kNamed) + " moments you name and " +
         std::to_string(Mornings::kLeft) +
-        " roads that you leave, the first of them always. The oldest go when 4 MB are full.";
+        " roads you left, the first of these for good. The oldest go first once 4 MB are full.";
     lblkept.Colour = ui::Tone::Muted;
   }
 
