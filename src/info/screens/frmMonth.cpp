@@ -1,5 +1,6 @@
 #include "info/screens/infotables.h"
 #include "info/smallmonth.h"
+#include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "ui/game.h"
 
@@ -37,10 +38,10 @@ class frmMonth : public GameScreen {
   void Return() override {
     const bool isSmall = HasSmallMonth(world().Player());
     lblfacts.Text = MonthYear(world().Today()) + ", " + Dollars(world().Player().Money) +
-                    " in hand. " +
-                    (isSmall ? std::to_string(VenturesLeft(world())) +
-                                   " ventures are open; each can be made once a month."
-                             : kTooBig);
+                    " in hand." +
+                    (isSmall ? " " + Counted(VenturesLeft(world()), "venture") +
+                                   " still open; each can be made once a month."
+                             : std::string());
     ShowVentures(isSmall);
     ShowRumours();
     lstventures_Click();
@@ -79,7 +80,7 @@ class frmMonth : public GameScreen {
     const VentureRow* venture = Chosen();
     lstwhom.Visible = venture && *venture->Whom;
     if (!venture) {
-      txtbrings.Write({{Style::Muted, kTooBig}});
+      txtbrings.Write({{Style::Muted, "What a venture brings stands here."}});
       return EnableUnless(cmdventure, kTooBig);
     }
     txtbrings.Write({{Style::Heading, venture->Name},
