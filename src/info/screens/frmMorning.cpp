@@ -91,9 +91,9 @@ class frmMorning : public GameScreen {
                             .Grow());
     // A Title comes with who holds it, which needs more room than the others.
     ui::Box moved =
-        ui::Columns({ui::Rows({ui::Group("Titles", {ui::Grow(lsttitles)}).Grow()}).Grow(3),
-                     ui::Group("Feuds", {ui::Grow(lstfeuds)}).Grow(2),
-                     ui::Group("Hurt", {ui::Grow(lsthurt)}).Grow(2)});
+        ui::Columns({ui::Rows({ui::Group("Titles", {ui::Grow(lsttitles)}).Grow()}).Grow(2),
+                     ui::Group("Feuds", {ui::Grow(lstfeuds)}).Grow(),
+                     ui::Group("Hurt", {ui::Grow(lsthurt)}).Grow()});
     ui::Page page = PageOf(
         ui::Rows({ui::Columns(std::move(figures)),
                   ui::Columns(
