@@ -160,7 +160,7 @@ constexpr SectionRow kSections[] = {
     {kYearPlayer, "Your promotion", SizeOf, ImageAndMoney},
     {kYearChampion, kChampions,
      [](const YearLine& line) {
-       return line.Number < 0 ? std::string() : Counted(line.Number, "day");
+       return line.Number < 0 ? std::string("From before the game") : Counted(line.Number, "day");
      },
      [](const YearLine& line) { return line.What + " (" + line.Initials.Str() + ")"; }},
     {kYearMatch, "Best matches", Percentage, HouseAndWhat, true},
