@@ -31,8 +31,8 @@ class frmHall : public GameScreen {
         ui::Columns({ui::Rows({ui::Group("Members", {ui::Grow(lstmembers, share)}).Grow(share),
                                ui::Group("Nearest to the hall", {ui::Grow(lstnext)}).Grow(2)})
                          .Grow(5),
-                     ui::Rows({ui::Group("What counts for them", {ui::Grow(txtmember)}).Grow(2),
-                               ui::Group("The rule", {ui::Grow(txtrule)}).Grow(3)})
+                     ui::Rows({ui::Group("What counts for them", {ui::Grow(txtmember)}).Grow(),
+                               ui::Group("The rule", {ui::Grow(txtrule)}).Grow(2)})
                          .Grow(3)}),
         &lblfacts, {&cmdpage});
   }
