@@ -153,7 +153,9 @@ class frmFamilyTree : public GameScreen {
          return NumberOrNothing(DaysOf(*tree.Reign, world().Today()));
        }},
       {{"Defences", K::Number},
-       [](const TreeReign& tree) { return NumberOrNothing(tree.Reign->Defences); }},
+       [](const TreeReign& tree) {
+         return IsVacancy(*tree.Reign) ? ui::Cell(-1.0, "") : ui::Cell(int(tree.Reign->Defences));
+       }},
       {{"Taken from", K::Text, 5}, [](const TreeReign& tree) { return ui::Cell(tree.TakenFrom); }},
       {{"End", K::Tag}, EndOf}};
   const CellColumns<Career> peopleTable_ = {
