@@ -99,6 +99,7 @@ class frmTvOffer : public GameScreen {
   void ShowNone() {
     lblfacts.Text = "No network has made us an offer.";
     for (ui::Label* term : {&txtnetwork, &txtlength, &txttime, &txtaudience}) term->Text = "None";
+    cmbdays.Visible = txtname.Visible = false;
     EnableUnless({cmdaccept, cmdreject, cmdwhatif}, "There is no offer on the table.");
   }
 
@@ -115,6 +116,7 @@ class frmTvOffer : public GameScreen {
 
   void ShowOffer(const TvOffer& offer) {
     lblfacts.Text = offer.From->Name + " would have us on the air.";
+    cmbdays.Visible = txtname.Visible = true;
     txtnetwork.Text = offer.From->Name.Str();
     txtlength.Text = std::to_string(offer.Weeks) + " Weeks";
     txttime.Text =
