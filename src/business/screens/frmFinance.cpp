@@ -33,7 +33,7 @@ Tone BalanceTone(long long balance) {
 }
 
 const CellColumns<BookRow> kBookTable = {
-    {{"", K::Text, 3}, [](const BookRow& row) { return ui::Cell(row.Title, row.Colour); }},
+    {{"Book", K::Text, 3}, [](const BookRow& row) { return ui::Cell(row.Title, row.Colour); }},
     {{"Last month", K::Number, 2},
      [](const BookRow& row) { return MoneyCell(row.Last, row.ToneOf(row.Last)); }},
     {{"This month", K::Number, 2},
@@ -49,7 +49,9 @@ const CellColumns<MonthOfMoney> kMonthTable = {
       "What moved the money outside the books: loans, donations, building, ventures, and the "
       "like."},
      [](const MonthOfMoney& month) {
-       return month.Beside ? MoneyCell(*month.Beside, BalanceTone(*month.Beside)) : ui::Cell("");
+       if (!month.Beside) return ui::Cell("");
+       return MoneyCell(*month.Beside,
+                        *month.Beside == 0 ? Tone::Muted : BalanceTone(*month.Beside));
      }}};
 
 /// The books of last month and of this one, and the money over time.
@@ -214,8 +216,8 @@ class frmWages : public GameScreen {
         rows.push_back(WageOf(staff, -staff.Uid, "Staff", Says(kStaffPositions, staff.Position)));
     FillTable(lstwages, kWageTable, rows);
     const WageBill bill = WagesOf(world(), world().PlayerUid());
-    lblworkers.Text = Dollars(bill.Workers) + " p.m";
-    lblstaff.Text = Dollars(bill.Staff) + " p.m";
+    lblworkers.Text = Dollars(bill.Workers) + " a month";
+    lblstaff.Text = Dollars(bill.Staff) + " a month";
     lbltotal.Text = "Wages due on the first of the month: " + Dollars(bill.Workers + bill.Staff);
   }
 

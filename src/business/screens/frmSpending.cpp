@@ -113,7 +113,7 @@ class frmFedProd : public GameScreen {
   void Return() override {
     lblmoney.Text = FinanceText(player());
     lblproduction.Text = std::to_string(player().Production) + "%";
-    lblmonthly.Text = Dollars(ProductionCost(player().Production)) + " p.m";
+    lblmonthly.Text = Dollars(ProductionCost(player().Production)) + " a month";
     EnableUnless(cmdwhy, player().Production > 0 ? "" : "What is not there costs nothing.");
     txtwhy.Write("");
     const bool best = player().Production >= kBestProduction;
