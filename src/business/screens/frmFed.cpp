@@ -75,7 +75,7 @@ class frmFed : public GameScreen {
   ui::Box Charts() {
     return ui::Rows(
         {ui::Group("Image by month", {ui::Grow(chtimage)}).Grow(),
-         ui::Group("Standing by month, a size class for each hundred", {ui::Grow(chtstanding)})
+         ui::Group("Standing by month (100 points make a size class)", {ui::Grow(chtstanding)})
              .Grow()});
   }
 

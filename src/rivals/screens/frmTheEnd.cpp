@@ -60,7 +60,7 @@ class frmTheEnd : public ui::Screen {
         .Body = ui::Columns(
             {ui::Group("The Turnbuckle Courier", {ui::Grow(txtstory)}).Grow(3),
              ui::Rows({ui::Group("Your career", {txtcareer}),
-                       ui::Group("Standing by month, a size class for each hundred",
+                       ui::Group("Standing by month (100 points make a size class)",
                                  {ui::Grow(chtstanding)})
                            .Grow()})
                  .Grow(2),
