@@ -154,7 +154,8 @@ class frmFamilyTree : public GameScreen {
        }},
       {{"Defences", K::Number},
        [](const TreeReign& tree) {
-         return IsVacancy(*tree.Reign) ? ui::Cell(-1.0, "") : ui::Cell(int(tree.Reign->Defences));
+         const int defences = tree.Reign->Defences;  // below 0 where nobody knows
+         return IsVacancy(*tree.Reign) || defences < 0 ? ui::Cell(-1.0, "") : ui::Cell(defences);
        }},
       {{"Taken from", K::Text, 5}, [](const TreeReign& tree) { return ui::Cell(tree.TakenFrom); }},
       {{"End", K::Tag}, EndOf}};
