@@ -143,10 +143,10 @@ CellColumns<Title> TitleTable(const World& world) {
                         .Draws = [&world](int number) { return PlateAt(world, number); }};
   return {{name, [](const Title& title) { return title.Name.View(); }},
           {{"Holder"}, [&](const Title& title) { return ChampionCell(world, title); }},
-          {{"Since", K::Date},
+          // The holder's name needs the room more than words for no date do.
+          {{"Since", K::Date, 0, "When it was won; a dash where that was before the game."},
            [](const Title& title) {
-             return title.Holder == 0 ? ui::Cell("")
-                                      : DateCell(title.Reigns[0].Won, kBeforeTheGame);
+             return title.Holder == 0 ? ui::Cell("") : DateCell(title.Reigns[0].Won, "-");
            }},
           {{.Title = "Image",
             .Kind = K::Percent,
