@@ -137,7 +137,7 @@ class frmChronicle : public GameScreen {
     }
     lstproof.Fill(std::move(rows), false);
     lstproof.Select(told_.empty() ? 0 : 1);
-    lblfacts.Text = Counted(static_cast<long long>(told_.size()), "sentence") + ", proved by " +
+    lblfacts.Text = Counted(static_cast<long long>(told_.size()), "statement") + ", proved by " +
                     Counted(static_cast<long long>(records), "record") + ".";
     EnableUnless(cmdproof, told_.empty() ? "No record says anything yet." : "");
     EnableUnless(cmdpdf, game_.WritePdf ? "" : "Only the window can write it.");
@@ -183,7 +183,7 @@ class frmChronicle : public GameScreen {
   ui::ComboBox cmbvoice{*this, "cmbvoice", &frmChronicle::ShowChapter};
   ui::ListBox lstsubjects{*this, "lstsubjects", {{"Name", K::Text, 1}}, &frmChronicle::ShowChapter};
   ui::Report txtchapter{*this, "txtchapter"};
-  ui::ListBox lstproof{*this, "lstproof", {{"Sentence", K::Text, 6}, {"Record", K::Text, 3}}};
+  ui::ListBox lstproof{*this, "lstproof", {{"Statement", K::Text, 6}, {"Record", K::Text, 3}}};
   ui::Button cmdproof{*this, "cmdproof", "Show The Record", [this] { ShowProof(lstproof.Key()); }};
   ui::Button cmdbook{*this, "cmdbook", "Write The Book", &frmChronicle::cmdbook_Click};
   ui::Button cmdpdf{*this, "cmdpdf", "Book As PDF", &frmChronicle::cmdpdf_Click};
