@@ -78,10 +78,12 @@ class EntryCells : public QStyledItemDelegate {
   const std::vector<Finder::Row>& rows_;
 };
 
-/// How far an entry is from what was typed; -1 for not at all.
-int FitOf(const Finder::Entry& entry, const QString& letters) {
+/// How far an entry is from what was typed; -1 for not at all. `forgiving`: a slip may also be in
+/// what people call it besides.
+int FitOf(const Finder::Entry& entry, const QString& letters, bool forgiving) {
   const std::string typed = Keep(letters).Text;
-  const int fit = FitOfName(Keep(entry.Words).Text, Keep(entry.Also).Text, typed);
+  const QString name = forgiving ? entry.Words + " " + entry.Also : entry.Words;
+  const int fit = FitOfName(Keep(name).Text, Keep(entry.Also).Text, typed);
   if (fit >= 0) return fit;
   qsizetype at = 0;
   for (const QChar letter : letters) {
@@ -146,10 +148,15 @@ void Finder::Filter(const QString& typed) {
 
 Finder::Entries Finder::CommandsFor(const QString& letters) {
   Entries entries;
-  for (Entry& entry : from_.Commands) {
-    entry.Fit = letters.isEmpty() ? 0 : FitOf(entry, letters);
-    if (entry.Fit >= 0) entries.push_back(&entry);
-  }
+  const auto take = [&](bool forgiving) {
+    for (Entry& entry : from_.Commands) {
+      entry.Fit = letters.isEmpty() ? 0 : FitOf(entry, letters, forgiving);
+      if (entry.Fit >= 0) entries.push_back(&entry);
+    }
+  };
+  take(false);
+  // Where something else was found, that was meant.
+  if (entries.empty() && names_.empty()) take(true);
   return entries;
 }
 

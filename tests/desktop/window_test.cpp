@@ -403,6 +403,11 @@ TEST_F(TheWindow, FindsNamesUnderHeadingsAndRemembersWhatWasChosen) {
   EXPECT_EQ(list(), Rows{"Nothing is called \"xq\". Try one word of it."});
   Play.Key(Qt::Key_Return);
   EXPECT_TRUE(Play.Sees("finder"));
+  Play.Key(Qt::Key_Escape);
+  find("dark theem");
+  EXPECT_EQ(list(), (Rows{"Window", "Dark colours", "Light colours", "High contrast",
+                          "Colours as the desktop has them"}))
+      << "a slip in what people call it, where nothing else is found";
 }
 
 TEST_F(TheWindow, OpensHelpForThePageOnTop) {
