@@ -74,7 +74,7 @@ QSize TableGrid::sizeHint() const {
 
 /// Whatever is in it: a panel keeps its size when its rows change.
 QSize TableGrid::minimumSizeHint() const {
-  const int rows = std::clamp(model_.List().Room, 2, model_.List().Least);
+  const int rows = std::min(std::max(model_.List().Room, 2), model_.List().Least);
   return {Px(160), heading_->sizeHint().height() + rows * Px(RowHeight(model_.List())) + 2};
 }
 
