@@ -14,6 +14,7 @@ namespace grapplemont::desktop {
 class TableView;
 class LevelColumn;
 class EvenGrid;
+class TurningLayout;
 
 inline constexpr int kClose = 8;   // between what stands within a card
 inline constexpr int kLetter = 7;  // the width that a page reckons with for one
@@ -53,7 +54,7 @@ class LayoutBuilder {
   void AddAlike(const ui::Box& box, EvenGrid* grid, QBoxLayout* into);
   void AddGroup(const ui::Box& box, QBoxLayout* into);
   void AddPartOfCard(const ui::Box& box, QBoxLayout* into);
-  void AddSearch(const std::vector<ControlView*>& views, bool untitled, QBoxLayout& head);
+  void AddSearch(const std::vector<ControlView*>& views, bool untitled, TurningLayout& head);
   void AddTabs(const ui::Box& box, QBoxLayout* into);
   void AddForm(const Run& fields, QBoxLayout* into);
   void AddBeside(const ui::Box& field, QWidget& shown, QGridLayout& form, int& row);

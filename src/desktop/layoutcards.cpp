@@ -20,7 +20,8 @@ using ui::Box;
 
 constexpr int kCardSide = 14;
 constexpr int kScrollBar = 16;
-constexpr int kLeastSearch = 180;  // so that what is searched can be read in the empty line
+constexpr int kUnbrokenTitle = 230;  // what stands beside it gives way first
+constexpr int kLeastSearch = 180;    // so that what is searched can be read in the empty line
 
 QFont CardTitleFont() {
   return TextFont(13, QFont::DemiBold);
@@ -53,8 +54,11 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
   inside->setContentsMargins(Px(kCardSide), Px(kCardSide), Px(kCardSide), Px(kCardSide));
   auto* head = new TurningLayout(kClose);
   inside->addLayout(head);
-  if (!box.Title.empty())
-    head->addWidget(new WrappedLabel(card, Shown(box.Title), CardTitleFont()), 1);
+  if (!box.Title.empty()) {
+    auto* title = new WrappedLabel(card, Shown(box.Title), CardTitleFont());
+    title->BreakFrom(kUnbrokenTitle);
+    head->addWidget(title, 1);
+  }
   QWidget* const outer = holder_;
   holder_ = card;
   inCard_ = true;
@@ -97,7 +101,7 @@ void LayoutBuilder::AddPartOfCard(const Box& box, QBoxLayout* into) {
 
 /// The search row of a card's only table, beside its title or the page's own search line.
 void LayoutBuilder::AddSearch(const std::vector<ControlView*>& views, bool untitled,
-                              QBoxLayout& head) {
+                              TurningLayout& head) {
   TableView* table = OnlyTable(views);
   if (!table || !table->CanSearch()) return;
   const auto own = std::ranges::find_if(views, [table](const ControlView* view) {
@@ -107,7 +111,7 @@ void LayoutBuilder::AddSearch(const std::vector<ControlView*>& views, bool untit
   QWidget* const row = table->TakeSearchRow();
   // The panel below keeps its place when the row comes and goes beside the title; below the title
   // it would leave a hole.
-  head.addStrut(row->sizeHint().height());
+  head.HoldHeight(row->sizeHint().height());
   // The heading stands in one line with those of cards that have no such row.
   const int above = (row->sizeHint().height() - QFontMetrics(CardTitleFont()).height()) / 2;
   QLayout& inside = *head.parentWidget()->layout();

@@ -69,6 +69,21 @@ void TurningLayout::KeepRowsWhole() {
   HoldRows(true);
 }
 
+void TurningLayout::HoldHeight(int height) {
+  class Strut : public QSpacerItem {
+   public:
+    Strut(const TurningLayout& row, int height)
+        : QSpacerItem(0, height, QSizePolicy::Fixed, QSizePolicy::Minimum), row_(row) {}
+    QSize sizeHint() const override { return Holds() ? QSpacerItem::sizeHint() : QSize(0, 0); }
+    QSize minimumSize() const override { return sizeHint(); }
+
+   private:
+    bool Holds() const { return row_.direction() == LeftToRight && !row_.isEmpty(); }
+    const TurningLayout& row_;
+  };
+  addItem(new Strut(*this, height));
+}
+
 void TurningLayout::SetOneRow(bool oneRow) {
   if (oneRow_ == oneRow) return;
   oneRow_ = oneRow;

@@ -21,6 +21,8 @@ class TurningLayout : public QBoxLayout {
   void KeepRowsWhole();
   /// Whether it must stay a row.
   void SetOneRow(bool oneRow);
+  /// Is at least so high as a row, in pixels, while any part of it is shown.
+  void HoldHeight(int height);
   /// Has the first part go last while the parts stand one below the other.
   void LetFirstWait() { firstWaits_ = true; }
 
