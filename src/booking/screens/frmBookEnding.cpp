@@ -34,7 +34,7 @@ class frmBookWinner : public MatchStepScreen {
       boxes.push_back(ui::Field(LoserLabel(box), cmbloser(box)));
     boxes.push_back(ui::Spacer());
     return ui::Rows({ui::Columns({ui::Group("Result", std::move(boxes)).Grow(1),
-                                  ui::Group("In the ring", {ui::Grow(lstring)}).Grow(2)})
+                                  ui::Group("In the ring", {ui::Grow(lstring)}).Grow(3)})
                          .Grow(),
                      Objections()});
   }

@@ -39,7 +39,8 @@ class frmFutures : public GameScreen {
     lstchances.SetColumns(ChanceColumns("On the way", kByHabit));
     for (ui::ListBox* list : {&lstsizes, &lstchances, &lsttitles, &lstfeds})
       list->EmptyText = "Play the worlds to see what becomes of them.";
-    lstsizes.Room = lstchances.Room = 5;
+    lstsizes.Room = 3;
+    lstchances.Room = 5;
     BackBefore(cmdplay);
   }
 
@@ -72,7 +73,7 @@ class frmFutures : public GameScreen {
   ui::Box Own() {
     return ui::Rows({ui::Columns({spread_.Picture().Grow(3),
                                   ui::Rows({ui::Group("", {ui::Grow(lstsizes)}).Grow(1),
-                                            ui::Group("", {ui::Grow(lstchances)}).Grow(1)})
+                                            ui::Group("", {ui::Grow(lstchances)}).Grow(2)})
                                       .Grow(2)})
                          .Grow(3),
                      spread_.Table().Grow(2)})
