@@ -76,6 +76,8 @@ class LineView : public ViewOf<QLineEdit, ui::TextBox> {
   }
 };
 
+constexpr int kBeside = 32;  // what stands beside the words of a box of many lines
+
 /// A text box of many lines.
 class NotesView : public ViewOf<QPlainTextEdit, ui::TextBox> {
  public:
@@ -93,6 +95,11 @@ class NotesView : public ViewOf<QPlainTextEdit, ui::TextBox> {
   void Show() override {
     const QString text = Shown(control_.Text.Get());
     if (text != toPlainText()) Put(text, textCursor().position());
+  }
+  /// Lines end where they can be read, the bar stays at the edge.
+  void resizeEvent(QResizeEvent* event) override {
+    setViewportMargins(0, 0, std::max(0, width() - ReadableWidth() - Px(kBeside)), 0);
+    QPlainTextEdit::resizeEvent(event);
   }
   /// Enter makes a line here; with Ctrl it goes on to the page.
   void keyPressEvent(QKeyEvent* event) override {
