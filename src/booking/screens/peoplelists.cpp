@@ -54,14 +54,6 @@ CellColumn<Worker> MarksColumn(Abreast room, const RosterMarks* marks) {
           }};
 }
 
-ui::Sign DispositionSign(std::string_view word) {
-  constexpr std::pair<std::string_view, ui::Sign> kSigns[] = {
-      {"Face", ui::Sign::Face}, {"Heel", ui::Sign::Heel}, {"Tweener", ui::Sign::Tweener}};
-  for (const auto& [says, sign] : kSigns)
-    if (word == says) return sign;
-  return ui::Sign::None;
-}
-
 /// What the choice is made on comes first, marks beside the name: lists abreast have no room for
 /// all.
 CellColumns<Worker> TableOf(int kind, Abreast room, const RosterMarks* marks) {

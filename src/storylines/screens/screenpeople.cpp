@@ -83,8 +83,18 @@ CellColumns<Worker> PeopleTable(CellColumns<Worker> more) {
   return columns;
 }
 
+ui::Sign DispositionSign(std::string_view word) {
+  constexpr std::pair<std::string_view, ui::Sign> kSigns[] = {
+      {"Face", ui::Sign::Face}, {"Heel", ui::Sign::Heel}, {"Tweener", ui::Sign::Tweener}};
+  for (const auto& [says, sign] : kSigns)
+    if (word == says) return sign;
+  return ui::Sign::None;
+}
+
 std::vector<ui::Column> ShortColumns() {
-  return HeadingsOf(PeopleTable());
+  std::vector<ui::Column> columns = HeadingsOf(PeopleTable());
+  columns.back().SignOf = DispositionSign;
+  return columns;
 }
 
 void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people) {

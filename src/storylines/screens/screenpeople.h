@@ -75,7 +75,9 @@ ui::Cell StatusCell(const Worker& worker);
 
 /// Name, Over and disposition; then `more`.
 CellColumns<Worker> PeopleTable(CellColumns<Worker> more = {});
-/// The table of these three alone.
+/// What stands for a disposition where its word has no room.
+ui::Sign DispositionSign(std::string_view word);
+/// The table of these three alone, for a narrow card.
 std::vector<ui::Column> ShortColumns();
 void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people);
 /// "09 Mar 2026".
