@@ -29,7 +29,7 @@ std::vector<Case> CorpusOf(const Target& target) {
     std::ifstream in(entry.path(), std::ios::binary);
     const std::string text{std::istreambuf_iterator<char>(in), {}};
     const ByteSpan bytes = BytesIn(text);
-    cases.push_back({entry.path().filename(), {bytes.begin(), bytes.end()}});
+    cases.push_back({entry.path().filename().string(), {bytes.begin(), bytes.end()}});
   }
   std::ranges::sort(cases, {}, &Case::Name);
   return cases;
