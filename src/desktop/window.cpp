@@ -231,7 +231,9 @@ void Window::ShowNow(const Scene& scene) {
     layer.Over->raise();
     top = layer.View;
   }
-  if (box_) box_->raise();
+  // A dialog that changes by itself covers neither what is searched for nor noted nor asked.
+  for (QWidget* above : std::initializer_list<QWidget*>{finder_, hint_, box_})
+    if (above) above->raise();
   const bool isNew = top_ != &top->Shows();
   if (isNew) DropHint();
   top_ = &top->Shows();

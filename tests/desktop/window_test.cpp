@@ -280,6 +280,24 @@ TEST_F(TheWindow, FindsWhatCanBeDoneByItsLetters) {
   EXPECT_EQ(Play.Top(), "frmPeople");
 }
 
+TEST_F(TheWindow, KeepsTheSearchAndANoteOverAPageThatChangesByItself) {
+  auto more = std::make_unique<Dialog>(Play.Desk, Notes);
+  more->cmdok.Enabled = false;
+  Dialog& page = *more;
+  Play.Open(std::move(more));
+  const auto isOnTop = [&](const char* name) {
+    QWidget* seen = Play.See(name);
+    page.lblmore.Text = "There is still more.";
+    Play.Window.Sync();
+    return Play.Window.childAt(seen->mapTo(&Play.Window, seen->rect().center())) == seen;
+  };
+  Play.Key(Qt::Key_K, Qt::ControlModifier);
+  EXPECT_TRUE(isOnTop("finderline"));
+  Play.Type("OK");
+  Play.Key(Qt::Key_Return);
+  EXPECT_TRUE(isOnTop("hint"));
+}
+
 TEST_F(TheWindow, TellsInTheSearchWhyAPagesActionCannotBeDone) {
   DeskPage& page = OpenDesk();
   page.cmddone.Enabled = false;
