@@ -200,8 +200,9 @@ std::optional<EndOfRecord> ReadEnd(std::string_view line) {
   if (NextWord(line) != kCommandsOutside) return std::nullopt;
   const std::string digits = NextWord(line);
   EndOfRecord end{0, std::string(line)};
-  const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), end.Digest);
-  return read.ec == std::errc() ? std::optional(end) : std::nullopt;
+  // What is no number leaves 0 there, which no world comes to.
+  std::from_chars(digits.data(), digits.data() + digits.size(), end.Digest);
+  return end;
 }
 
 std::uint64_t DigestOfWorld(const std::vector<NewFile>& files) {

@@ -250,7 +250,8 @@ TEST(Yearbook, TellsOfTheYearWhenItIsOver) {
   EXPECT_EQ(told(), before) << "the running year is told as it will be written";
   EXPECT_EQ(before,
             "Your promotion: CWA Wrestling/Regional/Image 50%, $2,000,000\n"
-            "Champions at the end: Nat Other//NEW Crown (NEW) Bram Okafor//CWA Crown (CWA)\n"
+            "Champions at the end: Nat Other/From before the game/NEW Crown (NEW) "
+            "Bram Okafor/From before the game/CWA Crown (CWA)\n"
             "Best matches: Nat Other beat Ned Third/91%/NEW, 02 March 2026, for the NEW Crown\n"
             "Biggest rises: Ned Third/+20%/Over 70, NEW\n"
             "Biggest falls: Ilya Marsh/-25%/Over 30, CWA\n"
