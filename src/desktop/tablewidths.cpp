@@ -157,7 +157,8 @@ void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
   shrink(asked[name], read, glanced, cut);
   shrink(least, read, cut, cut);
   shrink(least, cut, cut, cut);
-  shrink(std::max(Px(kNameCut), asked[name] * 3 / 4), cut, cut, cut);
+  const int shortened = std::min(Px(kNameWhole), room * 4 / 10);
+  shrink(std::max({Px(kNameCut), asked[name] * 3 / 4, shortened}), cut, cut, cut);
   if (missing > 0) ScrollRest(asked, widths);
 }
 

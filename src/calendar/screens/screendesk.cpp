@@ -16,8 +16,8 @@ using K = ui::ColumnKind;
 /// How many month ends the lines go back.
 constexpr std::size_t kMonthsShown = 12;
 
-/// What a card of names needs beside others, and a line beside another.
-constexpr int kLettersOfCard = 30, kLettersOfLine = 18;
+/// What a feud or a chart needs beside others.
+constexpr int kLettersOfCard = 30;
 
 /// What keeps somebody away, in a word or two.
 ui::Cell AwayCell(const Worker& worker) {
@@ -82,10 +82,8 @@ ui::Box DeskCards::Standing() {
   // Names need more room than lines; the name that a table begins with is cut last.
   return ui::Columns({ui::Group("Champions", {ui::Grow(lstchampions)}).Grow(5),
                       ui::Group("Hottest feuds", {ui::Grow(lstfeuds)}).Grow(3),
-                      ui::Columns({ui::Group("Image", {ui::Grow(chtimage)}).Grow(),
-                                   ui::Group("Money", {ui::Grow(chtmoney)}).Grow()})
-                          .Wide(kLettersOfLine)
-                          .Grow(4)})
+                      ui::Group("Image", {ui::Grow(chtimage)}).Grow(2),
+                      ui::Group("Money", {ui::Grow(chtmoney)}).Grow(2)})
       .Wide(kLettersOfCard);
 }
 
