@@ -175,19 +175,26 @@ class frmWindow : public ui::Screen {
     return !isOfPage(one) || !isOfPage(other) || one.Where == other.Where;
   }
 
+  /// Asks again after a key that cannot be had, until one can or nothing is written.
   void cmdkey_Click() {
     const KeyedCommand command = Chosen();
-    const std::string text = "Press the key for " + command.Caption + ", or write it:";
-    const std::string typed = [&] {
-      const WrittenKeys written;
-      return desk().Prompt("Change Key", text, KeyOf(command));
-    }();
-    if (typed.empty()) return;
-    const QString key = KeyIn(typed);
-    if (const std::string why = WhyNot(key, command); !why.empty())
-      return desk().Say("Change Key", why);
-    window_.Kept().SetKey(command, key);
-    Changed();
+    for (std::string typed = KeyOf(command);;) {
+      typed = WrittenKey(command, typed);
+      if (typed.empty()) return;
+      const QString key = KeyIn(typed);
+      const std::string why = WhyNot(key, command);
+      if (why.empty()) {
+        window_.Kept().SetKey(command, key);
+        return Changed();
+      }
+      desk().Say("Change Key", why);
+    }
+  }
+
+  std::string WrittenKey(const KeyedCommand& command, const std::string& offered) {
+    const WrittenKeys written;
+    return desk().Prompt("Change Key",
+                         "Press the key for " + command.Caption + ", or write it:", offered);
   }
 
   /// Its usual key may be another's by now.
