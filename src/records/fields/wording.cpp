@@ -8,13 +8,6 @@
 
 namespace grapplemont {
 
-std::string Grouped(long long number) {
-  std::string digits = std::to_string(number);
-  const std::size_t sign = number < 0 ? 1 : 0;
-  for (std::size_t place = digits.size(); place > sign + 3;) digits.insert(place -= 3, ",");
-  return digits;
-}
-
 std::string Counted(long long count, std::string_view one, std::string_view many) {
   std::string text = Grouped(count) + " ";
   if (count == 1 || many.empty()) text += one;

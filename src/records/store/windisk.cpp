@@ -87,6 +87,14 @@ DWORD PieceOf(std::size_t bytes) {
   return static_cast<DWORD>(std::min<std::size_t>(bytes, 1 << 30));
 }
 
+/// Its volume and its number there.
+using FileId = std::array<DWORD, 3>;
+
+/// Taken when a file is opened: Wine forgets the volume of one that is renamed while it is open.
+FileId IdOf(const BY_HANDLE_FILE_INFORMATION& about) {
+  return {about.dwVolumeSerialNumber, about.nFileIndexHigh, about.nFileIndexLow};
+}
+
 class MachineDisk : public Disk {
  public:
   explicit MachineDisk(Syncs syncs) : syncs_(syncs) {}
@@ -144,7 +152,7 @@ class MachineDisk : public Disk {
       CloseHandle(opened);
       throw DiskError(path, "open", isLink ? "it is a link" : "it is not a plain file");
     }
-    files_[++last_] = {path, opened};
+    files_[++last_] = {path, opened, IdOf(about)};
     return last_;
   }
 
@@ -162,7 +170,8 @@ class MachineDisk : public Disk {
   }
 
   bool IsAt(Handle file, const std::string& path) override {
-    if (!files_.contains(file)) return false;
+    const auto open = files_.find(file);
+    if (open == files_.end()) return false;
     const HANDLE there =
         CreateFileW(Wide(path).c_str(), 0, kAnybody, nullptr, OPEN_EXISTING,
                     FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS, nullptr);
@@ -170,12 +179,10 @@ class MachineDisk : public Disk {
       if (IsMissing(GetLastError())) return false;
       Fail(path, "look at");
     }
-    BY_HANDLE_FILE_INFORMATION a{}, b{};
-    const bool known =
-        GetFileInformationByHandle(Of(file), &a) && GetFileInformationByHandle(there, &b);
+    BY_HANDLE_FILE_INFORMATION about{};
+    const bool known = GetFileInformationByHandle(there, &about);
     CloseHandle(there);
-    return known && a.dwVolumeSerialNumber == b.dwVolumeSerialNumber &&
-           a.nFileIndexHigh == b.nFileIndexHigh && a.nFileIndexLow == b.nFileIndexLow;
+    return known && IdOf(about) == open->second.Id;
   }
 
   void ReadAt(Handle file, std::int64_t offset, std::span<std::byte> buffer) override {
@@ -283,6 +290,7 @@ class MachineDisk : public Disk {
   struct OpenFile {
     std::string Path;
     HANDLE Opened;
+    FileId Id;
   };
   std::map<Handle, OpenFile> files_;
   Handle last_ = 0;
