@@ -84,12 +84,72 @@ void PayForRows(World& world, const Card& before) {
     ApplyBookingGrievances(world, segment);
 }
 
-void MoveRow(World& world, int from, int to) {
-  const auto at = [&](int row) { return world.Segments().begin() + (row - 1); };
+namespace {
+
+template <class Rows>
+void MoveRow(Rows& rows, int from, int to) {
+  const auto at = [&](int row) { return rows.begin() + (row - 1); };
   if (from < to)
     std::rotate(at(from), at(from + 1), at(to + 1));
   else
     std::rotate(at(to), at(from), at(from + 1));
+}
+
+const Segment& RowOf(const Card& card, int row) {
+  return card[static_cast<std::size_t>(row - 1)];
+}
+
+/// The rows at which two cards of one sheet differ.
+std::vector<int> RowsChanged(const Card& before, const Card& after) {
+  std::vector<int> rows;
+  for (int row = 1; row <= std::ssize(before); ++row)
+    if (!IsSame(RowOf(before, row), RowOf(after, row))) rows.push_back(row);
+  return rows;
+}
+
+/// "A over B, moved from row 2 to row 4"; empty where no row has been moved.
+std::string MoveWords(const World& world, const Card& before, const Card& after, int first,
+                      int last) {
+  for (const auto& [from, to] : {std::pair(first, last), std::pair(last, first)}) {
+    Card moved = before;
+    MoveRow(moved, from, to);
+    if (RowOf(before, from).Kind != kEmptySegment && IsSame(moved, after))
+      return DescribeSegment(world, RowOf(before, from)) + ", moved from row " +
+             std::to_string(from) + " to row " + std::to_string(to);
+  }
+  return {};
+}
+
+std::string StepWords(const World& world, const Card& before, const Card& after) {
+  const std::vector<int> rows = RowsChanged(before, after);
+  if (rows.empty()) return "a step without a change";
+  const int row = rows.front();
+  if (rows.size() > 1) {
+    const std::string moved = MoveWords(world, before, after, row, rows.back());
+    return moved.empty() ? "a change of " + std::to_string(rows.size()) + " rows" : moved;
+  }
+  const bool goes = RowOf(after, row).Kind == kEmptySegment;
+  const bool comes = RowOf(before, row).Kind == kEmptySegment;
+  return DescribeSegment(world, RowOf(goes ? before : after, row)) +
+         (goes    ? ", removed from row "
+          : comes ? ", booked in row "
+                  : ", changed in row ") +
+         std::to_string(row);
+}
+
+}  // namespace
+
+void MoveRow(World& world, int from, int to) {
+  MoveRow(world.Segments(), from, to);
+}
+
+int RowAfter(const Card& before, const Card& after, int row) {
+  const std::vector<int> changed = RowsChanged(before, after);
+  if (changed.empty()) return row;
+  if (std::ranges::count(changed, row) > 0 && RowOf(before, row).Kind != kEmptySegment)
+    for (const int to : changed)
+      if (IsSame(RowOf(before, row), RowOf(after, to))) return to;
+  return changed.front();
 }
 
 SheetHistory::Morale SheetHistory::MoraleOf(const World& world) {
@@ -114,6 +174,16 @@ void SheetHistory::Look(const World& world) {
   isOpen_ = true;
   card_ = card;
   morale_ = morale;
+}
+
+std::string SheetHistory::ToUndo(const World& world) const {
+  if (done_ == 0) return {};
+  return StepWords(world, steps_[done_ - 1].Before, steps_[done_ - 1].After);
+}
+
+std::string SheetHistory::ToRedo(const World& world) const {
+  if (done_ == steps_.size()) return {};
+  return StepWords(world, steps_[done_].Before, steps_[done_].After);
 }
 
 std::vector<std::string> SheetHistory::Undo(World& world, bool isEvent, int openRows) {

@@ -29,6 +29,9 @@ void PayForRows(World& world, const Card& before);
 
 /// A row goes to another's place; those between move up or down by one.
 void MoveRow(World& world, int from, int to);
+/// Where to look once `before` has become `after`: where the Segment of this row has gone, else the
+/// first row that is not what it was.
+int RowAfter(const Card& before, const Card& after, int row);
 
 /// The steps that have been done on an open sheet. What a booking cost in Morale is part of its
 /// step.
@@ -36,8 +39,10 @@ class SheetHistory {
  public:
   /// Keeps what has changed since the last look as one step; the first look begins.
   void Look(const World& world);
-  bool MayUndo() const { return done_ > 0; }
-  bool MayRedo() const { return done_ < steps_.size(); }
+  /// What Undo and Redo would do, as "A over B, booked in row 3"; empty where there is no such
+  /// step.
+  std::string ToUndo(const World& world) const;
+  std::string ToRedo(const World& world) const;
   /// As LayCard. Requires that there is such a step.
   std::vector<std::string> Undo(World& world, bool isEvent, int openRows);
   std::vector<std::string> Redo(World& world, bool isEvent, int openRows);

@@ -107,6 +107,7 @@ TEST(Sheet, LetsAShowStartOnceItsMinimumIsBooked) {
     EXPECT_EQ(play.Desk.Enabled("cmddoshow"), c.Starts) << play.Desk.Text("lblcount");
     EXPECT_EQ(play.Desk.Tip("cmddoshow"),
               c.Starts ? "" : "Not enough yet: " + play.Desk.Text("lblcount"));
+    EXPECT_EQ(play.Desk.Visible("lblwarn"), !c.Starts) << "nothing is left to warn of";
   }
 }
 
@@ -245,12 +246,24 @@ TEST(TelevisionSheet, MovesEditsAndTakesBackItsRows) {
   play.Desk.ExpectAsk("Remove?", kAnyText, true);
   play.Desk.Click("cmdbook(5)");
   EXPECT_EQ(sheet(), Names());
-  for (const char* stands : {"5 ", "2 ", "1 "}) {
+  const std::string upsets = "CWA Hand 5 over CWA Hand 1";
+  const struct {
+    std::string Undone;
+    int Row;
+  } kSteps[] = {{"removed from row 5", 5},
+                {"moved from row 2 to row 5", 2},
+                {"moved from row 1 to row 2", 1}};
+  for (const auto& step : kSteps) {
+    EXPECT_EQ(play.Desk.Tip("cmdundo"), "Takes back: " + upsets + ", " + step.Undone + ".");
     play.Desk.Click("cmdundo");
-    EXPECT_EQ(sheet(), Names{stands + std::string("CWA Hand 5 over CWA Hand 1")});
+    EXPECT_EQ(sheet(), Names{std::to_string(step.Row) + " " + upsets});
+    EXPECT_EQ(play.Desk.Selected("lstrows"), std::vector{step.Row + 1}) << "it goes back as well";
+    EXPECT_TRUE(play.Desk.Text("txtrow").starts_with("Taken back: " + upsets + ", " + step.Undone));
   }
   play.Desk.Click("cmdredo");
-  EXPECT_EQ(sheet(), Names{"2 CWA Hand 5 over CWA Hand 1"});
+  EXPECT_EQ(sheet(), Names{"2 " + upsets});
+  EXPECT_EQ(play.Desk.Selected("lstrows"), std::vector{3});
+  EXPECT_TRUE(play.Desk.Text("txtrow").starts_with("Done again: " + upsets + ", moved from"));
 
   // What does not hold any more is named and left out.
   play.Desk.Event([&] {
@@ -323,6 +336,18 @@ TEST(TelevisionSheet, LaysTheLastCardAndTheDraftOfItsDay) {
   play.Desk.Click("cmddoshow");
   EXPECT_EQ(play.Desk.Rows("lstshows")[0].back(), "2 of 5 rows");
   EXPECT_EQ(play.Desk.Rows("lstshows")[1].back(), "0 of 5 rows") << "a week later";
+  play.Desk.Click("cmddraft");
+  play.Desk.Click("cmdback");
+  EXPECT_EQ(play.Desk.TopName(), "frmDrafts") << "nothing that was changed would be lost";
+  play.Desk.Click("cmddraft");
+  play.Book(2, Talk(play.World(), "CWA Hand 1"));
+  for (const bool sure : {false, true}) {
+    play.Desk.ExpectAsk("Confirm", "Leave without keeping what has been changed in this draft?",
+                        sure, ui::Default::No);
+    play.Desk.Click("cmdback");
+    EXPECT_EQ(play.Lies("frmDraft"), !sure);
+  }
+  EXPECT_EQ(play.Desk.Rows("lstshows")[0].back(), "2 of 5 rows") << "as it was kept";
   play.Desk.Event([&] {
     play.World().Game().Today = kGameStart + std::chrono::days{7};
     Worker& gone = Named(play.World().Workers(), "CWA Hand 10");

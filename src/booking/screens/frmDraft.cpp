@@ -61,6 +61,16 @@ class frmDraft : public SheetScreen {
     Close();
   }
 
+  /// What was kept before stays as it was.
+  void cmdback_Click() override {
+    if (IsTouched() &&
+        !desk().Ask("Confirm", "Leave without keeping what has been changed in this draft?",
+                    ui::Default::No))
+      return;
+    EmptySheet(world(), isEvent_);
+    Close();
+  }
+
  private:
   void TellLaid(const std::vector<std::string>& dropped) {
     if (!dropped.empty())
@@ -103,11 +113,11 @@ class frmDrafts : public GameScreen {
   static CellColumns<ComingShow> Table() {
     using K = ui::ColumnKind;
     return {{{"Show"}, [](const ComingShow& show) { return ui::Cell(show.Owner.Show); }},
+            {{"Date", K::Date}, [](const ComingShow& show) { return DayCell(show.On); }},
             {{"Kind", K::Tag},
              [](const ComingShow& show) {
                return ui::Cell(show.Owner.IsEvent ? "Event" : "Television");
              }},
-            {{"Date", K::Date}, [](const ComingShow& show) { return DayCell(show.On); }},
             {{"Drafted", K::Text, 0, "Rows of the sheet."}, [](const ComingShow& show) {
                const SheetTerms terms = show.Owner.IsEvent ? kEventTerms : TermsOfSlot(show.Slot);
                return ui::Cell(show.Drafted, std::to_string(show.Drafted) + " of " +

@@ -51,9 +51,8 @@ SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
   cmdcancel.Tip = isEvent_ ? "Calling it off costs image, and much of the money spent on it."
                            : "Calling it off costs image.";
   lblcount.Colour = ui::Tone::Muted;
-  lblluck.Text = kLuckLeftOut;
-  lblluck.Colour = ui::Tone::Muted;
-  lblwarnings.Colour = ui::Tone::Amber;
+  lblforecast.Tip = kLuckLeftOut;
+  lblwarn.Colour = lblwarnings.Colour = ui::Tone::Amber;
   lstfree.Room = 4;
   lstfree.EmptyText = "Everybody who is fit is on the card.";
 }
@@ -65,8 +64,8 @@ ui::Page SheetScreen::Layout() {
   actions.insert(actions.end(), {&cmdwhatif, &cmdfill, &cmdcancel, &cmdnextrow});
   std::vector<ui::Box> left{
       ui::Group("", {ui::WithButtons(lstrows, buttons).Grow(),
-                     ui::Columns({cmdedit, cmdup, cmddown, cmdlast, cmdundo, cmdredo}), lblwarn,
-                     ui::Columns({lblcount, ui::Spacer(), lblforecast}), lblluck, lblwarnings})
+                     ui::Columns({cmdedit, cmdup, cmddown, cmdlast, cmdundo, cmdredo, cmdnotepad}),
+                     lblwarn, ui::Columns({lblcount, ui::Spacer(), lblforecast}), lblwarnings})
           .Grow()};
   for (ui::Box& below : BelowRows()) left.push_back(std::move(below));
   ui::Page page = PageOf(
@@ -75,7 +74,7 @@ ui::Page SheetScreen::Layout() {
            ui::Rows({ui::Group("", {ui::Grow(txtrow)}).Grow(5),
                      ui::Group("Not on the card yet", {ui::Grow(lstfree)}).Grow(4),
                      ui::Group("At hand", {cmddebut, cmdfeuds, cmdmanagers, cmdroster, cmdstables,
-                                           cmdstats, cmdteams, cmdtitles, cmdturns, cmdnotepad})})
+                                           cmdstats, cmdteams, cmdtitles, cmdturns})})
                .Grow(2)}),
       &lblfacts, std::move(actions), &cmddoshow);
   page.Then = &cmdnextrow;
@@ -140,7 +139,6 @@ void SheetScreen::ShowForecast() {
                      : !counts ? "Only the dark match is booked yet, and it counts for nothing."
                                : "Forecast " + RangeText(forecast_.Rating) +
                                      (IsDraft() ? ", as things stand today." : ".");
-  lblluck.Visible = any && counts;
   lblwarnings.Text = Joined(forecast_.Warnings, "\n");
   lblwarnings.Visible = !forecast_.Warnings.empty();
   FillRows();
@@ -192,7 +190,7 @@ void SheetScreen::ShowCounts() {
   lblcount.Text = OfLeast(count.Matches, terms.MinMatches, "matches") + ", " +
                   OfLeast(count.Segments, terms.MinSegments, "segments") + " booked.";
   const bool enough = count.Matches >= terms.MinMatches && count.Segments >= terms.MinSegments;
-  lblwarn.Colour = enough ? ui::Tone::Muted : ui::Tone::Amber;
+  lblwarn.Visible = !enough;
   const std::string house = WhyNotInThisHouse(world());
   EnableUnless(cmddoshow, IsDraft() || MayStart(world(), isEvent_) ? ""
                           : terms.OpenRows == 0                    ? "There is no show today."
@@ -233,8 +231,11 @@ void SheetScreen::ShowRowActs() {
   EnableUnless(cmdup, whyNotTo(record - 1, "It is the first."));
   EnableUnless(cmddown, whyNotTo(record + 1, "It is the last."));
   EnableUnless(cmdlast, Kept(false).Rows.empty() ? "No card of this show has been kept yet." : "");
-  EnableUnless(cmdundo, history_.MayUndo() ? "" : "Nothing has been done on this sheet.");
-  EnableUnless(cmdredo, history_.MayRedo() ? "" : "Nothing has been taken back.");
+  const std::string undoes = history_.ToUndo(world()), redoes = history_.ToRedo(world());
+  EnableUnless(cmdundo, undoes.empty() ? "Nothing has been done on this sheet." : "");
+  EnableUnless(cmdredo, redoes.empty() ? "Nothing has been taken back." : "");
+  if (!undoes.empty()) cmdundo.Tip = "Takes back: " + undoes + ".";
+  if (!redoes.empty()) cmdredo.Tip = "Does again: " + redoes + ".";
   cmdnextrow.Visible = !cmddoshow.Enabled && EmptyRow() != 0;
   cmdnextrow.Text = "Book Row " + std::to_string(EmptyRow());
 }
@@ -242,20 +243,29 @@ void SheetScreen::ShowRowActs() {
 /// What the selected row is about, without opening it.
 void SheetScreen::ShowRow() {
   ShowRowActs();
+  TellRow({});
+}
+
+void SheetScreen::TellRow(std::vector<ui::Report::Paragraph> first) {
+  const std::vector<ui::Report::Paragraph> told = ToldOfRow(lstrows.Key());
+  first.insert(first.end(), told.begin(), told.end());
+  txtrow.Write(std::move(first));
+}
+
+std::vector<ui::Report::Paragraph> SheetScreen::ToldOfRow(int record) {
   using Style = ui::Report::Style;
-  const int record = lstrows.Key();
   if (record == 0)
-    return txtrow.Write(
-        {{Style::Muted, "Choose a row to read what is booked in it."},
-         {Style::Muted, isEvent_ ? kDarkMatchTold : "The last row that is booked counts twice."}});
-  if (record > OpenRows()) return txtrow.Write({{Style::Muted, std::string(kClosedRowTip)}});
+    return {
+        {Style::Muted, "Choose a row to read what is booked in it."},
+        {Style::Muted, isEvent_ ? kDarkMatchTold : "The last row that is booked counts twice."}};
+  if (record > OpenRows()) return {{Style::Muted, std::string(kClosedRowTip)}};
   const Segment& segment = Row(record);
   std::vector<ui::Report::Paragraph> told;
   if (IsDark(record)) told.push_back({Style::Muted, kDarkMatchTold});
   if (segment.Kind == kEmptySegment) {
     told.insert(told.begin(), {Style::Strong, "Row " + std::to_string(record)});
     told.push_back({Style::Muted, "Nothing is booked here. Book opens the wizard."});
-    return txtrow.Write(std::move(told));
+    return told;
   }
   std::vector<ui::Report::Paragraph> booked = ToldOf(world(), segment, isEvent_);
   told.insert(told.begin(), booked.begin(), booked.end());
@@ -263,7 +273,7 @@ void SheetScreen::ShowRow() {
     told.push_back({Style::Line, std::move(line)});
   if (const std::string tip = TitleTip(segment); !tip.empty()) told.push_back({Style::Strong, tip});
   told.push_back({Style::Muted, "Edit changes a step of it, Remove empties the row."});
-  txtrow.Write(std::move(told));
+  return told;
 }
 
 void SheetScreen::cmdbook_Click(int record) {
@@ -320,11 +330,20 @@ void SheetScreen::LayKept(bool isDraft) {
 }
 
 void SheetScreen::cmdundo_Click() {
-  Tell("Undo", history_.Undo(world(), isEvent_, OpenRows()));
+  TakeStep("Undo", "Taken back: " + history_.ToUndo(world()), &SheetHistory::Undo);
 }
 
 void SheetScreen::cmdredo_Click() {
-  Tell("Redo", history_.Redo(world(), isEvent_, OpenRows()));
+  TakeStep("Redo", "Done again: " + history_.ToRedo(world()), &SheetHistory::Redo);
+}
+
+/// The mark goes along with its Segment, or to the first row that is not what it was.
+void SheetScreen::TakeStep(const char* title, const std::string& told, SheetStep step) {
+  const Card before = CardOf(world());
+  const std::vector<std::string> dropped = (history_.*step)(world(), isEvent_, OpenRows());
+  lstrows.SelectKey(RowAfter(before, CardOf(world()), lstrows.Key()));
+  Tell(title, dropped);
+  TellRow({{ui::Report::Style::Muted, told + "."}});
 }
 
 /// Who takes the seats that are empty now.

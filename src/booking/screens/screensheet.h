@@ -67,6 +67,8 @@ class SheetScreen : public GameScreen {
   void cmdback_Click() override;
   virtual void cmddoshow_Click();
   void ShowForecast();
+  /// Whether anything has been done on it that may be taken back.
+  bool IsTouched() { return !history_.ToUndo(world()).empty(); }
   const bool isEvent_;
 
   ui::Handler Opens(const char* screen) {
@@ -83,6 +85,9 @@ class SheetScreen : public GameScreen {
   void ShowButton(int record);
   void ShowCounts();
   void ShowRow();
+  std::vector<ui::Report::Paragraph> ToldOfRow(int record);
+  /// What the selected row is about, behind what else there is to tell.
+  void TellRow(std::vector<ui::Report::Paragraph> first);
   bool IsAnyBooked();
   bool IsDark(int record) const { return isEvent_ && record == kDarkMatch; }
   std::vector<std::string> SeatsTaken(const CommentaryTeam& full);
@@ -97,6 +102,8 @@ class SheetScreen : public GameScreen {
   void lstrows_Move(int from, int to);
   void MoveBy(int rows);
   void cmdedit_Click();
+  using SheetStep = decltype(&SheetHistory::Undo);
+  void TakeStep(const char* title, const std::string& told, SheetStep step);
   void cmdundo_Click();
   void cmdredo_Click();
   void cmdfill_Click();
@@ -124,7 +131,6 @@ class SheetScreen : public GameScreen {
   ui::Label lblcount{*this, "lblcount"};
   ui::Report txtrow{*this, "txtrow"};
   ui::Label lblforecast{*this, "lblforecast"};
-  ui::Label lblluck{*this, "lblluck"};
   ui::Label lblwarnings{*this, "lblwarnings"};
   ui::ListBox lstfree;
   ui::Button cmddebut{*this, "cmddebut", "Debuts",
