@@ -272,7 +272,7 @@ TEST(frmBook1vs1, MarksWhatTheChoiceIsMadeOn) {
   play.Desk.Pick("lstwres1", "Man 3");
   EXPECT_TRUE(play.Desk.Text("lblforecast")
                   .ends_with("%, with the most popular of the others in the free places"));
-  EXPECT_EQ(play.Desk.Text("lblwho"), "Man 3: Over 60, condition 24, Team, Tired");
+  EXPECT_EQ(play.Desk.Text("lblwho"), "Man 3: Over 60, condition 24, Team with Man 2, Tired");
   play.Desk.Click("cmdwhy");
   EXPECT_EQ(play.Desk.TopName(), "frmForecast");
   EXPECT_TRUE(play.Desk.Text("txtwhy").ends_with(" Overall Rating"));

@@ -173,9 +173,11 @@ class frmBookEnding : public MatchStepScreen {
   ui::Box Body() override {
     std::vector<ui::Box> tables = {ui::Group("", {ui::Grow(lstcode)}).Grow()}, runIns;
     constexpr const char* kTitles[] = {"Who runs in", "Who runs in as well"};
-    if (runIns_ > 0) runIns.emplace_back(lblnobody);
-    for (int list = 1; list <= runIns_; ++list)
-      runIns.push_back(ui::Group(kTitles[list - 1], {ui::Grow(lstrun(list))}).Grow());
+    for (int list = 1; list <= runIns_; ++list) {
+      std::vector<ui::Box> inside = {ui::Grow(lstrun(list))};
+      if (list == 1) inside.insert(inside.begin(), lblnobody);
+      runIns.push_back(ui::Group(kTitles[list - 1], std::move(inside)).Grow());
+    }
     // One below the other: the words of the codes need the width.
     if (!runIns.empty()) tables.push_back(ui::Rows(std::move(runIns)).Grow());
     return ui::Rows({ui::Columns(std::move(tables)).Grow(), Objections()});
@@ -183,8 +185,7 @@ class frmBookEnding : public MatchStepScreen {
 
   bool Store() override { return Accept(Draft(), row_.Does); }
 
-  /// Beside one list of people the codes have no width for the outlook as well.
-  int ListsAbreast() const override { return runIns_ == 1 ? 2 : 1; }
+  int ListsAbreast() const override { return runIns_ > 0 ? 2 : 1; }
 
   /// Whoever has run in for the finish is in the ring already.
   std::vector<const Worker*> RunIns() {

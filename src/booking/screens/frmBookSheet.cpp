@@ -35,7 +35,7 @@ class frmBookSheet : public ui::Screen, public WizardHost {
     };
     std::vector<ui::Box> rows;
     for (int step = 0; step < kRows; ++step)
-      rows.push_back(ui::Columns({ui::Grow(At(txtstep, step), 4), ui::Grow(At(txtdesc, step), 5),
+      rows.push_back(ui::Columns({ui::Grow(At(txtstep, step)), ui::Grow(At(txtdesc, step)),
                                   At(cmdback, step), At(cmdbook, step), At(cmdjump, step)}));
     page.Body =
         ui::Rows({ui::Group("", {ui::Rows(std::move(rows))}), lblforecast, lblprice, ui::Spacer(),

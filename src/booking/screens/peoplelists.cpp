@@ -74,7 +74,8 @@ CellColumns<Worker> TableOf(int kind, Abreast room, const RosterMarks* marks) {
   if (kind == kMatch && room != kAmongMany)
     for (const Skill& skill : kRingSkills) table.push_back(ColumnOf(skill, room));
   table.push_back(ColumnOf(kCondition, room));
-  table.push_back(ColumnOf(kMorale, room));
+  // Of two who meet it is their skills that count; what they would mind is told beside.
+  if (kind != kMatch || room != kOneOfTwo) table.push_back(ColumnOf(kMorale, room));
   return table;
 }
 

@@ -11,6 +11,7 @@
 #include "booking/wizard/refusals.h"
 #include "records/fields/wording.h"
 #include "show/titlechange.h"
+#include "storylines/partners.h"
 #include "storylines/storynames.h"
 #include "ui/pictureof.h"
 
@@ -47,16 +48,8 @@ ui::Page StepScreen::Layout() {
   page.Main = cmdnext.get();
   page.Cancel = cmdback.get();
   page.Large = true;
-  ui::Box steps = ui::Group("Steps", StepBoxes()).Grow(ListsAbreast() == 1 ? 4 : 3).AfterOthers();
-  std::vector<ui::Box> outlook = Outlook();
-  if (ListsAbreast() == 1) {
-    outlook.push_back(ui::Spacer());
-    page.Body =
-        ui::Columns({std::move(steps), Body().Grow(12), ui::Rows(std::move(outlook)).Grow(4)});
-  } else {
-    page.Body = ui::Columns(
-        {std::move(steps), ui::Rows({Body().Grow(), ui::Columns(std::move(outlook))}).Grow(18)});
-  }
+  page.Body = ui::Columns({ui::Group("Steps", StepBoxes()).Grow(7).AfterOthers(),
+                           ui::Rows({Body().Grow(), Outlook()}).Grow(36)});
   return page;
 }
 
@@ -69,11 +62,14 @@ std::vector<ui::Box> StepScreen::StepBoxes() {
   return boxes;
 }
 
-std::vector<ui::Box> StepScreen::Outlook() {
-  const int share = ListsAbreast() > 1 ? 1 : 0;
-  return {ui::Group("So far", {ui::Columns({picfirst, picsecond}), lblwho, lblpartner}).Grow(share),
-          ui::Group("Forecast", {ui::Columns({ui::Grow(lblforecast), *cmdwhy})}).Grow(share),
-          ui::Group("What it costs", {lblprice}).Grow(share)};
+/// Below the choice, in every step at the same place.
+ui::Box StepScreen::Outlook() {
+  return ui::Columns(
+      {ui::Group("So far",
+                 {ui::Columns({picfirst, picsecond, ui::Rows({lblwho, lblpartner}).Grow()})})
+           .Grow(3),
+       ui::Group("Forecast", {ui::Columns({ui::Grow(lblforecast), *cmdwhy})}).Grow(2),
+       ui::Group("What it costs", {lblprice}).Grow(2)});
 }
 
 void StepScreen::Load() {
@@ -205,7 +201,7 @@ void StepScreen::ShowFaces(const Segment& draft) {
     face->Drawn = worker ? ui::Drawing(PortraitOf(*worker)) : ui::Drawing();
     face->Visible = worker && ListsAbreast() == 1;  // else those in the lists have to do
     face->Tip = worker ? worker->Name.Str() : std::string();
-    face->Height = 88;
+    face->Height = 56;
   }
 }
 
@@ -254,7 +250,15 @@ const RosterMarks& StepScreen::Marks() {
 
 std::string StepScreen::MarksOf(int uid) {
   const Worker* worker = world().FindWorker(uid);
-  return worker ? Joined(Marks().Of(*worker)) : std::string();
+  if (!worker) return {};
+  std::vector<std::string> marks = Marks().Of(*worker);
+  if (const auto team = std::ranges::find(marks, "Team"); team != marks.end()) {
+    std::vector<std::string> partners;
+    for (const int partner : PartnersOf(world(), uid))
+      partners.push_back(SideText(world(), {partner}));
+    *team += " with " + Joined(partners, " and ");
+  }
+  return Joined(marks);
 }
 
 void StepScreen::FillRoster(ui::ListBox& list, std::vector<const Worker*> people, bool none) {

@@ -31,7 +31,7 @@ class WizardHost {
 };
 
 /// The step that the wizard stands at: a dialog over it. At its left are the steps, those done to
-/// go back to; in the middle is this one's choice; at its right what the picks make of the Segment:
+/// go back to; in the middle is this one's choice; below it what the picks make of the Segment:
 /// who is in it, its forecast, its price. Back leaves without storing, Done stores and shows the
 /// wizard, Next stores and goes straight on to the next step, as Enter and a double click in a list
 /// do; on the last step it completes the booking.
@@ -55,8 +55,7 @@ class StepScreen : public ui::Screen {
   virtual void Recall(const Segment& earlier) = 0;
   /// The choice.
   virtual ui::Box Body() = 0;
-  /// How many lists of people stand side by side: two and more want the width of the outlook, which
-  /// then stands below them.
+  /// How many lists of people stand side by side; faces stand in two and more of them already.
   virtual int ListsAbreast() const { return 1; }
   /// The Segment with what is picked now.
   virtual Segment Draft() { return buffer(); }
@@ -106,7 +105,7 @@ class StepScreen : public ui::Screen {
   void ShowForecast(const Segment& draft);
   std::string ForecastText(const Forecast& now);
   std::vector<ui::Box> StepBoxes();
-  std::vector<ui::Box> Outlook();
+  ui::Box Outlook();
 
   Game& game_;
   WizardHost& host_;
