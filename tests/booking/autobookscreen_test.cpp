@@ -39,7 +39,7 @@ TEST(AutoBookScreen, ProposesACardAndLeavesTheSheetAlone) {
   for (const Names& row : play.Desk.Rows("lstcard")) {
     EXPECT_TRUE(row[row.size() - 2].ends_with("%")) << row[1];
     EXPECT_FALSE(row.back().empty()) << "every row has its reason";
-    EXPECT_EQ(row.back() == "It stood on the sheet already.", row[0] == "2");
+    EXPECT_EQ(row.back() == "Already there.", row[0] == "2");
   }
   EXPECT_TRUE(play.Desk.Text("lblrating").starts_with("Forecast "));
   play.Desk.Click("cmdagain");

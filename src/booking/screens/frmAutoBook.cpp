@@ -121,7 +121,7 @@ class frmAutoBook : public GameScreen {
   std::string ReasonOf(int record) const {
     const auto row = static_cast<std::size_t>(record - 1);
     if (card_.Rows[row].Kind == kEmptySegment) return {};
-    return card_.Reasons[row].empty() ? "It stood on the sheet already." : card_.Reasons[row];
+    return card_.Reasons[row].empty() ? "Already there." : card_.Reasons[row];
   }
 
   CellColumns<SheetRow> Table() {
