@@ -74,15 +74,13 @@ class frmMatchOutput : public ui::Screen {
                         txtstip, ui::Grow(txtreport),
                         ui::Columns(
                             {ui::Field("The hall", chthall).Grow(), ui::Field("Goes on", cmbpace)}),
-                        lblwinner})
+                        lblwinner, ui::Field("Announcers", txtannouncers)})
              .Grow(7),
          ui::Group("Who is in it", {ui::Grow(lstcast)}).From(kLettersOfWide).Grow(6),
          ui::Columns({ui::Rows({ui::Group("", std::move(figures)).Grow(9),
                                 ui::Group("Road agent", {ui::Grow(txtroad)}).Grow(4)})
                           .Grow(2),
-                      ui::Group("The show so far",
-                                {ui::Field("Announcers", txtannouncers), ui::Grow(chtshow)})
-                          .Grow(1)})
+                      ui::Group("The show so far", {ui::Grow(chtshow)}).Grow(1)})
              .Wide(kLettersOfCard)
              .Grow(5)});
     return page;
