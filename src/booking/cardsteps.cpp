@@ -107,6 +107,10 @@ std::vector<int> RowsChanged(const Card& before, const Card& after) {
   return rows;
 }
 
+bool AreEmpty(const Card& card, const std::vector<int>& rows) {
+  return std::ranges::all_of(rows, [&](int row) { return RowOf(card, row).Kind == kEmptySegment; });
+}
+
 /// "A over B, moved from row 2 to row 4"; empty where no row has been moved.
 std::string MoveWords(const World& world, const Card& before, const Card& after, int first,
                       int last) {
@@ -126,7 +130,11 @@ std::string StepWords(const World& world, const Card& before, const Card& after)
   const int row = rows.front();
   if (rows.size() > 1) {
     const std::string moved = MoveWords(world, before, after, row, rows.back());
-    return moved.empty() ? "a change of " + std::to_string(rows.size()) + " rows" : moved;
+    const bool fills = AreEmpty(before, rows), empties = AreEmpty(after, rows);
+    return !moved.empty() ? moved
+                          : std::to_string(rows.size()) + (fills     ? " rows booked"
+                                                           : empties ? " rows emptied"
+                                                                     : " rows changed");
   }
   const bool goes = RowOf(after, row).Kind == kEmptySegment;
   const bool comes = RowOf(before, row).Kind == kEmptySegment;

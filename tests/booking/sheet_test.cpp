@@ -274,7 +274,7 @@ TEST(TelevisionSheet, MovesEditsAndTakesBackItsRows) {
   });
   play.Desk.ExpectSay("Undo",
                       "Not everything holds any more:\nRow 1, CWA Hand 5 over CWA Hand 1: "
-                      "CWA Hand 5 cannot be booked for a match.");
+                      "CWA Hand 5 cannot be booked for a match (Broken Leg, out for 2 months).");
   play.Desk.Click("cmdundo");
   EXPECT_EQ(sheet(), Names());
 }
@@ -357,9 +357,10 @@ TEST(TelevisionSheet, LaysTheLastCardAndTheDraftOfItsDay) {
   });
   play.Desk.CloseAll();
   play.Desk.ExpectAsk("Draft", kAnyText, true);
-  play.Desk.ExpectSay("Draft",
-                      "Not everything holds any more:\nRow 3, CWA Hand 9 over CWA Hand "
-                      "10: CWA Hand 10 cannot be booked for a match.");
+  play.Desk.ExpectSay(
+      "Draft",
+      "Not everything holds any more:\nRow 3, CWA Hand 9 over CWA Hand "
+      "10: CWA Hand 10 cannot be booked for a match (Broken Leg, out for 2 months).");
   play.Desk.Open("frmBooking");
   EXPECT_EQ(play.Row(1)[1], "CWA Hand 7 over CWA Hand 8");
   EXPECT_EQ(play.Row(3)[1], "<Nothing Booked>");

@@ -51,7 +51,6 @@ SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
   cmdcancel.Tip = isEvent_ ? "Calling it off costs image, and much of the money spent on it."
                            : "Calling it off costs image.";
   lblcount.Colour = ui::Tone::Muted;
-  lblforecast.Tip = kLuckLeftOut;
   lblwarn.Colour = lblwarnings.Colour = ui::Tone::Amber;
   lstfree.Room = 4;
   lstfree.EmptyText = "Everybody who is fit is on the card.";
@@ -139,6 +138,7 @@ void SheetScreen::ShowForecast() {
                      : !counts ? "Only the dark match is booked yet, and it counts for nothing."
                                : "Forecast " + RangeText(forecast_.Rating) +
                                      (IsDraft() ? ", as things stand today." : ".");
+  lblforecast.Tip = any && counts ? kLuckLeftOut : "";
   lblwarnings.Text = Joined(forecast_.Warnings, "\n");
   lblwarnings.Visible = !forecast_.Warnings.empty();
   FillRows();

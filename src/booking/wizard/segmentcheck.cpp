@@ -37,12 +37,22 @@ void CheckType(Reasons& reasons, const World& world, const Segment& match, const
     reasons.push_back("The promotion does not offer this match type.");
 }
 
+/// What keeps them away from every show: " (in development)".
+std::string AwayText(const World& world, const Worker& worker) {
+  const std::string why = !WorksForPlayer(world, worker) ? "no longer on the roster"
+                          : worker.Status != "Nor"       ? StatusLine(worker)
+                          : IsInDevelopment(worker)      ? "in development"
+                                                         : "";
+  return why.empty() ? why : " (" + why + ")";
+}
+
 void CheckPeople(Reasons& reasons, const World& world, const Segment& match,
                  const BookingView& view) {
   const std::vector<int> people = PeopleOf(match);
   for (const int uid : people)
     if (const Worker* worker = world.FindWorker(uid); !worker || !IsEligible(world, *worker, view))
-      reasons.push_back(NameOf(world, uid) + " cannot be booked for a match.");
+      reasons.push_back(NameOf(world, uid) + " cannot be booked for a match" +
+                        (worker ? AwayText(world, *worker) : "") + ".");
   if (std::ssize(people) != EntrantsOf(match))
     reasons.push_back("Not every place of the match is filled.");
   Add(reasons, WhyNotLeft(match, kPeopleStep));
