@@ -67,9 +67,9 @@ ui::Box StepScreen::Outlook() {
   return ui::Columns(
       {ui::Group("So far",
                  {ui::Columns({picfirst, picsecond, ui::Rows({lblwho, lblpartner}).Grow()})})
-           .Grow(3),
-       ui::Group("Forecast", {ui::Columns({ui::Grow(lblforecast), *cmdwhy})}).Grow(2),
-       ui::Group("What it costs", {lblprice}).Grow(2)});
+           .Grow(2),
+       ui::Group("Forecast", {ui::Columns({ui::Grow(lblforecast), *cmdwhy})}).Grow(1),
+       ui::Group("What it costs", {lblprice}).Grow(1)});
 }
 
 void StepScreen::Load() {
