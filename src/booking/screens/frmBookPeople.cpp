@@ -300,10 +300,12 @@ class frmBookSpecial : public MatchStepScreen {
 
   std::vector<int> entered_;  // uids
   ui::Label lblroster{*this, "lblroster"};
-  ui::ListBox lstroster{*this, "lstroster", PeopleColumns(), &frmBookSpecial::ShowButtons, cmdadd};
+  ui::ListBox lstroster{*this, "lstroster", PeopleColumns(ListsAbreast()),
+                        &frmBookSpecial::ShowButtons, cmdadd};
   ui::Button cmdadd{*this, "cmdadd", "Add", &frmBookSpecial::cmdadd_Click};
   ui::Label lblenter{*this, "lblenter"};
-  ui::ListBox lstenter{*this, "lstenter", PeopleColumns(), &frmBookSpecial::ShowButtons, cmdrem};
+  ui::ListBox lstenter{*this, "lstenter", PeopleColumns(ListsAbreast()),
+                       &frmBookSpecial::ShowButtons, cmdrem};
   ui::Button cmdrem{*this, "cmdrem", "Remove", &frmBookSpecial::cmdrem_Click};
 };
 
