@@ -107,6 +107,21 @@ SheetCount CountSheet(const World& world, bool isEvent) {
   return count;
 }
 
+namespace {
+
+std::string OfLeast(int count, int least, const char* what) {
+  const std::string some = std::to_string(count), needed = std::to_string(least);
+  if (count > least) return some + " " + what + " (at least " + needed + ")";
+  return some + " of " + needed + " " + what;
+}
+
+}  // namespace
+
+std::string CountText(const SheetCount& count, const SheetTerms& terms) {
+  return OfLeast(count.Matches, terms.MinMatches, "matches") + ", " +
+         OfLeast(count.Segments, terms.MinSegments, "segments") + " booked.";
+}
+
 std::string WhyNotInThisHouse(const World& world) {
   if (!Holds(world, HouseRule::OneTalk)) return {};
   std::set<int> talked;

@@ -30,6 +30,8 @@ struct SheetCount {
   int Segments = 0;
 };
 SheetCount CountSheet(const World& world, bool isEvent);
+/// "2 of 4 matches, 9 segments (at least 8) booked."
+std::string CountText(const SheetCount& count, const SheetTerms& terms);
 /// What of the sheet goes against the rules of the house; empty when nothing does.
 std::string WhyNotInThisHouse(const World& world);
 bool MayStart(const World& world, bool isEvent);

@@ -245,8 +245,8 @@ class frmBookSpecial : public MatchStepScreen {
   void Prepare() override { ShowLists(); }
 
   ui::Box Body() override {
-    return ui::Columns({ui::Rows({lblroster, ui::Grow(lstroster), cmdadd}).Grow(),
-                        ui::Rows({lblenter, ui::Grow(lstenter), cmdrem}).Grow()});
+    return ui::Columns({ui::Group("", {lblroster, ui::Grow(lstroster), cmdadd}).Grow(),
+                        ui::Group("", {lblenter, ui::Grow(lstenter), cmdrem}).Grow()});
   }
 
   void Recall(const Segment& earlier) override {

@@ -21,13 +21,6 @@ constexpr const char* kDarkMatchTold =
     "Row 1 is the dark match: it warms up the hall before the Event begins, and counts neither "
     "for its rating nor among the matches and segments that it needs.";
 
-/// "2 of 4 matches", "6 matches (at least 4)".
-std::string OfLeast(int count, int least, const char* what) {
-  const std::string some = std::to_string(count), needed = std::to_string(least);
-  if (count > least) return some + " " + what + " (at least " + needed + ")";
-  return some + " of " + needed + " " + what;
-}
-
 }  // namespace
 
 SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
@@ -187,8 +180,7 @@ void SheetScreen::ShowButton(int record) {
 void SheetScreen::ShowCounts() {
   const SheetTerms terms = Terms();
   const SheetCount count = CountSheet(world(), isEvent_);
-  lblcount.Text = OfLeast(count.Matches, terms.MinMatches, "matches") + ", " +
-                  OfLeast(count.Segments, terms.MinSegments, "segments") + " booked.";
+  lblcount.Text = CountText(count, terms);
   const bool enough = count.Matches >= terms.MinMatches && count.Segments >= terms.MinSegments;
   lblwarn.Visible = !enough;
   const std::string house = WhyNotInThisHouse(world());

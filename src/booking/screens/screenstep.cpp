@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <set>
 #include <span>
 
 #include "booking/screens/bookingscreens.h"
@@ -160,9 +161,10 @@ std::vector<std::string> StepScreen::ChosenLines(const Segment& draft) {
   std::vector<std::string> lines = SoFar(world(), draft);
   const bool isCrowd = draft.Kind == kMatch && draft.Style == kSpecial;
   if (!marks_ || isCrowd) return lines;
+  std::set<int> told;  // somebody may be picked twice, until they are refused
   for (const int uid : PeopleOf(draft)) {
     const std::string marks = MarksOf(uid), name = SideText(world(), {uid});
-    if (marks.empty()) continue;
+    if (marks.empty() || !told.insert(uid).second) continue;
     const auto own = std::ranges::find_if(
         lines, [&](const std::string& line) { return line.starts_with(name + ": "); });
     if (own != lines.end())
