@@ -33,11 +33,11 @@ class frmBookWinner : public MatchStepScreen {
     for (int box = 1; box <= form_.Losers; ++box)
       boxes.push_back(ui::Field(LoserLabel(box), cmbloser(box)));
     boxes.push_back(ui::Spacer());
-    return ui::Rows({ui::Columns({ui::Group("Result", std::move(boxes)).Grow(1),
-                                  ui::Group("In the ring", {ui::Grow(lstring)}).Grow(3)})
-                         .Grow(),
-                     Objections()});
+    return ui::Columns({ui::Group("Result", std::move(boxes)).Grow(1),
+                        ui::Group("In the ring", {ui::Grow(lstring)}).Grow(3)});
   }
+
+  std::optional<ui::Box> Voices() override { return Objections(); }
 
   bool Store() override { return Accept(Draft(), kResultStep); }
 
@@ -160,7 +160,10 @@ class frmBookEnding : public MatchStepScreen {
     for (const int code : row_.Offers(world(), buffer()))
       lstcode.Add({PhraseText(world(), buffer(), phrases, code)}, code);
     lstcode.Select(FirstPick());
-    for (int list = 1; list <= runIns_; ++list) FillRoster(lstrun(list), RunIns(), true);
+    for (int list = 1; list <= runIns_; ++list) {
+      FillRoster(lstrun(list), RunIns(), true);
+      if (runIns_ > 1) lstrun(list).Least = 2;  // one below the other
+    }
     ShowPicks();
   }
 
@@ -180,8 +183,10 @@ class frmBookEnding : public MatchStepScreen {
     }
     // One below the other: the words of the codes need the width.
     if (!runIns.empty()) tables.push_back(ui::Rows(std::move(runIns)).Grow());
-    return ui::Rows({ui::Columns(std::move(tables)).Grow(), Objections()});
+    return ui::Columns(std::move(tables));
   }
+
+  std::optional<ui::Box> Voices() override { return Objections(); }
 
   bool Store() override { return Accept(Draft(), row_.Does); }
 

@@ -63,14 +63,17 @@ std::vector<ui::Box> StepScreen::StepBoxes() {
   return boxes;
 }
 
-/// Below the choice, in every step at the same place.
+/// Below the choice, in every step at the same place, with what the people in it say.
 ui::Box StepScreen::Outlook() {
-  return ui::Columns(
-      {ui::Group("So far",
-                 {ui::Columns({picfirst, picsecond, ui::Rows({lblwho, lblpartner}).Grow()})})
-           .Grow(2),
-       ui::Group("Forecast", {ui::Columns({ui::Grow(lblforecast), *cmdwhy})}).Grow(1),
-       ui::Group("What it costs", {lblprice}).Grow(1)});
+  std::optional<ui::Box> voices = Voices();
+  std::vector<ui::Box> cards = {
+      ui::Group("So far",
+                {ui::Columns({picfirst, picsecond, ui::Rows({lblwho, lblpartner}).Grow()})})
+          .Grow(voices ? 3 : 4),
+      ui::Group("Forecast", {ui::Columns({ui::Grow(lblforecast), *cmdwhy})}).Grow(2),
+      ui::Group("What it costs", {lblprice}).Grow(2)};
+  if (voices) cards.push_back(std::move(*voices).Grow(3));
+  return ui::Columns(std::move(cards));
 }
 
 void StepScreen::Load() {
@@ -161,7 +164,8 @@ std::vector<std::string> StepScreen::ChosenLines(const Segment& draft) {
   std::vector<std::string> lines = SoFar(world(), draft);
   const bool isCrowd = draft.Kind == kMatch && draft.Style == kSpecial;
   if (!marks_ || isCrowd) return lines;
-  std::set<int> told;  // somebody may be picked twice, until they are refused
+  std::vector<std::string> others;  // who share a line with somebody
+  std::set<int> told;               // somebody may be picked twice, until they are refused
   for (const int uid : PeopleOf(draft)) {
     const std::string marks = MarksOf(uid), name = SideText(world(), {uid});
     if (marks.empty() || !told.insert(uid).second) continue;
@@ -170,8 +174,9 @@ std::vector<std::string> StepScreen::ChosenLines(const Segment& draft) {
     if (own != lines.end())
       *own += ", " + marks;
     else
-      lines.push_back(name + ": " + marks);
+      others.push_back(name + ": " + marks);
   }
+  if (!others.empty()) lines.push_back(Joined(others, "; "));
   return lines;
 }
 

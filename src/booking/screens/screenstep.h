@@ -55,6 +55,8 @@ class StepScreen : public ui::Screen {
   virtual void Recall(const Segment& earlier) = 0;
   /// The choice.
   virtual ui::Box Body() = 0;
+  /// What those who may object say to it, where they are asked.
+  virtual std::optional<ui::Box> Voices() { return {}; }
   /// How many lists of people stand side by side; faces stand in two and more of them already.
   virtual int ListsAbreast() const { return 1; }
   /// The Segment with what is picked now.
@@ -151,7 +153,7 @@ class MatchStepScreen : public StepScreen {
   bool Accept(const Segment& draft, MatchStep step);
   /// Shows beforehand what the people in the ring would say to the draft.
   void ShowObjections(const Segment& draft, MatchStep step);
-  ui::Box Objections() { return ui::Group("What they say", {txtsay}); }
+  std::optional<ui::Box> Objections() { return ui::Group("What they say", {txtsay}); }
 
  private:
   bool IsOverruled(const Refusal& refusal);
