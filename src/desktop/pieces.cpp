@@ -31,7 +31,8 @@ int WrappedLabel::NaturalWidth() const {
 }
 
 QSize WrappedLabel::sizeHint() const {
-  const int width = std::min(NaturalWidth(), Px(kWidest));
+  const QMargins sides = contentsMargins();
+  const int width = std::min(NaturalWidth(), Px(kWidest)) + sides.left() + sides.right();
   return {width, heightForWidth(width)};
 }
 
