@@ -175,6 +175,11 @@ void TableView::PressAct(ui::Button& button, ui::ComboBox* box, int row) {
 void TableView::AddViews(QMenu& menu) {
   if (model_.columnCount() < 2) return;
   const std::string shown = table_.State().View;
+  if (!table_.Views().empty()) {
+    QAction* all = AddChange(menu, "All", [this] { table_.ResetColumns(); });
+    all->setCheckable(true);
+    all->setChecked(shown.empty() && ShowsAll());
+  }
   for (const std::string& name : table_.Views()) {
     QAction* view = AddChange(menu, Shown(name), [this, name] {
       table_.TakeView(name);
@@ -215,7 +220,7 @@ void TableView::AddColumnChoices(QMenu& menu) {
 void TableView::AddTableActs(QMenu& menu) {
   menu.addAction("Clear all filters\tBackspace", this, [this] { ClearFilters(); })
       ->setEnabled(!table_.State().Filters.empty() || !table_.State().Search.empty());
-  menu.addAction("Copy as CSV\tCtrl C", this, [this] { CopyCsv(); });
+  menu.addAction("Copy as CSV\tCtrl+C", this, [this] { CopyCsv(); });
   menu.addAction("Save as CSV\u2026", this, [this] { SaveCsv(); });
   const Shareable shared = WordsToShare([this](ui::Form form) {
     return table_.Follows() ? ui::Shared(table_, form, SeveralChosen()) : std::string();

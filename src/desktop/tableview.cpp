@@ -213,9 +213,8 @@ void TableView::ShowSearchRow() {
   searchRow_->setVisible(wide || filters || !control_.Views.empty());
   search_->setVisible(!control_.Search);
   columns_->setVisible(control_.Columns().size() > 1 || !control_.Views.empty());
-  const bool all = static_cast<int>(table_.Columns().size()) == model_.columnCount();
   const QString view = Shown(table_.State().View);
-  const QString words = !view.isEmpty() ? view : all ? "All" : "Yours";
+  const QString words = !view.isEmpty() ? view : ShowsAll() ? "All" : "Yours";
   columns_->setText(table_.Views().empty() ? "Columns" : "View: " + words);
   columns_->updateGeometry();
 }

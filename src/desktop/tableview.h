@@ -111,6 +111,10 @@ class TableView : public ViewOf<QWidget, ui::ListBox> {
   void OpenRowMenu(const QPoint& at);
   QAction* AddChange(QMenu& menu, const QString& words, const std::function<void()>& change);
   void AddActs(QMenu& menu);
+  /// Whether no column is hidden.
+  bool ShowsAll() const {
+    return static_cast<int>(table_.Columns().size()) == model_.columnCount();
+  }
   void AddViews(QMenu& menu);
   void AddColumnChoices(QMenu& menu);
   void AddTableActs(QMenu& menu);

@@ -143,6 +143,26 @@ TEST_F(TheTableInTheWindow, FiltersAndHidesColumnsByItsMenusAndCopiesWhatIsShown
   EXPECT_EQ(QApplication::clipboard()->text(), "#,Name,Over\r\n10,Bram,50\r\n");
 }
 
+TEST_F(TheTableInTheWindow, LeadsFromAViewBackToAllColumns) {
+  const auto choose = [&](const QString& words) {
+    Play.Click("lstpeople_columns");
+    const auto* menu = Play.Window.findChild<QMenu*>("columnsmenu");
+    ASSERT_NE(menu, nullptr);
+    for (QAction* action : menu->actions())
+      if (action->text() == words) action->trigger();
+    delete menu;
+  };
+  auto page = std::make_unique<PeoplePage>(Play.Desk, Notes);
+  page->lstpeople.Views = {{"Short", {"Name", "Over"}}};
+  Play.Open(std::move(page));
+  choose("Short");
+  EXPECT_EQ(Play.TextOf("lstpeople_columns"), "View: Short");
+  EXPECT_TRUE(Play.Grid("lstpeople").isColumnHidden(0));
+  choose("All");
+  EXPECT_EQ(Play.TextOf("lstpeople_columns"), "View: All");
+  EXPECT_FALSE(Play.Grid("lstpeople").isColumnHidden(0));
+}
+
 TEST_F(TheTableInTheWindow, SortsAndFiltersByKeysAlone) {
   Open();
   Play.Grid("lstpeople").setFocus();
