@@ -75,7 +75,12 @@ QSize TableGrid::sizeHint() const {
 /// Whatever is in it: a panel keeps its size when its rows change.
 QSize TableGrid::minimumSizeHint() const {
   const int rows = std::min(std::max(model_.List().Room, 2), model_.List().Least);
-  return {Px(160), heading_->sizeHint().height() + rows * Px(RowHeight(model_.List())) + 2};
+  const int bar = across_ ? horizontalScrollBar()->sizeHint().height() : 0;
+  return {Px(160), heading_->sizeHint().height() + rows * Px(RowHeight(model_.List())) + bar + 2};
+}
+
+void TableGrid::SetAcross(bool scrolls) {
+  if (std::exchange(across_, scrolls) != scrolls) updateGeometry();
 }
 
 void TableGrid::SetPinned(int count) {

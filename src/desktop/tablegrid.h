@@ -54,6 +54,8 @@ class TableGrid : public QTableView {
   /// As much of a viewport of this height as whole rows fill: no row stands cut at the foot.
   int WholeRows(int height) const;
 
+  /// Whether the columns are wider than their room: the bar below takes none from the rows.
+  void SetAcross(bool scrolls);
   /// So many of the first columns shown stay in place while the others scroll.
   void SetPinned(int count);
   QModelIndex indexAt(const QPoint& at) const override;
@@ -113,6 +115,7 @@ class TableGrid : public QTableView {
   int dragged_ = -1;  // the row that the mouse holds in a list whose rows can be moved
   int drop_ = -1;     // the row in whose place it would come to stand
   bool painted_ = false;
+  bool across_ = false;
 };
 
 }  // namespace grapplemont::desktop

@@ -159,6 +159,7 @@ void TableView::SqueezeTexts(int missing, std::vector<int>& widths) {
   shrink(least, cut, cut, cut);
   const int shortened = std::min(Px(kNameWhole), room * 4 / 10);
   shrink(std::max({Px(kNameCut), asked[name] * 3 / 4, shortened}), cut, cut, cut);
+  shrink(std::max(Px(kNameCut), shortened), cut, cut, cut);
   if (missing > 0) ScrollRest(asked, widths);
 }
 
@@ -283,8 +284,10 @@ void TableView::FitColumns() {
     grid_->setColumnHidden(shown[i], widths[i] == 0);
     if (widths[i] > 0) grid_->setColumnWidth(shown[i], widths[i]);
   }
-  grid_->setHorizontalScrollBarPolicy(model_.rowCount() > 0 ? Qt::ScrollBarAsNeeded
-                                                            : Qt::ScrollBarAlwaysOff);
+  const bool scrolls = model_.rowCount() > 0;
+  grid_->setHorizontalScrollBarPolicy(scrolls ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+  grid_->SetAcross(scrolls &&
+                   std::accumulate(widths.begin(), widths.end(), 0) > grid_->viewport()->width());
   grid_->SetPinned(rowButtons_.empty() ? PinnedIn(widths) : 0);
   PlaceRowButtons();
 }
