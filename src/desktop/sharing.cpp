@@ -49,13 +49,15 @@ void SetWidth(QTextDocument& words) {
 
 /// HTML on white paper, whole.
 QPixmap PaintedWords(const QString& html) {
-  constexpr int kSide = 24;
+  constexpr int kSide = 24, kAbove = 2, kBeside = 6;  // of the whole, and of a cell
   QTextDocument words;
   words.setDefaultFont(TextFont());
   words.setDocumentMargin(Px(kSide));
   QTextOption option = words.defaultTextOption();
   option.setWrapMode(QTextOption::WordWrap);  // never amid a name
   words.setDefaultTextOption(option);
+  words.setDefaultStyleSheet(
+      QString("td, th { padding: %1px %2px; }").arg(Px(kAbove)).arg(Px(kBeside)));
   words.setHtml(html);
   SetWidth(words);
   const QSizeF size = words.size().boundedTo({kMostPixels, kMostPixels});
