@@ -98,6 +98,7 @@ void WorkerListScreen::ShowFacts() {
   const std::size_t chosen = lstwres.Keys().size();
   lblfacts.Text = Facts(listed_);
   lblchosen.Text = chosen > 1 ? std::to_string(chosen) + " are chosen." : "";
+  lblchosen.Visible = chosen > 1;
 }
 
 void WorkerListScreen::ShowSkills(const Worker* chosen) {
@@ -110,12 +111,10 @@ void WorkerListScreen::ShowSkills(const Worker* chosen) {
 }
 
 ui::Box WorkerListScreen::PageBox() {
-  return ui::Rows(
-      {ui::Group("Skills",
-                 {ui::Columns({ui::Rows({picworker, ui::Spacer()}), ui::Grow(lstskills)})})
-           .From(kLettersOfWide),
-       ui::Group("", {ui::Grow(txtpage), ui::Columns({cmdpage, cmdcompare, ui::Grow(lblchosen)})})
-           .Grow()});
+  return ui::Rows({ui::Group("Skills", {ui::Columns({ui::Rows({picworker, ui::Spacer()}),
+                                                     ui::Grow(lstskills)})})
+                       .From(kLettersOfWide),
+                   ui::Group("", {ui::Grow(txtpage), lblchosen, cmdpage, cmdcompare}).Grow()});
 }
 
 void WorkerListScreen::Negotiate() {
