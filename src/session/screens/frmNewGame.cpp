@@ -40,7 +40,8 @@ class frmNewGame : public GameScreen {
     txtname.Hint = "Your name";
     lstpromos.EmptyText = kNoPromotion;
     lblchair.Tip = kWhatBurdensAChair;
-    for (ui::Label* label : {&lblchanges, &lblstory}) label->Colour = ui::Tone::Muted;
+    for (ui::Label* label : {&lblchanges, &lblstory, &lblnoway, &lblrecorded})
+      label->Colour = ui::Tone::Muted;
     lstshows.EmptyText = "No television shows.";
     lstbelts.EmptyText = "No Titles.";
     lststaff.EmptyText = "No staff.";
@@ -65,11 +66,12 @@ class frmNewGame : public GameScreen {
                   ui::Tabs({ui::Group("Roster", {ui::Grow(lstroster)}),
                             ui::Group("Television", {ui::Grow(lstshows)}),
                             ui::Group("Titles", {ui::Grow(lstbelts)}),
-                            ui::Group("Staff", {ui::Grow(lststaff)}),
-                            ui::Group("House rules", HouseBoxes())})
+                            ui::Group("Staff", {ui::Grow(lststaff)})})
                       .Grow()})
                  .Grow(2),
-             ui::Group("Promotions", {ui::Grow(lstpromos)}).Grow(3)}),
+             ui::Tabs({ui::Group("Promotions", {ui::Grow(lstpromos)}),
+                       ui::Group("House rules", HouseBoxes())})
+                 .Grow(3)}),
         &lblfacts, {}, &cmdbegin);
   }
 
@@ -92,14 +94,13 @@ class frmNewGame : public GameScreen {
  private:
   std::vector<ui::Box> HouseBoxes() {
     std::vector<ui::Box> boxes = {lblhouse};
-    for (int number = 1; number <= chkhouse.Count(); ++number) {
-      boxes.emplace_back(chkhouse(number));
-      boxes.emplace_back(lblrule(number));
-    }
-    boxes.emplace_back(chknoway);
-    boxes.emplace_back(lblnoway);
-    boxes.emplace_back(chkrecorded);
-    boxes.emplace_back(lblrecorded);
+    const auto add = [&boxes](ui::CheckBox& rule, ui::Label& means) {
+      boxes.push_back(ui::Columns({rule, ui::Grow(means)}));
+    };
+    for (int number = 1; number <= chkhouse.Count(); ++number)
+      add(chkhouse(number), lblrule(number));
+    add(chknoway, lblnoway);
+    add(chkrecorded, lblrecorded);
     boxes.push_back(ui::Spacer());
     return boxes;
   }
