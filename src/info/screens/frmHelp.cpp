@@ -142,7 +142,8 @@ class frmHelp : public GameScreen {
     ui::Page page = PageOf(ui::Columns({ui::Group("", {ui::Grow(txthelp)}).Grow(),
                                         ui::Group("", {ui::Grow(txtkeys)}).Grow()}),
                            nullptr, {&cmdglossary});
-    page.Large = true;
+    constexpr std::size_t kShort = 12;  // paragraphs of a sheet that fills no window
+    page.Large = txthelp.Paragraphs().size() + txtkeys.Paragraphs().size() > kShort;
     return page;
   }
   void Return() override {}
