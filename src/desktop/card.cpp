@@ -119,6 +119,7 @@ namespace {
 // What a card keeps from the window's edge, less where the window has not even this room for it.
 constexpr int kMargin = 40, kLeastMargin = 8;
 constexpr QSize kRoomy(860, 560);
+constexpr int kTop = 80;  // above a card that does not stand in the middle
 
 int MarginIn(int window, int roomy) {
   return std::clamp((window - Px(roomy)) / 2, Px(kLeastMargin), Px(kMargin));
@@ -159,6 +160,7 @@ Veil::Veil(QWidget* ground) : QWidget(ground), card_(new Card(this)) {
 void Veil::PlaceCard() {
   const QSize most =
       size() - 2 * QSize(MarginIn(width(), kRoomy.width()), MarginIn(height(), kRoomy.height()));
+  if (atTop_.isValid()) return PlaceAtTop(most);
   QSize wanted = card_->sizeHint();
   if (wanted_.isValid()) wanted = wanted.expandedTo({Px(wanted_.width()), Px(wanted_.height())});
   // What is too high scrolls, and its bar takes nothing from it.
@@ -171,9 +173,15 @@ void Veil::PlaceCard() {
   const auto* body = dynamic_cast<const Scroller*>(card_->findChild<QScrollArea*>());
   if (body && !wanted_.isValid()) wanted.rheight() += body->Lacks();
   wanted = wanted.boundedTo(most);
-  const int middle = std::max(0, (height() - wanted.height()) / 2);
-  const int top = atTop_ ? std::min(Px(80), middle) : middle;
+  const int top = std::max(0, (height() - wanted.height()) / 2);
   card_->setGeometry((width() - wanted.width()) / 2, top, wanted.width(), wanted.height());
+}
+
+void Veil::PlaceAtTop(const QSize& most) {
+  const QSize full = QSize(Px(atTop_.width()), Px(atTop_.height())).boundedTo(most);
+  const int top = std::clamp((height() - full.height()) / 2, 0, Px(kTop));
+  card_->setGeometry((width() - full.width()) / 2, top, full.width(),
+                     std::min(full.height(), card_->sizeHint().height()));
 }
 
 void Veil::paintEvent(QPaintEvent*) {

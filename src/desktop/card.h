@@ -58,8 +58,9 @@ class Veil : public QWidget {
   Card& Sheet() { return *card_; }
   /// How large the card is, in drawn pixels; none: as its contents are.
   void SetWanted(const QSize& drawn) { wanted_ = drawn; }
-  /// At the top of the window instead of the middle.
-  void SetAtTop() { atTop_ = true; }
+  /// At the top of the window instead of the middle, where it stays whatever is in it: in drawn
+  /// pixels as wide as this, and as high as its contents up to this.
+  void SetAtTop(const QSize& drawn) { atTop_ = drawn; }
   void PlaceCard();
 
  protected:
@@ -71,12 +72,12 @@ class Veil : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void PlaceAtTop(const QSize& most);
   /// Whether Tab may lead to this widget.
   bool Leads(const QWidget& widget) const;
 
   Card* card_;
-  QSize wanted_;
-  bool atTop_ = false;
+  QSize wanted_, atTop_;
 };
 
 }  // namespace grapplemont::desktop

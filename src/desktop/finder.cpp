@@ -17,6 +17,8 @@ namespace grapplemont::desktop {
 namespace {
 
 constexpr int kRow = 34, kHeading = 28, kPicture = 24;
+constexpr QSize kLargest(640, 480);
+constexpr int kHighest = 416;     // of the rows that are seen at once
 constexpr std::size_t kMost = 6;  // names under a heading
 constexpr int kApart = 20;        // letters in their order alone are the weakest reason
 
@@ -78,6 +80,19 @@ class EntryCells : public QStyledItemDelegate {
   const std::vector<Finder::Row>& rows_;
 };
 
+/// As high as its rows, as long as all of them are seen at once.
+class EntryList : public QListWidget {
+ public:
+  using QListWidget::QListWidget;
+  QSize sizeHint() const override {
+    int height = 0;
+    for (int row = 0; row < count() && height + sizeHintForRow(row) <= Px(kHighest); ++row)
+      height += sizeHintForRow(row);
+    return {QListWidget::sizeHint().width(), height};
+  }
+  QSize minimumSizeHint() const override { return {0, Px(kRow)}; }
+};
+
 /// How far an entry is from what was typed; -1 for not at all. `forgiving`: a slip may also be in
 /// what people call it besides.
 int FitOf(const Finder::Entry& entry, const QString& letters, bool forgiving) {
@@ -104,10 +119,9 @@ bool IsNamed(const Finder::Entry& entry, const QString& letters) {
 Finder::Finder(QWidget* ground, Sources sources) : Veil(ground), from_(std::move(sources)) {
   // The veil filters events from the first child on: until then both are known to be none.
   line_ = NewLine(&Sheet(), "finderline");
-  list_ = new QListWidget(&Sheet());
+  list_ = new EntryList(&Sheet());
   setObjectName("finder");
-  SetAtTop();
-  SetWanted({640, 480});
+  SetAtTop(kLargest);
   auto* rows = NewLayout<QVBoxLayout>(&Sheet(), 8, {12, 12, 12, 12});
   rows->addWidget(line_);
   rows->addWidget(list_, 1);
@@ -142,8 +156,18 @@ void Finder::Filter(const QString& typed) {
   if (letters.isEmpty()) AddRecent();
   Entries entries = CommandsFor(letters);
   for (const Entry& name : names_) entries.push_back(&name);
+  DropSlips(entries);
   AddRows(std::move(entries), letters);
   ShowRows(letters);
+  list_->updateGeometry();
+  PlaceCard();
+}
+
+/// Where something begins with what was typed, nothing else was meant.
+void Finder::DropSlips(Entries& entries) {
+  const auto isSure = [](const Entry* entry) { return entry->Fit < kSureFit; };
+  if (std::ranges::any_of(entries, isSure))
+    std::erase_if(entries, [](const Entry* entry) { return IsSlip(entry->Fit); });
 }
 
 Finder::Entries Finder::CommandsFor(const QString& letters) {

@@ -51,6 +51,7 @@ class Finder : public Veil {
   /// All that fit what is typed.
   Entries CommandsFor(const QString& letters);
   void FindNames(const QString& letters);
+  static void DropSlips(Entries& entries);
   void AddRecent();
   /// Adds entries below their headings, the heading of the best first; those that were chosen
   /// lately lead under each.

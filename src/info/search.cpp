@@ -241,6 +241,10 @@ int FitOfName(std::string_view name, std::string_view also, std::string_view typ
   return isSaid && (fit < 0 || fit > kSaid) ? kSaid : fit;
 }
 
+bool IsSlip(int fit) {
+  return fit >= kTypo && fit < kBehindAll;
+}
+
 NameSearch::NameSearch(const World& world) : world_(world) {
   const auto add = [this](Kind kind, int number, std::string_view name, int standing = 0) {
     std::string letters = PlainWords(name);

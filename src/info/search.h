@@ -38,6 +38,8 @@ inline constexpr int kKindsOfFound = static_cast<int>(Found::Kind::Mail) + 1;
 /// "how", "a" and "somebody" count only where nothing else is typed.
 int FitOfName(std::string_view name, std::string_view also, std::string_view typed);
 inline constexpr int kSureFit = 3;
+/// Whether a fit is one of letters that are wrong or that stand apart from each other.
+bool IsSlip(int fit);
 
 /// The names of a world as they were when this was made. Small and capital letters and accents are
 /// all alike.
