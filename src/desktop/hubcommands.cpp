@@ -134,6 +134,23 @@ void Window::AddPageActs(std::vector<Finder::Entry>& entries) {
   }
 }
 
+/// What can be done on the pages that lie below the present one, once that is left.
+void Window::AddCoveredActs(std::vector<Finder::Entry>& entries) {
+  const ui::Screen* const top = desk_.Top();
+  for (const Held& covered : desk_.Screens()) {
+    const ScreenView* const view = ViewFor(covered.get());
+    if (covered.get() == top || !view || covered->Is() != ui::Role::Page) continue;
+    const QString why = "Leave " + Shown(top->Title.Get()) + " first.";
+    for (const ui::Button* action : view->ActionsInOrder()) {
+      if (!action->Visible || action == view->Page().Cancel) continue;
+      entries.push_back({"On " + Shown(covered->Title.Get()), Shown(action->Text.Get()),
+                         "Not now: " + why, settings_.KeyOn(*action),
+                         [this, why] { Hint(*this, why); }});
+      entries.back().IsOff = true;
+    }
+  }
+}
+
 /// So are rooms, and one that waits says what for.
 void Window::AddRooms(std::vector<Finder::Entry>& entries) {
   const auto add = [&](const char* heading, ui::Button& command, const std::string& where,
@@ -164,6 +181,7 @@ std::vector<Finder::Entry> Window::FinderEntries() {
         entries.push_back({heading, own.Words, {}, KeyOf(own), own.Run, {}, {}, own.Also});
   };
   AddPageActs(entries);
+  AddCoveredActs(entries);
   if (HubInReach()) AddRooms(entries);
   add("Window", OwnCommands());
   add("Share this page", SharingCommands());

@@ -1,3 +1,6 @@
+#include <QScrollArea>
+#include <algorithm>
+
 #include "desktop/screenview.h"
 #include "desktop/tableview.h"
 #include "desktop/topbar.h"
@@ -52,18 +55,32 @@ void ScreenView::HoldKeyboard(const ui::Control& control) {
 void ScreenView::TakeKeyboard() {
   if (keyboard_ && keyboard_->isEnabled() && keyboard_->isVisibleTo(window()))
     return keyboard_->setFocus(Qt::ActiveWindowFocusReason);  // as it was, with ring and cursor
-  // Where there is only one way to go, no list keeps the space bar from it.
-  if (screen_->Is() != ui::Role::Hub && page_.Cancel)
-    for (ControlView* view : views_) {
-      const ui::Kind kind = view->Shows().Is();
-      // What a page begins with: an offer of a wage is not typed into a name below it.
-      const auto* bar = dynamic_cast<const ui::ScrollBar*>(&view->Shows());
-      const bool begins =
-          kind == ui::Kind::TextBox || kind == ui::Kind::ListBox || (bar && !bar->Tells);
-      if (begins && view->Shows().Enabled && view->FocusTarget()->isVisibleTo(this))
-        return view->FocusTarget()->setFocus(Qt::OtherFocusReason);
-    }
-  setFocus(Qt::OtherFocusReason);
+  ControlView* const first = FirstInUse();
+  (first ? first->FocusTarget() : this)->setFocus(Qt::OtherFocusReason);
+}
+
+/// What a page begins with: an offer of a wage is not typed into a name below it. Where there is
+/// only one way to go, no list keeps the space bar from it.
+ControlView* ScreenView::FirstInUse() const {
+  if (screen_->Is() == ui::Role::Hub || !page_.Cancel) return nullptr;
+  const auto first = std::ranges::find_if(views_, [this](ControlView* view) {
+    const ui::Kind kind = view->Shows().Is();
+    const auto* bar = dynamic_cast<const ui::ScrollBar*>(&view->Shows());
+    const bool begins =
+        kind == ui::Kind::TextBox || kind == ui::Kind::ListBox || (bar && !bar->Tells);
+    return begins && view->Shows().Enabled && view->FocusTarget()->isVisibleTo(this);
+  });
+  return first == views_.end() ? nullptr : *first;
+}
+
+void ScreenView::ShowWhatIsMissing() {
+  ControlView* const first = FirstInUse();
+  const auto* line = first ? dynamic_cast<const ui::TextBox*>(&first->Shows()) : nullptr;
+  if (!line || line->MaxLength == 0 || !line->Text->empty()) return;
+  QWidget* const field = first->FocusTarget();
+  field->setFocus(Qt::OtherFocusReason);
+  for (QWidget* above = field->parentWidget(); above; above = above->parentWidget())
+    if (auto* scroller = qobject_cast<QScrollArea*>(above)) scroller->ensureWidgetVisible(field);
 }
 
 bool ScreenView::ChooseMissing() {

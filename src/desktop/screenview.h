@@ -41,6 +41,9 @@ class ScreenView : public QWidget {
   /// to where one begins.
   void TakeKeyboard();
   void RememberKeyboard();
+  /// Shows the line that the page begins with and gives it the keyboard, if nothing has been
+  /// written there yet: what was refused wants it.
+  void ShowWhatIsMissing();
   /// Chooses the row that the keyboard is on, where its list waits for a choice; else leads the
   /// keyboard to the first list that does, and is false.
   bool ChooseMissing();
@@ -92,6 +95,7 @@ class ScreenView : public QWidget {
   int Floor() const;
   /// Makes a view of the control here and gives its widget.
   QWidget* Add(ui::Control& control);
+  ControlView* FirstInUse() const;
   const ui::Control* ControlWith(const QWidget* focus) const;
   bool ClearFilters();
 

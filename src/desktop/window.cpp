@@ -278,14 +278,14 @@ int Window::AnswerOf(const std::string& title, const std::string& text, const QS
   if (line) box.AddLine(Shown(*line), *this);
   for (int i = 0; i < captions.size(); ++i) box.AddButton(captions[i], i, i == usual);
   const QPointer<QWidget> focus = focusWidget();
-  const QPointer<MessageBox> before = box_;
+  const QPointer<MessageBox> before = std::exchange(box_, &box);
   const bool busy = std::exchange(busy_, false);
-  box_ = &box;
   ShowEnter();
   const int answer = box.Run().value_or(0);
   box_ = before;
   busy_ = busy;
   if (focus && focus->isVisible()) focus->setFocus(Qt::ActiveWindowFocusReason);
+  if (ScreenView* const top = TopView(); top && captions.size() == 1) top->ShowWhatIsMissing();
   ShowEnter();
   if (line) *line = Keep(box.Line()).Text;
   acted_.start();

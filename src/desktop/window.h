@@ -155,6 +155,7 @@ class Window : public QMainWindow, public Stage {
   void OpenFinder();
   std::vector<Finder::Entry> FinderEntries();
   void AddPageActs(std::vector<Finder::Entry>& entries);
+  void AddCoveredActs(std::vector<Finder::Entry>& entries);
   void AddRooms(std::vector<Finder::Entry>& entries);
   void Remember(const Finder::Entry& chosen);
 

@@ -256,6 +256,7 @@ TEST_F(TheWindow, TellsAFaultInABoxThatHoldsTheKeyboardAndGoesBack) {
   EXPECT_EQ(Play.Top(), "frmDesk");
   EXPECT_TRUE(Play.Sees("cmdthrow"));
   EXPECT_FALSE(Play.Sees("frmMore"));
+  EXPECT_EQ(Play.FocusName(), "txtname") << "the page begins there, and nothing is written yet";
 }
 
 TEST_F(TheWindow, FindsWhatCanBeDoneByItsLetters) {
@@ -278,6 +279,41 @@ TEST_F(TheWindow, FindsWhatCanBeDoneByItsLetters) {
   Play.Key(Qt::Key_Return);
   EXPECT_EQ(Play.TextOf("hint"), "Not before noon.") << "a slip, and the reason";
   EXPECT_EQ(Play.Top(), "frmPeople");
+}
+
+TEST_F(TheWindow, ShowsInTheSearchWhatIsMeantForSureAndNoMore) {
+  OpenDesk().cmddone.Text = "Lather";
+  Play.Key(Qt::Key_K, Qt::ControlModifier);
+  const auto* list = dynamic_cast<QListWidget*>(Play.See("finderlist"));
+  const int top = Play.See("finderline")->mapTo(&Play.Window, QPoint()).y(), full = list->height();
+  Play.Type("lathr");
+  EXPECT_EQ(list->findItems("Later", Qt::MatchExactly).size(), 1) << "either may be meant";
+  Play.Key(Qt::Key_Backspace);
+  Play.Type("er");
+  EXPECT_EQ(list->findItems("Lather", Qt::MatchExactly).size(), 1);
+  EXPECT_TRUE(list->findItems("Later", Qt::MatchExactly).isEmpty());
+  const QRect last = list->visualItemRect(list->item(list->count() - 1));
+  EXPECT_EQ(list->viewport()->height(), last.bottom() + 1) << "as high as what was found";
+  EXPECT_LT(list->height(), full);
+  EXPECT_EQ(Play.See("finderline")->mapTo(&Play.Window, QPoint()).y(), top);
+  Play.Key(Qt::Key_Escape);
+}
+
+TEST_F(TheWindow, FindsWhatCanBeDoneOnceTheDialogAboveIsLeft) {
+  OpenDesk();
+  Play.Click("cmdmore");
+  Play.Key(Qt::Key_K, Qt::ControlModifier);
+  Play.Type("done");
+  const auto* list = dynamic_cast<QListWidget*>(Play.See("finderlist"));
+  ASSERT_EQ(list->currentItem()->text(), "Done");
+  EXPECT_EQ(list->currentItem()->data(Qt::AccessibleDescriptionRole).toString(),
+            "Not now: Leave More first.");
+  Play.Key(Qt::Key_Return);
+  EXPECT_EQ(Play.TextOf("hint"), "Leave More first.");
+  EXPECT_LT(Play.See("hint")->height(), 2 * Play.See("hint")->fontMetrics().height() + 12)
+      << "in one line";
+  EXPECT_EQ(Play.Top(), "frmMore");
+  EXPECT_EQ(Notes, Log());
 }
 
 TEST_F(TheWindow, KeepsTheSearchAndANoteOverAPageThatChangesByItself) {
