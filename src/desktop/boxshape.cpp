@@ -29,6 +29,10 @@ bool IsButton(const Box& box) {
   return box.Is == Kind::Item && box.Shown->Is() == ui::Kind::Button;
 }
 
+bool IsLink(const Box& box) {
+  return IsButton(box) && dynamic_cast<const ui::Button&>(*box.Shown).Plain;
+}
+
 bool IsCalmButton(const Box& box) {
   return IsButton(box) && box.Stretch == 0;
 }
@@ -113,6 +117,10 @@ bool IsProse(const Box& box) {
   return !controls.empty() && std::ranges::all_of(controls, [](const ui::Control* control) {
     return control->Is() == ui::Kind::Report;
   });
+}
+
+bool IsAllProse(const Box& box) {
+  return box.Is == Kind::Tabs ? std::ranges::all_of(box.Parts, IsProse) : IsProse(box);
 }
 
 int ShareOf(const Box& box) {

@@ -12,6 +12,8 @@ namespace grapplemont::desktop {
 inline constexpr std::size_t kFew = 3;
 
 bool IsButton(const ui::Box& box);
+/// A button that is words alone.
+bool IsLink(const ui::Box& box);
 /// A button that takes no more room than it needs.
 bool IsCalmButton(const ui::Box& box);
 /// A row of controls alone, such as one of several alike below each other.
@@ -29,6 +31,8 @@ bool IsAllFilters(const ui::Box& card);
 bool Grows(const ui::Box& box);
 /// A card on which nothing grows but prose.
 bool IsProse(const ui::Box& box);
+/// Such a card, or a choice of such cards.
+bool IsAllProse(const ui::Box& box);
 /// The share of the room left over that a box takes.
 int ShareOf(const ui::Box& box);
 /// Adds every control of the box, in its order.

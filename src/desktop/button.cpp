@@ -87,6 +87,10 @@ void BareButton::DrawBadge(QPainter& painter, double left) const {
   DrawWords(painter, spot, Qt::AlignCenter, BadgeFont(), badge_);
 }
 
+void LinkItem::setGeometry(const QRect& rect) {
+  QWidgetItem::setGeometry(rect.translated(-Px(kPlainSide), 0));
+}
+
 PushButton::PushButton(QWidget* parent, const QString& caption) : BareButton(parent, caption) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }

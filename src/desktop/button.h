@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QLayoutItem>
 #include <QTimer>
 #include <vector>
 
@@ -41,6 +42,13 @@ class BareButton : public QAbstractButton {
   void DrawBadge(QPainter& painter, double left) const;
 
   QString badge_;
+};
+
+/// Where words without a frame stand in a layout: they begin at the edge of what is above them.
+class LinkItem : public QWidgetItem {
+ public:
+  using QWidgetItem::QWidgetItem;
+  void setGeometry(const QRect& rect) override;
 };
 
 /// A button after the look.

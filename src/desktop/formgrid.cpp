@@ -3,7 +3,9 @@
 #include <QLineEdit>
 #include <algorithm>
 
+#include "desktop/card.h"
 #include "desktop/look.h"
+#include "desktop/turninglayout.h"
 
 namespace grapplemont::desktop {
 
@@ -17,6 +19,25 @@ int HeightOf(const QLayoutItem& item, int width, bool least) {
 }
 
 }  // namespace
+
+FormGrid::FormGrid(std::shared_ptr<Peers> peers) : peers_(std::move(peers)) {
+  peers_->push_back(this);
+}
+
+FormGrid::~FormGrid() {
+  std::erase(*peers_, this);
+}
+
+bool FormGrid::Stacks(int width) const {
+  return std::ranges::any_of(
+      *peers_, [width](const FormGrid* peer) { return width < peer->WidthBeside(0); });
+}
+
+bool FormGrid::Aligns(int width) const {
+  return std::ranges::all_of(*peers_, [width](const FormGrid* peer) {
+    return width >= peer->WidthBeside(peer->aligned_);
+  });
+}
 
 std::vector<std::pair<int, QLayoutItem*>> FormGrid::Parts() const {
   std::vector<std::pair<int, QLayoutItem*>> parts;
@@ -36,17 +57,21 @@ QSize FormGrid::minimumSize() const {
   return least;
 }
 
-int FormGrid::WidthBeside() const {
-  int label = columnMinimumWidth(0), field = 0;
+int FormGrid::WidthBeside(int label) const {
+  int own = 0, field = 0;
   for (int row = 0; row < rowCount(); ++row) {
     const QLayoutItem *first = itemAtPosition(row, 0), *second = itemAtPosition(row, 1);
     if (!first || !second || first == second) continue;
-    label = std::max(label, first->minimumSize().width());
+    own = std::max(own, first->minimumSize().width());
     if (const auto* line = qobject_cast<QLineEdit*>(second->widget()))
       field = std::max(field, std::min(line->sizeHint().width(), Px(kWidestLine)));
   }
-  const int both = field > 0 ? label + horizontalSpacing() + field : 0;
-  return std::max(both, QGridLayout::minimumSize().width());
+  const int wish = std::max(own, label);
+  const int both = field > 0 ? wish + horizontalSpacing() + field : 0;
+  // How it is aligned now is no part of what it needs.
+  const int least =
+      QGridLayout::minimumSize().width() + wish - std::max(own, columnMinimumWidth(0));
+  return std::max(both, least);
 }
 
 int FormGrid::HeightAt(int width, bool least) const {
@@ -63,7 +88,11 @@ int FormGrid::HeightAt(int width, bool least) const {
 
 /// What can use more room than it needs has what is left over.
 void FormGrid::setGeometry(const QRect& rect) {
-  if (!Stacks(rect.width())) return QGridLayout::setGeometry(rect);
+  if (!Stacks(rect.width())) {
+    const int label = Aligns(rect.width()) ? aligned_ : 0;
+    if (columnMinimumWidth(0) != label) setColumnMinimumWidth(0, label);
+    return QGridLayout::setGeometry(rect);
+  }
   QLayout::setGeometry(rect);
   const auto parts = Parts();
   const auto grows = [this](const auto& part) {
@@ -82,21 +111,42 @@ void FormGrid::setGeometry(const QRect& rect) {
   }
 }
 
+namespace {
+
+/// The forms one below the other: those beside something else begin where that ends.
+void CollectForms(const QLayout& column, std::vector<FormGrid*>& forms) {
+  for (int i = 0; i < column.count(); ++i) {
+    QLayoutItem& item = *column.itemAt(i);
+    const auto* card = dynamic_cast<const Card*>(item.widget());
+    const QLayout* layout = card ? card->layout() : item.layout();
+    const auto* box = dynamic_cast<const QBoxLayout*>(layout);
+    if (auto* form = dynamic_cast<FormGrid*>(item.layout()))
+      forms.push_back(form);
+    else if (box && !dynamic_cast<const TurningLayout*>(box) &&
+             box->direction() == QBoxLayout::TopToBottom)
+      CollectForms(*box, forms);
+  }
+}
+
+int LabelsWidth(const FormGrid& form) {
+  int widest = 0;
+  for (int row = 0; row < form.rowCount(); ++row) {
+    const QLayoutItem* label = form.itemAtPosition(row, 0);
+    if (label && label != form.itemAtPosition(row, 1))
+      widest = std::max(widest, label->widget()->sizeHint().width());
+  }
+  return widest;
+}
+
+}  // namespace
+
 void AlignForms(const QBoxLayout& column) {
   std::vector<FormGrid*> forms;
+  CollectForms(column, forms);
+  if (forms.size() < 2) return;
   int widest = 0;
-  for (int i = 0; i < column.count(); ++i) {
-    auto* form = dynamic_cast<FormGrid*>(column.itemAt(i)->layout());
-    if (!form) continue;
-    forms.push_back(form);
-    for (int row = 0; row < form->rowCount(); ++row) {
-      const QLayoutItem* label = form->itemAtPosition(row, 0);
-      if (label && label != form->itemAtPosition(row, 1))
-        widest = std::max(widest, label->widget()->sizeHint().width());
-    }
-  }
-  if (forms.size() > 1)
-    for (FormGrid* form : forms) form->setColumnMinimumWidth(0, widest);
+  for (const FormGrid* form : forms) widest = std::max(widest, LabelsWidth(*form));
+  for (FormGrid* form : forms) form->Align(widest);
 }
 
 }  // namespace grapplemont::desktop

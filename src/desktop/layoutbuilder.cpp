@@ -10,7 +10,6 @@
 #include "desktop/button.h"
 #include "desktop/card.h"
 #include "desktop/evengrid.h"
-#include "desktop/formgrid.h"
 #include "desktop/levelcolumns.h"
 #include "desktop/pieces.h"
 #include "desktop/spoken.h"
@@ -65,9 +64,9 @@ class TabNames : public QTabBar {
   }
 };
 
-template <class Grid = QGridLayout>
-Grid* NewGrid(int gap) {
-  auto* grid = new Grid;
+template <class Grid = QGridLayout, class... Peers>
+Grid* NewGrid(int gap, const Peers&... peers) {
+  auto* grid = new Grid(peers...);
   grid->setHorizontalSpacing(Px(gap));
   grid->setVerticalSpacing(Px(kClose));
   return grid;
@@ -161,7 +160,11 @@ void LayoutBuilder::AddItem(const Box& box, QBoxLayout* into) {
   const bool fills = Grows(box) || (stretch > 0 && !IsButton(box));
   const Qt::Alignment side = IsCalmButton(box) ? Qt::AlignLeft : Qt::Alignment();
   const Qt::Alignment place = across && !fills ? Qt::AlignVCenter | side : Qt::Alignment();
-  into->addWidget(widget, stretch, place);
+  if (!IsLink(box) || (across && into->count() > 0)) return into->addWidget(widget, stretch, place);
+  auto* link = new LinkItem(widget);
+  link->setAlignment(place);
+  into->addItem(link);
+  into->setStretch(into->count() - 1, stretch);
 }
 
 void LayoutBuilder::AddRowButtons(const Box& box, TableView& table) {
@@ -201,7 +204,10 @@ void LayoutBuilder::AddColumns(const Box& whole, QBoxLayout* into) {
   auto* columns = new TurningLayout(fields || cards ? kWide : kClose, least);
   into->addLayout(columns, ShareOf(box));
   bool filled = cards;
+  const bool even = std::ranges::all_of(
+      box.Parts, [&](const Box& part) { return ShareOf(part) == ShareOf(box.Parts.front()); });
   for (const Box& part : box.Parts) {
+    const QScopedValueRollback<Forms> forms(forms_, even ? forms_ : NewForms());
     filled = filled || part.Is == Kind::Spacer || part.Stretch > 0 || Grows(part);
     calm_ = others && !inCard_ && IsProse(part);
     Add(part, columns);
@@ -237,6 +243,7 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
   std::vector<QWidget*> pages;
   for (const Box& part : box.Parts) {
     const QScopedValueRollback<QString> heading(heading_, Shown(part.Title));
+    const QScopedValueRollback<Forms> forms(forms_, NewForms());
     pages.push_back(holder_ = new QWidget(holder));
     Box untitled = part;
     untitled.Title.clear();
@@ -256,7 +263,7 @@ void LayoutBuilder::AddTabs(const Box& box, QBoxLayout* into) {
 /// its own.
 void LayoutBuilder::AddForm(const Run& fields, QBoxLayout* into) {
   const bool across = into->direction() == QBoxLayout::LeftToRight;
-  QGridLayout* form = across ? NewGrid(kClose) : NewGrid<FormGrid>(kWide);
+  QGridLayout* form = across ? NewGrid(kClose) : NewGrid<FormGrid>(kWide, forms_);
   form->setColumnStretch(1, 1);
   int row = 0;
   bool grows = false;
@@ -308,7 +315,10 @@ void LayoutBuilder::AddButtons(const Run& buttons, QBoxLayout* into) {
   for (const Box* button : buttons) {
     ControlView* view = View(*button->Shown);
     if (cover_ && !inCard_) dynamic_cast<PushButton*>(view->Widget())->SetLeast(132, 40);
-    flow->addWidget(view->Widget());
+    if (IsLink(*button))
+      flow->addItem(new LinkItem(view->Widget()));
+    else
+      flow->addWidget(view->Widget());
   }
   into->addLayout(flow);
 }

@@ -7,6 +7,7 @@
 
 #include "desktop/card.h"
 #include "desktop/controlview.h"
+#include "desktop/formgrid.h"
 #include "ui/screen.h"
 
 namespace grapplemont::desktop {
@@ -44,6 +45,8 @@ class LayoutBuilder {
  private:
   using Peers = std::vector<const LevelColumn*>;
   using Run = std::vector<const ui::Box*>;
+  using Forms = std::shared_ptr<FormGrid::Peers>;
+  static Forms NewForms() { return std::make_shared<FormGrid::Peers>(); }
   ControlView* View(ui::Control& control);
   void AddAll(const std::vector<ui::Box>& boxes, QBoxLayout* into);
   std::size_t AddRun(const std::vector<ui::Box>& boxes, std::size_t from, QBoxLayout* into);
@@ -68,10 +71,14 @@ class LayoutBuilder {
   bool cover_;
   bool inCard_ = false;
   std::shared_ptr<Peers> peers_;  // of the next card; none for one that stands for itself
+  Forms forms_ = NewForms();      // of the next form
   bool calm_ = false;             // the next card takes no more width than its prose can be read in
   std::vector<ControlView*> views_;
   std::vector<CardContents> cards_;
 };
+
+/// The width of a card in which prose can just be read in full lines.
+int CalmWidth();
 
 /// The table among the views; nullptr for none and for several.
 TableView* OnlyTable(const std::vector<ControlView*>& views);

@@ -29,6 +29,10 @@ QFont CardTitleFont() {
 
 }  // namespace
 
+int CalmWidth() {
+  return ReadableWidth() + 2 * Px(kCardSide) + Px(kScrollBar);
+}
+
 TableView* OnlyTable(const std::vector<ControlView*>& views) {
   TableView* only = nullptr;
   for (ControlView* view : views)
@@ -44,8 +48,7 @@ void LayoutBuilder::AddGroup(const Box& box, QBoxLayout* into) {
                                               box.Title.empty() ? heading_ : Shown(box.Title));
   if (inCard_) return AddPartOfCard(box, into);
   auto* card = new Card(holder_);
-  if (std::exchange(calm_, false))
-    card->setMaximumWidth(ReadableWidth() + 2 * Px(kCardSide) + Px(kScrollBar));
+  if (std::exchange(calm_, false)) card->setMaximumWidth(CalmWidth());
   Means(*card, QAccessible::Grouping);
   card->setAccessibleName(heading_);
   QVBoxLayout* const inside =

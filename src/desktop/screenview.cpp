@@ -147,7 +147,11 @@ void ScreenView::BuildBody(QBoxLayout* into) {
                         Shown(screen_->Title.Get()));
   builder.Build(page_.Body, column);
   scroller->Hold(body);
-  if (screen_->Is() == ui::Role::Page && !Grows(page_.Body)) body->setMaximumWidth(Px(kWidestPage));
+  const ui::Role role = screen_->Is();
+  if (role != ui::Role::Dialog && IsAllProse(page_.Body))
+    body->setMaximumWidth(CalmWidth());
+  else if (role == ui::Role::Page && !Grows(page_.Body))
+    body->setMaximumWidth(Px(kWidestPage));
   into->addWidget(scroller, 1);
   if (whole_) whole_->SetInner(*scroller);
   views_.insert(views_.end(), builder.Views().begin(), builder.Views().end());
