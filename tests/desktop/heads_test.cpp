@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLabel>
 #include <QMenu>
+#include <array>
 
 #include "desktop/player.h"
 #include "desktop/tablecells.h"
@@ -153,6 +155,45 @@ TEST(TheHead, KeepsItsMainActionInTheTitlesLineAndFoldsTheOthers) {
   menu->close();
   EXPECT_EQ(acts.Pressed, std::vector<int>{3});
   play.Window.SetLook(desktop::Scheme::Dark, 0);
+}
+
+TEST(TheForms, BeginAtOneEdgeAndHaveTheirLabelsAllAboveOrAllBeside) {
+  class Forms : public ui::Screen {
+   public:
+    explicit Forms(ui::Desk& desk) : Screen(desk, "frmForms", "A page of forms") {}
+    ui::Page Layout() override {
+      return {.Body =
+                  ui::Columns({ui::Rows({ui::Group("Who", {ui::Field("Name", txtname)}),
+                                         ui::Group("Deal", {ui::Field("Months left", txtmonths)})}),
+                               ui::Rows({ui::Group("Pay", {ui::Field("Wage", txtwage)})}),
+                               ui::Rows({lblleft}), ui::Rows({lblright})})};
+    }
+    ui::TextBox txtname{*this, "txtname", "", 25};
+    ui::TextBox txtmonths{*this, "txtmonths", "", 2};
+    ui::TextBox txtwage{*this, "txtwage", "", 2};
+    ui::Label lblleft{*this, "lblleft", "One"};
+    ui::Label lblright{*this, "lblright", "Another"};
+  };
+  Player play;
+  play.Open(std::make_unique<Forms>(play.Desk));
+  const auto placeOf = [&](const QWidget* part) { return part->mapTo(&play.Window, QPoint()); };
+  const auto labelOf = [&](const char* field) -> const QLabel* {
+    for (const QLabel* label : play.Window.findChildren<QLabel*>())
+      if (label->buddy() == play.See(field)) return label;
+    return nullptr;
+  };
+  const std::array kFields = {"txtname", "txtmonths", "txtwage"};
+  for (const auto& [wide, above] : {std::pair(1900, false), std::pair(1024, true)}) {
+    play.Window.resize(wide, 800);
+    for (int i = 0; i < 4; ++i) QApplication::processEvents();
+    EXPECT_EQ(placeOf(play.See("txtname")).x(), placeOf(play.See("txtmonths")).x()) << wide;
+    for (const char* field : kFields) {
+      const QLabel* label = labelOf(field);
+      ASSERT_TRUE(label) << field;
+      const bool isAbove = placeOf(label).y() + label->height() <= placeOf(play.See(field)).y();
+      EXPECT_EQ(isAbove, above) << field << ": a name needs the room, and all do as it does";
+    }
+  }
 }
 
 }  // namespace
