@@ -136,14 +136,17 @@ class frmHelp : public GameScreen {
       : GameScreen(game, "frmHelp", "Help: " + of.Title.Get(), {.Is = kOver}) {
     txthelp.Write(HelpFor(of));
     txtkeys.Write(KeysFor(of, desk().Help.Keys));
+    // A short sheet is as high as its words, a long one fills the window and scrolls.
+    constexpr std::size_t kShort = 12;
+    const bool isShort = txthelp.Paragraphs().size() + txtkeys.Paragraphs().size() <= kShort;
+    txthelp.Brief = txtkeys.Brief = isShort;
   }
 
   ui::Page Layout() override {
     ui::Page page = PageOf(ui::Columns({ui::Group("", {ui::Grow(txthelp)}).Grow(),
                                         ui::Group("", {ui::Grow(txtkeys)}).Grow()}),
                            nullptr, {&cmdglossary});
-    constexpr std::size_t kShort = 12;  // paragraphs of a sheet that fills no window
-    page.Large = txthelp.Paragraphs().size() + txtkeys.Paragraphs().size() > kShort;
+    page.Large = !txthelp.Brief;
     return page;
   }
   void Return() override {}
