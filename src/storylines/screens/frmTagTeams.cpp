@@ -166,7 +166,7 @@ class frmStables : public GameScreen {
     return PageOf(
         ui::Columns({ui::Rows({ui::Group("Your stables", {ui::Grow(lststables)}).Grow(),
                                ui::Group("Name", {txtname, cmdcreate, cmdrename})})
-                         .Grow(4),
+                         .Grow(5),
                      ui::Group("Members", {ui::Grow(lstmembers), cmdremove}).Grow(5),
                      ui::Group("Not in this stable", {ui::Grow(lstwres), cmdadd}).Grow(5)}),
         &lblfacts, {&cmddissolve});
@@ -299,10 +299,10 @@ class frmStables : public GameScreen {
   ui::TextBox txtname{*this, "txtname"};
   ui::Button cmdcreate{*this, "cmdcreate", "Found A Stable", &frmStables::cmdcreate_Click};
   ui::Button cmdrename{*this, "cmdrename", "Rename", &frmStables::cmdrename_Click};
-  ui::ListBox lstmembers{*this, "lstmembers", WithFaces(world(), HeadingsOf(members_)),
+  ui::ListBox lstmembers{*this, "lstmembers", WithFaces(world(), NarrowColumns(members_)),
                          &frmStables::ShowButtons, cmdremove};
   ui::Button cmdremove{*this, "cmdremove", "Take Out", &frmStables::cmdremove_Click};
-  ui::ListBox lstwres{*this, "lstwres", WithFaces(world(), HeadingsOf(others_)),
+  ui::ListBox lstwres{*this, "lstwres", WithFaces(world(), NarrowColumns(others_)),
                       &frmStables::ShowButtons, cmdadd};
   ui::Button cmdadd{*this, "cmdadd", "Add To The Stable", &frmStables::cmdadd_Click};
   ui::Button cmddissolve{*this, "cmddissolve", "Dissolve", &frmStables::cmddissolve_Click};

@@ -68,12 +68,14 @@ ui::Cell DateCell(Day day, const char* unknown) {
   return day > kNoTitleDate ? DayCell(day) : ui::Cell(unknown, ui::Tone::Muted);
 }
 
+constexpr const char* kDisposition = "Disposition";
+
 CellColumns<Worker> PeopleTable(CellColumns<Worker> more) {
   CellColumns<Worker> columns = {
       {{"Name", K::Text, 4}, [](const Worker& worker) { return worker.Name.View(); }},
       {{"Over", K::Number, 1, "Popularity."},
        [](const Worker& worker) { return ui::Cell(worker.Over); }},
-      {{.Title = "Disposition",
+      {{.Title = kDisposition,
         .Kind = K::Tag,
         .Width = 2,
         .Tip = "Face, Heel or Tweener.",
@@ -91,10 +93,15 @@ ui::Sign DispositionSign(std::string_view word) {
   return ui::Sign::None;
 }
 
-std::vector<ui::Column> ShortColumns() {
-  std::vector<ui::Column> columns = HeadingsOf(PeopleTable());
-  columns.back().SignOf = DispositionSign;
+std::vector<ui::Column> NarrowColumns(const CellColumns<Worker>& people) {
+  std::vector<ui::Column> columns = HeadingsOf(people);
+  for (ui::Column& column : columns)
+    if (column.Title == kDisposition) column.SignOf = DispositionSign;
   return columns;
+}
+
+std::vector<ui::Column> ShortColumns() {
+  return NarrowColumns(PeopleTable());
 }
 
 void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people) {

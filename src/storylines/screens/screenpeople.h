@@ -77,6 +77,8 @@ ui::Cell StatusCell(const Worker& worker);
 CellColumns<Worker> PeopleTable(CellColumns<Worker> more = {});
 /// What stands for a disposition where its word has no room.
 ui::Sign DispositionSign(std::string_view word);
+/// The headings of a table of people in a narrow card.
+std::vector<ui::Column> NarrowColumns(const CellColumns<Worker>& people);
 /// The table of these three alone, for a narrow card.
 std::vector<ui::Column> ShortColumns();
 void FillShort(ui::ListBox& list, const std::vector<const Worker*>& people);
