@@ -163,16 +163,15 @@ TEST(TheForms, BeginAtOneEdgeAndHaveTheirLabelsAllAboveOrAllBeside) {
     explicit Forms(ui::Desk& desk) : Screen(desk, "frmForms", "A page of forms") {}
     ui::Page Layout() override {
       return {.Body =
-                  ui::Columns({ui::Rows({ui::Group("Who", {ui::Field("Name", txtname)}),
+                  ui::Columns({ui::Rows({ui::Group("Who", {ui::Field("Full name", txtname)}),
                                          ui::Group("Deal", {ui::Field("Months left", txtmonths)})}),
                                ui::Rows({ui::Group("Pay", {ui::Field("Wage", txtwage)})}),
-                               ui::Rows({lblleft}), ui::Rows({lblright})})};
+                               ui::Rows({lblmore})})};
     }
-    ui::TextBox txtname{*this, "txtname", "", 25};
+    ui::TextBox txtname{*this, "txtname", "", 40};
     ui::TextBox txtmonths{*this, "txtmonths", "", 2};
     ui::TextBox txtwage{*this, "txtwage", "", 2};
-    ui::Label lblleft{*this, "lblleft", "One"};
-    ui::Label lblright{*this, "lblright", "Another"};
+    ui::Label lblmore{*this, "lblmore", "There is more."};
   };
   Player play;
   play.Open(std::make_unique<Forms>(play.Desk));
@@ -183,7 +182,7 @@ TEST(TheForms, BeginAtOneEdgeAndHaveTheirLabelsAllAboveOrAllBeside) {
     return nullptr;
   };
   const std::array kFields = {"txtname", "txtmonths", "txtwage"};
-  for (const auto& [wide, above] : {std::pair(1900, false), std::pair(1024, true)}) {
+  for (const auto& [wide, above] : {std::pair(1300, false), std::pair(1024, true)}) {
     play.Window.resize(wide, 800);
     for (int i = 0; i < 4; ++i) QApplication::processEvents();
     EXPECT_EQ(placeOf(play.See("txtname")).x(), placeOf(play.See("txtmonths")).x()) << wide;
