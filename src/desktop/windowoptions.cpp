@@ -84,7 +84,7 @@ class frmWindow : public ui::Screen {
                    ui::Group("Dates", {ui::Field("Written", cmbdates), lblsample}),
                    ui::Group("Sound", {chksound, ui::Field("Volume", hsvolume)})})
              .Grow(2),
-         ui::Group("Keys", {ui::Grow(lstkeys), cmdkey, cmdreset, cmdusual, lblkeys}).Grow(3)});
+         ui::Group("Keys", {ui::Grow(lstkeys), lblkeys, cmdkey, cmdreset, cmdusual}).Grow(3)});
     return page;
   }
 
