@@ -38,6 +38,8 @@ void SetSaveName(Bytes& bytes, std::string_view name) {
   std::memcpy(bytes.data(), &game, sizeof(game));
 }
 
+constexpr std::int64_t kLongestPage = 1 << 24;  // bytes of a picture of the last page
+
 std::string FolderOf(const std::string& home, int slot) {
   return home + "/s" + std::to_string(slot);
 }
@@ -56,6 +58,22 @@ int SlotOfDigit(char digit) {
 /// leaves the line out.
 std::string RenamedLine(std::string_view name) {
   return std::string(kCommandRenamed) + " " + std::string(name) + "\n";
+}
+
+/// What a game looked like last goes where the game goes; without it the game is as whole.
+void MovePage(Disk& disk, const std::string& from, const std::string& to) try {
+  RemoveTree(disk, PageOf(to));
+  if (disk.Look(PageOf(from)) == Disk::Kind::File) disk.Rename(PageOf(from), PageOf(to));
+} catch (const DiskError&) {
+  // It is shown again once the game has been played.
+}
+
+void CopyPage(Disk& disk, const std::string& from, const std::string& to) try {
+  if (disk.Look(PageOf(from)) != Disk::Kind::File) return;
+  if (const auto page = ReadWithin(disk, PageOf(from), kLongestPage))
+    WriteFile(disk, PageOf(to), *page);
+} catch (const DiskError&) {
+  // As above.
 }
 
 void MakeSlot(Disk& disk, const std::string& folder, const std::vector<NewFile>& files,
@@ -186,6 +204,7 @@ void CopySlot(Disk& disk, const std::string& from, const std::string& to, std::s
   std::vector<NewFile> copy;
   for (auto& [file, contents] : files) copy.push_back({file, std::move(contents)});
   MakeSlot(disk, to, copy, worldId);
+  CopyPage(disk, from, to);
 }
 
 bool HasHistory(Disk& disk, const std::string& folder) {
@@ -236,8 +255,9 @@ void ImportSlot(Disk& disk, const Importable& game, const std::string& folder,
 
 void DeleteSlot(Disk& disk, const std::string& folder, Day today) {
   const std::string away = folder + std::string(kDeletedMark) + IsoDate(today);
-  PutAway(disk, folder, FreeName(disk, away));
-  RemoveTree(disk, PageOf(folder));
+  const std::string free = FreeName(disk, away);
+  PutAway(disk, folder, free);
+  MovePage(disk, folder, free);
 }
 
 namespace {
@@ -281,7 +301,10 @@ std::vector<DeletedSlot> DeletedSlots(Disk& disk, const std::string& home, Day t
 
 void ClearDeleted(Disk& disk, const std::string& home, Day today) try {
   for (const DeletedSlot& deleted : FindDeleted(disk, home, today))
-    if (deleted.DaysLeft <= 0) RemoveForGood(disk, deleted.Folder);
+    if (deleted.DaysLeft <= 0) {
+      RemoveForGood(disk, deleted.Folder);
+      RemoveTree(disk, PageOf(deleted.Folder));
+    }
 } catch (const DiskError&) {
   // The next time will do.
 }
@@ -291,6 +314,7 @@ int RestoreSlot(Disk& disk, const std::string& home, const DeletedSlot& deleted)
   const std::optional<int> slot = own ? deleted.Slot : FreeSlot(disk, home);
   if (!slot) throw std::runtime_error(kAllInUse);
   BringBack(disk, deleted.Folder, FolderOf(home, *slot));
+  MovePage(disk, deleted.Folder, FolderOf(home, *slot));
   return *slot;
 }
 
