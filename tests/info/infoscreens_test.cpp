@@ -244,7 +244,7 @@ TEST(Mails, OfADayAreGatheredUnderWhatTheyTell) {
 TEST(frmNews, EmptiesTheMailboxAfterAsking) {
   GameOnWorld play(SixMails());
   play.Desk.Open("frmMainScreen");
-  EXPECT_EQ(play.Desk.Text("imgmail"), "6 mails");
+  EXPECT_EQ(play.Desk.Text("imgmail"), "6 mails in all");
   play.Desk.Click("cmdnews");
   const std::string question = "Are you sure you want to delete all 6 mails?";
   play.Desk.ExpectAsk("Empty?", question, false, ui::Default::No);
@@ -256,7 +256,7 @@ TEST(frmNews, EmptiesTheMailboxAfterAsking) {
   ExpectMails(play.Desk, {}, "");
   EXPECT_EQ(play.Desk.FirstColumn("cmbfrom"), (Names{"Everybody"}));
   play.Desk.Click("cmdback");
-  EXPECT_EQ(play.Desk.Text("imgmail"), "0 mails");
+  EXPECT_EQ(play.Desk.Text("imgmail"), "0 mails in all");
   EXPECT_FALSE(play.Desk.Enabled("imgmail"));
 }
 

@@ -37,7 +37,7 @@ ui::Box DeskMail::Layout() {
 
 int DeskMail::Show() {
   EnableUnless(imgmail, HasNews(world()) ? "" : "No mail.");
-  imgmail.Text = Counted(world().News().Count(), "mail");
+  imgmail.Text = Counted(world().News().Count(), "mail") + " in all";
   ShowDigest();
   const Unread unread = UnreadOf(world());
   std::vector<ui::ListBox::Row> rows;
