@@ -228,7 +228,7 @@ Outcome ReadSpoiledExport(CutDisk& disk) {
     return {Outcome::Silent, isSame ? "" : "a spoiled file was taken for a game"};
   } catch (const WorldFault& fault) {
     const std::string told = fault.what();
-    const bool saysWhatToDo = Holds(told, "Export the game once more") ||
+    const bool saysWhatToDo = Holds(told, "have it exported again") ||
                               Holds(told, "Choose another file") || Holds(told, "Update the game");
     return {Outcome::Refused, Holds(told, kExported) && saysWhatToDo ? "" : told};
   }

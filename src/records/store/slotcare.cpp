@@ -65,7 +65,9 @@ namespace {
 /// What follows the head, in the form of format 1.
 Bytes BodyOf(Unpacker& in, std::uint32_t format, const std::string& path) {
   constexpr const char* kSpoiled =
-      " is spoiled: it was cut short or changed. Export the game once more.";
+      " is spoiled: it was cut short or changed. Fetch it again, or have it exported again where "
+      "the "
+      "game is.";
   const auto checksum = in.Get<std::uint64_t>();
   if (!in.Whole() || checksum != Checksum(in.Left())) Refuse(path, kSpoiled);
   if (format == kPlainFormat) return {in.Left().begin(), in.Left().end()};
