@@ -9,6 +9,7 @@
 
 #include "halls/hall.h"
 #include "records/fields/fields.h"
+#include "records/fields/grouping.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -43,7 +44,7 @@ Places Ranked(const std::vector<T>& all, Figure figure, Write write, bool lowest
 }
 
 std::string Plain(int number) {
-  return std::to_string(number);
+  return Grouped(number);
 }
 std::string Share(int number) {
   return std::to_string(number) + "%";

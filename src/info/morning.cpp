@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "business/past.h"
+#include "records/fields/grouping.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -168,14 +169,14 @@ std::string Signed(long long change) {
 std::string NumberText(int kind, int number) {
   if (kind == kNoteMoney) return Dollars(number);
   if (kind == kNoteViewers) return RatingText(number);
-  return std::to_string(number) + (kind == kNoteCrowd ? "" : "%");
+  return kind == kNoteCrowd ? Grouped(number) : std::to_string(number) + "%";
 }
 
 std::string ChangeText(int kind, int change) {
   const std::string plus = change < 0 ? "" : "+";
   if (kind == kNoteMoney) return plus + Dollars(change);
   if (kind == kNoteViewers) return plus + InHundredths(change);
-  return Signed(change);
+  return kind == kNoteCrowd ? (change > 0 ? "+" : "") + Grouped(change) : Signed(change);
 }
 
 }  // namespace grapplemont

@@ -8,6 +8,7 @@
 #include "business/past.h"
 #include "info/infowords.h"
 #include "records/fields/fields.h"
+#include "records/fields/grouping.h"
 #include "records/fields/wording.h"
 #include "records/modVar.h"
 #include "records/modWresCheck.h"
@@ -35,16 +36,15 @@ class Desk {
 
 std::string Words(Desk& desk, const Deed& deed) {
   const int number = deed.Number;
-  return FillLine(
-      desk.Choose(deed.Kind, deed.Kind, deed.On),
-      {{"who", deed.Who.Str()},
-       {"house", deed.House == "" ? "nobody" : deed.House.Str()},
-       {"other", deed.Other.Str()},
-       {"size", std::string(SizeText(number))},
-       {"months", Counted(number, "month")},
-       {"weeks", Counted(number, "week")},
-       {"rating", RatingText(deed.Viewers)},
-       {"people", deed.People == 1 ? "one person" : std::to_string(deed.People) + " people"}});
+  return FillLine(desk.Choose(deed.Kind, deed.Kind, deed.On),
+                  {{"who", deed.Who.Str()},
+                   {"house", deed.House == "" ? "nobody" : deed.House.Str()},
+                   {"other", deed.Other.Str()},
+                   {"size", std::string(SizeText(number))},
+                   {"months", Counted(number, "month")},
+                   {"weeks", Counted(number, "week")},
+                   {"rating", RatingText(deed.Viewers)},
+                   {"people", deed.People == 1 ? "one person" : Grouped(deed.People) + " people"}});
 }
 
 /// A show of the player's reads as the rivals' do.

@@ -26,7 +26,7 @@ const CellColumns<HistoryEntry> kHeldTable = {
        return held.CalledOff ? ui::Cell("") : ui::Cell(int(held.Rating));
      }},
     {{"Gate", EventCell::Number, 2, "How many people came."},
-     [](const HistoryEntry& held) { return ui::Cell(int(held.Attendance)); }},
+     [](const HistoryEntry& held) { return CountCell(held.Attendance); }},
     {{"Buy rate", EventCell::Number, 2},
      [](const HistoryEntry& held) {
        return ui::Cell(double(int(held.Viewers)), RatingText(held.Viewers));
@@ -54,16 +54,13 @@ class frmEvent : public GameScreen {
 
   ui::Page Layout() override {
     return PageOf(
-        ui::Columns(
-            {ui::Group("The year", {ui::Grow(lstevents)}).Grow(3),
-             ui::Rows(
-                 {ui::Group(
-                      "The month's Event",
-                      {lblmonth, ui::Columns({ui::Field("Name", txtname).Grow(), cmdrename}),
-                       ui::Columns({ui::Field("Type", cmbtype).Grow(), cmdtype}), cmdadd, lblnote}),
-                  ui::Group("Held in this month", {ui::Grow(lstheld)}).Grow(3),
-                  ui::Group("Ratings of your Events", {ui::Grow(chtratings)}).Grow(2)})
-                 .Grow(2)}),
+        ui::Columns({ui::Group("The year", {ui::Grow(lstevents)}).Grow(3),
+                     ui::Rows({ui::Group("The month's Event",
+                                         {lblmonth, ui::Field("Name", txtname, {&cmdrename}),
+                                          ui::Field("Type", cmbtype, {&cmdtype}), cmdadd, lblnote}),
+                               ui::Group("Held in this month", {ui::Grow(lstheld)}).Grow(3),
+                               ui::Group("Ratings of your Events", {ui::Grow(chtratings)}).Grow(2)})
+                         .Grow(2)}),
         &lblfacts, {&cmddrop});
   }
 

@@ -105,7 +105,7 @@ constexpr FormGroup kNetworkGroups[] = {{"", 1, "Network", kNetworkWhat},
 constexpr PageColumn kSponsorColumns[] = {
     {"Name", "Sponsor"}, {"Promotion", "Pays for"}, {"Pay"}, {"Morality"}};
 constexpr FormEntry kSponsorEntries[] = {
-    {"Name"}, {"Slogan"}, {"Pay", "Pay ($1000 a show)"}, {"Morality"}};
+    {"Name"}, {"Slogan"}, {"Pay", "Pay ($1,000 a show)"}, {"Morality"}};
 constexpr FormEntry kSponsorDeal[] = {{"Promotion", "Pays for"},
                                       {"ContractMonths", "Months left", "txtmonths"}};
 constexpr FormGroup kSponsorGroups[] = {{"", 1, "Sponsor", kSponsorEntries},

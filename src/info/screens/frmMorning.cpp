@@ -5,6 +5,7 @@
 #include "info/morning.h"
 #include "info/screens/infotables.h"
 #include "info/screens/pastscreens.h"
+#include "records/modVar.h"
 #include "records/modWresCheck.h"
 #include "show/recap.h"
 #include "storylines/screens/screenpeople.h"

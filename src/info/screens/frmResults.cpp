@@ -210,7 +210,7 @@ const CellColumns<HistoryEntry> kShows = {
     {{"Rating", K::Percent},
      [](const HistoryEntry& show) { return HeldCell(show, int(show.Rating)); }},
     {{"Crowd", K::Number},
-     [](const HistoryEntry& show) { return HeldCell(show, int(show.Attendance)); }},
+     [](const HistoryEntry& show) { return HeldCell(show, CountCell(show.Attendance)); }},
     {{"Viewers", K::Number, 0, "Television rating, or buy rate."},
      [](const HistoryEntry& show) {
        return HeldCell(show,

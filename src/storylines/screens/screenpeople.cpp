@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "records/fields/fields.h"
+#include "records/fields/grouping.h"
 #include "records/modWresCheck.h"
 #include "storylines/titles.h"
 #include "ui/pictureof.h"
@@ -58,6 +59,10 @@ std::vector<std::string> DayCaptions(const std::vector<Day>& days) {
   for (const Day day : days)
     captions.push_back(BriefDate(day).substr(0, isLong ? std::string::npos : kDayAndMonthLetters));
   return captions;
+}
+
+ui::Cell CountCell(int count) {
+  return {static_cast<double>(count), Grouped(count)};
 }
 
 ui::Cell DayCell(Day day) {

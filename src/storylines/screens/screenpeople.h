@@ -89,6 +89,8 @@ std::string BriefDate(Day day);
 std::vector<std::string> DayCaptions(const std::vector<Day>& days);
 /// A day, sorted by its date.
 ui::Cell DayCell(Day day);
+/// How many people, in figures that are grouped.
+ui::Cell CountCell(int count);
 /// The same of a Title's past, where a day may be unknown.
 ui::Cell DateCell(Day day, const char* unknown);
 /// Where a reign began that has lasted since before the game, and so has no day.
