@@ -294,7 +294,7 @@ std::string ChartText(const ui::Chart& chart) {
     for (const auto& series : chart.Lines.Get()) {
       if (i >= series.Values.size() || !std::isfinite(series.Values[i])) continue;
       text += std::string(first ? " " : ", ") + series.Name + (series.Name.empty() ? "" : " ") +
-              Number(series.Values[i]);
+              chart.Figure(series.Values[i]);
       first = false;
     }
   }

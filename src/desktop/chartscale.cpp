@@ -75,7 +75,9 @@ int Scale::PlaceAt(double x) const {
 }
 
 QString Scale::Label(int line) const {
-  return OnAxis(LineAt(line), Step, std::max(std::abs(Low), std::abs(High)));
+  const double value = LineAt(line);
+  const QString figures = OnAxis(std::abs(value), Step, std::max(std::abs(Low), std::abs(High)));
+  return (value < -Step / 2 ? "-" : "") + (value == 0 ? QString() : Shown(Unit)) + figures;
 }
 
 Scale ScaleOf(const ui::Chart& chart) {
@@ -91,6 +93,7 @@ Scale ScaleOf(const ui::Chart& chart) {
   if (!chart.Bars) SpreadOut(low, high, whole);
   if (high - low < 1e-9) low -= 1, high += 1;
   Scale scale;
+  scale.Unit = chart.Unit;
   scale.Step = RoundStep((high - low) / kSteps);
   if (whole) scale.Step = std::max(scale.Step, 1.0);
   scale.Low = std::floor(low / scale.Step) * scale.Step;

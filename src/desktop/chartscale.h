@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <span>
+#include <string_view>
 
 #include "ui/controls.h"
 
@@ -16,6 +17,7 @@ struct Scale {
   int Count = 0;  // of places along the axis
   double Low = 0, High = 1, Step = 1;
   std::span<const double> Places;  // along the axis; empty: at equal distances
+  std::string_view Unit;           // what stands before each value
 
   double Slot() const { return Plot.width() / std::max(1, Count); }
   double X(int place) const;

@@ -283,8 +283,7 @@ void ChartView::DrawHover(QPainter& painter, const Scale& scale) const {
   if (at < control_.Captions->size()) words << DatedAlone(control_.Captions.Get()[at]);
   for (const auto& series : control_.Lines.Get()) {
     if (at >= series.Values.size() || !std::isfinite(series.Values[at])) continue;
-    const QString number = QString::number(
-        series.Values[at], 'f', series.Values[at] == std::floor(series.Values[at]) ? 0 : 2);
+    const QString number = Shown(control_.Figure(series.Values[at]));
     words << (series.Name.empty() ? number : Shown(series.Name) + " " + number);
     if (!control_.Bars)
       DrawBox(painter, QRectF(scale.X(hover_) - 4, scale.Y(series.Values[at]) - 4, 8, 8),
@@ -309,7 +308,8 @@ void ChartView::DrawWords(QPainter& painter) const {
     QStringList words;
     for (const auto& series : control_.Lines.Get())
       if (place < series.Values.size() && std::isfinite(series.Values[place]))
-        words << (Shown(series.Name) + " " + Short(series.Values[place])).trimmed();
+        words
+            << (Shown(series.Name) + " " + Shown(control_.Figure(series.Values[place]))).trimmed();
     const QString when = place < captions.size() ? DatedAlone(captions[place]) + ": " : QString();
     if (!words.isEmpty()) lines << when + words.join(", ");
   }

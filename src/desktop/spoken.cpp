@@ -31,10 +31,6 @@ bool IsNamed(QWidget& widget) {
   return spoken && !spoken->text(QAccessible::Name).isEmpty();
 }
 
-QString Number(double value) {
-  return QString::number(value, 'f', value == std::floor(value) ? 0 : 2);
-}
-
 }  // namespace
 
 void Means(QWidget& widget, QAccessible::Role role) {
@@ -75,7 +71,8 @@ QString WordsFor(const ui::Chart& chart) {
     words << QString("%1: %2 values, %3 to %4, now %5")
                  .arg(series.Name.empty() ? QString("Values") : Shown(series.Name))
                  .arg(values.size())
-                 .arg(Number(low), Number(high), Number(values.back()));
+                 .arg(Shown(chart.Figure(low)), Shown(chart.Figure(high)),
+                      Shown(chart.Figure(values.back())));
   }
   return words.isEmpty() ? QString("Nothing to show yet.") : words.join("; ");
 }

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
+#include "records/fields/grouping.h"
 #include "ui/screen.h"
 
 namespace grapplemont::ui {
@@ -96,6 +98,14 @@ void ComboBox::SelectKey(int key) {
 
 Chart::Chart(Screen& screen, std::string name, bool bars)
     : Control(screen, std::move(name), Kind::Chart), Bars(bars) {}
+
+std::string Chart::Figure(double value) const {
+  const long long hundredths = std::llround(std::abs(value) * 100);
+  std::string text = (value < 0 ? "-" : "") + Unit + Grouped(hundredths / 100);
+  if (const int rest = static_cast<int>(hundredths % 100); rest > 0)
+    text += (rest < 10 ? ".0" : ".") + std::to_string(rest);
+  return text;
+}
 
 Report::Report(Screen& screen, std::string name) : Control(screen, std::move(name), Kind::Report) {}
 

@@ -319,6 +319,9 @@ class Chart : public Control {
   Chart(Screen& screen, std::string name, bool bars = false);
   bool Bars;
   bool Thin = false;  // one line from 0 to 100 without an axis, as high as a line of words
+  std::string Unit;   // what stands before a value: "$"
+  /// A value as it is read: "-$1,284,500", "3.62".
+  std::string Figure(double value) const;
   Property<std::vector<std::string>> Captions{Changes(), {}};  // one a value, below the axis
   Property<std::vector<Series>> Lines{Changes(), {}};
   Property<std::vector<Band>> Bands{Changes(), {}};

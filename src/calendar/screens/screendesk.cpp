@@ -61,6 +61,7 @@ DeskCards::DeskCards(ui::Screen& screen, Game& game)
                    [this] { OpenWorkerOf(lstcontracts); }),
       chtimage(screen, "chtimage"),
       chtmoney(screen, "chtmoney") {
+  chtmoney.Unit = "$";
   lstchampions.EmptyText = "Nobody holds a Title. Award one on the Titles page.";
   lstfeuds.EmptyText = "No feud is on. Start one on the Feuds page.";
   lsthurt.EmptyText = "Everybody is fit.";
