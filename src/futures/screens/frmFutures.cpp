@@ -45,14 +45,15 @@ class frmFutures : public GameScreen {
   }
 
   ui::Page Layout() override {
-    ui::Page page = PageOf(ui::Rows({ui::Group("", {ui::Columns({ui::Field("How far", cmbyears),
-                                                                 playing_.Layout().Grow()})}),
-                                     ui::Tabs({ui::Group("Your promotion", {Own()}),
-                                               ui::Group("Champions", {ui::Grow(lsttitles)}),
-                                               ui::Group("Promotions", {ui::Grow(lstfeds)})})
-                                         .Grow(),
-                                     lblassumes}),
-                           &lblfacts, {&cmdexport, &playing_.Stop()}, &cmdplay);
+    ui::Page page = PageOf(
+        ui::Rows({ui::Group("", {ui::Columns(
+                                    {ui::Field("How far", cmbyears), playing_.Layout().Grow()})}),
+                  ui::Tabs({ui::Group("Your promotion", {Own()}), spread_.Table("In figures"),
+                            ui::Group("Champions", {ui::Grow(lsttitles)}),
+                            ui::Group("Promotions", {ui::Grow(lstfeds)})})
+                      .Grow(),
+                  lblassumes}),
+        &lblfacts, {&cmdexport, &playing_.Stop()}, &cmdplay);
     page.Then = &playing_.Stop();  // or a second Enter would end the day
     return page;
   }
@@ -71,12 +72,10 @@ class frmFutures : public GameScreen {
 
  private:
   ui::Box Own() {
-    return ui::Rows({ui::Columns({spread_.Picture().Grow(3),
-                                  ui::Rows({ui::Group("", {ui::Grow(lstsizes)}).Grow(1),
-                                            ui::Group("", {ui::Grow(lstchances)}).Grow(2)})
-                                      .Grow(2)})
-                         .Grow(3),
-                     spread_.Table().Grow(2)})
+    return ui::Columns(
+               {spread_.Picture().Grow(3), ui::Rows({ui::Group("", {ui::Grow(lstsizes)}).Grow(2),
+                                                     ui::Group("", {ui::Grow(lstchances)}).Grow(3)})
+                                               .Grow(2)})
         .Grow();
   }
 

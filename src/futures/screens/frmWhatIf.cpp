@@ -10,6 +10,7 @@ namespace grapplemont {
 namespace {
 
 constexpr int kThreeMonths = 91;
+constexpr std::pair kNobody{0, 0};  // of the pairs of worlds, neither answer is ahead in any
 const std::vector<std::string> kYesAndNo{"Yes", "No"};
 
 /// A question, answered both ways in a hundred worlds.
@@ -41,7 +42,7 @@ class frmWhatIf : public GameScreen {
                                     ui::Group("What can happen", {ui::Grow(lstchances)}).Grow(1)})
                               .Grow(2)})
                  .Grow(3),
-             spread_.Table().Grow(2), lblassumes}),
+             spread_.Table("The same in figures").Grow(2), lblassumes}),
         &lblfacts, {&cmdexport}, &playing_.Stop());  // what has been played until then is kept
     page.Then = &cmdback;
     page.Large = true;
@@ -79,20 +80,24 @@ class frmWhatIf : public GameScreen {
   /// Who is ahead where chance was the same.
   static std::string PairsText(const PlayedWorlds& worlds) {
     const auto pairs = static_cast<int>(worlds.Lives.front().size());
-    return "After three months the image ends " +
-           AheadText(PairsWon(worlds.Lives, Measure::Image, *worlds.Morning), pairs) +
-           "; the money ends " +
-           AheadText(PairsWon(worlds.Lives, Measure::Money, *worlds.Morning), pairs) + ".";
+    const std::pair image = PairsWon(worlds.Lives, Measure::Image, *worlds.Morning);
+    const std::pair money = PairsWon(worlds.Lives, Measure::Money, *worlds.Morning);
+    if (image == kNobody && money == kNobody)
+      return "Your answer makes no difference in three months: image and money end the same" +
+             InAll(pairs) + ".";
+    return "After three months the image ends " + AheadText(image, pairs) + "; the money ends " +
+           AheadText(money, pairs) + ".";
   }
 
-  /// "higher with No in all 100 pairs", "the same in all 100 pairs", "higher with Yes in 61 of 100
-  /// pairs, with No in 30".
+  static std::string InAll(int pairs) { return " in all " + Counted(pairs, "pair"); }
+
+  /// "higher with No in all 100 pairs", "the same in all 100 pairs (your answer makes no
+  /// difference)", "higher with Yes in 61 of 100 pairs, with No in 30".
   static std::string AheadText(std::pair<int, int> won, int pairs) {
     const auto [yes, no] = won;
-    const std::string all = " in all " + Counted(pairs, "pair");
-    if (yes == 0 && no == 0) return "the same" + all;
+    if (won == kNobody) return "the same" + InAll(pairs) + " (your answer makes no difference)";
     if (yes == pairs || no == pairs)
-      return (yes == pairs ? "higher with Yes" : "higher with No") + all;
+      return (yes == pairs ? "higher with Yes" : "higher with No") + InAll(pairs);
     return "higher with Yes in " + std::to_string(yes) + " of " + Counted(pairs, "pair") +
            ", with No in " + std::to_string(no);
   }

@@ -50,10 +50,7 @@ ui::Cell PercentCell(int percent, ui::Tone tone) {
 }
 
 std::string Titled(const std::string& answer, const char* what) {
-  if (!answer.empty()) return answer + ", " + what;
-  std::string title = what;
-  title.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(title.front())));
-  return title;
+  return answer + ", " + what;
 }
 
 }  // namespace
@@ -180,7 +177,11 @@ void FillChances(ui::ListBox& list, const std::vector<std::vector<Chance>>& answ
 }
 
 SpreadCard::SpreadCard(ui::Screen& screen)
-    : cmbmeasure(screen, "cmbmeasure", [this] { ShowMeasure(); }),
+    : cmbmeasure(screen, "cmbmeasure",
+                 [this] {
+                   ShowHeadings();
+                   ShowMeasure();
+                 }),
       chtspread(screen, "chtspread"),
       lblbands(screen, "lblbands",
                "The line is the middle world; half of all worlds lie in the strong band, eight in "
@@ -198,18 +199,25 @@ ui::Box SpreadCard::Picture() {
   return ui::Group("", {ui::Field("What", cmbmeasure), lblbands, ui::Grow(chtspread)});
 }
 
-ui::Box SpreadCard::Table() {
-  return ui::Group("The same in figures", {ui::Grow(lstspread)});
+ui::Box SpreadCard::Table(std::string title) {
+  return ui::Group(std::move(title), {ui::Grow(lstspread)});
 }
 
 void SpreadCard::SetAnswers(const std::vector<std::string>& answers) {
+  answers_ = answers;
+  ShowHeadings();
+}
+
+/// One answer alone needs no name: its figures are named by what they measure.
+void SpreadCard::ShowHeadings() {
   std::vector<ui::Column> columns{{"Day", K::Date, 2}};
-  for (const std::string& answer : answers) {
+  for (std::string answer : answers_) {
+    if (answer.empty()) answer = cmbmeasure.Text;
     columns.push_back({Titled(answer, "low"), K::Number, 2, "One world in ten lies below."});
     columns.push_back({Titled(answer, "middle"), K::Number, 2, "Half of all worlds lie below."});
     columns.push_back({Titled(answer, "high"), K::Number, 2, "One world in ten lies above."});
   }
-  if (answers.size() == 2)
+  if (answers_.size() == 2)
     columns.push_back(
         {"Difference", K::Number, 2, "How far the first answer is ahead in the middle world."});
   lstspread.SetColumns(std::move(columns));
@@ -258,6 +266,7 @@ void SpreadCard::ShowPicture(Measure measure, const std::vector<std::vector<Spre
   }
   std::vector<std::pair<double, std::string>> borders;
   if (measure == Measure::Image && low <= high) borders = ClassBorders(low, high, *worlds_.Morning);
+  chtspread.Unit = measure == Measure::Money ? "$" : "";
   chtspread.Captions = spreads.empty() ? std::vector<std::string>() : CaptionsOf(worlds_.Days);
   chtspread.Places = std::move(places);
   chtspread.Bands = std::move(bands);

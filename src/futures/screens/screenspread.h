@@ -66,16 +66,18 @@ class SpreadCard {
  public:
   explicit SpreadCard(ui::Screen& screen);
   ui::Box Picture();
-  ui::Box Table();
+  ui::Box Table(std::string title);
   /// How many answers there are to be; before the first Show.
   void SetAnswers(const std::vector<std::string>& answers);
   void Show(PlayedWorlds worlds);
 
  private:
+  void ShowHeadings();
   void ShowMeasure();
   void ShowPicture(Measure measure, const std::vector<std::vector<Spread>>& spreads);
   void ShowTable(Measure measure, const std::vector<std::vector<Spread>>& spreads);
 
+  std::vector<std::string> answers_;
   PlayedWorlds worlds_;
   ui::ComboBox cmbmeasure;
   ui::Chart chtspread;
