@@ -231,6 +231,14 @@ std::string ShowsSince(const World& world, Day day) {
   return Counted(shows, "show") + " since, the best " + std::to_string(best) + "%";
 }
 
+/// How far another road went, by the day that the game is at now.
+std::string LeftWhen(Day on, Day today) {
+  const auto days = (on - today).count();
+  if (days == 0) return "left on this day";
+  return "left " + Counted(std::abs(days), "day") +
+         (days > 0 ? " ahead of today" : " before today");
+}
+
 }  // namespace
 
 std::string SinceText(Game& game, const PastMoment& moment) {
@@ -243,7 +251,9 @@ std::string SinceText(Game& game, const PastMoment& moment) {
     text =
         std::string(SizeText(moment.Size)) + " then, " + std::string(SizeText(now.Size)) + " now. ";
   std::vector<std::string> moved;
-  if (!moment.OnOtherRoad && moment.Of.On <= world.Today())
+  if (moment.OnOtherRoad)
+    moved.push_back(LeftWhen(moment.Of.On, world.Today()));
+  else if (moment.Of.On <= world.Today())
     moved.push_back(ShowsSince(world, moment.Of.On));
   if (moment.Image != now.Image)
     moved.push_back("image " + std::to_string(moment.Image) + "%, now " +

@@ -78,7 +78,7 @@ TEST(BackInTime, AMorningIsGoneBackToAndTheRoadLeftReturnedTo) {
   PassDays(play, 4);
   const Bytes end = BytesIn(play);
   play.Desk.Open("frmMornings");
-  EXPECT_FALSE(play.Desk.Enabled("cmdgo"));
+  EXPECT_EQ(play.Desk.Selected("lstmornings"), std::vector{1}) << "the latest, for Enter";
   const auto rows = play.Desk.Rows("lstmornings");
   ASSERT_EQ(rows.size(), 8u);
   EXPECT_TRUE(rows[0][1].starts_with("No show since")) << rows[0][1];
@@ -98,6 +98,7 @@ TEST(BackInTime, AMorningIsGoneBackToAndTheRoadLeftReturnedTo) {
       std::ranges::find_if(after, [](const auto& row) { return row[3] == "A road left"; });
   ASSERT_NE(left, after.end());
   EXPECT_EQ((left + 1)->at(5), "Another road");
+  EXPECT_TRUE(left->at(1).starts_with("Left 3 days ahead of today; ")) << left->at(1);
   play.Desk.Pick("lstmornings", static_cast<int>(left - after.begin()) + 1);
   play.Desk.Click("cmdgo");
   EXPECT_EQ(BytesIn(play), end);

@@ -54,6 +54,7 @@ class frmMornings : public GameScreen {
     const CellColumns<PastMoment> columns = Table();
     lstmornings.SetColumns(HeadingsOf(columns));
     FillPlaces(lstmornings, columns, past_);
+    if (lstmornings.Selected() == 0 && !past_.empty()) lstmornings.Select(1);
     const std::string why = WhyNoWayBack(game_);
     lblfacts.Text = why.empty() ? "Choose where to go back to. What you leave is kept." : why;
     EnableUnless(cmdname, why);
