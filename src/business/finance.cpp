@@ -175,6 +175,13 @@ std::string_view TicketOpinion(int size, int price) {
   return RowUpTo(kOpinions, price - fair).Words;
 }
 
+int DearestFairPrice(int size) {
+  int price = FairTicketPrice(size);
+  const std::string_view fair = TicketOpinion(size, price);
+  while (TicketOpinion(size, price + 1) == fair) ++price;
+  return price;
+}
+
 int ProductionRaiseCost(int production, int number) {
   return RowUpTo(kPrices, production).Cost.at(static_cast<std::size_t>(number - 1));
 }

@@ -76,6 +76,8 @@ constexpr const auto& RowUpTo(const Rows& rows, int value) {
 
 /// What people think a ticket is worth at this size, and what it costs when a game begins.
 int FairTicketPrice(int size);
+/// The highest price that they still call fair.
+int DearestFairPrice(int size);
 
 /// A month's sales of merchandise before the cap.
 int MerchBase(int size, int image);

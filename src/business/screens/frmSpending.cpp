@@ -175,7 +175,8 @@ class frmTicket : public GameScreen {
   void Return() override {
     lblprice.Text = "Current Ticket Prices : $" + std::to_string(player().TicketPrice);
     lblfair.Text = "People expect to pay " + Dollars(FairTicketPrice(player().Size)) +
-                   " at a promotion that is " + std::string(SizeText(player().Size)) + ".";
+                   " at a promotion that is " + std::string(SizeText(player().Size)) +
+                   ", and find up to " + Dollars(DearestFairPrice(player().Size)) + " fair.";
     ShowChoice();
   }
 
