@@ -34,6 +34,7 @@ class frmFed : public GameScreen {
   explicit frmFed(Game& game) : GameScreen(game, "frmFed", "Promotion", {.Manages = true}) {
     for (const Term& day : kWeekDays) cmbmeeting.Add(std::string(day.Says), day.Code);
     txtwhy.Brief = txtwhymomentum.Brief = true;
+    for (ui::Button* button : {&cmdwhy, &cmdwhymomentum, &cmdcommissioner}) button->Plain = true;
   }
 
   ui::Page Layout() override {
@@ -66,7 +67,7 @@ class frmFed : public GameScreen {
                     ui::Field("Momentum", lblmomentum, {&cmdwhymomentum, &txtwhymomentum}),
                     ui::Field("Owner", lblowner), ui::Field("The economy", lbleconomy),
                     ui::Field("Staff meeting", cmbmeeting),
-                    ui::Field("Commissioner", lblcommissioner), cmdcommissioner}),
+                    ui::Field("Commissioner", lblcommissioner, {&cmdcommissioner})}),
          ui::Group("Spending", {ui::WithButtons(lstspending, {&cmdadvertising, &cmdmerch, &cmdprod,
                                                               &cmdtickets})})
              .Grow()});

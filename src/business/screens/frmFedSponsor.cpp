@@ -7,6 +7,7 @@
 #include "records/modWresCheck.h"
 #include "records/whatif.h"
 #include "storylines/screens/screenpeople.h"
+#include "ui/game.h"
 
 namespace grapplemont {
 
@@ -100,11 +101,11 @@ class frmFedSponsor : public GameScreen {
         .Main = &cmd1,
         .Cancel = &cmdback,
         .Body = ui::Columns(
-            {ui::Group("All sponsors", {chkfilter, chkwilling, ui::Grow(lstsponsors)}).Grow(3),
+            {ui::Group("All sponsors", {chkfilter, chkwilling, ui::Grow(lstsponsors)}).Grow(5),
              ui::Rows({ui::Group("Our sponsors", {ui::Grow(lstplaces)}).Grow(2),
                        ui::Group("The deal", {lblsponsor, lblslogan, lbldeal, txtwhy, ui::Spacer()})
                            .Grow(1)})
-                 .Grow(2)})};
+                 .Grow(4)})};
   }
 
   void Return() override {
@@ -163,14 +164,21 @@ class frmFedSponsor : public GameScreen {
     txtwhy.Write("");
     lblsponsor.Text = sponsor ? sponsor->Name.Str() : "Choose a sponsor.";
     lblslogan.Text = sponsor ? sponsor->Slogan.Str() : "";
-    lbldeal.Text = !sponsor ? ""
-                   : place != 0
-                       ? "To end the deal now would cost " + Dollars(EndingCost(*sponsor)) + "."
-                       : "Pays " + Dollars(SponsorPayForTv(*sponsor, true) * 1000LL) +
-                             " a television show as the main sponsor, " +
-                             Dollars(SponsorPayForTv(*sponsor, false) * 1000LL) +
-                             " as a minor one, and " + Dollars(sponsor->Pay * 1000LL) +
-                             " an Event as either.";
+    lbldeal.Text = !sponsor     ? ""
+                   : place != 0 ? "To end the deal now would cost " +
+                                      Dollars(EndingCost(*sponsor)) + "." + StaysText(place)
+                                : "Pays " + Dollars(SponsorPayForTv(*sponsor, true) * 1000LL) +
+                                      " a television show as the main sponsor, " +
+                                      Dollars(SponsorPayForTv(*sponsor, false) * 1000LL) +
+                                      " as a minor one, and " + Dollars(sponsor->Pay * 1000LL) +
+                                      " an Event as either.";
+  }
+
+  /// Why a sponsor of ours keeps its place; empty where it could change.
+  std::string StaysText(int place) {
+    if (WhyNotFirst(chosen(), place).empty()) return {};
+    return place == kMainSponsor ? " They stay our main sponsor while we have three minor ones."
+                                 : " They stay a minor sponsor while we have a main one.";
   }
 
   /// Why the sponsor cannot be talked to at all.

@@ -59,6 +59,8 @@ class frmFinance : public GameScreen {
  public:
   explicit frmFinance(Game& game) : GameScreen(game, "frmFinance", "Finance", {.Manages = true}) {
     lstmonths.EmptyText = "Each month stands here once it has ended.";
+    chtmoney.Unit = "$";
+    lstbooks.Room = 11;  // of a fixed number that are read, not searched
     BackBefore(cmdnotepad);
   }
 
@@ -111,7 +113,8 @@ class frmFinance : public GameScreen {
     const BesideLine total = BesideTotal(world());
     for (const BesideLine& line : BesideLines(world()))
       rows.push_back({line.Why, line.Last, line.Present});
-    if (rows.back().Title == balance.Title) return;
+    lblbeside.Visible = rows.back().Title != balance.Title;
+    if (!lblbeside.Visible) return;
     rows.push_back({total.Why, total.Last, total.Present, Tone::Gold, SumTone});
     rows.push_back({"The money moved by", balance.Last + total.Last,
                     balance.Present + total.Present, Tone::Gold, BalanceTone});
@@ -137,9 +140,8 @@ class frmFinance : public GameScreen {
   ui::ListBox lstbooks{*this, "lstbooks", HeadingsOf(kBookTable)};
   ui::Label lblbeside{
       *this, "lblbeside",
-      "Loans, donations, better production, camps and territories, legal payments, "
-      "an Event's extras, the price of calling one off and a small month's ventures "
-      "are outside the books: they stand below the balance."};
+      "What is outside the books, such as loans, donations and building, stands below the "
+      "balance."};
   ui::Chart chtmoney{*this, "chtmoney"};
   ui::ListBox lstmonths{*this, "lstmonths", HeadingsOf(kMonthTable)};
   ui::Button cmdnotepad{*this, "cmdnotepad", "Notepad", [this] { desk().Open("frmNotepad"); }};
@@ -214,6 +216,7 @@ class frmWages : public GameScreen {
     for (const Staff& staff : world().AllStaff())
       if (staff.Employer == world().PlayerUid() && staff.Position != kOwner)
         rows.push_back(WageOf(staff, -staff.Uid, "Staff", Says(kStaffPositions, staff.Position)));
+    std::ranges::stable_sort(rows, std::ranges::greater(), &WageRow::Wage);
     FillTable(lstwages, kWageTable, rows);
     const WageBill bill = WagesOf(world(), world().PlayerUid());
     lblworkers.Text = Dollars(bill.Workers) + " a month";
@@ -251,7 +254,7 @@ class frmLoan : public GameScreen {
   }
 
   ui::Page Layout() override {
-    return PageOf(ui::Group("", {txtstatus, ui::Field("In steps of $100000", hsamount),
+    return PageOf(ui::Group("", {txtstatus, ui::Field("In steps of $100,000", hsamount),
                                  ui::Field("Amount", lblamount), ui::Field("Each month", txtcost),
                                  ui::Columns({lblfor, lblterm, ui::Spacer()}), lblstate,
                                  ui::Columns({cmdwhy, cmdwhynot, ui::Spacer()}), txtwhy}),
