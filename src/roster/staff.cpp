@@ -329,15 +329,14 @@ std::vector<PostCount> PostCounts(const World& world) {
   return posts;
 }
 
-std::string PostLine(const std::vector<PostCount>& posts) {
-  const std::string joint = "\xA0";  // a line does not break here
-  std::string line;
+std::string PostLines(const std::vector<PostCount>& posts) {
+  std::string lines;
   for (const PostCount& post : posts) {
-    line += (line.empty() ? "" : ", ") + std::string(PostOf(post.Post).Plural) + joint +
-            std::to_string(post.Have);
-    if (post.Need > 0) line += joint + "(" + std::to_string(post.Need) + joint + "needed)";
+    lines += (lines.empty() ? "" : "\n") + std::string(PostOf(post.Post).Plural) + " " +
+             std::to_string(post.Have);
+    if (post.Need > 0) lines += " (" + std::to_string(post.Need) + " needed)";
   }
-  return line + ".";
+  return lines;
 }
 
 std::string PostAdvice(const std::vector<PostCount>& posts) {

@@ -64,8 +64,8 @@ inline bool IsShort(const PostCount& post) {
 }
 /// Every post but the Owner's, in the order of their codes.
 std::vector<PostCount> PostCounts(const World& world);
-/// "Announcers 1 (1 needed), Referees 2, ..." and what to do about posts that lack hands.
-std::string PostLine(const std::vector<PostCount>& posts);
+/// "Announcers 1 (1 needed)" and so on, a line each, and what to do about posts that lack hands.
+std::string PostLines(const std::vector<PostCount>& posts);
 std::string PostAdvice(const std::vector<PostCount>& posts);
 
 }  // namespace grapplemont

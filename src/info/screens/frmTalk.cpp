@@ -33,8 +33,8 @@ class frmTalk : public GameScreen {
   explicit frmTalk(Game& game) : GameScreen(game, "frmTalk", "Staff Meeting") { BackBefore(cmdgo); }
 
   ui::Page Layout() override {
-    return PageOf(ui::Columns({ui::Group("On the table", {ui::Grow(lsttalk)}).Grow(6),
-                               ui::Group("", {ui::Grow(txtsays)}).Grow(5)}),
+    return PageOf(ui::Columns({ui::Group("On the table", {ui::Grow(lsttalk)}).Grow(3),
+                               ui::Group("", {ui::Grow(txtsays)}).Grow(2)}),
                   &lblfacts, {}, &cmdgo);
   }
 

@@ -112,7 +112,7 @@ class frmCompare : public GameScreen {
     txtadd.Hint = "Part of anybody's name";
     txtadd.OnChange = [this] { ShowChoices(); };
     // All of it is seen at once in a window of the usual size.
-    lstcompare.Room = 11;  // of a fixed number that are read, not searched
+    lstcompare.Room = 8;  // of a fixed number that are read, not searched
     lstmeetings.Room = 2;
     txtword.Room = 3;
     lstmeetings.EmptyText = "Add somebody to see how they did against each other.";

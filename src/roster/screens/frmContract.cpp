@@ -32,7 +32,7 @@ class frmWresContract : public TalkWith<Worker> {
     for (ui::Box& part : WhyParts()) offered.push_back(std::move(part));
     return TalkPage({ui::Rows({ui::Group("The contract", std::move(now)),
                                ui::Group("Your offer", std::move(offered)), ui::Spacer()})
-                         .Grow(1)},
+                         .Grow(2)},
                     {&cmdterminate, &cmdrelease}, cmdoffer);
   }
 
@@ -135,7 +135,7 @@ class frmOtherContract : public TalkWith<Worker> {
                                                       ui::Field("Name", txtnewname),
                                                       ui::Field("Short name", txtnewname2)}),
                                ui::Spacer()})
-                         .Grow(1)},
+                         .Grow(2)},
                     {}, cmdoffer);
   }
 
@@ -241,7 +241,7 @@ class StaffTalk : public TalkWith<Staff> {
     for (ui::Box& part : WhyParts()) offered.push_back(std::move(part));
     return TalkPage({ui::Rows({ui::Group(own_ ? "The contract" : "Wanted of you", terms_.Fields()),
                                ui::Group("Your offer", std::move(offered)), ui::Spacer()})
-                         .Grow(1)},
+                         .Grow(2)},
                     {}, cmdoffer);
   }
 

@@ -104,7 +104,7 @@ class frmStaff : public StaffListScreen {
     EnableUnless(cmdcontract, why);
     EnableUnless(cmdfire, why);
     const std::vector<PostCount> posts = PostCounts(world());
-    lblposts.Text = PostLine(posts);
+    lblposts.Text = PostLines(posts);
     lbladvice.Text = PostAdvice(posts);
     lblfacts.Text = std::to_string(lststaff.Count()) + " on the staff, " +
                     Dollars(WagesOf(world(), world().PlayerUid()).Staff) + " a month.";

@@ -103,7 +103,7 @@ bool TalkScreen::GoesOn() {
 
 ui::Page TalkScreen::TalkPage(std::vector<ui::Box> beside, std::vector<ui::Button*> actions,
                               ui::Button& offer) {
-  beside.insert(beside.begin(), ui::Group("", {ui::Grow(txtpage)}).Grow(1).AfterOthers());
+  beside.insert(beside.begin(), ui::Group("", {ui::Grow(txtpage)}).Grow(3).AfterOthers());
   ui::Page page = PageOf(ui::Columns(std::move(beside)), &lblfacts, std::move(actions), &offer);
   page.Large = true;
   return page;
