@@ -22,6 +22,7 @@ class frmFamilyTree : public GameScreen {
  public:
   explicit frmFamilyTree(Game& game, Lineage first = {})
       : GameScreen(game, "frmFamilyTree", "Family Trees"), first_(std::move(first)) {
+    lblteams.Colour = ui::Tone::Muted;
     lstreigns.EmptyText = "Nobody has held it yet.";
     lstpeople.EmptyText = "Nobody has wrestled in a team yet.";
     lsttree.EmptyText = "Choose somebody to see their partners.";
@@ -31,7 +32,7 @@ class frmFamilyTree : public GameScreen {
     return PageOf(ui::Tabs({ui::Box(ui::Box::Kind::Group, "Titles",
                                     {ui::Field("Title", cmbtitle), ui::Grow(lstreigns)}),
                             ui::Box(ui::Box::Kind::Columns, "Teams",
-                                    {ui::Group("Who", {ui::Grow(lstpeople)}).Grow(2),
+                                    {ui::Group("Who", {lblteams, ui::Grow(lstpeople)}).Grow(2),
                                      ui::Group("Partners", {ui::Grow(lsttree)}).Grow(7)})}),
                   &lblfacts, {&cmdpage});
   }
@@ -65,7 +66,8 @@ class frmFamilyTree : public GameScreen {
     const int last =
         reigns_.empty() ? 0 : std::ranges::max_element(reigns_, {}, &TreeReign::Number)->Number;
     lblfacts.Text =
-        (HaveReignsGone(world()) ? "At least " : "") + Counted(last, "reign") + " of this Title. " +
+        (HaveReignsGone(world()) ? "At least " : "") + Counted(last, "reign") + " of this Title.";
+    lblteams.Text =
         Counted(static_cast<int>(people_.size()), "person", "people") + " wrestled in teams.";
     ShowButtons();
   }
@@ -184,6 +186,7 @@ class frmFamilyTree : public GameScreen {
       {{"Defences", K::Number},
        [](const TreePair& pair) { return NumberOrNothing(pair.Pair->Defences); }}};
   ui::Label lblfacts{*this, "lblfacts"};
+  ui::Label lblteams{*this, "lblteams"};
   ui::ComboBox cmbtitle{*this, "cmbtitle", &frmFamilyTree::ShowReigns};
   ui::Button cmdpage{*this, "cmdpage", "Open Page", &frmFamilyTree::cmdpage_Click};
   ui::ListBox lstreigns{*this, "lstreigns", HeadingsOf(reignTable_),

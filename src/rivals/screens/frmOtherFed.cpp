@@ -19,6 +19,7 @@ namespace {
 
 using K = ui::ColumnKind;
 
+constexpr int kLettersOfFacts = 50;  // beside which a table has room
 /// Month ends that the chart shows.
 constexpr int kChartMonths = 36;
 
@@ -56,7 +57,10 @@ class PromotionSheets {
 
   ui::Box Layout() {
     return ui::Tabs(
-        {ui::Group("Overview", {txtabout, ui::Group("Sponsors", {ui::Grow(lstsponsors)}).Grow()}),
+        {ui::Group("Overview", {ui::Columns({ui::Rows({txtabout, ui::Spacer()}).Grow(),
+                                             ui::Group("Sponsors", {ui::Grow(lstsponsors)}).Grow()})
+                                    .Wide(kLettersOfFacts)
+                                    .Grow()}),
          ui::Group("Roster", {ui::Grow(lstroster)}), ui::Group("Staff", {ui::Grow(lststaff)}),
          ui::Group("Shows", {ui::Grow(lstshows), ui::Grow(lstevents)}),
          ui::Group("Titles", {ui::Grow(lsttitles)}),
