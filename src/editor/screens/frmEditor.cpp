@@ -58,7 +58,7 @@ class frmEditor : public GameScreen {
     page.Main = &cmdback;
     page.Cancel = &cmdback;
     page.Body =
-        ui::Columns({ui::Rows({ui::Group("Records", std::move(records)), ui::Spacer()}).Grow(2),
+        ui::Columns({ui::Rows({ui::Group("Records", std::move(records)), ui::Spacer()}).Grow(3),
                      ui::Rows({ui::Group("Files", {ui::Rows(std::move(works))}),
                                ui::Group("Faults", {ui::Grow(lstfaults)}).Grow()})
                          .Grow(5)});

@@ -113,8 +113,8 @@ ui::Page RecordScreen::Layout() {
   page.Main = &cmdsave;
   page.Cancel = &cmdback;
   page.Body =
-      ui::Columns({ui::Group("", {txtsearch, ui::Grow(lstrecords)}).Grow(5),
-                   ui::Rows({lblrecord, lblfault, form_.Body().Grow(), ui::Spacer()}).Grow(6)});
+      ui::Columns({ui::Group("", {txtsearch, ui::Grow(lstrecords)}).Grow(),
+                   ui::Rows({lblrecord, lblfault, form_.Body().Grow(), ui::Spacer()}).Grow()});
   return page;
 }
 
