@@ -62,6 +62,29 @@ TEST(AutoBooker, NeverMixesMenAndWomenAndKeepsTitlesToThoseTheyAreFor) {
   });
 }
 
+TEST(AutoBooker, FindsPairsForTagTitlesWhereTeamsAreLacking) {
+  World world = House(20)
+                    .Team("The Firsts", "Hand 1", "Hand 3")
+                    .Title("Pillars", {}, {}, [](Title& t) { t.Singles = false; })
+                    .Title("Roses", {}, {}, [](Title& t) { t.Singles = false, t.Woman = true; })
+                    .Game("CWA");
+  for (int hand = 11; hand <= 20; ++hand)
+    Named(world.Workers(), "Hand " + std::to_string(hand)).Gender = false;
+  CardsWith(world, true, kEventRows, [&](const AutoCard& card) {
+    for (const bool women : {false, true}) {
+      const Segment* match = TitleMatch(card, women ? "Roses" : "Pillars");
+      EXPECT_TRUE(match && match->Style == kTag && match->Winner != 0);
+      if (!match) continue;
+      const auto who = [&](int place) -> const Worker& {
+        return *world.FindWorker(match->Worker[static_cast<std::size_t>(place)]);
+      };
+      for (const int place : {0, 1, 2, 3}) EXPECT_EQ(women, !who(place).Gender);
+      for (const int place : {0, 2}) EXPECT_EQ(who(place).Disposition, who(place + 1).Disposition);
+    }
+    return true;
+  });
+}
+
 TEST(AutoBooker, LetsTheTiredRestWhereOthersAreThere) {
   World world = House(30).Game("CWA");
   Worker& tired = Named(world.Workers(), "Hand 1");

@@ -1,4 +1,7 @@
 #include <algorithm>
+#include <map>
+#include <utility>
+#include <vector>
 
 #include "booking/auto/automatches.h"
 #include "records/fields/fields.h"
@@ -144,21 +147,49 @@ bool FillVacancy(AutoPlan& plan, const Title& title) {
   return false;
 }
 
-/// The teams that may challenge these two, best first.
-std::vector<const Team*> Challengers(AutoPlan& plan, const Team& champions) {
+bool MayHold(const World& world, const Title& title, const Team& team) {
+  return FitsTitle(title, *world.FindWorker(team.Worker1)) &&
+         FitsTitle(title, *world.FindWorker(team.Worker2));
+}
+
+/// Teams that are ready for it, the most popular first; where there are not two, neighbours on the
+/// card who are both cheered, or both booed, pair up for the night as well.
+std::vector<Team> PairsFor(const AutoPlan& plan, const Title& title) {
+  std::vector<Team> pairs;
+  for (const Team* team : ReadyTeams(plan))
+    if (MayHold(plan.World, title, *team)) pairs.push_back(*team);
+  if (pairs.size() > 1) return pairs;
+  std::map<std::pair<bool, bool>, const Worker*> waiting;
+  for (const Worker* worker : plan.Pool.Wrestlers()) {
+    if (!FitsTitle(title, *worker) || !worker->Debuted) continue;
+    const Worker*& partner = waiting[{worker->Gender, worker->Disposition == "H"}];
+    if (partner) {
+      Team& pair = pairs.emplace_back();
+      pair.Worker1 = int(partner->Uid);
+      pair.Worker2 = int(worker->Uid);
+    }
+    partner = partner ? nullptr : worker;
+  }
+  return pairs;
+}
+
+/// Those who may challenge these two, best first.
+std::vector<const Team*> Challengers(AutoPlan& plan, const std::vector<Team>& pairs,
+                                     const Team& champions) {
   std::vector<std::pair<int, const Team*>> ranked;
-  for (const Team* team : ReadyTeams(plan)) {
-    int score = TeamScore(plan, champions, *team);
+  for (const Team& team : pairs) {
+    int score = TeamScore(plan, champions, team);
     if (score <= kNoPair) continue;
-    if (TeamsFeud(plan, champions, *team)) score += kFeudsForIt;
-    ranked.emplace_back(score, team);
+    if (TeamsFeud(plan, champions, team)) score += kFeudsForIt;
+    ranked.emplace_back(score, &team);
   }
   return BestOf(std::move(ranked));
 }
 
-bool DefendTag(AutoPlan& plan, const Title& title, const Team& champions, bool change,
-               bool vacant) {
-  for (const Team* team : Challengers(plan, champions)) {
+bool DefendTag(AutoPlan& plan, const Title& title, const std::vector<Team>& pairs,
+               const Team& champions, bool change) {
+  const bool vacant = title.Holder == 0;
+  for (const Team* team : Challengers(plan, pairs, champions)) {
     Segment match = TeamMatch(champions, *team);
     match.TitleName = title.Name;
     if (vacant ? BookMatch(plan, match, {.Changes = true})
@@ -170,6 +201,7 @@ bool DefendTag(AutoPlan& plan, const Title& title, const Team& champions, bool c
 }
 
 bool BookTagTitle(AutoPlan& plan, const Title& title, bool change) {
+  const std::vector<Team> pairs = PairsFor(plan, title);
   if (title.Holder != 0) {
     // The champions need not be a team of the records.
     Team champions{};
@@ -178,11 +210,10 @@ bool BookTagTitle(AutoPlan& plan, const Title& title, bool change) {
     for (const Team& team : plan.World.Teams())
       if (IsTeamOf(team, title.Holder, title.Partner)) champions = team;
     return plan.Pool.MayWrestle({title.Holder, title.Partner}) &&
-           DefendTag(plan, title, champions, change, false);
+           DefendTag(plan, title, pairs, champions, change);
   }
-  for (const Team* team : ReadyTeams(plan))
-    if (DefendTag(plan, title, *team, false, true)) return true;
-  return false;
+  return std::ranges::any_of(
+      pairs, [&](const Team& team) { return DefendTag(plan, title, pairs, team, false); });
 }
 
 bool BookTitle(AutoPlan& plan, const Title& title) {
