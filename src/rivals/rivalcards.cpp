@@ -7,11 +7,13 @@
 
 #include "records/fields/fields.h"
 #include "records/segments.h"
+#include "rivals/corners.h"
 #include "rivals/grudges.h"
 #include "rivals/rivals.h"
 #include "rivals/tuning.h"
 #include "roster/postings.h"
 #include "storylines/lineages.h"
+#include "storylines/partners.h"
 #include "storylines/titles.h"
 
 namespace grapplemont {
@@ -19,18 +21,6 @@ namespace grapplemont {
 namespace {
 
 constexpr int kMatchesDropped = 500;
-
-/// A worker, or two of them.
-struct Corner {
-  Worker* First = nullptr;
-  Worker* Second = nullptr;
-
-  int Size() const { return Second ? 2 : 1; }
-  int Over() const { return Second ? (First->Over + Second->Over) / 2 : int(First->Over); }
-  int Skill() const {
-    return Second ? (BestSkillOf(*First) + BestSkillOf(*Second)) / 2 : BestSkillOf(*First);
-  }
-};
 
 struct CardBout {
   Corner Red, Blue;  // a champion is Red
@@ -138,9 +128,16 @@ class CardMaker {
       if (title.Owner == rival_.Uid && !title.Suspended) titles.push_back(&title);
     std::ranges::stable_sort(titles, [](auto* a, auto* b) { return a->Image > b->Image; });
     for (Title* title : titles)
-      if (HasRoom() &&
-          (IsEvent() || OneIn(title->Holder == 0 ? tuning::kVacancyIn : tuning::kDefenceIn)))
+      if (HasRoom() && (IsEvent() || IsGivenUp(*title) ||
+                        OneIn(title->Holder == 0 ? tuning::kVacancyIn : tuning::kDefenceIn)))
         BookTitle(*title);
+  }
+
+  /// Whoever leaves at the end of the month loses it before they go.
+  bool IsGivenUp(const Title& title) const {
+    const Worker *holder = world_.FindWorker(title.Holder),
+                 *partner = world_.FindWorker(title.Partner);
+    return (holder && IsLeaving(*holder)) || (partner && IsLeaving(*partner));
   }
 
   void BookTitle(Title& title) {
@@ -177,17 +174,19 @@ class CardMaker {
   std::vector<Corner> Singles(const Title& title) const {
     std::vector<Corner> found;
     for (Worker* worker : free_)
-      if (FitsTitle(title, *worker)) found.push_back({worker});
+      if (MayWin(title, *worker)) found.push_back({worker});
     return found;
   }
 
-  /// Teams that stand; where there are not two, neighbours on the card pair up for the night.
+  /// Teams that stand; where no two may meet, neighbours on the card pair up for the night.
   std::vector<Corner> Pairs(const Title& title) const {
     std::vector<Corner> found;
     for (const Corner& team : teams_)
-      if (IsFree(team) && FitsTitle(title, *team.First) && FitsTitle(title, *team.Second))
+      if (IsFree(team) && MayWin(title, *team.First) && MayWin(title, *team.Second))
         found.push_back(team);
-    if (found.size() > 1) return found;
+    for (const Corner& team : found)
+      if (std::ranges::any_of(found, [&](const Corner& other) { return MayMeet(team, other); }))
+        return found;
     const std::vector<Corner> alone = Singles(title);
     for (std::size_t i = 0; i + 1 < alone.size(); ++i) {
       if (bool(alone[i].First->Gender) != bool(alone[i + 1].First->Gender)) continue;
@@ -195,14 +194,6 @@ class CardMaker {
       ++i;
     }
     return found;
-  }
-
-  static bool MayMeet(const Corner& one, const Corner& two) {
-    const auto isIn = [&](const Worker* worker) {
-      return worker && (worker == two.First || worker == two.Second);
-    };
-    return bool(one.First->Gender) == bool(two.First->Gender) && !isIn(one.First) &&
-           !isIn(one.Second);
   }
 
   int HeatBetween(const Corner& one, const Corner& two) const {
@@ -264,6 +255,7 @@ class CardMaker {
   // The night.
 
   bool IsLost(const Title& title) {
+    if (IsGivenUp(title)) return true;
     const int drawn = world_.Life().Draw(100);
     if (show_ == kUnseenTv) return drawn <= tuning::kTvUpset;
     if (show_ == kUnseenHouseShow) return false;
@@ -365,9 +357,7 @@ class CardMaker {
   void GainExperience(const CardBout& bout) {
     for (const Corner& corner : {bout.Red, bout.Blue})
       for (Team& team : world_.Teams())
-        if ((team.Worker1 == corner.First->Uid && team.Worker2 == corner.Second->Uid) ||
-            (team.Worker2 == corner.First->Uid && team.Worker1 == corner.Second->Uid))
-          ++team.Experience;
+        if (IsTeamOf(team, corner.First->Uid, corner.Second->Uid)) ++team.Experience;
   }
 
   World& world_;

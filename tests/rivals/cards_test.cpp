@@ -81,6 +81,18 @@ TEST(RivalTitles, FindChampionsAmongThoseWhoMayHoldThem) {
   EXPECT_EQ(Named(world.Titles(), "CWA Crown").Holder, 0) << "the player books their own";
 }
 
+TEST(RivalTitles, AreLostBeforeTheirChampionLeavesToSomebodyWhoStays) {
+  World world = TitleNight();
+  Named(world.Workers(), "Best").ContractMonths = 1;
+  Named(world.Workers(), "Second").ContractMonths = 1;
+  // Of a house show no draw says whether it is at stake there, nor who loses it.
+  ScriptLife(world, {{1, 1}, {13, 7}, {3, 2}});
+  HoldCard(world, Rival(world), kUnseenHouseShow);
+  EXPECT_EQ(LastLine(world), "Third beat Best to win the XWF Crown");
+  EXPECT_EQ(Belt(world).Reigns[0].Holder.Str(), "Third");
+  EXPECT_EQ(FaultsOf(world), "");
+}
+
 TEST(RivalTitles, WaitForAChampionWhoIsHurt) {
   World world = TitleNight();
   Named(world.Workers(), "Best").Status = "Inj";
