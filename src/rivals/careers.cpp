@@ -40,7 +40,7 @@ int PaceOf(const Worker& worker, const Gift& gift) {
 }
 
 void Learn(World& world, Worker& worker, const Gift& gift) {
-  if (worker.Employer == 0 && IsOneIn(world, 2)) return;
+  if (worker.Employer == 0 && IsOneIn(world, tuning::kFreeMissIn)) return;
   const std::size_t style = StyleOf(worker);
   const int pace = PaceOf(worker, gift);
   for (std::size_t i = 0; i < kSkills.size(); ++i) {

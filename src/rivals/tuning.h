@@ -38,7 +38,9 @@ inline constexpr int kLeastAsked = 2;
 /// A week's house show, in dollars: half of it is sure and the rest a matter of image.
 inline constexpr std::array<int, 6> kHouseShow = {400000, 200000, 80000, 120000, 85000, 2500};
 /// Workers needed for one, and the most condition that it takes from each.
-inline constexpr int kHouseShowCrew = 8;
+inline constexpr int kHouseShowCrew = 6;
+static_assert(kRosters.back().Least * kLeastWhileSaving / 100 > kHouseShowCrew,
+              "without cards who saves would earn nothing, and nobody would win its Titles");
 inline constexpr int kHouseShowWear = 3;
 
 /// A new promotion has Titles from this roster on.
@@ -146,6 +148,8 @@ inline constexpr int kCeilingDraw = 21;
 inline constexpr int kGreatGift = 84;
 /// Skills beside the strongest go this far, in percent of the ceiling.
 inline constexpr int kSideSkill = 65;
+/// Whoever works for nobody misses one quarter of practice in this many.
+inline constexpr int kFreeMissIn = 3;
 /// In one of this many quarters of practice charisma gains a point.
 inline constexpr int kTalkLearnedIn = 5;
 /// One in this many blooms late, and one in this many is lost promise.
@@ -161,7 +165,7 @@ inline constexpr int kHardYears = 14;
 
 /// Deserved Over is this many percent of talent, with what the class of the employer adds, and no
 /// more than it lets anybody have.
-inline constexpr int kTalentCounts = 125;
+inline constexpr int kTalentCounts = 128;
 struct Fame {
   int Bonus;
   int Most;

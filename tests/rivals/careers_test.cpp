@@ -78,6 +78,10 @@ TEST(Practice, BringsTheYoungToTheirCeilingAndNoFurther) {
   ScriptLife(career.Where, {{3, 1}});
   Practise(career.Where, career.Who, gift);
   EXPECT_EQ(SkillsOf(career.Who), "21 38 59");
+  career.Who.Employer = 0;
+  ScriptLife(career.Where, {{tuning::kFreeMissIn, 1}});
+  Practise(career.Where, career.Who, gift);
+  EXPECT_EQ(SkillsOf(career.Who), "21 38 59") << "nobody to practise with this time";
   career.Who.Age = 31;
   ScriptLife(career.Where, {});
   Practise(career.Where, career.Who, gift);
