@@ -13,6 +13,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "desktop/dates.h"
 #include "desktop/housestyle.h"
 #include "desktop/look.h"
 #include "desktop/pieces.h"
@@ -106,7 +107,7 @@ class ComboView : public ViewOf<Calm<QComboBox>, ui::ComboBox> {
   }
   void Show() override {
     QStringList rows, shown;
-    for (const std::string& row : control_.Rows()) rows.append(Shown(row));
+    for (const std::string& row : control_.Rows()) rows.append(Dated(row));
     for (int row = 0; row < count(); ++row) shown.append(itemText(row));
     if (rows != shown) {
       clear();

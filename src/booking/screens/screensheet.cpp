@@ -44,7 +44,7 @@ SheetScreen::SheetScreen(Game& game, std::string name, bool isEvent)
   cmdcancel.Tip = isEvent_ ? "Calling it off costs image, and much of the money spent on it."
                            : "Calling it off costs image.";
   lblcount.Colour = ui::Tone::Muted;
-  lblwarn.Colour = lblwarnings.Colour = ui::Tone::Amber;
+  lblwarnings.Colour = ui::Tone::Amber;
   lstfree.Room = 4;
   lstfree.EmptyText = "Everybody who is fit is on the card.";
 }
@@ -182,7 +182,7 @@ void SheetScreen::ShowCounts() {
   const SheetCount count = CountSheet(world(), isEvent_);
   lblcount.Text = CountText(count, terms);
   const bool enough = count.Matches >= terms.MinMatches && count.Segments >= terms.MinSegments;
-  lblwarn.Visible = !enough;
+  lblwarn.Colour = enough ? ui::Tone::Muted : ui::Tone::Amber;
   const std::string house = WhyNotInThisHouse(world());
   EnableUnless(cmddoshow, IsDraft() || MayStart(world(), isEvent_) ? ""
                           : terms.OpenRows == 0                    ? "There is no show today."
