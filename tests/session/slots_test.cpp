@@ -251,10 +251,13 @@ TEST(ReleasedVersions, LeaveGamesThatStillOpen) {
 
 TEST_F(SavedGames, AreKeptForAWeekOnceTheyAreDeleted) {
   home_.Write("s1/diary.txt", "mine");
+  const auto disk = RealDisk();
+  WriteFile(*disk, PageOf(home_.Path("s1")), Bytes(9));
   for (const bool sure : {false, true}) {
     home_.Desk.ExpectAsk("Delete?", kAnyText, sure, ui::Default::No);
     home_.Desk.Click("cmddelete1");
     EXPECT_EQ(home_.Desk.Visible("cmdrestore"), sure);
+    EXPECT_EQ(disk->Look(PageOf(home_.Path("s1"))) == Disk::Kind::Nothing, sure);
   }
   EXPECT_FALSE(home_.Desk.Visible("cmdcontinue"));
   EXPECT_EQ(home_.Desk.Rows("cmbdeleted")[0][0],
@@ -263,9 +266,9 @@ TEST_F(SavedGames, AreKeptForAWeekOnceTheyAreDeleted) {
   EXPECT_EQ(home_.Desk.Text("cmdload1"), "First");
   EXPECT_EQ(Over(1), 77);
   EXPECT_EQ(Read("s1/diary.txt"), "mine");
+  EXPECT_EQ(disk->Look(PageOf(home_.Path("s1"))), Disk::Kind::File);
 
   // Put away on the day that makes it a week, and a day later.
-  const auto disk = RealDisk();
   for (const char* day : {"2026-03-11", "2026-03-10"}) {
     PutAway(*disk, home_.Path("s1"), home_.Path(std::string("s1.deleted.") + day));
     home_.Desk.CloseAll();

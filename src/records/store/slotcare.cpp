@@ -66,8 +66,7 @@ namespace {
 Bytes BodyOf(Unpacker& in, std::uint32_t format, const std::string& path) {
   constexpr const char* kSpoiled =
       " is spoiled: it was cut short or changed. Fetch it again, or have it exported again where "
-      "the "
-      "game is.";
+      "the game is.";
   const auto checksum = in.Get<std::uint64_t>();
   if (!in.Whole() || checksum != Checksum(in.Left())) Refuse(path, kSpoiled);
   if (format == kPlainFormat) return {in.Left().begin(), in.Left().end()};
