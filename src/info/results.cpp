@@ -153,6 +153,7 @@ JobRecord RecordOfJob(const World& world) {
   for (const HistoryEntry& entry : world.History()) {
     if (entry.Promotion != world.PlayerUid() || Day(entry.On) < started) continue;
     if (entry.Kind == kPastMonth) {
+      if (Day(entry.On) == started) continue;  // the month before, of somebody else
       ++record.Months;
       record.Profit += static_cast<long long>(entry.Income) - entry.Costs;
     } else {

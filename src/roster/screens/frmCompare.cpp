@@ -25,6 +25,7 @@ using K = ui::ColumnKind;
 using Style = ui::Report::Style;
 
 constexpr int kMost = 4;
+constexpr int kLettersOfHead = 12;       // beside each other in a line
 constexpr std::size_t kMostCalled = 40;  // whom a name offers
 constexpr int kLastFive = 5, kLastTen = 10;
 constexpr double kNotKept = std::numeric_limits<double>::quiet_NaN();
@@ -109,6 +110,10 @@ class frmCompare : public GameScreen {
       : GameScreen(game, "frmCompare", "Compare"), uids_(std::move(uids)) {
     uids_.resize(std::min<std::size_t>(uids_.size(), kMost));
     lblhow.Colour = ui::Tone::Muted;
+    for (int place = 1; place <= kMost; ++place) {
+      cmdremove(place).Plain = true;
+      picworker(place).Height = 56;
+    }
     txtadd.Hint = "Part of anybody's name";
     txtadd.OnChange = [this] { ShowChoices(); };
     // All of it is seen at once in a window of the usual size.
@@ -121,11 +126,11 @@ class frmCompare : public GameScreen {
   ui::Page Layout() override {
     std::vector<ui::Box> heads = {ui::Grow(lblhow, 3)};  // as wide as the table's columns
     for (int place = 1; place <= kMost; ++place)
-      heads.push_back(
-          ui::Columns({picworker(place), ui::Rows({lblworker(place), cmdremove(place)}).Grow(1)})
-              .Grow(4));
+      heads.push_back(ui::Rows({picworker(place), lblworker(place), cmdremove(place)}).Grow(4));
     return PageOf(
-        ui::Columns({ui::Group("", {ui::Columns(std::move(heads)), ui::Grow(lstcompare)}).Grow(7),
+        ui::Columns({ui::Group("", {ui::Columns(std::move(heads)).Wide(kLettersOfHead),
+                                    ui::Grow(lstcompare)})
+                         .Grow(7),
                      ui::Rows({ui::Group("Add a worker",
                                          {ui::Field("Called", txtadd), ui::Field("Who", cmbadd)}),
                                ui::Group("Over, last twelve months", {ui::Grow(chtover)}).Grow(2),
