@@ -322,6 +322,7 @@ TEST(BackInTime, AGameWithoutAWayBackHasNone) {
   EXPECT_TRUE(play.Desk.Rows("lstmornings").empty());
   EXPECT_FALSE(play.Desk.Enabled("cmdname"));
   EXPECT_NE(play.Desk.Text("lblfacts").find("never goes back"), std::string::npos);
+  EXPECT_FALSE(play.Desk.Visible("lblkept")) << "nothing is kept in such a game";
 }
 
 }  // namespace

@@ -57,6 +57,8 @@ class frmMornings : public GameScreen {
     if (lstmornings.Selected() == 0 && !past_.empty()) lstmornings.Select(1);
     const std::string why = WhyNoWayBack(game_);
     lblfacts.Text = why.empty() ? "Choose where to go back to. What you leave is kept." : why;
+    lblkept.Visible = why.empty();
+    if (!why.empty()) lstmornings.EmptyText = "Nothing is kept.";
     EnableUnless(cmdname, why);
     ShowClick(cmdundo, "Undo", desk().Undo, "Nothing was done today that can be taken back.");
     ShowClick(cmdredo, "Redo", desk().Redo, "Nothing was taken back.");
