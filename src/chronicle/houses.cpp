@@ -21,7 +21,10 @@ std::string ThingsText(int count, std::string_view one, std::string_view many) {
 class HouseStory {
  public:
   HouseStory(Scribe& scribe, const Archive& archive, const Subject& subject)
-      : scribe_(scribe), archive_(archive), world_(archive.Of()), uid_(subject.Number) {}
+      : scribe_(scribe), archive_(archive), world_(archive.Of()), uid_(subject.Number) {
+    for (const Annal* event : archive_.EventsOfHouse(uid_))
+      if (event->Kind == kAnnalFounded) opened_ = event->On;
+  }
 
   void Write() {
     Present();
@@ -96,7 +99,9 @@ class HouseStory {
     for (const HistoryEntry* entry : archive_.PastOfHouse(uid_)) {
       if (IsShow(*entry) && !entry->CalledOff && (!best || entry->Rating > best->Rating))
         best = entry;
-      if (entry->Kind == kPastMonth && (!peak || score(*entry) > score(*peak))) peak = entry;
+      if (entry->Kind == kPastMonth && Day(entry->On) > opened_ &&
+          (!peak || score(*entry) > score(*peak)))
+        peak = entry;
     }
     if (peak) {
       Telling telling = Of(Tells::HousePeak);
@@ -131,6 +136,7 @@ class HouseStory {
     Telling telling = Of(Tells::HouseMoves);
     int came = 0, went = 0;
     for (const Annal* event : archive_.EventsOfHouse(uid_)) {
+      if (Day(event->On) < opened_) continue;
       const bool comes = event->Kind == kAnnalSigned || event->Kind == kAnnalStolen;
       const bool goes = event->Kind == kAnnalLetGo || event->Kind == kAnnalLeft;
       came += comes;
@@ -149,7 +155,7 @@ class HouseStory {
                   "Standing at the month ends: 100 a size class, and the image"};
     std::vector<const HistoryEntry*> months;
     for (const HistoryEntry* entry : archive_.PastOfHouse(uid_))
-      if (entry->Kind == kPastMonth) months.push_back(entry);
+      if (entry->Kind == kPastMonth && Day(entry->On) > opened_) months.push_back(entry);
     if (months.size() < 2) return;
     // A long past is shown by every second month, every third and so on.
     const std::size_t step = (months.size() - 1) / kShown + 1;
@@ -165,6 +171,7 @@ class HouseStory {
   const Archive& archive_;
   const World& world_;
   int uid_;
+  Day opened_{};  // another promotion may have had its place before
 };
 
 }  // namespace

@@ -34,6 +34,15 @@ std::string ScoreText(int won, int lost) {
   return text(won) + " to " + text(lost);
 }
 
+/// The full name that a promotion had on the day of an event; another may have its place by now.
+std::string NameThen(const Archive& archive, const Annal& event) {
+  for (const Annal* other : archive.EventsOfHouse(event.Promotion))
+    if ((other->Kind == kAnnalFounded || other->Kind == kAnnalClosed) &&
+        other->House == event.House && other->What != "")
+      return other->What.Str();
+  return archive.FullHouseName(event.Promotion);
+}
+
 }  // namespace
 
 Churn ChurnOf(const Annal& event) {
@@ -77,8 +86,7 @@ bool TellOfHouse(Scribe& scribe, const Archive& archive, const Annal& event, boo
   for (const HouseEvent& row : kHouseEvents) {
     if (event.Kind != row.Of) continue;
     Telling telling{.Of = row.As, .On = event.On, .By = {ProofBy(archive.Of(), event)}};
-    telling.House =
-        full || event.House == "" ? archive.FullHouseName(event.Promotion) : event.House.Str();
+    telling.House = full || event.House == "" ? NameThen(archive, event) : event.House.Str();
     telling.Tally = event.Kind == kAnnalOwner ? event.Name.Str() : SmallSize(event.Number);
     telling.G = event.Other.Str();
     scribe.Tell(telling);
