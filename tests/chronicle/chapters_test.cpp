@@ -255,6 +255,26 @@ TEST_F(Chronicles, TellOfFeudsHousesAndYears) {
   EXPECT_TRUE(Says(year, "one contract")) << year;
 }
 
+TEST_F(Chronicles, TellAPromotionApartFromTheOneThatHadItsPlace) {
+  Promotion& place = Named(World_.Promotions(), "NEW");
+  const Promotion today = place;
+  place.Name = "Lantern Hall";
+  place.Initials = "LHL";
+  Pass(20);
+  NoteDeed(World_, kDeedFounded, &place, place.Name, {}, place.Size);
+  NoteDeed(World_, kDeedStolen, &place, Named(World_.Workers(), "Cal Drift"), "CWA");
+  Pass(20);
+  NoteDeed(World_, kDeedClosed, &place, place.Name);
+  place.Name = today.Name;
+  place.Initials = today.Initials;
+  Pass(20);
+  NoteDeed(World_, kDeedFounded, &place, place.Name, {}, place.Size);
+  const std::string house = TextOf(Read(About::Promotion, place.Name, kTolland));
+  EXPECT_FALSE(Says(house, "one signing")) << house;
+  const std::string year = TextOf(Read(About::Year, "2026", kTolland));
+  EXPECT_TRUE(Says(year, "lantern hall")) << year;
+}
+
 TEST_F(Chronicles, SumUpWhoGoesToAndFro) {
   const Promotion& rival = Named(World_.Promotions(), "NEW");
   for (int times = 0; times < 2; ++times) {
