@@ -37,7 +37,7 @@ bool HasWorldAndPictures(Disk& disk, const std::string& folder) {
 std::vector<std::string> SharesOf(const Surroundings& around) {
   const auto beside = std::filesystem::path(around.Program).parent_path().parent_path();
   std::vector<std::string> shares;
-  if (!beside.empty()) shares.push_back((beside / "share" / "grapplemont").string());
+  if (!beside.empty()) shares.push_back((beside / "share" / "grapplemont").generic_string());
   if (!around.Installed.empty()) shares.push_back(around.Installed);
   return shares;
 }
@@ -52,7 +52,7 @@ std::string ShareOf(Disk& disk, const Surroundings& around) {
 /// Whether the program lies where it was built: what configured the build is beside it.
 bool IsInItsBuild(Disk& disk, const Surroundings& around) {
   const auto build = std::filesystem::path(around.Program).parent_path().parent_path();
-  return disk.Look((build / "CMakeCache.txt").string()) == Disk::Kind::File;
+  return disk.Look((build / "CMakeCache.txt").generic_string()) == Disk::Kind::File;
 }
 
 SlotSummary NotPlayable(const char* caption, std::string details = {}) {

@@ -86,7 +86,7 @@ void MakeSlot(Disk& disk, const std::string& folder, const std::vector<NewFile>&
 
 std::string PathInHome(const std::string& home, std::string_view typed) {
   std::string path = ToUtf8(detail::Trimmed(typed));
-  if (!std::filesystem::path(path).is_absolute()) path = home + "/" + path;
+  if (!std::filesystem::path(path).has_root_directory()) path = home + "/" + path;
   while (path.size() > 1 && path.ends_with('/')) path.pop_back();
   return path;
 }

@@ -86,7 +86,7 @@ TEST(Ledger, CountsTheShowsOfAPromotionThatThePlayerHasTakenOver) {
   NoteShow(world, kDeedEventHeld, rival, "NEW Rumpus", 60, 12, 4321);
   world.Game().PlayerPromotion = rival.Uid;
   Wait(world, 31);
-  EXPECT_EQ(PlacesIn(PastOf(world), "Biggest gates"), Names{"NEW Rumpus: 4321"});
+  EXPECT_EQ(PlacesIn(PastOf(world), "Biggest gates"), Names{"NEW Rumpus: 4,321"});
 }
 
 /// A game of two years that nobody has counted.

@@ -148,7 +148,8 @@ TEST_F(EmbeddingTest, RefusesAVoiceWithoutAFileAndAFileOfNoVoice) {
 
 TEST_F(EmbeddingTest, MakesOnlyTheUnitOfAnEditedFileAgain) {
   ASSERT_EQ(Embed(), std::vector<std::string>());
-  const auto long_ago = fs::file_time_type::clock::now() - std::chrono::hours(1);
+  const auto long_ago = std::chrono::floor<std::chrono::seconds>(fs::file_time_type::clock::now() -
+                                                                 std::chrono::hours(1));
   for (const auto& unit : fs::directory_iterator(Out())) fs::last_write_time(unit, long_ago);
   Replace("fans.txt", "{show}: I have no notes.", "{show}: my \"caf\xC3\xA9\" is empty.");
   ASSERT_EQ(Embed(), std::vector<std::string>());

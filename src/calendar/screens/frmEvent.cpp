@@ -54,13 +54,16 @@ class frmEvent : public GameScreen {
 
   ui::Page Layout() override {
     return PageOf(
-        ui::Columns({ui::Group("The year", {ui::Grow(lstevents)}).Grow(3),
-                     ui::Rows({ui::Group("The month's Event",
-                                         {lblmonth, ui::Field("Name", txtname, {&cmdrename}),
-                                          ui::Field("Type", cmbtype, {&cmdtype}), cmdadd, lblnote}),
-                               ui::Group("Held in this month", {ui::Grow(lstheld)}).Grow(3),
-                               ui::Group("Ratings of your Events", {ui::Grow(chtratings)}).Grow(2)})
-                         .Grow(2)}),
+        ui::Columns(
+            {ui::Group("The year", {ui::Grow(lstevents)}).Grow(3),
+             ui::Rows(
+                 {ui::Group(
+                      "The month's Event",
+                      {lblmonth, ui::Columns({ui::Field("Name", txtname).Grow(), cmdrename}),
+                       ui::Columns({ui::Field("Type", cmbtype).Grow(), cmdtype}), cmdadd, lblnote}),
+                  ui::Group("Held in this month", {ui::Grow(lstheld)}).Grow(3),
+                  ui::Group("Ratings of your Events", {ui::Grow(chtratings)}).Grow(2)})
+                 .Grow(2)}),
         &lblfacts, {&cmddrop});
   }
 

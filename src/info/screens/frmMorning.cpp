@@ -15,7 +15,6 @@
 namespace grapplemont {
 
 namespace {
-
 using K = ui::ColumnKind;
 
 /// What the show came to, by the control that says it.

@@ -47,8 +47,9 @@ Paragraphs ParagraphsOf(std::string_view text) {
   Paragraphs told;
   bool open = false;
   while (!text.empty()) {
-    const std::string_view line = text.substr(0, text.find('\n'));
+    std::string_view line = text.substr(0, text.find('\n'));
     text.remove_prefix(std::min(line.size() + 1, text.size()));
+    if (line.ends_with('\r')) line.remove_suffix(1);  // of a checkout on Windows
     const auto first = line.find_first_not_of(" #-");
     const bool isHeading = line.starts_with("#");
     if (first == line.npos) {
