@@ -43,7 +43,7 @@ TEST(JsonAnswer, SaysOfEachControlWhatItsKindHas) {
           "value":20,"min":5,"max":100})",
       R"({"name":"imgdoor","kind":"Picture","enabled":true,"visible":true})",
       R"({"name":"chtmoney","kind":"Chart","enabled":true,"visible":true,
-          "text":"Jan: Money 1200, Image 61\nFeb: Money -50.25"})",
+          "text":"Jan: Money 1,200, Image 61\nFeb: Money -50.25"})",
       R"({"name":"rptshow","kind":"Report","text":"The bell rings.\nIt is over.",
           "enabled":true,"visible":true})",
   };

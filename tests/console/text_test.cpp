@@ -42,7 +42,7 @@ How
 What
   hsprice          ScrollBar    What: 20, from 5 to 100
   chtmoney         Chart        What
-    Jan: Money 1200, Image 61
+    Jan: Money 1,200, Image 61
     Feb: Money -50.25
   rptshow          Report       What
     The bell rings.

@@ -78,7 +78,7 @@ TEST(frmFeuds, EndsAFeudOffCamera) {
   EXPECT_EQ(desk.TopName(), "frmFeuds");
   EXPECT_EQ(desk.FirstColumn("lstfeuds")[1], kEmptySlot);
   desk.Click("cmdback");
-  EXPECT_EQ(desk.Text("imgmail"), "1 mail") << "the hub is up to date";
+  EXPECT_EQ(desk.Text("imgmail"), "1 mail in all") << "the hub is up to date";
   EXPECT_EQ(Named(play.World().Workers(), "Bram Okafor").Over, 78);
   EXPECT_EQ(Named(play.World().Workers(), "Cal Drift").Over, 62);
 }
